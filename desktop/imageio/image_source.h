@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+//
+// An image file as the properties dictionary of its first image, keys and value types as the
+// phone's image framework gives them.
+#pragma once
+
+#include <optional>
+
+#include "desktop/io/byte_source.h"
+#include "model/result.h"
+#include "model/value.h"
+
+namespace desktop::imageio {
+
+// The properties of the first image: "PixelWidth", "PixelHeight", "ColorModel", "Depth",
+// "Orientation", "{Exif}", "{GPS}", "{TIFF}", "{MakerApple}", ... None where the bytes are no
+// image (a movie, a text). Reads only what it needs: never coded pixels.
+//
+// Errors: a read that fails; an empty source ("empty file"); an image that ends before its size
+// is known ("truncated JPEG"). Damaged metadata inside an image is no error: what cannot be read
+// is left out.
+model::Result<std::optional<model::Dictionary>> copyProperties(ByteSource& source);
+
+}  // namespace desktop::imageio

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+//
+// Bounded, windowed reading of a byte source: what container readers walk a file with.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "desktop/io/byte_source.h"
+#include "desktop/io/byte_view.h"
+#include "model/result.h"
+
+namespace desktop {
+
+// Reads a source through two windows: the head of the source, kept for good, since most metadata
+// lies there; and one that follows the reads elsewhere. A failed read is remembered, so that a
+// walk can simply end at the first missing byte and its caller asks failure() once.
+class SourceReader {
+ public:
+  static constexpr std::size_t headSize = 64 * 1024;    // bytes read at once from the front
+  static constexpr std::size_t windowSize = 4 * 1024;   // bytes read at once elsewhere, at least
+  static constexpr std::size_t largestView = 32 << 20;  // bytes; a longer view is refused
+
+  // REQUIRES: the source outlives the reader.
+  explicit SourceReader(ByteSource& source) : _source(source) {}
+
+  std::uint64_t size() const { return _source.size(); }
+
+  // The bytes [offset, offset + length), or none where they do not all lie in the source, are
+  // more than largestView, or cannot be read. Borrowed: valid until the next call of view().
+  std::optional<ByteView> view(std::uint64_t offset, std::uint64_t length);
+
+  // As view(), but fewer bytes where the source ends earlier.
+  ByteView upTo(std::uint64_t offset, std::uint64_t length);
+
+  // As view(), copied, to be kept.
+  std::optional<std::vector<std::uint8_t>> copy(std::uint64_t offset, std::uint64_t length);
+
+  // What the system said of the first read that failed, or "truncated while it was read" where the
+  // source came back shorter than its size.
+  const std::optional<model::Error>& failure() const { return _failure; }
+
+ private:
+  struct Window {
+    std::uint64_t offset = 0;
+    std::vector<std::uint8_t> bytes;
+    std::optional<ByteView> sub(std::uint64_t at, std::uint64_t length) const;
+  };
+  void fill(Window& window, std::uint64_t offset, std::size_t length);
+
+  ByteSource& _source;
+  Window _head;
+  Window _window;
+  std::optional<model::Error> _failure;
+};
+
+}  // namespace desktop

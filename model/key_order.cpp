@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "model/key_order.h"
+
+#include <algorithm>
+#include <array>
+
+namespace model {
+
+namespace {
+
+// The characters in their order, capitals standing for both cases.
+constexpr std::string_view asciiOrder =
+    "\t\n\v\f\r _-,;:!?.'\"()[]{}@*/\\&#%`^+<=>|~$0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+
+// The rank of each ASCII character; 0 for those that the collation ignores.
+constexpr std::array<char32_t, 128> asciiRanks = [] {
+  std::array<char32_t, 128> ranks{};
+  for (std::size_t index = 0; index < asciiOrder.size(); ++index) {
+    const auto character = static_cast<unsigned char>(asciiOrder[index]);
+    ranks[character] = static_cast<char32_t>(index + 1);
+    if (character >= 'A' && character <= 'Z') ranks[character + 32U] = ranks[character];
+  }
+  return ranks;
+}();
+
+// Reads the ranks of a text's characters, one after the other, 0 at its end.
+class RankReader {
+ public:
+  explicit RankReader(std::string_view text) : _text(text) {}
+
+  char32_t next() {
+    while (_offset < _text.size()) {
+      const CodePoint character = codePointAt(_text, _offset);
+      _offset += character.bytes;
+      const char32_t rank =
+          character.value < 128 ? asciiRanks[character.value] : 0x100 + character.value;
+      if (rank != 0) return rank;
+    }
+    return 0;
+  }
+
+ private:
+  std::string_view _text;
+  std::size_t _offset = 0;
+};
+
+}  // namespace
+
+int compareKeys(std::string_view left, std::string_view right) {
+  RankReader leftRanks(left);
+  RankReader rightRanks(right);
+  for (;;) {
+    const char32_t a = leftRanks.next();
+    const char32_t b = rightRanks.next();
+    if (a != b) return a < b ? -1 : 1;
+    if (a == 0) return 0;
+  }
+}
+
+std::vector<std::string_view> sortedKeys(const Dictionary& dictionary,
+                                         const KeyComparison& comparison) {
+  std::vector<std::string_view> keys;
+  keys.reserve(dictionary.size());
+  for (const auto& entry : dictionary) keys.push_back(entry.first);
+  std::ranges::stable_sort(keys, [&](std::string_view left, std::string_view right) {
+    return comparison(left, right) < 0;
+  });
+  return keys;
+}
+
+}  // namespace model

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "model/utf8.h"
+
+#include <algorithm>
+
+namespace model {
+
+namespace {
+
+constexpr CodePoint invalidByte = {0xFFFD, 1, false};
+
+bool isContinuation(unsigned char byte) {
+  return (byte & 0xC0) == 0x80;
+}
+
+bool isSurrogate(char32_t codePoint) {
+  return codePoint >= 0xD800 && codePoint <= 0xDFFF;
+}
+
+}  // namespace
+
+CodePoint codePointAt(std::string_view text, std::size_t offset) {
+  const auto byte = [&](std::size_t index) {
+    return static_cast<unsigned char>(text[offset + index]);
+  };
+  const unsigned char first = byte(0);
+  if (first < 0x80) return {first, 1, true};
+  const std::uint8_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+  if (first < 0xC2 || first > 0xF4 || text.size() - offset < length) return invalidByte;
+  char32_t value = first & (0xFF >> (length + 1));
+  for (std::size_t index = 1; index < length; ++index) {
+    if (!isContinuation(byte(index))) return invalidByte;
+    value = (value << 6) | (byte(index) & 0x3F);
+  }
+  constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+  if (value < smallest[length] || value > 0x10FFFF || isSurrogate(value)) return invalidByte;
+  return {value, length, true};
+}
+
+void appendUtf8(std::string& text, char32_t codePoint) {
+  if (codePoint > 0x10FFFF || isSurrogate(codePoint)) codePoint = 0xFFFD;
+  const auto append = [&](char32_t bits) { text.push_back(static_cast<char>(bits)); };
+  if (codePoint < 0x80) {
+    append(codePoint);
+  } else if (codePoint < 0x800) {
+    append(0xC0 | (codePoint >> 6));
+    append(0x80 | (codePoint & 0x3F));
+  } else if (codePoint < 0x10000) {
+    append(0xE0 | (codePoint >> 12));
+    append(0x80 | ((codePoint >> 6) & 0x3F));
+    append(0x80 | (codePoint & 0x3F));
+  } else {
+    append(0xF0 | (codePoint >> 18));
+    append(0x80 | ((codePoint >> 12) & 0x3F));
+    append(0x80 | ((codePoint >> 6) & 0x3F));
+    append(0x80 | (codePoint & 0x3F));
+  }
+}
+
+bool isValidUtf8(std::string_view text) {
+  for (std::size_t offset = 0; offset < text.size();) {
+    const CodePoint next = codePointAt(text, offset);
+    if (!next.valid) return false;
+    offset += next.bytes;
+  }
+  return true;
+}
+
+std::string replacingInvalidUtf8(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  for (std::size_t offset = 0; offset < text.size();) {
+    const CodePoint next = codePointAt(text, offset);
+    appendUtf8(result, next.value);
+    offset += next.bytes;
+  }
+  return result;
+}
+
+std::string utf8OrLatin1(std::string_view bytes) {
+  return isValidUtf8(bytes) ? std::string(bytes) : latin1ToUtf8(bytes);
+}
+
+std::string latin1ToUtf8(std::string_view bytes) {
+  std::string result;
+  result.reserve(bytes.size());
+  for (const char byte : bytes) appendUtf8(result, static_cast<unsigned char>(byte));
+  return result;
+}
+
+std::string utf16ToUtf8(std::u16string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    const char32_t unit = text[index];
+    const bool leads = unit >= 0xD800 && unit <= 0xDBFF && index + 1 < text.size() &&
+                       text[index + 1] >= 0xDC00 && text[index + 1] <= 0xDFFF;
+    if (leads) {
+      appendUtf8(result, 0x10000 + ((unit - 0xD800) << 10) + (text[index + 1] - 0xDC00u));
+      ++index;
+    } else {
+      appendUtf8(result, unit);
+    }
+  }
+  return result;
+}
+
+bool LiteralLess::operator()(std::string_view left, std::string_view right) const {
+  const std::size_t common = std::min(left.size(), right.size());
+  for (std::size_t index = 0; index < common; ++index) {
+    auto a = static_cast<unsigned char>(left[index]);
+    auto b = static_cast<unsigned char>(right[index]);
+    if (a == b) continue;
+    // Supplementary characters (lead bytes F0 and up) are surrogate pairs in UTF-16, which come
+    // before U+E000-U+FFFF (lead bytes EE and EF): move those two behind.
+    if (a >= 0xEE && b >= 0xEE) {
+      if (a < 0xF0) a = static_cast<unsigned char>(a + 0x10);
+      if (b < 0xF0) b = static_cast<unsigned char>(b + 0x10);
+    }
+    return a < b;
+  }
+  return left.size() < right.size();
+}
+
+}  // namespace model
