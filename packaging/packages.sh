@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+#
+# Sourced by ./run, ./test and .ci/run: installs the Debian packages that are missing, by name.
+
+# What building and testing need.
+build_packages=(
+  cmake g++ git ninja-build pkg-config
+  libavcodec-dev libavformat-dev libavutil-dev libswscale-dev
+  libbenchmark-dev libgmock-dev libgtest-dev
+  libcli11-dev libheif-dev libicu-dev libjpeg62-turbo-dev libpugixml-dev nlohmann-json3-dev
+  libgnustep-base-dev libobjc-12-dev
+  tzdata zlib1g-dev
+)
+
+# What .ci/run needs besides: formatting, static checks, fuzzers, and the peers it compares with.
+ci_packages=(clang clang-format clang-tidy libclang-rt-14-dev libimage-exiftool-perl mediainfo)
+
+# install_packages NAME...: installs those that are missing, with sudo where not root, and says so.
+# Quick when nothing is missing.
+install_packages() {
+  local missing=() name
+  for name in "$@"; do
+    dpkg-query -W -f='${db:Status-Status}' "$name" 2>/dev/null | grep -qx installed ||
+      missing+=("$name")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  local as_root=()
+  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+  echo "Installing missing packages: ${missing[*]}" >&2
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build_preset PRESET [TARGET...]: configures once, then builds. Prints nothing when it succeeds.
+build_preset() {
+  local preset=$1 log
+  shift
+  log=$(mktemp)
+  echo "Building ($preset) ..." >&2
+  if ! { { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+    cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
+    cat "$log" >&2
+    rm -f "$log"
+    return 1
+  fi
+  rm -f "$log"
+}
