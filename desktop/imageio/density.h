@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+//
+// The density of an image at the top level of its properties.
+#pragma once
+
+#include "model/value.h"
+
+namespace desktop::imageio {
+
+// Sets "DPIWidth" and "DPIHeight", in dots per inch, from "XResolution", "YResolution" and
+// "ResolutionUnit" of "{TIFF}" (1 none, 2 inch, 3 centimetre; absent counts as inch). Leaves both
+// untouched where there is no "{TIFF}", no unit of length, or no resolution above 0.
+void setDensityFromTiff(model::Dictionary& properties);
+
+}  // namespace desktop::imageio
