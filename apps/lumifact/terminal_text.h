@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+//
+// Text from files made fit for a terminal: nothing in a photo's metadata or name may move the
+// cursor, change colours or turn the direction of writing.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lumifact::tool {
+
+// Whether a terminal could take the character for a command: C0, DEL and C1 control characters,
+// and the characters that embed, override or isolate a direction of writing (U+202A to U+202E,
+// U+2066 to U+2069).
+bool controlsTerminal(char32_t codePoint);
+
+// What may stay as it is beside printable characters.
+enum class Keep {
+  nothing,    // for names, which stand on one line
+  lineBreaks  // "\n" and "\t", for the bodies of reports
+};
+
+// The text with each such character written out as "\u001b", and each byte that is no valid
+// UTF-8 as "\x9b". Always valid UTF-8.
+std::string terminalSafe(std::string_view text, Keep keep);
+
+}  // namespace lumifact::tool
