@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <variant>
 
 #include "model/value.h"
 
@@ -37,10 +38,18 @@ struct Settings {
 // How a setting's value is read from the file.
 enum class SettingKind { flag, integer, real };
 
-// One row of the settings table, for whoever lists, checks or writes settings.
+// Where a setting's value is stored: nowhere for a key that is read and dropped.
+using SettingMember =
+    std::variant<std::monostate, bool Settings::*, std::int32_t Settings::*, double Settings::*>;
+
+// One row of the settings table, for whoever reads, lists, checks or writes settings. A default is
+// given as a number, 1 and 0 for a flag that is on or off.
 struct SettingRow {
   std::string_view key;
   SettingKind kind;
+  double defaultForAbsentKey;
+  double defaultForMissingFile;
+  SettingMember member;
 };
 
 // The thirteen keys in the order in which they are read (thumbnailInfoDisplayOneLine, which is
