@@ -5,6 +5,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "desktop/io/byte_source.h"
 #include "model/result.h"
@@ -20,5 +21,16 @@ namespace desktop::imageio {
 // is known ("truncated JPEG"). Damaged metadata inside an image is no error: what cannot be read
 // is left out.
 model::Result<std::optional<model::Dictionary>> copyProperties(ByteSource& source);
+
+// What an image file says beyond its dictionary.
+struct ImageFacts {
+  model::Dictionary properties;  // as copyProperties() gives them
+  // The offset of "DateTimeOriginal" from UTC as it is written ("+02:00"): the phone's framework
+  // does not show it, but when the photo was taken depends on it.
+  std::optional<std::string> offsetTimeOriginal;
+};
+
+// As copyProperties(), with those facts.
+model::Result<std::optional<ImageFacts>> readImageFacts(ByteSource& source);
 
 }  // namespace desktop::imageio

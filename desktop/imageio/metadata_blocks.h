@@ -15,7 +15,9 @@ namespace desktop::imageio {
 
 // An Exif block: a TIFF structure that starts with its byte order mark ("II*\0" or "MM\0*").
 // Fills "{TIFF}", "{Exif}", "{ExifAux}", "{GPS}", "{MakerApple}" and the top-level "Orientation",
-// and what XMP, IPTC and Photoshop blocks inside it hold. EXIF 2.31.
+// and what XMP, IPTC and Photoshop blocks inside it hold; XMP and IPTC never go before Exif. The
+// time offsets stay in "{Exif}" until takeTimeOffsets() (time_offsets.h) takes them out, once for
+// all containers. EXIF 2.31.
 void readExifBlock(ByteView block, model::Dictionary& properties);
 
 // An XMP packet (UTF-8 XML). Fills "{IPTC}", "{ExifAux}" and, where EXIF has said nothing,
