@@ -33,14 +33,16 @@ std::optional<Header> headerOf(ByteView bytes, std::uint64_t sizeOfRest) {
 
 }  // namespace
 
-IsoBoxWalk::IsoBoxWalk(SourceReader& reader, ByteRange range) : _reader(reader), _rest(range) {
+IsoBoxWalk::IsoBoxWalk(SourceReader& reader, ByteRange range, SourceReader::ReadAhead ahead)
+    : _reader(reader), _rest(range), _ahead(ahead) {
   _rest.end = std::min(_rest.end, reader.size());
   _rest.begin = std::min(_rest.begin, _rest.end);
 }
 
 std::optional<IsoBox> IsoBoxWalk::next() {
   if (_rest.size() < 8 || _count == largestCount) return std::nullopt;
-  const ByteView bytes = _reader.upTo(_rest.begin, std::min<std::uint64_t>(_rest.size(), 32));
+  const ByteView bytes =
+      _reader.upTo(_rest.begin, std::min<std::uint64_t>(_rest.size(), 16), _ahead);
   const auto header = headerOf(bytes, _rest.size());
   if (!header) return std::nullopt;
   IsoBox box;
@@ -50,7 +52,7 @@ std::optional<IsoBox> IsoBoxWalk::next() {
   box.payload.begin = _rest.begin + header->headerSize;
   box.payload.end = _rest.begin + std::min(header->boxSize, _rest.size());
   if (box.type == uuidType) {
-    const auto uuid = bytes.sub(header->headerSize - 16, 16);
+    const auto uuid = _reader.view(box.payload.begin - 16, 16, _ahead);
     if (!uuid) return std::nullopt;
     std::ranges::copy(uuid->bytes(), box.uuid.begin());
   }
@@ -59,8 +61,9 @@ std::optional<IsoBox> IsoBoxWalk::next() {
   return box;
 }
 
-std::optional<IsoBox> findBox(SourceReader& reader, ByteRange range, model::FourCharCode type) {
-  IsoBoxWalk walk(reader, range);
+std::optional<IsoBox> findBox(SourceReader& reader, ByteRange range, model::FourCharCode type,
+                              SourceReader::ReadAhead ahead) {
+  IsoBoxWalk walk(reader, range, ahead);
   while (const auto box = walk.next()) {
     if (box->type == type) return box;
   }

@@ -44,8 +44,10 @@ class IsoBoxWalk {
  public:
   static constexpr int largestCount = 65536;
 
-  // REQUIRES: the reader outlives the walk.
-  IsoBoxWalk(SourceReader& reader, ByteRange range);
+  // Boxes that lie side by side without much between them are best read ahead; the top level of a
+  // file, with its coded samples, is not. REQUIRES: the reader outlives the walk.
+  IsoBoxWalk(SourceReader& reader, ByteRange range,
+             SourceReader::ReadAhead ahead = SourceReader::ReadAhead::window);
 
   // The next box, or none at the end.
   std::optional<IsoBox> next();
@@ -53,11 +55,13 @@ class IsoBoxWalk {
  private:
   SourceReader& _reader;
   ByteRange _rest;
+  SourceReader::ReadAhead _ahead;
   int _count = 0;
 };
 
 // The first child of that type in the range, if any.
-std::optional<IsoBox> findBox(SourceReader& reader, ByteRange range, model::FourCharCode type);
+std::optional<IsoBox> findBox(SourceReader& reader, ByteRange range, model::FourCharCode type,
+                              SourceReader::ReadAhead ahead = SourceReader::ReadAhead::window);
 
 // The payload behind the version and flags of a full box; empty where it is too short for them.
 ByteRange fullBoxBody(const IsoBox& box);

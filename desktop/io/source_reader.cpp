@@ -10,12 +10,15 @@ std::optional<ByteView> SourceReader::Window::sub(std::uint64_t at, std::uint64_
   return ByteView(bytes).sub(at - offset, length);
 }
 
-void SourceReader::fill(Window& window, std::uint64_t offset, std::size_t length) {
-  const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(length, size() - offset));
-  window.offset = offset;
-  window.bytes.resize(wanted);
-  const auto count = _source.readAt(offset, window.bytes);
-  window.bytes.resize(count ? *count : 0);
+ByteView SourceReader::Window::from(std::uint64_t at) const {
+  return at < offset ? ByteView() : ByteView(bytes).from(at - offset);
+}
+
+void SourceReader::read(Window& window, std::size_t known) {
+  const std::size_t wanted = window.bytes.size() - known;
+  const auto count =
+      _source.readAt(window.offset + known, std::span(window.bytes).subspan(known, wanted));
+  window.bytes.resize(known + (count ? *count : 0));
   if (_failure) return;
   if (!count) {
     _failure = count.error();
@@ -24,21 +27,35 @@ void SourceReader::fill(Window& window, std::uint64_t offset, std::size_t length
   }
 }
 
-std::optional<ByteView> SourceReader::view(std::uint64_t offset, std::uint64_t length) {
+void SourceReader::fillHead() {
+  _head.bytes.resize(static_cast<std::size_t>(std::min<std::uint64_t>(headSize, size())));
+  read(_head, 0);
+}
+
+void SourceReader::fillWindow(std::uint64_t offset, std::size_t length) {
+  const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(length, size() - offset));
+  _window.offset = offset;
+  _window.bytes.resize(wanted);
+  const ByteView known = _head.from(offset);
+  std::ranges::copy(known.bytes(), _window.bytes.begin());
+  read(_window, known.size());
+}
+
+std::optional<ByteView> SourceReader::view(std::uint64_t offset, std::uint64_t length,
+                                           ReadAhead ahead) {
   if (offset > size() || length > size() - offset || length > largestView) return std::nullopt;
   if (length == 0) return ByteView();
-  if (offset < headSize && length <= headSize - offset) {
-    if (_head.bytes.empty() && !_failure) fill(_head, 0, headSize);
-    return _head.sub(offset, length);
-  }
+  if (offset < headSize && _head.bytes.empty() && !_failure) fillHead();
+  if (offset < headSize && length <= headSize - offset) return _head.sub(offset, length);
   if (const auto known = _window.sub(offset, length)) return known;
-  fill(_window, offset, std::max(static_cast<std::size_t>(length), windowSize));
+  const std::size_t least = ahead == ReadAhead::window ? windowSize : 0;
+  fillWindow(offset, std::max(static_cast<std::size_t>(length), least));
   return _window.sub(offset, length);
 }
 
-ByteView SourceReader::upTo(std::uint64_t offset, std::uint64_t length) {
+ByteView SourceReader::upTo(std::uint64_t offset, std::uint64_t length, ReadAhead ahead) {
   if (offset >= size()) return {};
-  return view(offset, std::min(length, size() - offset)).value_or(ByteView());
+  return view(offset, std::min(length, size() - offset), ahead).value_or(ByteView());
 }
 
 std::optional<std::vector<std::uint8_t>> SourceReader::copy(std::uint64_t offset,

@@ -18,21 +18,26 @@ namespace desktop {
 // walk can simply end at the first missing byte and its caller asks failure() once.
 class SourceReader {
  public:
-  static constexpr std::size_t headSize = 64 * 1024;    // bytes read at once from the front
-  static constexpr std::size_t windowSize = 4 * 1024;   // bytes read at once elsewhere, at least
-  static constexpr std::size_t largestView = 32 << 20;  // bytes; a longer view is refused
+  static constexpr std::size_t headSize = 65536;          // bytes read at once from the front
+  static constexpr std::size_t windowSize = 4096;         // bytes read at once elsewhere, at least
+  static constexpr std::size_t largestView = 33'554'432;  // bytes; a longer view is refused
 
   // REQUIRES: the source outlives the reader.
   explicit SourceReader(ByteSource& source) : _source(source) {}
 
   std::uint64_t size() const { return _source.size(); }
 
+  // Whether a read outside the head brings a whole window, for what follows it, or only what was
+  // asked for: a walk that jumps from header to header over coded data wants the latter.
+  enum class ReadAhead { window, none };
+
   // The bytes [offset, offset + length), or none where they do not all lie in the source, are
   // more than largestView, or cannot be read. Borrowed: valid until the next call of view().
-  std::optional<ByteView> view(std::uint64_t offset, std::uint64_t length);
+  std::optional<ByteView> view(std::uint64_t offset, std::uint64_t length,
+                               ReadAhead ahead = ReadAhead::window);
 
   // As view(), but fewer bytes where the source ends earlier.
-  ByteView upTo(std::uint64_t offset, std::uint64_t length);
+  ByteView upTo(std::uint64_t offset, std::uint64_t length, ReadAhead ahead = ReadAhead::window);
 
   // As view(), copied, to be kept.
   std::optional<std::vector<std::uint8_t>> copy(std::uint64_t offset, std::uint64_t length);
@@ -46,8 +51,12 @@ class SourceReader {
     std::uint64_t offset = 0;
     std::vector<std::uint8_t> bytes;
     std::optional<ByteView> sub(std::uint64_t at, std::uint64_t length) const;
+    ByteView from(std::uint64_t at) const;
   };
-  void fill(Window& window, std::uint64_t offset, std::size_t length);
+  void fillHead();
+  void fillWindow(std::uint64_t offset, std::size_t length);
+  // Reads into the end of the window's bytes, which it shortens to what there was.
+  void read(Window& window, std::size_t known);
 
   ByteSource& _source;
   Window _head;

@@ -77,6 +77,18 @@ TEST(IsoBoxTest, EndsAtABoxSmallerThanItsHeader) {
   }
 }
 
+TEST(IsoBoxTest, JumpsOverPayloadsWithoutReadingThem) {
+  MemorySource source =
+      sourceOf(std::string(100'000, '\0').replace(0, 8, bigEndian(80'000, 4) + "free"));
+  SourceReader reader(source);
+  ASSERT_TRUE(reader.view(0, 8));
+  const std::uint64_t head = source.bytesRead();
+  IsoBoxWalk walk(reader, {0, source.size()}, SourceReader::ReadAhead::none);
+  EXPECT_EQ(walk.next()->payload.end, 80'000U);
+  EXPECT_EQ(walk.next()->payload.end, 100'000U);
+  EXPECT_EQ(source.bytesRead() - head, 16U);
+}
+
 TEST(IsoBoxTest, KeepsTheUserType) {
   MemorySource source = sourceOf(box("uuid", "0123456789abcdefXY"));
   SourceReader reader(source);
