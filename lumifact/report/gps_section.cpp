@@ -51,7 +51,9 @@ std::optional<std::string> signedCoordinate(const Value& value, const Value* ref
   if (reference == nullptr) return std::nullopt;
   const auto* letter = reference->asString();
   const bool isNegative = letter != nullptr && *letter == negative;
-  return (isNegative ? "-" : "") + model::valueText(value);
+  std::string text = isNegative ? "-" : "";
+  appendValue(text, value);
+  return text;
 }
 
 // Writes the entries of one section and keeps the coordinates that it meets.
