@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "bridge/hook.h"
+
+#include <string_view>
+
+namespace bridge {
+
+void applyHooks(std::span<const HookRow> rows) {
+  std::string_view className;
+  Class aClass = nullptr;
+  for (const HookRow& row : rows) {
+    if (row.className != className) {
+      className = row.className;
+      aClass = objc_getClass(row.className);
+    }
+    if (aClass) row.apply(aClass, row);
+  }
+}
+
+}  // namespace bridge
