@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "bridge/hook.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "bridge/guard.h"
+#include "tests/bridge/victims.h"
+
+namespace bridge {
+namespace {
+
+using victims::ClassMaker;
+
+std::vector<std::string> steps;
+
+// A host: a cell with methods of its own, below a base whose method it inherits, with a sibling.
+Class hostCell() {
+  static const Class made = [] {
+    ClassMaker("HostBase")
+        .method(
+            "title", +[](id, SEL) { return 1; })
+        .method("raising", &victims::raise)
+        .build();
+    ClassMaker("HostSibling", "HostBase").build();
+    return ClassMaker("HostCell", "HostBase")
+        .method(
+            "setSize:",
+            +[](id, SEL, double size) { steps.push_back("host " + std::to_string(size)); })
+        .method(
+            "existing", +[](id, SEL) { return 7; })
+        .build();
+  }();
+  return made;
+}
+
+Stock<void(id, SEL, double)> stockSetSize;
+id lastSelf = nullptr;
+void HostCell_setSize(id self, SEL command, double size) {
+  lastSelf = self;
+  stockSetSize(self, command, size);
+  guarded([&] { steps.emplace_back("own"); });
+}
+
+Stock<int(id, SEL)> stockTitle;
+int HostCell_title(id self, SEL command) {
+  return 10 * stockTitle(self, command);
+}
+
+Stock<void(id, SEL)> stockRaising;
+void HostCell_raising(id self, SEL command) {
+  guarded([] { throw std::runtime_error("own failure"); });
+  stockRaising(self, command);
+}
+
+int HostCell_existing(id, SEL) {
+  return 0;
+}
+id HostCell_itself(id self, SEL) {
+  return self;
+}
+
+Stock<void(id, SEL)> stockNothing;
+void Nobody_nothing(id self, SEL command) {
+  stockNothing(self, command);
+}
+
+constinit const HookRow table[] = {
+    replaced<"HostCell", "setSize:", &HostCell_setSize, stockSetSize>,
+    replaced<"HostCell", "title", &HostCell_title, stockTitle>,
+    replaced<"NobodyHasThisClass", "nothing", &Nobody_nothing, stockNothing>,
+    added<"NobodyHasThisClass", "itself", "@@:", &HostCell_itself>,
+    replaced<"HostCell", "noSuchMethod", &Nobody_nothing, stockNothing>,
+    replaced<"HostCell", "raising", &HostCell_raising, stockRaising>,
+    added<"HostCell", "existing", "i@:", &HostCell_existing>,
+    added<"HostCell", "itself", "@@:", &HostCell_itself>,
+};
+
+class HookTest : public testing::Test {
+ protected:
+  HookTest() : cell(victims::make(hookedCell())) { steps.clear(); }
+
+  static Class hookedCell() {
+    static const bool applied = [] {
+      hostCell();
+      applyHooks(table);
+      return true;
+    }();
+    return applied ? hostCell() : nullptr;
+  }
+
+  Owned<Object> cell;
+};
+
+TEST_F(HookTest, ReplacementSeesReceiverAndArgumentsAndCallsOn) {
+  send<void, "setSize:">(cell, 2.5);
+  EXPECT_EQ(Object(lastSelf), cell.get());
+  EXPECT_EQ(steps, (std::vector<std::string>{"host 2.500000", "own"}));
+}
+
+TEST_F(HookTest, HookingAnInheritedMethodLeavesSiblingsAlone) {
+  EXPECT_EQ((send<int, "title">(cell)), 10);
+  EXPECT_EQ((send<int, "title">(victims::make(objc_getClass("HostSibling")))), 1);
+  EXPECT_EQ((send<int, "title">(victims::make(objc_getClass("HostBase")))), 1);
+}
+
+TEST_F(HookTest, RowsAfterAMissingClassOrMethodAreApplied) {
+  EXPECT_FALSE(respondsTo<"noSuchMethod">(cell));
+  EXPECT_EQ((send<Object, "itself">(cell)), cell.get());
+}
+
+TEST_F(HookTest, AddingLeavesAMethodOfTheClassInPlace) {
+  EXPECT_EQ((send<int, "existing">(cell)), 7);
+}
+
+TEST_F(HookTest, WhatTheHostRaisesPassesThroughAndOurOwnDoesNot) {
+  const AutoreleasePool pool;
+  bool raised = false;
+  try {
+    send<void, "raising">(cell);
+  } catch (const std::runtime_error&) {
+    FAIL() << "an exception of the hook's own work reached the host";
+  } catch (...) {
+    raised = true;
+  }
+  EXPECT_TRUE(raised);
+}
+
+TEST_F(HookTest, RowsSayWhatTheyDo) {
+  EXPECT_STREQ(table[0].className, "HostCell");
+  EXPECT_STREQ(table[0].selector, "setSize:");
+  EXPECT_STREQ(table[0].encoding, "v@:d");
+  EXPECT_EQ(table[0].kind, HookKind::replaced);
+  EXPECT_EQ(table[7].kind, HookKind::added);
+}
+
+TEST(Stock, AnswersZeroWhereThereWasNothingToSave) {
+  const Stock<double(id, SEL)> empty;
+  EXPECT_EQ(empty(nullptr, nullptr), 0.0);
+}
+
+TEST(Guard, AnswersTheZeroOfTheResult) {
+  const AutoreleasePool pool;
+  EXPECT_EQ(guarded([]() -> int { throw std::runtime_error("own"); }), 0);
+  EXPECT_EQ(guarded([]() -> id {
+              victims::raise(nullptr, nullptr);
+              return nullptr;
+            }),
+            nullptr);
+  EXPECT_EQ(guarded([] { return 3; }), 3);
+}
+
+TEST(Guard, OfAMethodLetsTheHostsExceptionsThrough) {
+  const AutoreleasePool pool;
+  EXPECT_ANY_THROW(guardedMethod([] { victims::raise(nullptr, nullptr); }));
+  EXPECT_NO_THROW(guardedMethod([] { throw std::runtime_error("own"); }));
+}
+
+}  // namespace
+}  // namespace bridge
