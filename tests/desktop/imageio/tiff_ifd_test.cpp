@@ -108,7 +108,7 @@ TEST(TiffStructure, anIfdThatIsCutKeepsItsWholeEntries) {
 TEST(TiffStructure, anIfdOf65535EntriesIsReadUpToTheLimit) {
   Bytes bytes = buildTiff(ByteOrder::little, {{shorts(1, {5})}});
   bytes[8] = bytes[9] = 0xFF;
-  bytes.resize(65535 * 12, 1);
+  bytes.resize(786'420, 1);
   auto structure = TiffStructure::open(ByteView(bytes));
   const auto ifd = structure->readIfd(8);
   ASSERT_TRUE(ifd);
