@@ -16,8 +16,9 @@ namespace desktop::avfoundation {
 // The asset of an ISO base media or QuickTime file (MOV, MP4, M4V, 3GP); none where the bytes are
 // of another kind. Never reads coded samples ("mdat").
 //
-// Errors: a read that fails; an empty source ("empty file"); a movie without its "moov" box or cut
-// off before its end. Damaged tracks and metadata are left out.
+// Errors: a read that fails; an empty source ("empty file"); a movie that is cut off before the end
+// of its "moov" box ("truncated movie") or has none; a compressed "moov" that cannot be inflated.
+// Damaged tracks and metadata are left out; a movie that is only cut off in its samples is whole.
 model::Result<std::optional<model::MediaAsset>> copyAsset(ByteSource& source);
 
 // As copyAsset, for the file at a path, and for the other containers (MKV, AVI, ...) too, for

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/avfoundation/movie_layout.h"
+
+#include <algorithm>
+#include <array>
+
+#include "desktop/avfoundation/limits.h"
+#include "desktop/io/byte_view.h"
+
+namespace desktop::avfoundation {
+
+namespace {
+
+using model::FourCharCode;
+using model::fourCharCode;
+
+// What a movie may begin with where it has no "ftyp" (QuickTime File Format, "Overview").
+constexpr FourCharCode firstBoxes[] = {
+    fourCharCode("ftyp"), fourCharCode("moov"), fourCharCode("mdat"), fourCharCode("wide"),
+    fourCharCode("free"), fourCharCode("skip"), fourCharCode("pnot"),
+};
+
+// What tells a movie from other bytes that happen to look like a box.
+constexpr FourCharCode movieBoxes[] = {fourCharCode("ftyp"), fourCharCode("moov"),
+                                       fourCharCode("mdat")};
+
+// Major brands of stills and image sequences, which the image readers know.
+constexpr FourCharCode imageBrands[] = {
+    fourCharCode("heic"), fourCharCode("heix"), fourCharCode("heim"), fourCharCode("heis"),
+    fourCharCode("hevc"), fourCharCode("hevx"), fourCharCode("hevm"), fourCharCode("hevs"),
+    fourCharCode("mif1"), fourCharCode("mif2"), fourCharCode("msf1"), fourCharCode("avif"),
+    fourCharCode("avis"), fourCharCode("avci"), fourCharCode("avcs"), fourCharCode("jpeg"),
+    fourCharCode("jpgs"), fourCharCode("jp2 "), fourCharCode("jpx "), fourCharCode("jpm "),
+    fourCharCode("jxl "), fourCharCode("crx "),
+};
+
+constexpr FourCharCode quickTimeBrand = fourCharCode("qt  ");
+
+// A box at the outermost level. `end` lies behind the end of the file where the box is cut off.
+struct OuterBox {
+  FourCharCode type = 0;
+  std::uint64_t payload = 0;
+  std::uint64_t end = 0;
+};
+
+// Reads bytes one field at a time, so that a read never reaches into coded samples.
+class OuterWalk {
+ public:
+  explicit OuterWalk(ByteSource& source) : _source(source) {}
+
+  std::optional<OuterBox> next() {
+    const auto size = u32(_offset);
+    const auto type = u32(_offset + 4);
+    if (!size || !type) return std::nullopt;
+    std::uint64_t length = *size;
+    std::uint64_t header = 8;
+    if (length == 0) length = _source.size() - _offset;
+    if (*size == 1) {
+      const auto high = u32(_offset + 8);
+      const auto low = u32(_offset + 12);
+      if (!high || !low) return std::nullopt;
+      length = (std::uint64_t{*high} << 32) | *low;
+      header = 16;
+    }
+    if (length < header) return std::nullopt;
+    OuterBox box{*type, _offset + header, 0};
+    if (__builtin_add_overflow(_offset, length, &box.end)) box.end = UINT64_MAX;
+    _offset = box.end;
+    return box;
+  }
+
+  std::optional<std::uint32_t> u32(std::uint64_t offset) {
+    std::array<std::uint8_t, 4> bytes{};
+    if (offset >= _source.size()) return std::nullopt;
+    const auto count = _source.readAt(offset, bytes);
+    if (!count && !_failure) _failure = count.error();
+    if (!count || *count < bytes.size()) return std::nullopt;
+    return ByteView(bytes).u32(0, ByteOrder::big);
+  }
+
+  // Whether the file ends where a box has begun.
+  bool endsInsideHeader() const { return _offset < _source.size() && _source.size() - _offset < 8; }
+
+  const std::optional<model::Error>& failure() const { return _failure; }
+
+ private:
+  ByteSource& _source;
+  std::uint64_t _offset = 0;
+  std::optional<model::Error> _failure;
+};
+
+// What has been seen of the outermost boxes so far.
+struct Findings {
+  MovieLayout layout;
+  bool hasMovie = false;
+  bool claimsMovie = false;  // has a box that only movies have
+  bool isCut = false;
+};
+
+void take(Findings& findings, const OuterBox& box, std::uint64_t fileSize) {
+  const bool isCut = box.end > fileSize;
+  findings.isCut |= isCut;
+  const ByteRange range{std::min(box.payload, fileSize), std::min(box.end, fileSize)};
+  auto& fragments = findings.layout.fragments;
+  findings.claimsMovie |= std::ranges::count(movieBoxes, box.type) > 0;
+  if (box.type == fourCharCode("moov") && !findings.hasMovie && !isCut) {
+    findings.hasMovie = true;
+    findings.layout.movie = range;
+  } else if (box.type == fourCharCode("moof") && fragments.size() < limits.fragments && !isCut) {
+    fragments.push_back(range);
+  }
+}
+
+// Which rules hold, from the first box; none where the file is no movie.
+std::optional<FileFormat> formatOf(OuterWalk& walk, const OuterBox& first) {
+  if (!std::ranges::count(firstBoxes, first.type)) return std::nullopt;
+  if (first.type != fourCharCode("ftyp")) return FileFormat::quickTime;
+  const FourCharCode brand = walk.u32(first.payload).value_or(0);
+  if (std::ranges::count(imageBrands, brand)) return std::nullopt;
+  return brand == quickTimeBrand ? FileFormat::quickTime : FileFormat::isoBaseMedia;
+}
+
+}  // namespace
+
+model::Result<std::optional<MovieLayout>> readMovieLayout(ByteSource& source) {
+  OuterWalk walk(source);
+  Findings findings;
+  bool isMovie = false;
+  for (int count = 0; count < limits.topLevelBoxes; ++count) {
+    const auto box = walk.next();
+    if (!box) break;
+    if (!isMovie) {
+      const auto format = formatOf(walk, *box);
+      if (!format) break;
+      findings.layout.format = *format;
+      isMovie = true;
+    }
+    take(findings, *box, source.size());
+  }
+  if (walk.failure()) return *walk.failure();
+  if (findings.hasMovie) return std::optional(std::move(findings.layout));
+  if (!isMovie || !findings.claimsMovie) return std::optional<MovieLayout>();
+  if (findings.isCut || walk.endsInsideHeader()) return model::Error{"truncated movie"};
+  return model::Error{"movie without a header (\"moov\")"};
+}
+
+}  // namespace desktop::avfoundation
