@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "desktop/foundation/device_root.h"
 #include "model/geometry.h"
@@ -41,13 +40,10 @@ struct AssetFacts {
   std::optional<model::MediaAsset> asset;
 };
 
-// Reads the file at a path. Errors: cannot be opened or read; empty; truncated; "not a photo or
-// video".
+// Reads the file at a path, below the root where the path is one of the device's. Callable from
+// several threads at once. Errors: cannot be opened or read; "empty file"; truncated; "not a photo
+// or video".
 model::Result<AssetFacts> readAssetFacts(const std::string& path,
                                          const foundation::DeviceRoot& root);
-
-// Location, creation date and the like need no more than the properties or the asset: the pieces.
-std::optional<model::Location> locationOfProperties(const model::Dictionary& properties);
-std::optional<model::Location> locationOfIso6709(std::string_view text);
 
 }  // namespace desktop::photos
