@@ -11,7 +11,7 @@ namespace desktop::foundation {
 // A device root. Paths are absolute, without a trailing slash.
 class DeviceRoot {
  public:
-  explicit DeviceRoot(std::string folder);
+  explicit DeviceRoot(const std::string& folder);
 
   // The user's: "photohost" below XDG_DATA_HOME, else below ~/.local/share.
   static DeviceRoot ofUser();

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/foundation/localised_date_text.h"
+
+#include <unicode/dtfmtsym.h>
+#include <unicode/smpdtfmt.h>
+
+#include <map>
+#include <memory>
+#include <utility>
+
+namespace desktop::foundation {
+
+namespace {
+
+using icu::DateFormat;
+using icu::SimpleDateFormat;
+using icu::UnicodeString;
+using Format = std::unique_ptr<SimpleDateFormat>;
+
+// The locale's own format; null where there is none. kNone leaves a part out.
+Format stockFormat(DateFormat::EStyle date, DateFormat::EStyle time, const icu::Locale& locale) {
+  Format format(dynamic_cast<SimpleDateFormat*>(
+      time == DateFormat::kNone   ? DateFormat::createDateInstance(date, locale)
+      : date == DateFormat::kNone ? DateFormat::createTimeInstance(time, locale)
+                                  : DateFormat::createDateTimeInstance(date, time, locale)));
+  return format;
+}
+
+UnicodeString pattern(DateFormat::EStyle date, DateFormat::EStyle time, const icu::Locale& locale) {
+  UnicodeString text;
+  if (const Format format = stockFormat(date, time, locale)) format->toPattern(text);
+  return text;
+}
+
+// The platform joins a medium date and its time by the word of long dates in these languages
+// ("at"), while the locale data has a comma.
+bool joinsMediumDatesByAWord(const icu::Locale& locale) {
+  const std::string_view language = locale.getLanguage();
+  return language == "en" || language == "fr";
+}
+
+// The pattern of long dates with their parts replaced by the medium ones; empty where the long
+// pattern does not hold its parts.
+UnicodeString patternJoinedByAWord(const icu::Locale& locale) {
+  UnicodeString joined = pattern(DateFormat::kLong, DateFormat::kLong, locale);
+  const UnicodeString longDate = pattern(DateFormat::kLong, DateFormat::kNone, locale);
+  const UnicodeString longTime = pattern(DateFormat::kNone, DateFormat::kLong, locale);
+  if (joined.indexOf(longDate) < 0 || joined.indexOf(longTime) < 0) return {};
+  joined.findAndReplace(longDate, pattern(DateFormat::kMedium, DateFormat::kNone, locale));
+  joined.findAndReplace(longTime, pattern(DateFormat::kNone, DateFormat::kMedium, locale));
+  return joined;
+}
+
+// English data outside the United States has since come to say "Sept".
+void restoreSeptember(SimpleDateFormat& format) {
+  icu::DateFormatSymbols symbols(*format.getDateFormatSymbols());
+  int32_t count = 0;
+  const UnicodeString* stock =
+      symbols.getMonths(count, icu::DateFormatSymbols::FORMAT, icu::DateFormatSymbols::ABBREVIATED);
+  std::vector<UnicodeString> months(stock, stock + count);
+  for (UnicodeString& month : months) {
+    if (month == u"Sept") month = u"Sep";
+  }
+  symbols.setMonths(months.data(), count, icu::DateFormatSymbols::FORMAT,
+                    icu::DateFormatSymbols::ABBREVIATED);
+  format.setDateFormatSymbols(symbols);
+}
+
+Format makeFormat(DateStyle style, const icu::Locale& locale) {
+  const bool isMedium = style == DateStyle::mediumDate;
+  Format format =
+      stockFormat(isMedium ? DateFormat::kMedium : DateFormat::kShort, DateFormat::kMedium, locale);
+  if (format == nullptr) return nullptr;
+  if (isMedium && joinsMediumDatesByAWord(locale)) {
+    const UnicodeString joined = patternJoinedByAWord(locale);
+    if (!joined.isEmpty()) format->applyPattern(joined);
+  }
+  if (std::string_view(locale.getLanguage()) == "en") restoreSeptember(*format);
+  format->setTimeZone(*icu::TimeZone::getGMT());
+  return format;
+}
+
+// A format takes a millisecond to make, and is used from one thread at a time.
+const SimpleDateFormat* formatOf(DateStyle style, const Locale& locale) {
+  thread_local std::map<std::pair<std::string, DateStyle>, Format> formats;
+  const auto [entry, isNew] = formats.try_emplace({locale.name(), style});
+  if (isNew) entry->second = makeFormat(style, icu::Locale(locale.name().c_str()));
+  return entry->second.get();
+}
+
+}  // namespace
+
+// The clocks' time is given to ICU as if it were UTC, so that the C library alone decides on the
+// time zone.
+std::optional<std::string> localisedDateText(const model::CivilTime& time, DateStyle style,
+                                             const Locale& locale) {
+  const SimpleDateFormat* format = formatOf(style, locale);
+  if (format == nullptr) return std::nullopt;
+  UnicodeString text;
+  format->format(model::dateFromUtc(time).secondsSince1970 * 1000, text);
+  text.findAndReplace(UnicodeString(u'\u202F'), UnicodeString(u' '));
+  std::string result;
+  return text.toUTF8String(result);
+}
+
+}  // namespace desktop::foundation

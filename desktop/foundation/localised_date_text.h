@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+//
+// Dates by ICU's locale data, in the platform's styles.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "desktop/foundation/date_text.h"
+
+namespace desktop::foundation {
+
+// What clocks show, in the style and the customs of the locale; none where ICU has no data. Blanks
+// are plain where newer data has narrow ones. Thread-safe.
+std::optional<std::string> localisedDateText(const model::CivilTime& time, DateStyle style,
+                                             const Locale& locale);
+
+}  // namespace desktop::foundation
