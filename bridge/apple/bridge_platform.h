@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// How the phone's object runtime differs: what a BOOL is, how long integers are encoded, and how a
-// message finds its implementation (one entry point, called through a cast pointer; on arm64 it
-// serves every result type).
+// How the phone's object runtime differs: what a BOOL is, and how a message finds its
+// implementation (one entry point, called through a cast pointer; on arm64 it serves every result
+// type).
 #pragma once
 
 #include "bridge/runtime/types.h"
@@ -22,9 +22,6 @@ Class object_getClass(id object);
 }
 
 namespace bridge {
-
-inline constexpr char longEncoding = 'q';
-inline constexpr char unsignedLongEncoding = 'Q';
 
 // REQUIRES: receiver is not nil; the types are exactly those of the method.
 template <typename Result, typename... Arguments>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// How GCC's object runtime differs: what a BOOL is, how long integers are encoded, and how a
-// message finds its implementation (a look-up, then a call through the cast pointer).
+// How GCC's object runtime differs: what a BOOL is, and how a message finds its
+// implementation (a look-up, then a call through the cast pointer).
 #pragma once
 
 #include "bridge/runtime/types.h"
@@ -25,9 +25,6 @@ inline Class object_getClass(id object) {
 }
 
 namespace bridge {
-
-inline constexpr char longEncoding = 'l';
-inline constexpr char unsignedLongEncoding = 'L';
 
 // REQUIRES: receiver is not nil; the types are exactly those of the method.
 template <typename Result, typename... Arguments>

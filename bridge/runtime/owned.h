@@ -9,11 +9,11 @@
 
 namespace bridge {
 
-// Holds one reference to an object, or none to nil.
+// Holds one reference to an object, or none to nil. T is a handle; inside T's own definition too.
 //
 //   auto cache = Owned<NSCache>::adopt(NSCache::make());   // takes over the +1 of new, alloc, copy
 //   auto title = Owned<NSString>::retain(label.text());    // shares what somebody else owns
-template <Handle T>
+template <typename T>
 class Owned {
  public:
   constexpr Owned() = default;
@@ -56,7 +56,7 @@ class Owned {
   }
 
  private:
-  explicit Owned(T object) : _object(object) {}
+  explicit Owned(T object) : _object(object) { static_assert(Handle<T>); }
 
   T _object;
 };

@@ -25,8 +25,8 @@ TEST(Encoding, FollowsTheSignature) {
   EXPECT_EQ((encodingOf<void(id, SEL, Block<void(bool)>)>), "v@:@?");
 }
 
-TEST(Encoding, OfLongIntegersIsThePlatforms) {
-  EXPECT_EQ((encodingOf<long(id, SEL, unsigned long)>), "l@:L");
+TEST(Encoding, OfLongIntegersIsThatOf64Bits) {
+  EXPECT_EQ((encodingOf<long(id, SEL, unsigned long)>), "q@:Q");
 }
 
 }  // namespace

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "bridge/foundation/ns_string.h"
+
+#include "bridge/foundation/ns_data.h"
+
+namespace bridge {
+namespace {
+
+constexpr NSUInteger utf8Encoding = 4;
+
+}  // namespace
+
+NSString NSString::make(std::string_view utf8) {
+  auto made = Owned<NSString>::adopt(send<NSString, "initWithBytes:length:encoding:">(
+      send<id, "alloc">(classObject()), static_cast<const void*>(utf8.data()),
+      NSUInteger{utf8.size()}, utf8Encoding));
+  return made.autorelease();
+}
+
+std::string NSString::utf8() const {
+  const auto data =
+      send<NSData, "dataUsingEncoding:allowLossyConversion:">(*this, utf8Encoding, true);
+  return std::string(data.view());
+}
+
+}  // namespace bridge

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "bridge/foundation/ns_object.h"
+
+namespace bridge {
+
+// Lengths and indices are in UTF-16 units.
+struct NSString : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"NSString">(); }
+
+  // The text, which may hold zeros. Autoreleased; nil where it is not valid UTF-8.
+  static NSString make(std::string_view utf8);
+
+  // The text as UTF-8: empty for nil, U+FFFD or '?' for what has no form in it.
+  std::string utf8() const;
+
+  NSUInteger length() const { return send<NSUInteger, "length">(*this); }
+  bool isEqualToString(NSString other) const {
+    return send<bool, "isEqualToString:">(*this, other);
+  }
+  int intValue() const { return send<int, "intValue">(*this); }
+  NSInteger localizedCaseInsensitiveCompare(NSString other) const {
+    return send<NSInteger, "localizedCaseInsensitiveCompare:">(*this, other);
+  }
+};
+
+inline NSString NSObject::description() const {
+  return send<NSString, "description">(*this);
+}
+
+}  // namespace bridge
