@@ -20,16 +20,19 @@ namespace bridge {
 namespace {
 
 constexpr std::uint8_t debugLevel = 2;
-constexpr char lineFormat[] = "[%{public}s:%{public}d] %{public}@";
+
+// A macro, since the compiler lays out the arguments only by a literal.
+#define BRIDGE_LOG_LINE "[%{public}s:%{public}d] %{public}@"
 
 }  // namespace
 
 void logDebug(const char* source, int line, const std::string& text) {
   if (!os_log_type_enabled(&_os_log_default, debugLevel)) return;
   const id message = send<id, "stringWithUTF8String:">(classNamed<"NSString">(), text.c_str());
-  std::uint8_t arguments[__builtin_os_log_format_buffer_size(lineFormat, source, line, message)];
-  __builtin_os_log_format(arguments, lineFormat, source, line, message);
-  _os_log_impl(&__dso_handle, &_os_log_default, debugLevel, lineFormat, arguments,
+  std::uint8_t
+      arguments[__builtin_os_log_format_buffer_size(BRIDGE_LOG_LINE, source, line, message)];
+  __builtin_os_log_format(arguments, BRIDGE_LOG_LINE, source, line, message);
+  _os_log_impl(&__dso_handle, &_os_log_default, debugLevel, BRIDGE_LOG_LINE, arguments,
                sizeof arguments);
 }
 
