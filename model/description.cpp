@@ -15,6 +15,7 @@ constexpr std::string_view hexDigits = "0123456789abcdef";
 
 std::string dataText(const Data& data) {
   std::string text = "<";
+  text.reserve(data.size() * 2 + data.size() / 4 + 2);
   for (std::size_t index = 0; index < data.size(); ++index) {
     if (index > 0 && index % 4 == 0) text += ' ';
     text += hexDigits[data[index] >> 4];

@@ -30,16 +30,21 @@ class RankReader {
 
   char32_t next() {
     while (_offset < _text.size()) {
-      const CodePoint character = codePointAt(_text, _offset);
-      _offset += character.bytes;
-      const char32_t rank =
-          character.value < 128 ? asciiRanks[character.value] : 0x100 + character.value;
-      if (rank != 0) return rank;
+      const auto byte = static_cast<unsigned char>(_text[_offset]);
+      if (byte >= 128) return nextBeyondAscii();
+      ++_offset;
+      if (asciiRanks[byte] != 0) return asciiRanks[byte];
     }
     return 0;
   }
 
  private:
+  char32_t nextBeyondAscii() {
+    const CodePoint character = codePointAt(_text, _offset);
+    _offset += character.bytes;
+    return 0x100 + character.value;
+  }
+
   std::string_view _text;
   std::size_t _offset = 0;
 };

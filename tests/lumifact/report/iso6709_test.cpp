@@ -78,7 +78,7 @@ class Pattern {
 TEST(Iso6709, AgreesWithARegularExpressionOnRandomTexts) {
   constexpr std::string_view alphabet = "++--0012.//x";
   const Pattern pattern;
-  std::mt19937 random(6709);  // NOLINT(bugprone-random-generator-seed,cert-msc51-cpp)
+  std::mt19937 random(6709);
   int found = 0;
   for (int round = 0; round < 100000; ++round) {
     std::string text(random() % 24, ' ');
