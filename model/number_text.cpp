@@ -181,13 +181,11 @@ std::string fixedText(double value, int decimals) {
   if (!std::isfinite(value)) return nonFiniteText(value);
   std::array<char, 512> text{};  // the largest double has 309 digits before the point
   std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
-  std::string printed = text.data();
+  const std::string_view printed(text.data());
   const std::size_t radix = printed.find_first_not_of("-0123456789");
-  if (radix != std::string::npos) {
-    const std::size_t end = printed.find_first_of("0123456789", radix);
-    printed.replace(radix, end - radix, ".");
-  }
-  return printed;
+  std::string result(printed.substr(0, radix));
+  if (radix == std::string_view::npos) return result;
+  return result.append(".").append(printed.substr(printed.find_first_of("0123456789", radix)));
 }
 
 double widenedByText(float value) {
