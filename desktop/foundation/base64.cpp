@@ -65,7 +65,7 @@ std::optional<model::Data> dataFromBase64(std::string_view text) {
       data.push_back(static_cast<std::uint8_t>(group >> shift));
     }
   }
-  data.resize(data.size() - padding);
+  for (; padding > 0 && !data.empty(); --padding) data.pop_back();
   return data;
 }
 
