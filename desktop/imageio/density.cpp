@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/imageio/density.h"
 
+#include <cmath>
 #include <optional>
 #include <string_view>
 
@@ -34,6 +35,12 @@ void setDensityFromTiff(model::Dictionary& properties) {
   if (!factor) return;
   setOne(*tiff, "XResolution", *factor, "DPIWidth", properties);
   setOne(*tiff, "YResolution", *factor, "DPIHeight", properties);
+}
+
+void setDensityFromMetres(std::uint32_t x, std::uint32_t y, model::Dictionary& properties) {
+  constexpr double metresPerInch = 0.0254;
+  properties.insert_or_assign("DPIWidth", std::llround(x * metresPerInch));
+  properties.insert_or_assign("DPIHeight", std::llround(y * metresPerInch));
 }
 
 }  // namespace desktop::imageio

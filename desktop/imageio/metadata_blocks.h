@@ -34,6 +34,9 @@ void readPhotoshopResources(ByteView resources, model::Dictionary& properties);
 // The profile description of an ICC profile ("Display P3"). ICC.1:2010, 9.2.41.
 std::optional<std::string> iccProfileName(ByteView profile);
 
+// The name under which sRGB is known where no profile stands for it.
+inline constexpr std::string_view srgbProfileName = "sRGB IEC61966-2.1";
+
 // The section of that name (braces included), made where it is missing.
 model::Dictionary& section(model::Dictionary& properties, std::string_view name);
 

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/imageio/gif_container.h"
+
+#include <string_view>
+
+#include "desktop/imageio/density.h"
+#include "desktop/imageio/frame_delay.h"
+#include "desktop/imageio/icc_profile.h"
+#include "desktop/imageio/limits.h"
+#include "desktop/imageio/metadata_blocks.h"
+#include "desktop/imageio/spliced_ranges.h"
+#include "desktop/io/iso_box.h"
+
+namespace desktop::imageio {
+
+namespace {
+
+constexpr std::uint8_t extensionIntroducer = 0x21;
+constexpr std::uint8_t imageSeparator = 0x2C;
+constexpr std::uint8_t graphicControl = 0xF9;
+constexpr std::uint8_t application = 0xFF;
+constexpr std::uint64_t screenDescriptorEnd = 13;
+
+// The size of a colour table that a packed byte announces.
+std::uint64_t colorTableSize(std::uint8_t packed) {
+  return packed & 0x80 ? std::uint64_t{3} << ((packed & 7) + 1) : 0;
+}
+
+// The end of a chain of data sub-blocks: each has its size in front, and one of size 0 ends it.
+// None where the file ends before.
+std::optional<std::uint64_t> endOfSubBlocks(SourceReader& file, std::uint64_t offset) {
+  for (std::size_t count = 0; count < limits.gifSubBlocks; ++count) {
+    const auto size = file.upTo(offset, 1).u8(0);
+    if (!size) return std::nullopt;
+    offset += 1 + std::uint64_t{*size};
+    if (*size == 0) return offset;
+  }
+  return std::nullopt;
+}
+
+void readGraphicControl(SourceReader& file, std::uint64_t offset, model::Dictionary& properties) {
+  const auto block = file.view(offset, 5);  // size, packed fields, delay, transparent index
+  if (!block || block->u8(0) < 4) return;
+  constexpr std::uint8_t transparencyFlag = 1;
+  if (*block->u8(1) & transparencyFlag) properties.insert_or_assign("HasAlpha", true);
+  setFrameDelay(*block->u16(2, ByteOrder::little) / 100.0, section(properties, "{GIF}"));
+}
+
+// The packet stands as it is, not in sub-blocks; a trailer of descending bytes behind it leads
+// readers that take it for sub-blocks to the end. XMP Specification, part 3, 1.1.2.
+void readXmp(SourceReader& file, ByteRange block, model::Dictionary& properties) {
+  constexpr std::uint64_t trailerSize = 258;
+  if (block.size() <= trailerSize || block.size() > limits.embeddedBytes) return;
+  const auto packet = file.view(block.begin, block.size() - trailerSize);
+  if (packet) readXmpPacket(*packet, properties);
+}
+
+// The profile stands in sub-blocks. International Color Consortium, "Embedding ICC profiles", GIF.
+void readProfile(SourceReader& file, std::uint64_t offset, model::Dictionary& properties) {
+  SplicedRanges profile;
+  for (std::size_t count = 0; count < limits.gifSubBlocks; ++count) {
+    const std::uint64_t size = file.upTo(offset, 1).u8(0).value_or(0);
+    if (size == 0) break;
+    profile.append({offset + 1, offset + 1 + size});
+    offset += 1 + size;
+  }
+  auto name = iccProfileName(profile.reader(file));
+  if (name) setIfAbsent(properties, "ProfileName", *std::move(name));
+}
+
+// What an extension says whose sub-blocks are the body.
+void readExtension(SourceReader& file, std::uint8_t label, ByteRange body,
+                   model::Dictionary& properties) {
+  if (label == graphicControl) return readGraphicControl(file, body.begin, properties);
+  if (label != application) return;
+  constexpr std::string_view xmpHeader = "\x0BXMP DataXMP";
+  constexpr std::string_view profileHeader = "\x0BICCRGBG1012";
+  const std::uint64_t dataBegin = body.begin + xmpHeader.size();
+  const ByteView header = file.upTo(body.begin, xmpHeader.size());
+  if (header.startsWith(xmpHeader)) {
+    readXmp(file, {dataBegin, body.end}, properties);
+  } else if (header.startsWith(profileHeader)) {
+    readProfile(file, dataBegin, properties);
+  }
+}
+
+// Reads the extensions up to the first image, whose header is returned if the file has one.
+std::optional<ByteView> walkToFirstImage(SourceReader& file, std::uint64_t offset,
+                                         model::Dictionary& properties) {
+  for (std::size_t count = 0; count < limits.gifExtensions; ++count) {
+    const ByteView introducer = file.upTo(offset, 2);
+    if (introducer.u8(0) == imageSeparator) return file.view(offset, 10);
+    if (introducer.u8(0) != extensionIntroducer || introducer.size() < 2) return std::nullopt;
+    const std::uint8_t label = *introducer.u8(1);
+    const auto end = endOfSubBlocks(file, offset + 2);
+    if (!end) return std::nullopt;
+    readExtension(file, label, {offset + 2, *end}, properties);
+    offset = *end;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+bool isGifFile(ByteView head) {
+  return head.startsWith("GIF87a") || head.startsWith("GIF89a");
+}
+
+std::optional<model::Error> readGifFile(SourceReader& file, model::Dictionary& properties) {
+  const auto screen = file.view(0, screenDescriptorEnd);
+  if (!screen) return model::Error{"truncated GIF"};
+  std::uint16_t width = *screen->u16(6, ByteOrder::little);
+  std::uint16_t height = *screen->u16(8, ByteOrder::little);
+  const std::uint64_t firstBlock = screenDescriptorEnd + colorTableSize(*screen->u8(10));
+  const auto image = walkToFirstImage(file, firstBlock, properties);
+  if (width == 0 || height == 0) {  // no screen size: the first image's
+    if (!image) return model::Error{"truncated GIF"};
+    width = *image->u16(5, ByteOrder::little);
+    height = *image->u16(7, ByteOrder::little);
+  }
+  properties.insert_or_assign("PixelWidth", width);
+  properties.insert_or_assign("PixelHeight", height);
+  properties.insert_or_assign("ColorModel", "RGB");
+  properties.insert_or_assign("Depth", 8);
+  return std::nullopt;
+}
+
+}  // namespace desktop::imageio

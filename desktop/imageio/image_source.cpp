@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/imageio/image_source.h"
+
+#include <string_view>
+
+#include "desktop/imageio/bmp_container.h"
+#include "desktop/imageio/gif_container.h"
+#include "desktop/imageio/heif_container.h"
+#include "desktop/imageio/jpeg_container.h"
+#include "desktop/imageio/png_container.h"
+#include "desktop/imageio/tiff_container.h"
+#include "desktop/imageio/webp_container.h"
+
+namespace desktop::imageio {
+
+namespace {
+
+struct Container {
+  bool (*isOne)(ByteView head);
+  std::optional<model::Error> (*read)(SourceReader& file, model::Dictionary& properties);
+};
+
+// The first whose test says yes reads the file.
+constexpr Container containers[] = {
+    {isJpegFile, readJpegFile}, {isHeifFile, readHeifFile}, {isPngFile, readPngFile},
+    {isTiffFile, readTiffFile}, {isGifFile, readGifFile},   {isWebpFile, readWebpFile},
+    {isBmpFile, readBmpFile},
+};
+
+const Container* containerOf(ByteView head) {
+  for (const Container& container : containers) {
+    if (container.isOne(head)) return &container;
+  }
+  return nullptr;
+}
+
+constexpr std::uint64_t headSize = 512;  // bytes by which containers are told apart
+
+}  // namespace
+
+model::Result<std::optional<model::Dictionary>> copyProperties(ByteSource& source) {
+  if (source.size() == 0) return model::Error{"empty file"};
+  SourceReader file(source);
+  const Container* container = containerOf(file.upTo(0, headSize));
+  std::optional<model::Dictionary> properties;
+  std::optional<model::Error> error;
+  if (container) error = container->read(file, properties.emplace());
+  // A read that failed explains best why a file looks damaged.
+  if (file.failure()) return *file.failure();
+  if (error) return *error;
+  return properties;
+}
+
+}  // namespace desktop::imageio
