@@ -2,6 +2,7 @@
 #include "desktop/imageio/image_source.h"
 
 #include <string_view>
+#include <utility>
 
 #include "desktop/imageio/bmp_container.h"
 #include "desktop/imageio/gif_container.h"
@@ -9,6 +10,7 @@
 #include "desktop/imageio/jpeg_container.h"
 #include "desktop/imageio/png_container.h"
 #include "desktop/imageio/tiff_container.h"
+#include "desktop/imageio/time_offsets.h"
 #include "desktop/imageio/webp_container.h"
 
 namespace desktop::imageio {
@@ -36,9 +38,8 @@ const Container* containerOf(ByteView head) {
 
 constexpr std::uint64_t headSize = 512;  // bytes by which containers are told apart
 
-}  // namespace
-
-model::Result<std::optional<model::Dictionary>> copyProperties(ByteSource& source) {
+// The properties with the time offsets still in them.
+model::Result<std::optional<model::Dictionary>> readProperties(ByteSource& source) {
   if (source.size() == 0) return model::Error{"empty file"};
   SourceReader file(source);
   const Container* container = containerOf(file.upTo(0, headSize));
@@ -49,6 +50,23 @@ model::Result<std::optional<model::Dictionary>> copyProperties(ByteSource& sourc
   if (file.failure()) return *file.failure();
   if (error) return *error;
   return properties;
+}
+
+}  // namespace
+
+model::Result<std::optional<ImageFacts>> readImageFacts(ByteSource& source) {
+  auto properties = readProperties(source);
+  if (!properties) return properties.error();
+  if (!*properties) return std::optional<ImageFacts>();
+  auto offset = takeTimeOffsets(**properties);
+  return std::optional(ImageFacts{std::move(**properties), std::move(offset)});
+}
+
+model::Result<std::optional<model::Dictionary>> copyProperties(ByteSource& source) {
+  auto facts = readImageFacts(source);
+  if (!facts) return facts.error();
+  if (!*facts) return std::optional<model::Dictionary>();
+  return std::optional(std::move((*facts)->properties));
 }
 
 }  // namespace desktop::imageio

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "desktop/imageio/image_source.h"
+#include "tests/desktop/imageio/tiff_builder.h"
+
 namespace desktop::imageio {
 namespace {
 
@@ -30,6 +33,20 @@ TEST(TimeOffsets, otherPropertiesStayAsTheyAre) {
     EXPECT_EQ(takeTimeOffsets(properties), std::nullopt);
     EXPECT_EQ(properties, before);
   }
+}
+
+TEST(TimeOffsets, stayBesideTheDictionaryOfAnImage) {
+  const Bytes bytes = buildTiff(
+      ByteOrder::big, {{longs(0x0100, {8}), longs(0x0101, {8}), pointerTo(0x8769, 1)},
+                       {ascii(0x9010, "+01:00"), ascii(0x9011, "-03:30"), shorts(0x9209, {1})}});
+  MemorySource source(bytes);
+  const auto facts = readImageFacts(source);
+  ASSERT_TRUE(facts && *facts);
+  EXPECT_EQ((*facts)->offsetTimeOriginal, "-03:30");
+  EXPECT_EQ((*facts)->properties.at("{Exif}"), model::Value(Dictionary{{"Flash", 1}}));
+  const auto properties = copyProperties(source);
+  ASSERT_TRUE(properties && *properties);
+  EXPECT_EQ(**properties, (*facts)->properties);
 }
 
 }  // namespace
