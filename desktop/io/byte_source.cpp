@@ -85,7 +85,7 @@ model::Result<std::size_t> MemorySource::doReadAt(std::uint64_t offset,
 
 model::Result<std::size_t> FailingSource::doReadAt(std::uint64_t offset,
                                                    std::span<std::uint8_t> into) {
-  const bool reaches = offset + into.size() > _failingOffset;
+  const bool reaches = offset >= _failingOffset || into.size() > _failingOffset - offset;
   if (reaches && _failure == Failure::error) return systemError(EIO);
   const std::uint64_t end = _failure == Failure::shortRead
                                 ? std::min<std::uint64_t>(_failingOffset, _bytes.size())

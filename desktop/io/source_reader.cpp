@@ -28,6 +28,7 @@ void SourceReader::read(Window& window, std::size_t known) {
 }
 
 void SourceReader::fillHead() {
+  _headIsRead = true;
   _head.bytes.resize(static_cast<std::size_t>(std::min<std::uint64_t>(headSize, size())));
   read(_head, 0);
 }
@@ -45,7 +46,7 @@ std::optional<ByteView> SourceReader::view(std::uint64_t offset, std::uint64_t l
                                            ReadAhead ahead) {
   if (offset > size() || length > size() - offset || length > largestView) return std::nullopt;
   if (length == 0) return ByteView();
-  if (offset < headSize && _head.bytes.empty() && !_failure) fillHead();
+  if (offset < headSize && !_headIsRead) fillHead();
   if (offset < headSize && length <= headSize - offset) return _head.sub(offset, length);
   if (const auto known = _window.sub(offset, length)) return known;
   const std::size_t least = ahead == ReadAhead::window ? windowSize : 0;

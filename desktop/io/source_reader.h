@@ -60,6 +60,7 @@ class SourceReader {
 
   ByteSource& _source;
   Window _head;
+  bool _headIsRead = false;  // or could not be; it is not tried again
   Window _window;
   std::optional<model::Error> _failure;
 };
