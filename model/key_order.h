@@ -18,8 +18,9 @@ using KeyComparison = std::function<int(std::string_view, std::string_view)>;
 
 // The root collation for ASCII: blank _ - , ; : ! ? . ' " ( ) [ ] { } @ * / \ & # % ` ^ + < = > |
 // ~ $, digits, letters ignoring case; a prefix comes first. Tab and line breaks stand before the
-// blank, and all other control characters are ignored, as the collation does. Other characters stand behind ASCII by their code points; a locale's own order
-// for them comes from whoever has its data.
+// blank, and all other control characters are ignored, as the collation does. Other characters
+// stand behind ASCII by their code points; a locale's own order for them comes from whoever has
+// its data.
 int compareKeys(std::string_view left, std::string_view right);
 
 // The keys of a dictionary in the order of the comparison; keys that compare equal stand in
