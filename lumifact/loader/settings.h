@@ -57,7 +57,7 @@ struct SettingRow {
 std::span<const SettingRow> settingRows();
 
 // The settings that a file holds, or those of a missing or unreadable file for null. Nothing is
-// range-checked. A value of a kind that has no conversion (array, dictionary, data, date) counts
+// range-checked. A value of a kind without a conversion (array, dictionary, data, date, null) counts
 // as an absent key.
 Settings settingsFromFile(const model::Dictionary* file);
 
