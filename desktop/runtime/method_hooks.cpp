@@ -7,8 +7,6 @@
 
 #include <mutex>
 
-#include "bridge/runtime/objc.h"
-
 namespace desktop::runtime {
 namespace {
 
@@ -22,7 +20,9 @@ Record& record() {
   return kept;
 }
 
-HookOutcome hook(Class aClass, SEL selector, IMP replacement, IMP* saved) {
+}  // namespace
+
+HookOutcome replaceMethod(Class aClass, SEL selector, IMP replacement, IMP* saved) {
   if (!aClass) return HookOutcome::missingClass;
   const Method method = class_getInstanceMethod(aClass, selector);
   if (!method) return HookOutcome::missingMethod;
@@ -33,8 +33,6 @@ HookOutcome hook(Class aClass, SEL selector, IMP replacement, IMP* saved) {
   return HookOutcome::replacedOwn;
 }
 
-}  // namespace
-
 std::vector<MethodHook> methodHooks() {
   const std::scoped_lock lock(record().mutex);
   return record().hooks;
@@ -44,7 +42,7 @@ std::vector<MethodHook> methodHooks() {
 
 void MSHookMessageEx(Class aClass, SEL selector, IMP replacement, IMP* saved) {
   using namespace desktop::runtime;
-  const HookOutcome outcome = hook(aClass, selector, replacement, saved);
+  const HookOutcome outcome = replaceMethod(aClass, selector, replacement, saved);
   const std::scoped_lock lock(record().mutex);
   record().hooks.push_back({aClass ? class_getName(aClass) : "", sel_getName(selector), outcome});
 }

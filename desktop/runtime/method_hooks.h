@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "bridge/runtime/objc.h"
+
 namespace desktop::runtime {
 
 enum class HookOutcome {
@@ -21,6 +23,10 @@ struct MethodHook {
   HookOutcome outcome;
   bool operator==(const MethodHook&) const = default;
 };
+
+// Makes the replacement the class's own implementation of the selector and stores the one in effect
+// until then in *saved, as MSHookMessageEx does, without a record: for the platform's own use.
+HookOutcome replaceMethod(Class aClass, SEL selector, IMP replacement, IMP* saved);
 
 // Every call of MSHookMessageEx in this process so far, in order. Thread-safe.
 std::vector<MethodHook> methodHooks();
