@@ -15,7 +15,7 @@ namespace bench {
 namespace {
 
 // How a value of ours becomes the one exiftool prints.
-enum class Form { plain, firstElement, apexTime, apexAperture };
+enum class Form { plain, firstElement, apexTime, apexAperture, timeOfDay };
 
 struct Row {
   std::string_view section;
@@ -60,7 +60,7 @@ constexpr std::array rows = {
     Row{"{GPS}", "LongitudeRef", "GPS:GPSLongitudeRef"},
     Row{"{GPS}", "Altitude", "GPS:GPSAltitude"},
     Row{"{GPS}", "AltitudeRef", "GPS:GPSAltitudeRef"},
-    Row{"{GPS}", "TimeStamp", "GPS:GPSTimeStamp"},
+    Row{"{GPS}", "TimeStamp", "GPS:GPSTimeStamp", Form::timeOfDay},
     Row{"{GPS}", "DateStamp", "GPS:GPSDateStamp"},
     Row{"{GPS}", "ImgDirection", "GPS:GPSImgDirection"},
     Row{"{GPS}", "Speed", "GPS:GPSSpeed"},
@@ -78,11 +78,19 @@ bool isNumber(const std::string& text) {
   return !text.empty() && text.find_first_not_of("+-.0123456789eE") == std::string::npos;
 }
 
+// Hundredths of a second stand with both digits here, with as few as needed there.
+std::string withoutTrailingZeros(std::string time) {
+  if (time.find('.') == std::string::npos) return time;
+  time.erase(time.find_last_not_of('0') + 1);
+  return time;
+}
+
 std::string oursAsTheirs(const model::Value& value, Form form) {
   if (form == Form::apexTime || form == Form::apexAperture) {
     const double apex = model::parseRealPrefix(model::valueText(value));
     return model::realText(form == Form::apexTime ? std::exp2(-apex) : std::exp2(apex / 2));
   }
+  if (form == Form::timeOfDay) return withoutTrailingZeros(model::valueText(value));
   const auto* array = value.asArray();
   if (form == Form::firstElement && array != nullptr && !array->empty()) {
     return model::valueText(array->front());
