@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+//
+// The bridge in its real place: in a library that a host maps, whose classes it hooks.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "bridge/block.h"
+#include "desktop/loader/extension_loader.h"
+#include "desktop/runtime/darwin_notifications.h"
+#include "desktop/runtime/debug_log.h"
+#include "desktop/runtime/notification_core.h"
+#include "tests/bridge/victims.h"
+
+namespace bridge {
+namespace {
+
+using DoneBlock = Block<void(int)>;
+
+constexpr char filter[] =
+    "<plist version=\"1.0\"><dict><key>Filter</key><dict><key>Bundles</key><array>"
+    "<string>com.example.host</string></array></dict></dict></plist>";
+
+class ExtensionTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    victims::ClassMaker("HostThing")
+        .method(
+            "value", +[](id, SEL) { return 100; })
+        .method(
+            "run:", +[](id, SEL, const BlockHeader* done) { DoneBlock::retain(done)(7); })
+        .build();
+    std::string pattern = testing::TempDir() + "hookingXXXXXX";
+    root() = mkdtemp(pattern.data());
+    std::filesystem::copy_file(HOOKING_EXTENSION, root() + "/Hooking.so");
+    std::ofstream(root() + "/Hooking.plist") << filter;
+    desktop::runtime::openDarwinNotifications(desktop::runtime::notificationFolder(root()));
+    const auto loaded = desktop::loader::loadExtensions(
+        root(), "com.example.host",
+        [](const std::string& path, const std::string& reason) { FAIL() << path << reason; });
+    ASSERT_THAT(loaded, testing::SizeIs(1));
+  }
+  static void TearDownTestSuite() { std::filesystem::remove_all(root()); }
+
+  static std::string& root() {
+    static auto& kept = *new std::string;
+    return kept;
+  }
+
+  const AutoreleasePool pool;
+  Owned<Object> thing = victims::make(objc_getClass("HostThing"));
+};
+
+TEST_F(ExtensionTest, LivesInTheHostsMethods) {
+  EXPECT_EQ((send<int, "value">(thing)), 142);
+  EXPECT_EQ((send<int, "value">(thing)), 142);
+  EXPECT_EQ((send<int, "extra:">(thing, 4)), 5);
+}
+
+TEST_F(ExtensionTest, HandsBlocksOnAndLogs) {
+  std::vector<std::string> lines;
+  desktop::runtime::setDebugLogSink(
+      [&lines](const desktop::runtime::DebugLogLine& line) { lines.push_back(line.message()); });
+  int seen = 0;
+  send<void, "run:">(thing, DoneBlock([&seen](int number) { seen = number; }));
+  desktop::runtime::setDebugLogSink({});
+  EXPECT_EQ(seen, 7);
+  EXPECT_THAT(lines, testing::ElementsAre("[HookingExtension:1] running"));
+}
+
+TEST_F(ExtensionTest, HearsNotificationsInTheHostsLoop) {
+  const int before = send<int, "notified">(thing);
+  ASSERT_TRUE(desktop::runtime::postNotification(desktop::runtime::notificationFolder(root()),
+                                                 "com.example/changed"));
+  EXPECT_EQ((send<int, "notified">(thing)), before);
+  EXPECT_EQ(desktop::runtime::deliverDarwinNotifications(), 1);
+  EXPECT_EQ((send<int, "notified">(thing)), before + 1);
+}
+
+}  // namespace
+}  // namespace bridge
