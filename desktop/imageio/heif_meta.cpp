@@ -60,6 +60,9 @@ void appendReferences(const IsoBox& box, ByteView bytes, bool isWide,
   }
 }
 
+// There is one for each combination of version and flags.
+constexpr std::size_t mostAssociationBoxes = 4;
+
 // Walks the property association box and gives the numbers of one item's properties.
 // ISO/IEC 23008-12, 9.3.
 std::vector<std::size_t> propertyNumbers(ByteView bytes, std::uint32_t item) {
@@ -144,7 +147,8 @@ void HeifMeta::readReferences(const IsoBox& box) {
 void HeifMeta::readProperties(const IsoBox& box) {
   IsoBoxWalk walk(*_file, box.payload);
   while (const auto child = walk.next()) {
-    if (child->is("ipma")) _associations = *child;
+    const bool isWanted = child->is("ipma") && _associations.size() < mostAssociationBoxes;
+    if (isWanted) _associations.push_back(*child);
     if (!child->is("ipco")) continue;
     IsoBoxWalk properties(*_file, child->payload);
     while (const auto property = properties.next()) {
@@ -168,12 +172,13 @@ std::optional<std::uint32_t> HeifMeta::firstReference(model::FourCharCode type,
 }
 
 std::vector<IsoBox> HeifMeta::propertiesOf(std::uint32_t id) {
-  if (!_associations) return {};
-  const auto bytes = boxBytes(*_file, *_associations, limits.heifTableBytes);
-  if (!bytes) return {};
   std::vector<IsoBox> found;
-  for (const std::size_t number : propertyNumbers(*bytes, id)) {
-    if (number > 0 && number <= _properties.size()) found.push_back(_properties[number - 1]);
+  for (const IsoBox& box : _associations) {
+    const auto bytes = boxBytes(*_file, box, limits.heifTableBytes);
+    if (!bytes) continue;
+    for (const std::size_t number : propertyNumbers(*bytes, id)) {
+      if (number > 0 && number <= _properties.size()) found.push_back(_properties[number - 1]);
+    }
   }
   return found;
 }

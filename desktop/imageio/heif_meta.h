@@ -64,7 +64,7 @@ class HeifMeta {
   std::vector<HeifItem> _items;
   std::vector<HeifReference> _references;
   std::vector<IsoBox> _properties;  // by their number, from 1
-  std::optional<IsoBox> _associations;
+  std::vector<IsoBox> _associations;
   std::optional<IsoBox> _locations;
   std::optional<IsoBox> _itemData;
 };

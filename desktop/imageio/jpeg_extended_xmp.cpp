@@ -18,14 +18,13 @@ constexpr std::size_t digestSize = 32;
 constexpr std::size_t headerSize = signature.size() + digestSize + 8;
 
 // The digest that the main packet names, as an attribute or as an element.
-std::string digestNamedBy(std::string_view packet) {
+std::string_view digestNamedBy(std::string_view packet) {
   constexpr std::string_view property = "HasExtendedXMP";
   const std::size_t found = packet.find(property);
   if (found == std::string_view::npos) return {};
-  const std::string_view rest = packet.substr(found + property.size());
-  const std::size_t start = rest.find_first_of("0123456789ABCDEFabcdef");
-  if (start == std::string_view::npos || rest.size() - start < digestSize) return {};
-  return std::string(rest.substr(start, digestSize));
+  packet.remove_prefix(found + property.size());
+  const std::size_t beforeValue = packet.find_first_of("\"'>");
+  return beforeValue == std::string_view::npos ? "" : packet.substr(beforeValue + 1, digestSize);
 }
 
 }  // namespace
@@ -46,7 +45,7 @@ void ExtendedXmp::read(SourceReader& file, SplicedRanges& mainPacket,
                        model::Dictionary& properties) {
   if (_pieces.empty()) return;
   const auto main = mainPacket.all(file);
-  const std::string digest = main ? digestNamedBy(main->text()) : std::string();
+  const std::string digest(main ? digestNamedBy(main->text()) : "");
   std::erase_if(_pieces, [&](const Piece& piece) { return piece.digest != digest; });
   std::ranges::sort(_pieces, {}, &Piece::offset);
   SplicedRanges packet;

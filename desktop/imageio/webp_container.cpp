@@ -62,7 +62,7 @@ class WebpReader {
       : _file(file), _properties(properties) {}
 
   std::optional<model::Error> read() {
-    const bool isWhole = walk();
+    const bool isWhole = walk() && claimedSize() <= _file.size();
     if (!_properties.contains("PixelWidth")) {
       return model::Error{isWhole ? "damaged WebP" : "truncated WebP"};
     }
@@ -72,6 +72,10 @@ class WebpReader {
   }
 
  private:
+  std::uint64_t claimedSize() {
+    return 8 + std::uint64_t{_file.upTo(4, 4).u32(0, ByteOrder::little).value_or(0)};
+  }
+
   // Whether the last chunk lies in the file whole.
   bool walk() {
     std::uint64_t offset = riffHeaderSize;
