@@ -8,9 +8,10 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <memory>
 #include <string_view>
 #include <utility>
+
+#include "desktop/foundation/icu_locale.h"
 
 namespace desktop::foundation {
 
@@ -50,12 +51,17 @@ LocalizedNumberFormatter makeFormatter(ByteUnit unit, const icu::Locale& locale)
       .unitWidth(unit == ByteUnit::byte ? UNUM_UNIT_WIDTH_FULL_NAME : UNUM_UNIT_WIDTH_SHORT);
 }
 
-// A formatter is costly to make, and is used from one thread at a time.
-const LocalizedNumberFormatter& formatterOf(ByteUnit unit, const Locale& locale) {
-  thread_local std::map<std::pair<std::string, ByteUnit>, LocalizedNumberFormatter> formatters;
+// A formatter is costly to make, and is used from one thread at a time. Null where ICU has no
+// data.
+const LocalizedNumberFormatter* formatterOf(ByteUnit unit, const Locale& locale) {
+  thread_local std::map<std::pair<std::string, ByteUnit>, std::optional<LocalizedNumberFormatter>>
+      formatters;
   const auto [entry, isNew] = formatters.try_emplace({locale.name(), unit});
-  if (isNew) entry->second = makeFormatter(unit, icu::Locale(locale.name().c_str()));
-  return entry->second;
+  if (isNew) {
+    const auto icuLocale = icuLocaleOf(locale);
+    if (icuLocale) entry->second = makeFormatter(unit, *icuLocale);
+  }
+  return entry->second ? &*entry->second : nullptr;
 }
 
 UnicodeString spelledZero(const icu::Locale& locale) {
@@ -90,9 +96,10 @@ void restorePlatformSpelling(UnicodeString& text) {
 std::optional<std::string> localisedByteCount(const std::string& decimal, ByteUnit unit,
                                               const Locale& locale) {
   const bool isZero = decimal == "0";
+  const auto* formatter = formatterOf(isZero ? ByteUnit::kilobyte : unit, locale);
+  if (formatter == nullptr) return std::nullopt;
   UErrorCode status = U_ZERO_ERROR;
-  const FormattedNumber number =
-      formatterOf(isZero ? ByteUnit::kilobyte : unit, locale).formatDecimal(decimal, status);
+  const FormattedNumber number = formatter->formatDecimal(decimal, status);
   UnicodeString text = number.toString(status);
   if (U_FAILURE(status)) return std::nullopt;
   const icu::Locale icuLocale(locale.name().c_str());

@@ -7,6 +7,9 @@
 #include <map>
 #include <memory>
 #include <utility>
+#include <vector>
+
+#include "desktop/foundation/icu_locale.h"
 
 namespace desktop::foundation {
 
@@ -80,11 +83,15 @@ Format makeFormat(DateStyle style, const icu::Locale& locale) {
   return format;
 }
 
-// A format takes a millisecond to make, and is used from one thread at a time.
+// A format takes a millisecond to make, and is used from one thread at a time. Null where ICU has
+// no data.
 const SimpleDateFormat* formatOf(DateStyle style, const Locale& locale) {
   thread_local std::map<std::pair<std::string, DateStyle>, Format> formats;
   const auto [entry, isNew] = formats.try_emplace({locale.name(), style});
-  if (isNew) entry->second = makeFormat(style, icu::Locale(locale.name().c_str()));
+  if (isNew) {
+    const auto icuLocale = icuLocaleOf(locale);
+    if (icuLocale) entry->second = makeFormat(style, *icuLocale);
+  }
   return entry->second.get();
 }
 

@@ -78,10 +78,10 @@ TEST(DateTextTest, neverHoldsANarrowBlank) {
   }
 }
 
-TEST(DateTextTest, anUnknownLanguageStillGivesADate) {
+TEST(DateTextTest, anUnknownLanguageReadsAsAmericanEnglish) {
   const ScopedVariable zone("TZ", "UTC");
-  EXPECT_NE(dateText(september, DateStyle::mediumDate, Locale("qq_QQ")).find("2018"),
-            std::string::npos);
+  EXPECT_EQ(dateText(september, DateStyle::mediumDate, Locale("qq_QQ")),
+            "Sep 30, 2018 at 12:03:11 PM");
 }
 
 TEST(DateTextTest, mayBeAskedFromSeveralThreads) {
