@@ -57,8 +57,8 @@ struct SettingRow {
 std::span<const SettingRow> settingRows();
 
 // The settings that a file holds, or those of a missing or unreadable file for null. Nothing is
-// range-checked. A value of a kind without a conversion (array, dictionary, data, date, null) counts
-// as an absent key.
+// range-checked. A value of a kind without a conversion (array, dictionary, data, date, null)
+// counts as an absent key.
 Settings settingsFromFile(const model::Dictionary* file);
 
 // The effective value of a key, for showing; null for a key that stores nothing
