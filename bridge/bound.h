@@ -56,7 +56,7 @@ class Bound {
  protected:
   // The superclass's implementation of a message to self.
   template <typename R, FixedString Selector, typename... Arguments>
-  R super(Arguments... arguments) const {
+  R super(const Arguments&... arguments) const {
     return superSend<R, Selector>(_self, binding.superclass, arguments...);
   }
 

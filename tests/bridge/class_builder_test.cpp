@@ -117,8 +117,8 @@ class ClassBuilderTest : public testing::Test {
 TEST_F(ClassBuilderTest, AnswersMessagesFromTheState) {
   const auto counter = makeCounter(4, "four");
   EXPECT_EQ((send<int, "count">(counter)), 4);
-  EXPECT_TRUE((send<bool, "isNamed:">(counter, static_cast<const char*>("four"))));
-  EXPECT_FALSE((send<bool, "isNamed:">(counter, static_cast<const char*>("five"))));
+  EXPECT_TRUE((send<bool, "isNamed:">(counter, "four")));
+  EXPECT_FALSE((send<bool, "isNamed:">(counter, "five")));
   EXPECT_EQ((send<victims::Rect, "grown:by:">(counter, victims::Rect{1, 2, 3, 4}, 1.0)),
             (victims::Rect{1, 2, 4, 5}));
   EXPECT_EQ((send<int, "made:">(Counter::classObject(), 4)), 5);

@@ -26,8 +26,9 @@ TEST(Fields, ReadsObjectsAndSelectorsByName) {
 }
 
 TEST(Fields, ReadsFieldsOfSuperclasses) {
-  static const Class below = victims::ClassMaker("TargetRecordBelow", "TargetRecord").build();
-  const auto record = victims::make(recordClass() ? below : nullptr);
+  ASSERT_TRUE(recordClass());
+  const Class below = victims::ClassMaker("TargetRecordBelow", "TargetRecord").build();
+  const auto record = victims::make(below);
   victims::setField(record, "_target", record.get().get());
   EXPECT_EQ(objectField(record, "_target"), record.get());
 }

@@ -52,8 +52,8 @@ Class mortalClass() {
 }
 
 void raise(id, SEL) {
-  const id name = send<id, "stringWithUTF8String:">(
-      classNamed<"NSString">(), static_cast<const char*>("NSInvalidArgumentException"));
+  const id name =
+      send<id, "stringWithUTF8String:">(classNamed<"NSString">(), "NSInvalidArgumentException");
   const id exception = send<id, "exceptionWithName:reason:userInfo:">(
       classNamed<"NSException">(), name, name, static_cast<id>(nullptr));
   send<void, "raise">(exception);

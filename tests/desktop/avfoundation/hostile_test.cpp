@@ -87,10 +87,10 @@ TEST(HostileMovie, RandomDamageIsSurvived) {
 
 TEST(HostileMovie, NestingThousandsDeepIsNotFollowed) {
   for (const std::string_view type : {"moov", "trak", "mdia", "udta", "meta", "ilst", "cmov"}) {
-    Bytes nested;
     Writer front;
     constexpr std::uint32_t depth = 20000;
-    for (std::uint32_t level = 0; level < depth; ++level) front.u32(8 * (depth - level)).text(type);
+    for (std::uint32_t level = depth; level > 0; --level)
+      front.u32(std::uint64_t{8} * level).text(type);
     const Stopwatch stopwatch;
     readBytes(joined({fileType("qt  "), box("moov", front)}));
   }
@@ -142,6 +142,22 @@ TEST(HostileMovie, ThousandsOfTracksAndDescriptionsAreBounded) {
   EXPECT_GT(descriptions, 0U);
 }
 
+TEST(HostileMovie, LargePicturesInEveryTrackAreBounded) {
+  const Bytes list =
+      box("ilst", {box(std::string_view("\0\0\0\1", 4), dataBox(13, Bytes(3 << 20, 0xFF)))});
+  const Bytes keys =
+      fullBox("keys", 0, Writer().u32(1).u32(35).text("mdtacom.apple.quicktime.artwork"));
+  const Bytes metadata =
+      box("meta", {fullBox("hdlr", 0, Writer().u32(0).text("mdta").zeros(9)), keys, list});
+  const Bytes trak = track({.header = trackHeader(1, 1, {1, 0, 0, 1, 0, 0}, 1, 1),
+                            .handlerType = "text",
+                            .more = metadata});
+  const Bytes movie = joined({fileType("qt  "), box("moov", {trak, trak, trak, trak})});
+  std::size_t pictures = 0;
+  for (const auto& read : readBytes(movie).asset.tracks) pictures += read.commonMetadata.size();
+  EXPECT_EQ(pictures, 2U);
+}
+
 TEST(HostileMovie, MillionsOfFragmentsAreBounded) {
   const Stopwatch stopwatch;
   const Bytes header = box("moov", {movieHeader(600, 0), box("mvex", Bytes())});
@@ -154,8 +170,9 @@ TEST(HostileMovie, GigabytesAreOnlyClaimed) {
   const Stopwatch stopwatch;
   const Bytes huge = fullBox("stsz", 0, Writer().u32(0).u32(0xFFFFFFFF).u32(1));
   const Bytes keys = fullBox("keys", 0, Writer().u32(0xFFFFFFFF).u32(0xFFFFFFFF).text("mdta"));
-  const Bytes metadata = box("meta", {fullBox("hdlr", 0, Writer().u32(0).text("mdta").zeros(9)),
-                                      keys, box("ilst", {box("\0\0\0\1", dataBox(1, {'x'}))})});
+  const Bytes metadata =
+      box("meta", {fullBox("hdlr", 0, Writer().u32(0).text("mdta").zeros(9)), keys,
+                   box("ilst", {box(std::string_view("\0\0\0\1", 4), dataBox(1, {'x'}))})});
   const Reading reading =
       readBytes(oneTrackMovie({.entry = videoEntry({}),
                                .times = fullBox("stts", 0, Writer().u32(0xFFFFFFFF)),

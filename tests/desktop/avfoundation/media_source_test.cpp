@@ -138,7 +138,7 @@ asset creationDate = (none)
 TEST(MediaSource, GivesNoAssetForADamagedOtherContainer) {
   const Bytes whole = smallAvi();
   for (const std::size_t length : {12U, 60U, 200U, 300U}) {
-    MemorySource source(Bytes(whole.begin(), whole.begin() + length));
+    MemorySource source(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)));
     const auto asset = copyAssetOfFile("cut.avi", source);
     ASSERT_TRUE(asset) << length;
     EXPECT_TRUE(!*asset || !(*asset)->tracks.empty()) << length;

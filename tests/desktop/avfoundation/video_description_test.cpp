@@ -154,7 +154,7 @@ TEST(VideoDescription, NamesColours) {
 }
 
 TEST(VideoDescription, TellsTheRangeOnlyWhereItIsStated) {
-  const auto colour = [](std::string_view kind, Bytes flags) {
+  const auto colour = [](std::string_view kind, const Bytes& flags) {
     return box("colr", {Writer().text(kind).u16(1).u16(1).u16(1), flags});
   };
   EXPECT_EQ(extension(colour("nclx", {0x80}), "FullRangeVideo"), Value(true));
@@ -166,7 +166,7 @@ TEST(VideoDescription, TellsTheRangeOnlyWhereItIsStated) {
 
 TEST(VideoDescription, SkipsAColourTable) {
   Writer table;
-  table.u32(0).u16(0x8000).u16(3).zeros(4 * 8);
+  table.u32(0).u16(0x8000).u16(3).zeros(32);
   Bytes entry = videoEntry(
       {.code = "rle ", .depth = 8, .boxes = joined({table, box("pasp", Writer().u32(2).u32(1))})});
   entry[84] = entry[85] = 0;  // the table stands in the entry

@@ -36,10 +36,10 @@ Bytes unit(const Bytes& header, const Bytes& raw) {
 }
 
 struct AvcOptions {
-  std::uint8_t profile = 100;
   int chromaFormat = 1;
-  bool hasScalingLists = false;
   int orderType = 0;
+  std::uint8_t profile = 100;
+  bool hasScalingLists = false;
   bool hasCropping = true;
 };
 
@@ -84,9 +84,9 @@ TEST(VideoUsability, IsFoundBehindEveryShapeOfAnAvcParameterSet) {
   const AvcOptions cases[] = {
       {},
       {.profile = 66},
-      {.profile = 77, .orderType = 2, .hasCropping = false},
+      {.orderType = 2, .profile = 77, .hasCropping = false},
       {.orderType = 1},
-      {.profile = 244, .chromaFormat = 3, .hasScalingLists = true},
+      {.chromaFormat = 3, .profile = 244, .hasScalingLists = true},
       {.hasScalingLists = true},
   };
   for (std::size_t index = 0; index < std::size(cases); ++index) {

@@ -49,7 +49,7 @@ TEST(AssociatedObjects, GoWithOwnersOfAnyClass) {
 
 TEST(AssociatedObjects, GoWithClassesMadeAtRunTime) {
   static const Class made = victims::ClassMaker("OwnerMadeAtRunTime", "NSMutableArray").build();
-  ASSERT_TRUE(made);
+  ASSERT_TRUE(made && victims::mortalClass());
   const Class below = victims::ClassMaker("OwnerBelowMortal", "Mortal").build();
   deaths = 0;
   {
