@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+//
+// What UIKit adds to Foundation's strings.
+#pragma once
+
+namespace desktop::uikit {
+
+// Gives strings sizeWithAttributes:, and NSFontAttributeName its value. Without a font among the
+// attributes a text is measured in the system font of 12 points.
+void addStringDrawing();
+
+}  // namespace desktop::uikit

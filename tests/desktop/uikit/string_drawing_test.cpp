@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/string_drawing.h"
+
+#include <gtest/gtest.h>
+
+#include "bridge/uikit/ui_font.h"
+#include "desktop/uikit/font_metrics.h"
+#include "desktop/uikit/uikit.h"
+
+namespace desktop::uikit {
+namespace {
+
+using bridge::NSString;
+
+class StringDrawingTest : public testing::Test {
+ protected:
+  StringDrawingTest() { registerUIKit(); }
+
+  static CGSize sizeOf(const char* text, bridge::Object font) {
+    const auto attributes = bridge::makeNew<bridge::NSMutableDictionary>();
+    attributes->set(font, NSString(NSFontAttributeName));
+    return bridge::sizeWithAttributes(NSString::make(text), attributes.get());
+  }
+
+  const bridge::AutoreleasePool pool;
+};
+
+TEST_F(StringDrawingTest, ALineIsAsHighAsItsFont) {
+  const auto font = bridge::UIFont::systemFont(12);
+  const CGSize size = sizeOf("0000x0000, mgj", font);
+  EXPECT_DOUBLE_EQ(size.height, font.lineHeight());
+  EXPECT_NEAR(size.height, 14.52, 0.01);
+  EXPECT_NEAR(size.width, 93.8, 0.01);
+}
+
+TEST_F(StringDrawingTest, EveryKindOfStringCanBeMeasured) {
+  const auto font = bridge::UIFont::systemFont(12);
+  EXPECT_GT(sizeOf("\xE5\x86\x99\xE7\x9C\x9F", font).width, 0);
+  EXPECT_EQ(sizeOf("", font).width, 0);
+}
+
+TEST_F(StringDrawingTest, WithoutAFontTextIsTwelvePointsHigh) {
+  const CGSize expected = sizeOf("text", bridge::UIFont::systemFont(12));
+  EXPECT_EQ(bridge::sizeWithAttributes(NSString::make("text"), {}), expected);
+  EXPECT_EQ(sizeOf("text", NSString::make("no font")), expected);
+}
+
+}  // namespace
+}  // namespace desktop::uikit
