@@ -51,7 +51,7 @@ void indirectCall(benchmark::State& state) {
   auto function = reinterpret_cast<Function>(method_getImplementation(
       class_getInstanceMethod(Counter::classObject(), selector<"add:">())));
   const SEL command = selector<"add:">();
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     benchmark::DoNotOptimize(function);
     benchmark::DoNotOptimize(function(counter->get(), command, 1));
   }
@@ -60,13 +60,13 @@ BENCHMARK(indirectCall);
 
 void message(benchmark::State& state) {
   const auto counter = makeCounter();
-  for (auto _ : state) benchmark::DoNotOptimize(send<int, "add:">(counter, 1));
+  while (state.KeepRunning()) benchmark::DoNotOptimize(send<int, "add:">(counter, 1));
 }
 BENCHMARK(message);
 
 void messageToNil(benchmark::State& state) {
   NSObject nothing;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     benchmark::DoNotOptimize(nothing);
     benchmark::DoNotOptimize(send<int, "add:">(nothing, 1));
   }
@@ -77,18 +77,18 @@ void hookedMessage(benchmark::State& state) {
   const auto counter = makeCounter();
   static const bool applied = (applyHooks(table), true);
   benchmark::DoNotOptimize(applied);
-  for (auto _ : state) benchmark::DoNotOptimize(send<int, "addHooked:">(counter, 1));
+  while (state.KeepRunning()) benchmark::DoNotOptimize(send<int, "addHooked:">(counter, 1));
 }
 BENCHMARK(hookedMessage);
 
 void objectLife(benchmark::State& state) {
-  for (auto _ : state) benchmark::DoNotOptimize(makeCounter().get());
+  while (state.KeepRunning()) benchmark::DoNotOptimize(makeCounter().get());
 }
 BENCHMARK(objectLife);
 
 void blockLife(benchmark::State& state) {
   int calls = 0;
-  for (auto _ : state) Block<void()>([&calls] { ++calls; })();
+  while (state.KeepRunning()) Block<void()>([&calls] { ++calls; })();
   benchmark::DoNotOptimize(calls);
 }
 BENCHMARK(blockLife);
