@@ -56,12 +56,20 @@ std::uint64_t longestValue(std::string_view commonKey) {
   return commonKey == "artwork" ? limits.artworkBytes : limits.textBytes;
 }
 
+// The bytes of a value, where neither it nor all values together are too large.
+std::optional<ByteView> valueBytes(MovieWalk& walk, const IsoBox& box, std::uint64_t longest) {
+  const std::uint64_t size = box.payload.size();
+  if (size > longest || size > walk.budget.metadataBytes) return std::nullopt;
+  walk.budget.metadataBytes -= size;
+  return boxBytes(walk.reader, box, longest);
+}
+
 // The value of an item of an "ilst": its first "data" box.
 std::optional<Value> readItem(MovieWalk& walk, const IsoBox& item, std::string_view commonKey) {
   std::optional<Value> value;
   forEachBox(walk, item.payload, [&](const IsoBox& box) {
     if (value || !box.is("data")) return;
-    if (const auto bytes = boxBytes(walk.reader, box, longestValue(commonKey)))
+    if (const auto bytes = valueBytes(walk, box, longestValue(commonKey)))
       value = typedValue(*bytes);
   });
   return value;
@@ -126,7 +134,7 @@ void readMetaBox(MovieWalk& walk, const IsoBox& meta, Items& items) {
 }
 
 std::optional<Value> readUserDatum(MovieWalk& walk, KeySpace space, const IsoBox& box) {
-  const auto bytes = boxBytes(walk.reader, box, limits.textBytes);
+  const auto bytes = valueBytes(walk, box, limits.textBytes);
   if (!bytes) return std::nullopt;
   return space == KeySpace::threeGpp ? threeGppValue(bytesOf(box.type), *bytes)
                                      : internationalText(*bytes);

@@ -22,24 +22,26 @@ struct Limits {
   std::uint64_t keyTableBytes;       // of a key table
   std::uint64_t textBytes;           // a metadata value
   std::uint64_t artworkBytes;        // a metadata value that is a picture
+  std::uint64_t metadataBytes;       // all metadata values together
   std::uint64_t parameterSetBytes;   // an H.264 or HEVC sequence parameter set
 };
 
 inline constexpr Limits limits = {
     .topLevelBoxes = 65536,
-    .fragments = 16384,
-    .boxes = 32768,
-    .fragmentBoxes = 262144,
+    .fragments = 8192,
+    .boxes = 16384,
+    .fragmentBoxes = 131072,
     .tracks = 256,
     .descriptionsPerTrack = 16,
     .descriptionBytes = 512 << 10,
-    .tableBytes = 64 << 20,
+    .tableBytes = 16 << 20,
     .editsPerTrack = 4096,
     .inflatedMovieBytes = 16 << 20,
     .metadataKeys = 1024,
     .keyTableBytes = 256 << 10,
     .textBytes = 64 << 10,
     .artworkBytes = 4 << 20,
+    .metadataBytes = 8 << 20,
     .parameterSetBytes = 4 << 10,
 };
 

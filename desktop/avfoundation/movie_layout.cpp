@@ -49,33 +49,29 @@ class OuterWalk {
   explicit OuterWalk(ByteSource& source) : _source(source) {}
 
   std::optional<OuterBox> next() {
-    const auto size = u32(_offset);
-    const auto type = u32(_offset + 4);
-    if (!size || !type) return std::nullopt;
-    std::uint64_t length = *size;
-    std::uint64_t header = 8;
-    if (length == 0) length = _source.size() - _offset;
-    if (*size == 1) {
-      const auto high = u32(_offset + 8);
-      const auto low = u32(_offset + 12);
-      if (!high || !low) return std::nullopt;
-      length = (std::uint64_t{*high} << 32) | *low;
-      header = 16;
+    const auto header = read<8>(_offset);
+    if (!header) return std::nullopt;
+    const ByteView bytes(*header);
+    std::uint64_t length = bytes.u32(0, ByteOrder::big).value_or(0);
+    std::uint64_t headerSize = 8;
+    if (length == 0) {
+      length = _source.size() - _offset;
+    } else if (length == 1) {
+      const auto wide = read<8>(_offset + 8);
+      if (!wide) return std::nullopt;
+      length = ByteView(*wide).u64(0, ByteOrder::big).value_or(0);
+      headerSize = 16;
     }
-    if (length < header) return std::nullopt;
-    OuterBox box{*type, _offset + header, 0};
+    if (length < headerSize) return std::nullopt;
+    OuterBox box{bytes.u32(4, ByteOrder::big).value_or(0), _offset + headerSize, 0};
     if (__builtin_add_overflow(_offset, length, &box.end)) box.end = UINT64_MAX;
     _offset = box.end;
     return box;
   }
 
   std::optional<std::uint32_t> u32(std::uint64_t offset) {
-    std::array<std::uint8_t, 4> bytes{};
-    if (offset >= _source.size()) return std::nullopt;
-    const auto count = _source.readAt(offset, bytes);
-    if (!count && !_failure) _failure = count.error();
-    if (!count || *count < bytes.size()) return std::nullopt;
-    return ByteView(bytes).u32(0, ByteOrder::big);
+    const auto bytes = read<4>(offset);
+    return bytes ? ByteView(*bytes).u32(0, ByteOrder::big) : std::nullopt;
   }
 
   // Whether the file ends where a box has begun.
@@ -84,6 +80,17 @@ class OuterWalk {
   const std::optional<model::Error>& failure() const { return _failure; }
 
  private:
+  // Exactly so many bytes; none where the source ends earlier.
+  template <std::size_t count>
+  std::optional<std::array<std::uint8_t, count>> read(std::uint64_t offset) {
+    if (offset >= _source.size() || _source.size() - offset < count) return std::nullopt;
+    std::array<std::uint8_t, count> bytes{};
+    const auto done = _source.readAt(offset, bytes);
+    if (done && *done == count) return bytes;
+    if (!_failure) _failure = done ? model::Error{"truncated while it was read"} : done.error();
+    return std::nullopt;
+  }
+
   ByteSource& _source;
   std::uint64_t _offset = 0;
   std::optional<model::Error> _failure;

@@ -16,6 +16,7 @@ struct Budget {
   int boxes = limits.boxes;
   std::uint64_t descriptionBytes = limits.descriptionBytes;
   std::uint64_t tableBytes = limits.tableBytes;
+  std::uint64_t metadataBytes = limits.metadataBytes;
 };
 
 // A part of a movie ("moov" or one "moof") that is being walked. Both are borrowed.

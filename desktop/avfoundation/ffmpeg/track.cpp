@@ -45,7 +45,10 @@ double durationOf(const AVFormatContext& context, const AVStream& stream) {
 
 // Bits a second as the codec or the container states them; 0 where neither does.
 double statedRate(const AVStream& stream) {
-  if (stream.codecpar->bit_rate > 0) return static_cast<double>(stream.codecpar->bit_rate);
+  constexpr std::int64_t variableMpegRate =
+      std::int64_t{0x3FFFF} * 400;  // says that the rate varies
+  const std::int64_t rate = stream.codecpar->bit_rate;
+  if (rate > 0 && rate != variableMpegRate) return static_cast<double>(rate);
   const AVDictionaryEntry* entry = av_dict_get(stream.metadata, "BPS", nullptr, 0);
   return entry == nullptr ? 0 : std::strtod(entry->value, nullptr);
 }
