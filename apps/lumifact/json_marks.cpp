@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-#include "apps/lumifact/base64.h"
+#include "desktop/foundation/base64.h"
 #include "model/civil_time.h"
 #include "model/number_text.h"
 
@@ -56,7 +56,8 @@ model::Result<model::Value> markedValue(std::string_view key, model::Value value
     return value;
   }
   const std::string text = value.asString() == nullptr ? "?" : *value.asString();
-  if (key == "$data") return valueOr(dataFromBase64(text), "\"$data\" holds no base64 text");
+  if (key == "$data")
+    return valueOr(desktop::foundation::dataFromBase64(text), "\"$data\" holds no base64 text");
   if (key == "$date") {
     return valueOr(dateFromIsoText(text), "\"$date\" holds no ISO 8601 date in UTC");
   }

@@ -2,10 +2,10 @@
 #include <array>
 #include <cmath>
 
-#include "apps/lumifact/base64.h"
 #include "apps/lumifact/json.h"
 #include "apps/lumifact/json_marks.h"
 #include "apps/lumifact/terminal_text.h"
+#include "desktop/foundation/base64.h"
 #include "model/number_text.h"
 #include "model/utf8.h"
 
@@ -67,7 +67,7 @@ void appendReal(std::string& text, double real) {
 
 void appendData(std::string& text, const model::Data& data) {
   text += R"({"$data":")";
-  appendBase64(text, data);
+  text += desktop::foundation::base64Text(data);
   text += "\"}";
 }
 

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+//
+// The texts of one asset: what the reports, the quick info and the caption say of it.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "apps/lumifact/environment.h"
+#include "desktop/photos/asset_facts.h"
+#include "lumifact/grid/quick_info_text.h"
+#include "model/value.h"
+
+namespace lumifact::tool {
+
+// The report of a photo or video in all its forms.
+struct AssetReport {
+  std::string header;
+  std::string text;
+  std::optional<model::Dictionary> table;  // none for a video
+  std::optional<std::string> coordinates;
+  std::optional<std::string> mapLink;
+};
+
+// Makes the report; the facts' properties become its table.
+AssetReport reportOf(desktop::photos::AssetFacts facts, const Environment& environment);
+
+// The file's facts as rows above the table.
+model::Dictionary summaryRecordOf(const desktop::photos::AssetFacts& facts,
+                                  const Environment& environment);
+
+std::string quickInfoOf(const desktop::photos::AssetFacts& facts, QuickInfoForm form,
+                        const Environment& environment);
+
+// The caption under a thumbnailInfoDisplay value; empty where that sets none.
+std::string captionOf(const desktop::photos::AssetFacts& facts, std::int32_t display,
+                      const Environment& environment);
+
+}  // namespace lumifact::tool

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/environment.h"
+#include "apps/lumifact/file_scan.h"
+#include "apps/lumifact/json.h"
+#include "apps/lumifact/media_asset_json.h"
+#include "desktop/photos/asset_facts.h"
+
+namespace lumifact::tool {
+
+void runProperties(const Options& options, Console& console) {
+  const Environment environment = environmentOf(options, Reader::program);
+  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+    const auto facts = desktop::photos::readAssetFacts(path, environment.root);
+    if (!facts) return facts.error();
+    std::string json = "{\"path\":";
+    appendJsonString(json, path);
+    json += facts->properties ? ",\"properties\":" : ",\"asset\":";
+    appendJson(json, facts->properties ? *facts->properties
+                                       : treeOfAsset(facts->asset.value_or(model::MediaAsset())));
+    return json += "}\n";
+  };
+  scanFiles(options, console, {.work = work});
+}
+
+}  // namespace lumifact::tool

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "apps/lumifact/asset_texts.h"
+#include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/file_scan.h"
+
+namespace lumifact::tool {
+
+void runQuickInfo(const Options& options, Console& console) {
+  const Environment environment = environmentOf(options, Reader::person);
+  const QuickInfoForm form = options.compact ? QuickInfoForm::compact : QuickInfoForm::labelled;
+  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+    const auto facts = desktop::photos::readAssetFacts(path, environment.root);
+    if (!facts) return facts.error();
+    std::string text = asLines(quickInfoOf(*facts, form, environment));
+    return console.resultsAreOnTerminal() ? terminalSafe(text, Keep::lineBreaks) : text;
+  };
+  scanFiles(options, console, {.work = work, .separator = "\n"});
+}
+
+}  // namespace lumifact::tool

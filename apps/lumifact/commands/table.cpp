@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include <utility>
+
+#include "apps/lumifact/asset_texts.h"
+#include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/file_scan.h"
+#include "apps/lumifact/table_text.h"
+
+namespace lumifact::tool {
+
+void runTable(const Options& options, Console& console) {
+  const Environment environment = environmentOf(options, Reader::person);
+  const bool isForTerminal = console.resultsAreOnTerminal();
+  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+    auto facts = desktop::photos::readAssetFacts(path, environment.root);
+    if (!facts) return facts.error();
+    if (!facts->properties) return model::Error{"a video has no table (report shows its text)"};
+    if (isForTerminal) facts->path = terminalSafe(facts->path, Keep::nothing);
+    const model::Dictionary record = summaryRecordOf(*facts, environment);
+    const AssetReport report = reportOf(*std::move(facts), environment);
+    std::string text = tableText(record, *report.table, environment.keyOrder, environment.dates);
+    return isForTerminal ? terminalSafe(text, Keep::lineBreaks) : text;
+  };
+  scanFiles(options, console, {.work = work});
+}
+
+}  // namespace lumifact::tool

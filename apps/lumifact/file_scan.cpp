@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "apps/lumifact/file_scan.h"
+
+#include <algorithm>
+#include <thread>
+
+#include "apps/lumifact/progress.h"
+
+namespace lumifact::tool {
+
+namespace {
+
+// More threads than this gain nothing while one thread prints, and each has memory of its own.
+constexpr unsigned defaultJobsAtMost = 4;
+
+unsigned threadsOf(const Options& options) {
+  return options.jobs.value_or(
+      std::clamp(std::thread::hardware_concurrency(), 1U, defaultJobsAtMost));
+}
+
+}  // namespace
+
+FileListRequest filesOf(const Options& options) {
+  return {.paths = options.files,
+          .listFile = options.filesFrom,
+          .listSeparator = options.listsEndInZero ? '\0' : '\n',
+          .isRecursive = options.isRecursive};
+}
+
+std::string asLines(std::string text) {
+  if (!text.ends_with('\n')) text += '\n';
+  return text;
+}
+
+void scanFiles(const Options& options, Console& console, const FileScan& scan) {
+  FileList files(filesOf(options));
+  Progress progress(console);
+  std::size_t done = 0;
+  bool isFirst = true;
+  const auto emit = [&](const FileOutcome& outcome) {
+    if (outcome.result) {
+      if (!isFirst) console.write(scan.separator);
+      isFirst = false;
+      console.write(*outcome.result);
+    } else {
+      console.fail(outcome.path, outcome.result.error().reason);
+    }
+    progress.update(++done, files.remaining());
+    return console.isOpen();
+  };
+  runFiles({.next = [&] { return files.next(); },
+            .work = scan.work,
+            .emit = emit,
+            .threads = threadsOf(options)});
+}
+
+}  // namespace lumifact::tool

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+//
+// The command-line tool: reads its arguments, runs the command and tells how it went.
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "apps/lumifact/command_line.h"
+
+namespace {
+
+using lumifact::tool::CommandLine;
+using lumifact::tool::Console;
+using lumifact::tool::ExitStatus;
+
+// A standard descriptor that the caller closed would be given to the first file that is opened.
+// What takes its place can be read (nothing is in it) and fails to be written.
+void openStandardDescriptors() {
+  int descriptor = 0;
+  do {
+    descriptor = ::open("/dev/null", O_RDONLY);
+  } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+  if (descriptor >= 0) ::close(descriptor);
+}
+
+ExitStatus run(const std::vector<std::string>& arguments) {
+  Console console;
+  const CommandLine line = lumifact::tool::readCommandLine(arguments);
+  if (!line.usageError.empty()) {
+    console.failUsage(line.usageError);
+  } else if (line.run != nullptr) {
+    line.run(line.options, console);
+  } else {
+    console.write(line.text);
+  }
+  console.flush();
+  return console.status();
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  // A reader that goes away is seen by the write that fails.
+  std::signal(SIGPIPE, SIG_IGN);
+  openStandardDescriptors();
+  try {
+    return static_cast<int>(run({arguments + 1, arguments + count}));
+  } catch (const std::exception& exception) {
+    Console().fail(exception.what());
+    return static_cast<int>(ExitStatus::failed);
+  }
+}
