@@ -29,8 +29,9 @@ class [[nodiscard]] Result {
   explicit operator bool() const { return _state.index() == 0; }
 
   // REQUIRES: there is a value.
-  T& operator*() { return std::get<0>(_state); }
-  const T& operator*() const { return std::get<0>(_state); }
+  T& operator*() & { return std::get<0>(_state); }
+  const T& operator*() const& { return std::get<0>(_state); }
+  T&& operator*() && { return std::get<0>(std::move(_state)); }
   T* operator->() { return &std::get<0>(_state); }
   const T* operator->() const { return &std::get<0>(_state); }
 

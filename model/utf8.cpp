@@ -13,6 +13,14 @@ bool isContinuation(unsigned char byte) {
   return (byte & 0xC0) == 0x80;
 }
 
+// A byte's place among the bytes at which two texts first differ. Supplementary characters (lead
+// bytes F0 and up) are surrogate pairs in UTF-16, which come before U+E000-U+FFFF (lead bytes EE
+// and EF): those two are moved behind.
+int rankOf(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  return byte == 0xEE || byte == 0xEF ? byte + 0x10 : byte;
+}
+
 bool isSurrogate(char32_t codePoint) {
   return codePoint >= 0xD800 && codePoint <= 0xDFFF;
 }
@@ -106,20 +114,9 @@ std::string utf16ToUtf8(std::u16string_view text) {
 }
 
 bool LiteralLess::operator()(std::string_view left, std::string_view right) const {
-  const std::size_t common = std::min(left.size(), right.size());
-  for (std::size_t index = 0; index < common; ++index) {
-    auto a = static_cast<unsigned char>(left[index]);
-    auto b = static_cast<unsigned char>(right[index]);
-    if (a == b) continue;
-    // Supplementary characters (lead bytes F0 and up) are surrogate pairs in UTF-16, which come
-    // before U+E000-U+FFFF (lead bytes EE and EF): move those two behind.
-    if (a >= 0xEE && b >= 0xEE) {
-      if (a < 0xF0) a = static_cast<unsigned char>(a + 0x10);
-      if (b < 0xF0) b = static_cast<unsigned char>(b + 0x10);
-    }
-    return a < b;
-  }
-  return left.size() < right.size();
+  const auto [a, b] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
+  if (b == right.end()) return false;
+  return a == left.end() || rankOf(*a) < rankOf(*b);
 }
 
 }  // namespace model
