@@ -26,79 +26,97 @@ std::uint64_t colorTableSize(std::uint8_t packed) {
   return packed & 0x80 ? std::uint64_t{3} << ((packed & 7) + 1) : 0;
 }
 
-// The end of a chain of data sub-blocks: each has its size in front, and one of size 0 ends it.
-// None where the file ends before.
-std::optional<std::uint64_t> endOfSubBlocks(SourceReader& file, std::uint64_t offset) {
-  for (std::size_t count = 0; count < limits.gifSubBlocks; ++count) {
-    const auto size = file.upTo(offset, 1).u8(0);
-    if (!size) return std::nullopt;
-    offset += 1 + std::uint64_t{*size};
-    if (*size == 0) return offset;
+// What comes before the first image.
+class GifReader {
+ public:
+  GifReader(SourceReader& file, model::Dictionary& properties)
+      : _file(file), _properties(properties) {}
+
+  // Reads the extensions from the offset on. Returns the first image's header if there is one.
+  std::optional<ByteView> walkToFirstImage(std::uint64_t offset) {
+    for (std::size_t count = 0; count < limits.gifExtensions; ++count) {
+      const ByteView introducer = _file.upTo(offset, 2);
+      if (introducer.u8(0) == imageSeparator) return _file.view(offset, 10);
+      if (introducer.u8(0) != extensionIntroducer || introducer.size() < 2) return std::nullopt;
+      const std::uint8_t label = *introducer.u8(1);
+      const auto end = endOfSubBlocks(offset + 2);
+      if (!end) return std::nullopt;
+      readExtension(label, {offset + 2, *end});
+      offset = *end;
+    }
+    return std::nullopt;
   }
-  return std::nullopt;
-}
 
-void readGraphicControl(SourceReader& file, std::uint64_t offset, model::Dictionary& properties) {
-  const auto block = file.view(offset, 5);  // size, packed fields, delay, transparent index
-  if (!block || block->u8(0) < 4) return;
-  constexpr std::uint8_t transparencyFlag = 1;
-  if (*block->u8(1) & transparencyFlag) properties.insert_or_assign("HasAlpha", true);
-  setFrameDelay(*block->u16(2, ByteOrder::little) / 100.0, section(properties, "{GIF}"));
-}
-
-// The packet stands as it is, not in sub-blocks; a trailer of descending bytes behind it leads
-// readers that take it for sub-blocks to the end. XMP Specification, part 3, 1.1.2.
-void readXmp(SourceReader& file, ByteRange block, model::Dictionary& properties) {
-  constexpr std::uint64_t trailerSize = 258;
-  if (block.size() <= trailerSize || block.size() > limits.embeddedBytes) return;
-  const auto packet = file.view(block.begin, block.size() - trailerSize);
-  if (packet) readXmpPacket(*packet, properties);
-}
-
-// The profile stands in sub-blocks. International Color Consortium, "Embedding ICC profiles", GIF.
-void readProfile(SourceReader& file, std::uint64_t offset, model::Dictionary& properties) {
-  SplicedRanges profile;
-  for (std::size_t count = 0; count < limits.gifSubBlocks; ++count) {
-    const std::uint64_t size = file.upTo(offset, 1).u8(0).value_or(0);
-    if (size == 0) break;
-    profile.append({offset + 1, offset + 1 + size});
-    offset += 1 + size;
+ private:
+  // The size in front of a sub-block; 0 ends a chain of them. None where the file ends, and where
+  // there were too many.
+  std::optional<std::uint8_t> subBlockSize(std::uint64_t offset) {
+    if (_subBlocksLeft == 0) return std::nullopt;
+    --_subBlocksLeft;
+    return _file.upTo(offset, 1).u8(0);
   }
-  auto name = iccProfileName(profile.reader(file));
-  if (name) setIfAbsent(properties, "ProfileName", *std::move(name));
-}
 
-// What an extension says whose sub-blocks are the body.
-void readExtension(SourceReader& file, std::uint8_t label, ByteRange body,
-                   model::Dictionary& properties) {
-  if (label == graphicControl) return readGraphicControl(file, body.begin, properties);
-  if (label != application) return;
-  constexpr std::string_view xmpHeader = "\x0BXMP DataXMP";
-  constexpr std::string_view profileHeader = "\x0BICCRGBG1012";
-  const std::uint64_t dataBegin = body.begin + xmpHeader.size();
-  const ByteView header = file.upTo(body.begin, xmpHeader.size());
-  if (header.startsWith(xmpHeader)) {
-    readXmp(file, {dataBegin, body.end}, properties);
-  } else if (header.startsWith(profileHeader)) {
-    readProfile(file, dataBegin, properties);
+  std::optional<std::uint64_t> endOfSubBlocks(std::uint64_t offset) {
+    while (const auto size = subBlockSize(offset)) {
+      offset += 1 + std::uint64_t{*size};
+      if (*size == 0) return offset;
+    }
+    return std::nullopt;
   }
-}
 
-// Reads the extensions up to the first image, whose header is returned if the file has one.
-std::optional<ByteView> walkToFirstImage(SourceReader& file, std::uint64_t offset,
-                                         model::Dictionary& properties) {
-  for (std::size_t count = 0; count < limits.gifExtensions; ++count) {
-    const ByteView introducer = file.upTo(offset, 2);
-    if (introducer.u8(0) == imageSeparator) return file.view(offset, 10);
-    if (introducer.u8(0) != extensionIntroducer || introducer.size() < 2) return std::nullopt;
-    const std::uint8_t label = *introducer.u8(1);
-    const auto end = endOfSubBlocks(file, offset + 2);
-    if (!end) return std::nullopt;
-    readExtension(file, label, {offset + 2, *end}, properties);
-    offset = *end;
+  // The extension whose sub-blocks are the body.
+  void readExtension(std::uint8_t label, ByteRange body) {
+    if (label == graphicControl) return readGraphicControl(body.begin);
+    if (label != application) return;
+    constexpr std::string_view xmpHeader = "\x0BXMP DataXMP";
+    constexpr std::string_view profileHeader = "\x0BICCRGBG1012";
+    const std::uint64_t dataBegin = body.begin + xmpHeader.size();
+    const ByteView header = _file.upTo(body.begin, xmpHeader.size());
+    if (header.startsWith(xmpHeader)) {
+      readXmp({dataBegin, body.end});
+    } else if (header.startsWith(profileHeader)) {
+      readProfile(dataBegin);
+    }
   }
-  return std::nullopt;
-}
+
+  void readGraphicControl(std::uint64_t offset) {
+    const auto block = _file.view(offset, 5);  // size, packed fields, delay, transparent index
+    if (!block || block->u8(0) < 4) return;
+    constexpr std::uint8_t transparencyFlag = 1;
+    if (*block->u8(1) & transparencyFlag) _properties.insert_or_assign("HasAlpha", true);
+    setFrameDelay(*block->u16(2, ByteOrder::little) / 100.0, section(_properties, "{GIF}"));
+  }
+
+  // The packet stands as it is, not in sub-blocks; a trailer of descending bytes behind it leads
+  // readers that take it for sub-blocks to the end. XMP Specification, part 3, 1.1.2.
+  void readXmp(ByteRange block) {
+    constexpr std::uint64_t trailerSize = 258;
+    if (_hasXmp || block.size() <= trailerSize || block.size() > limits.embeddedBytes) return;
+    _hasXmp = true;
+    const auto packet = _file.view(block.begin, block.size() - trailerSize);
+    if (packet) readXmpPacket(*packet, _properties);
+  }
+
+  // The profile stands in sub-blocks. ICC.1:2010, B.6.
+  void readProfile(std::uint64_t offset) {
+    if (_hasProfile) return;
+    _hasProfile = true;
+    SplicedRanges profile;
+    while (const auto size = subBlockSize(offset)) {
+      if (*size == 0) break;
+      profile.append({offset + 1, offset + 1 + *size});
+      offset += 1 + std::uint64_t{*size};
+    }
+    auto name = iccProfileName(profile.reader(_file));
+    if (name) setIfAbsent(_properties, "ProfileName", *std::move(name));
+  }
+
+  SourceReader& _file;
+  model::Dictionary& _properties;
+  std::size_t _subBlocksLeft = limits.gifSubBlocks;
+  bool _hasXmp = false;
+  bool _hasProfile = false;
+};
 
 }  // namespace
 
@@ -112,7 +130,7 @@ std::optional<model::Error> readGifFile(SourceReader& file, model::Dictionary& p
   std::uint16_t width = *screen->u16(6, ByteOrder::little);
   std::uint16_t height = *screen->u16(8, ByteOrder::little);
   const std::uint64_t firstBlock = screenDescriptorEnd + colorTableSize(*screen->u8(10));
-  const auto image = walkToFirstImage(file, firstBlock, properties);
+  const auto image = GifReader(file, properties).walkToFirstImage(firstBlock);
   if (width == 0 || height == 0) {  // no screen size: the first image's
     if (!image) return model::Error{"truncated GIF"};
     width = *image->u16(5, ByteOrder::little);

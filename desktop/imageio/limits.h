@@ -32,7 +32,7 @@ struct Limits {
   std::size_t pngChunks;         // chunks walked
   std::size_t pngMetadataBytes;  // bytes read and decompressed of all chunks
   std::size_t gifExtensions;     // blocks before the first image
-  std::size_t gifSubBlocks;      // pieces of one block
+  std::size_t gifSubBlocks;      // pieces of all of them
   std::size_t webpChunks;        // chunks walked
   std::size_t heifItems;         // items of a file
   std::size_t heifReferences;    // pairs of items that refer to each other
@@ -52,16 +52,16 @@ inline constexpr Limits limits = {
     .makerNoteTreeNodes = 20'000,
     .iccTags = 256,
     .photoshopResources = 1024,
-    .xmpElements = 200'000,
+    .xmpElements = 100'000,
     .xmpNamespaces = 64,
     .xmpDepth = 8,
     .jpegSegments = 4096,
     .jpegStrayBytes = 65'536,
-    .pngChunks = 65'536,
-    .pngMetadataBytes = 16 << 20,
+    .pngChunks = 32'768,
+    .pngMetadataBytes = 6 << 20,
     .gifExtensions = 1024,
     .gifSubBlocks = 65'536,
-    .webpChunks = 65'536,
+    .webpChunks = 16'384,
     .heifItems = 16'384,
     .heifReferences = 65'536,
     .heifProperties = 16'384,

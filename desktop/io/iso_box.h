@@ -42,7 +42,7 @@ struct IsoBox {
 // and after largestCount boxes. Nothing recurses: how deep boxes nest is up to the caller.
 class IsoBoxWalk {
  public:
-  static constexpr int largestCount = 65536;
+  static constexpr int largestCount = 16384;
 
   // Boxes that lie side by side without much between them are best read ahead; the top level of a
   // file, with its coded samples, is not. REQUIRES: the reader outlives the walk.
