@@ -19,6 +19,9 @@ using CFNotificationCallback = void (*)(CFNotificationCenterRef centre, void* ob
 
 #pragma GCC visibility push(default)
 extern "C" {
+// Takes a reference away from any object, an Objective-C one or not. REQUIRES: not null.
+void CFRelease(const void* object);
+
 extern double kCFCoreFoundationVersionNumber;  // 1348.0 with iOS 10, 1556.0 with iOS 12
 
 CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter();

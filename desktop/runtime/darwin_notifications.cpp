@@ -6,8 +6,6 @@
 #include "bridge/runtime.h"
 #include "desktop/runtime/notification_core.h"
 
-double kCFCoreFoundationVersionNumber = 1556.0;
-
 namespace desktop::runtime {
 namespace {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The bridge in its real place: in a library that a host maps, whose classes it hooks.
+#include <dlfcn.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -69,6 +70,14 @@ TEST_F(ExtensionTest, HandsBlocksOnAndLogs) {
   desktop::runtime::setDebugLogSink({});
   EXPECT_EQ(seen, 7);
   EXPECT_THAT(lines, testing::ElementsAre("[HookingExtension:1] running"));
+}
+
+// Foundation's own functions would leave such blocks where they are.
+TEST_F(ExtensionTest, BlocksAreCopiedByThePlatformsFunctionsForAllLibraries) {
+  EXPECT_EQ(dlsym(RTLD_DEFAULT, "_Block_copy"), reinterpret_cast<void*>(&_Block_copy));
+  EXPECT_EQ(dlsym(RTLD_DEFAULT, "_Block_release"), reinterpret_cast<void*>(&_Block_release));
+  EXPECT_EQ(dlsym(RTLD_DEFAULT, "_NSConcreteStackBlock"),
+            static_cast<void*>(&_NSConcreteStackBlock));
 }
 
 TEST_F(ExtensionTest, HearsNotificationsInTheHostsLoop) {

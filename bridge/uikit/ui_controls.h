@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+//
+// Labels, buttons and text views.
+#pragma once
+
+#include "bridge/uikit/ui_view.h"
+
+namespace bridge {
+
+enum TextAlignment : NSInteger { alignLeft = 0, alignCenter = 1 };
+enum LineBreakMode : NSInteger { breakByClipping = 2 };
+enum ControlState : NSUInteger { stateNormal = 0, stateHighlighted = 1 };
+enum ControlEvents : NSUInteger { touchUpInside = 64 };
+
+struct UILabel : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UILabel">(); }
+
+  NSString text() const { return send<NSString, "text">(*this); }
+  void setText(NSString text) const { send<void, "setText:">(*this, text); }
+  void setFont(UIFont font) const { send<void, "setFont:">(*this, font); }
+  void setTextColor(UIColor color) const { send<void, "setTextColor:">(*this, color); }
+  void setTextAlignment(TextAlignment alignment) const {
+    send<void, "setTextAlignment:">(*this, NSInteger{alignment});
+  }
+  void setNumberOfLines(NSInteger lines) const { send<void, "setNumberOfLines:">(*this, lines); }
+  void setLineBreakMode(LineBreakMode mode) const {
+    send<void, "setLineBreakMode:">(*this, NSInteger{mode});
+  }
+  void setAdjustsFontSizeToFitWidth(bool adjusts) const {
+    send<void, "setAdjustsFontSizeToFitWidth:">(*this, adjusts);
+  }
+  void setMinimumFontSize(CGFloat points) const {
+    send<void, "setMinimumFontSize:">(*this, points);
+  }
+};
+
+struct UIControl : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UIControl">(); }
+
+  // Adding the same target, action and events again has no effect.
+  void addTarget(NSObject target, SEL action, ControlEvents events) const {
+    send<void, "addTarget:action:forControlEvents:">(*this, target, action, NSUInteger{events});
+  }
+};
+
+struct UIButton : UIControl {
+  using UIControl::UIControl;
+  static Class classObject() { return classNamed<"UIButton">(); }
+
+  enum Type : NSInteger { custom = 0, infoLight = 3 };
+
+  static UIButton withType(Type type) {
+    return send<UIButton, "buttonWithType:">(classObject(), NSInteger{type});
+  }
+
+  UILabel titleLabel() const { return send<UILabel, "titleLabel">(*this); }
+  void setTitle(NSString title, ControlState state) const {
+    send<void, "setTitle:forState:">(*this, title, NSUInteger{state});
+  }
+  void setTitleColor(UIColor color, ControlState state) const {
+    send<void, "setTitleColor:forState:">(*this, color, NSUInteger{state});
+  }
+};
+
+// A stretch of a text view's text, and a place in it; made by the text view alone.
+struct UITextPosition : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UITextPosition">(); }
+};
+
+struct UITextRange : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UITextRange">(); }
+
+  UITextPosition start() const { return send<UITextPosition, "start">(*this); }
+  UITextPosition end() const { return send<UITextPosition, "end">(*this); }
+};
+
+struct UITextView : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UITextView">(); }
+
+  NSString text() const { return send<NSString, "text">(*this); }
+  void setAttributedText(NSAttributedString text) const {
+    send<void, "setAttributedText:">(*this, text);
+  }
+  void setFont(UIFont font) const { send<void, "setFont:">(*this, font); }
+  void setTextAlignment(TextAlignment alignment) const {
+    send<void, "setTextAlignment:">(*this, NSInteger{alignment});
+  }
+  void setEditable(bool editable) const { send<void, "setEditable:">(*this, editable); }
+  // Not retained.
+  void setDelegate(NSObject delegate) const { send<void, "setDelegate:">(*this, delegate); }
+  CGSize contentSize() const { return send<CGSize, "contentSize">(*this); }
+
+  // Nil where nothing is selected; nil clears the selection.
+  UITextRange selectedTextRange() const { return send<UITextRange, "selectedTextRange">(*this); }
+  void setSelectedTextRange(UITextRange range) const {
+    send<void, "setSelectedTextRange:">(*this, range);
+  }
+  void selectAll(NSObject sender) const { send<void, "selectAll:">(*this, sender); }
+  UITextPosition beginningOfDocument() const {
+    return send<UITextPosition, "beginningOfDocument">(*this);
+  }
+  // In UTF-16 units.
+  NSInteger offset(UITextPosition from, UITextPosition to) const {
+    return send<NSInteger, "offsetFromPosition:toPosition:">(*this, from, to);
+  }
+};
+
+}  // namespace bridge

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+//
+// Tables and collections of cells.
+#pragma once
+
+#include "bridge/uikit/ui_controllers.h"
+
+namespace bridge {
+
+// A row or item of a section, both counted from 0.
+struct NSIndexPath : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"NSIndexPath">(); }
+
+  NSInteger section() const { return send<NSInteger, "section">(*this); }
+  NSInteger row() const { return send<NSInteger, "row">(*this); }
+};
+
+struct UITableViewCell : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UITableViewCell">(); }
+
+  enum Style : NSInteger { value1 = 1 };
+  enum Accessory : NSInteger { noAccessory = 0, disclosureIndicator = 1 };
+  enum Selection : NSInteger { noSelection = 0, blueSelection = 1 };
+
+  static Owned<UITableViewCell> make(Style style, NSString identifier) {
+    return Owned<UITableViewCell>::adopt(send<UITableViewCell, "initWithStyle:reuseIdentifier:">(
+        send<id, "alloc">(classObject()), NSInteger{style}, identifier));
+  }
+
+  UILabel textLabel() const { return send<UILabel, "textLabel">(*this); }
+  UILabel detailTextLabel() const { return send<UILabel, "detailTextLabel">(*this); }
+  void setAccessoryType(Accessory accessory) const {
+    send<void, "setAccessoryType:">(*this, NSInteger{accessory});
+  }
+  void setSelectionStyle(Selection selection) const {
+    send<void, "setSelectionStyle:">(*this, NSInteger{selection});
+  }
+};
+
+struct UITableView : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UITableView">(); }
+
+  enum Style : NSInteger { grouped = 1 };
+
+  void setTableHeaderView(UIView view) const { send<void, "setTableHeaderView:">(*this, view); }
+  // Nil where no cell waits to be used again.
+  UITableViewCell dequeueCell(NSString identifier) const {
+    return send<UITableViewCell, "dequeueReusableCellWithIdentifier:">(*this, identifier);
+  }
+  void deselectRow(NSIndexPath path, UIViewController::Animated how) const {
+    send<void, "deselectRowAtIndexPath:animated:">(*this, path, bool{how});
+  }
+};
+
+struct UITableViewController : UIViewController {
+  using UIViewController::UIViewController;
+  static Class classObject() { return classNamed<"UITableViewController">(); }
+
+  UITableView tableView() const { return send<UITableView, "tableView">(*this); }
+};
+
+struct UICollectionView : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UICollectionView">(); }
+
+  // Nil where there is no item.
+  NSIndexPath indexPathForItemAt(CGPoint point) const {
+    return send<NSIndexPath, "indexPathForItemAtPoint:">(*this, point);
+  }
+  NSInteger numberOfItemsInSection(NSInteger section) const {
+    return send<NSInteger, "numberOfItemsInSection:">(*this, section);
+  }
+};
+
+struct UICollectionViewLayout : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UICollectionViewLayout">(); }
+
+  void invalidateLayout() const { send<void, "invalidateLayout">(*this); }
+};
+
+}  // namespace bridge

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+//
+// Views, their gestures, and the screen. Coordinates are in points; frames in the superview's.
+#pragma once
+
+#include "bridge/block.h"
+#include "bridge/quartz.h"
+#include "bridge/uikit/ui_appearance.h"
+
+namespace bridge {
+
+struct UIGestureRecognizer;
+struct UIView;
+
+enum ViewAutoresizing : NSUInteger { flexibleWidth = 2, flexibleHeight = 16 };
+
+// What every object that takes touches has.
+struct UIResponder : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UIResponder">(); }
+};
+
+struct UIView : UIResponder {
+  using UIResponder::UIResponder;
+  static Class classObject() { return classNamed<"UIView">(); }
+
+  CGRect frame() const { return send<CGRect, "frame">(*this); }
+  void setFrame(CGRect frame) const { send<void, "setFrame:">(*this, frame); }
+  CGRect bounds() const { return send<CGRect, "bounds">(*this); }
+  void setAlpha(CGFloat alpha) const { send<void, "setAlpha:">(*this, alpha); }
+  void setTag(NSInteger tag) const { send<void, "setTag:">(*this, tag); }
+  void setTransform(CGAffineTransform transform) const {
+    send<void, "setTransform:">(*this, transform);
+  }
+  void setBackgroundColor(UIColor color) const { send<void, "setBackgroundColor:">(*this, color); }
+  UIColor tintColor() const { return send<UIColor, "tintColor">(*this); }
+  void setClipsToBounds(bool clips) const { send<void, "setClipsToBounds:">(*this, clips); }
+  void setAutoresizingMask(NSUInteger mask) const {
+    send<void, "setAutoresizingMask:">(*this, mask);
+  }
+  void setTranslatesAutoresizingMaskIntoConstraints(bool translates) const {
+    send<void, "setTranslatesAutoresizingMaskIntoConstraints:">(*this, translates);
+  }
+  CALayer layer() const { return send<CALayer, "layer">(*this); }
+
+  NSArray subviews() const { return send<NSArray, "subviews">(*this); }
+  void addSubview(UIView view) const { send<void, "addSubview:">(*this, view); }
+  void bringSubviewToFront(UIView view) const { send<void, "bringSubviewToFront:">(*this, view); }
+  void removeFromSuperview() const { send<void, "removeFromSuperview">(*this); }
+  void sizeToFit() const { send<void, "sizeToFit">(*this); }
+
+  // Nil where there are none.
+  NSArray gestureRecognizers() const { return send<NSArray, "gestureRecognizers">(*this); }
+  inline void addGestureRecognizer(UIGestureRecognizer recognizer) const;
+  inline void removeGestureRecognizer(UIGestureRecognizer recognizer) const;
+
+  // Durations are in seconds.
+  static void animate(double duration, const Block<void()>& animations) {
+    send<void, "animateWithDuration:animations:">(classObject(), duration, animations);
+  }
+  static void animate(double duration, const Block<void()>& animations,
+                      const Block<void(bool)>& completion) {
+    send<void, "animateWithDuration:animations:completion:">(classObject(), duration, animations,
+                                                             completion);
+  }
+};
+
+// A new view of a handle's class with the frame; +1.
+template <Handle T>
+Owned<T> makeView(CGRect frame) {
+  return Owned<T>::adopt(send<T, "initWithFrame:">(send<id, "alloc">(T::classObject()), frame));
+}
+
+struct UIGestureRecognizer : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UIGestureRecognizer">(); }
+
+  enum State : NSInteger { possible, began, changed, ended, cancelled, failed };
+
+  State state() const { return static_cast<State>(send<NSInteger, "state">(*this)); }
+  CGPoint locationIn(UIView view) const { return send<CGPoint, "locationInView:">(*this, view); }
+  void setDelegate(NSObject delegate) const { send<void, "setDelegate:">(*this, delegate); }
+  void setDelaysTouchesBegan(bool delays) const {
+    send<void, "setDelaysTouchesBegan:">(*this, delays);
+  }
+};
+
+struct UILongPressGestureRecognizer : UIGestureRecognizer {
+  using UIGestureRecognizer::UIGestureRecognizer;
+  static Class classObject() { return classNamed<"UILongPressGestureRecognizer">(); }
+
+  static Owned<UILongPressGestureRecognizer> make(NSObject target, SEL action) {
+    return Owned<UILongPressGestureRecognizer>::adopt(
+        send<UILongPressGestureRecognizer, "initWithTarget:action:">(
+            send<id, "alloc">(classObject()), target, action));
+  }
+};
+
+inline void UIView::addGestureRecognizer(UIGestureRecognizer recognizer) const {
+  send<void, "addGestureRecognizer:">(*this, recognizer);
+}
+inline void UIView::removeGestureRecognizer(UIGestureRecognizer recognizer) const {
+  send<void, "removeGestureRecognizer:">(*this, recognizer);
+}
+
+struct UITouch : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UITouch">(); }
+
+  CGPoint locationIn(UIView view) const { return send<CGPoint, "locationInView:">(*this, view); }
+};
+
+struct UIEvent : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UIEvent">(); }
+};
+
+struct UIScreen : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UIScreen">(); }
+  static UIScreen mainScreen() { return send<UIScreen, "mainScreen">(classObject()); }
+
+  CGRect bounds() const { return send<CGRect, "bounds">(*this); }
+};
+
+}  // namespace bridge
