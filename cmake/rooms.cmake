@@ -10,10 +10,12 @@ target_compile_options(room_flags INTERFACE
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict;-Wno-maybe-uninitialized>)
 
 # room_library(NAME alias::name SOURCES a.cpp ... [DEPENDS lib ...] [PRIVATE_DEPENDS lib ...])
-# A static library whose headers are included by their path from the repository's root.
+# A static library whose headers are included by their path from the repository's root. All of them
+# are listed in the global property ROOM_LIBRARIES.
 function(room_library name alias)
   cmake_parse_arguments(ROOM "" "" "SOURCES;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
   add_library(${name} STATIC ${ROOM_SOURCES})
+  set_property(GLOBAL APPEND PROPERTY ROOM_LIBRARIES ${name})
   add_library(${alias} ALIAS ${name})
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
