@@ -23,8 +23,8 @@ struct CMTimeRange {
 };
 
 struct CMVideoDimensions {
-  std::int32_t width = 0;
-  std::int32_t height = 0;
+  std::int32_t width;
+  std::int32_t height;
 };
 
 struct AudioStreamBasicDescription {
