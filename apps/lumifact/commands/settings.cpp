@@ -2,6 +2,7 @@
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/environment.h"
 #include "apps/lumifact/settings_file.h"
+#include "desktop/runtime/notification_core.h"
 #include "model/description.h"
 
 namespace lumifact::tool {
@@ -21,10 +22,20 @@ void list(const Options& options, Console& console) {
   }
 }
 
+// Has the hosts of this device root read their settings file anew.
+void announceChange(const Options& options, const std::string& file, Console& console) {
+  using namespace desktop::runtime;
+  const auto posted =
+      postNotification(notificationFolder(rootOf(options).folder()), settingsChangedNotification);
+  if (!posted) console.fail(file, "written, but not announced: " + posted.error().reason);
+}
+
 void edit(const Options& options, Console& console, AfterEdit after,
           const std::function<void(model::Dictionary&)>& change) {
   const std::string file = settingsFileOf(options);
-  if (const auto error = editSettingsFile(file, change, after)) console.fail(file, error->reason);
+  if (const auto error = editSettingsFile(file, change, after))
+    return console.fail(file, error->reason);
+  announceChange(options, file, console);
 }
 
 void set(const Options& options, Console& console) {
