@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "lumifact/loader/file_size_cache.h"
+
+#include "bridge/foundation.h"
+
+namespace lumifact {
+namespace {
+
+using bridge::NSCache;
+using bridge::NSNumber;
+using bridge::NSString;
+
+bridge::Owned<NSCache>& slot() {
+  static auto& kept = *new bridge::Owned<NSCache>;
+  return kept;
+}
+
+std::optional<std::int32_t> lookUp(std::string_view uuid) {
+  const NSNumber entry(slot()->at(NSString::make(uuid)).get());
+  return entry ? std::optional(entry.intValue()) : std::nullopt;
+}
+
+void store(std::string_view uuid, std::int32_t lowBits) {
+  slot()->set(NSNumber::withInt(lowBits), NSString::make(uuid));
+}
+
+}  // namespace
+
+void createFileSizeCache() {
+  slot() = bridge::makeNew<NSCache>();
+}
+
+FileSizeCacheAccess fileSizeCache() {
+  return {.lookUp = &lookUp, .store = &store};
+}
+
+}  // namespace lumifact
