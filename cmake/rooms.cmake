@@ -30,5 +30,7 @@ function(room_test name)
   add_executable(${name} ${ROOM_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE room_flags ${ROOM_DEPENDS} GTest::gmock GTest::gtest_main)
+  # The assertions themselves need no optimisation, and without it they compile twice as fast.
+  target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS "${ROOM_LABELS}")
 endfunction()
