@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/string_drawing.h"
 
-#include "bridge/uikit/ui_font.h"
+#include "bridge/foundation.h"
 #include "desktop/uikit/ui_font.h"
 
 id NSFontAttributeName = nullptr;

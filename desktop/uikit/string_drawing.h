@@ -3,6 +3,14 @@
 // What UIKit adds to Foundation's strings.
 #pragma once
 
+#include "bridge/runtime/types.h"
+
+#pragma GCC visibility push(default)
+extern "C" {
+extern id NSFontAttributeName;  // the attribute that holds a text's font: "NSFont"
+}
+#pragma GCC visibility pop
+
 namespace desktop::uikit {
 
 // Gives strings sizeWithAttributes:, and NSFontAttributeName its value. Without a font among the

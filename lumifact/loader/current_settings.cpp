@@ -4,7 +4,7 @@
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
 #include "bridge/guard.h"
-#include "bridge/uikit/ui_font.h"
+#include "bridge/uikit.h"
 
 namespace lumifact {
 
@@ -33,15 +33,11 @@ Settings readSettings() {
   return settingsFromFile(&entries);
 }
 
-bool hostMeasuresText() {
-  return bridge::UIFont::classObject() && &NSFontAttributeName && NSFontAttributeName;
-}
-
 // The widest digits, the "x" of a pixel size, a comma and letters that reach below the line.
 void measureInfoLine() {
-  if (!hostMeasuresText()) return;
+  if (!bridge::UIFont::classObject()) return;
   const auto attributes = bridge::makeNew<NSMutableDictionary>();
-  attributes->set(bridge::UIFont::systemFont(12.0), NSString(NSFontAttributeName));
+  attributes->set(bridge::UIFont::systemFont(12.0), bridge::fontAttributeName());
   const CGSize size =
       bridge::sizeWithAttributes(NSString::make("0000x0000, mgj"), attributes.get());
   infoLineHeight = infoLineHeightFor(size.height);

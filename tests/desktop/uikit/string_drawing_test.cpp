@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "bridge/uikit/ui_font.h"
+#include "bridge/uikit.h"
 #include "desktop/uikit/font_metrics.h"
 #include "desktop/uikit/uikit.h"
 
@@ -28,9 +28,13 @@ class StringDrawingTest : public testing::Test {
 TEST_F(StringDrawingTest, ALineIsAsHighAsItsFont) {
   const auto font = bridge::UIFont::systemFont(12);
   const CGSize size = sizeOf("0000x0000, mgj", font);
-  EXPECT_DOUBLE_EQ(size.height, font.lineHeight());
+  EXPECT_DOUBLE_EQ(size.height, (bridge::send<CGFloat, "lineHeight">(font)));
   EXPECT_NEAR(size.height, 14.52, 0.01);
   EXPECT_NEAR(size.width, 93.8, 0.01);
+}
+
+TEST_F(StringDrawingTest, TheAttributeNameHasThePlatformsValue) {
+  EXPECT_TRUE(NSString(NSFontAttributeName).isEqualToString(bridge::fontAttributeName()));
 }
 
 TEST_F(StringDrawingTest, EveryKindOfStringCanBeMeasured) {

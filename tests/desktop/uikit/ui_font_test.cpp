@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "bridge/uikit/ui_font.h"
+#include "bridge/uikit.h"
 #include "desktop/uikit/uikit.h"
 
 namespace desktop::uikit {
@@ -26,17 +26,17 @@ TEST_F(UIFontTest, IsFoundByName) {
 
 TEST_F(UIFontTest, HasTheMeasuresOfItsSize) {
   const auto font = bridge::UIFont::systemFont(20);
-  EXPECT_EQ(font.pointSize(), 20);
-  EXPECT_NEAR(font.lineHeight(), 24.2045, 0.0001);
-  EXPECT_NEAR(font.ascender(), 19.375, 0.0001);
-  EXPECT_NEAR(font.descender(), -4.8295, 0.0001);
+  EXPECT_EQ((send<CGFloat, "pointSize">(font)), 20);
+  EXPECT_NEAR((send<CGFloat, "lineHeight">(font)), 24.2045, 0.0001);
+  EXPECT_NEAR((send<CGFloat, "ascender">(font)), 19.375, 0.0001);
+  EXPECT_NEAR((send<CGFloat, "descender">(font)), -4.8295, 0.0001);
   EXPECT_EQ((send<CGFloat, "leading">(font)), 0);
   EXPECT_EQ((send<bridge::NSString, "fontName">(font).utf8()), "Inter");
 }
 
 TEST_F(UIFontTest, TakesAnySize) {
-  EXPECT_EQ(bridge::UIFont::systemFont(0).lineHeight(), 0);
-  EXPECT_LT(bridge::UIFont::systemFont(-3).lineHeight(), 0);
+  EXPECT_EQ((send<CGFloat, "lineHeight">(bridge::UIFont::systemFont(0))), 0);
+  EXPECT_LT((send<CGFloat, "lineHeight">(bridge::UIFont::systemFont(-3))), 0);
 }
 
 TEST_F(UIFontTest, EqualsFontsOfItsSizeOnly) {
