@@ -16,7 +16,7 @@ constexpr std::uint64_t riffHeaderSize = 12;
 constexpr std::uint64_t chunkHeaderSize = 8;
 constexpr std::uint64_t longestHeader = 10;  // bytes of an image chunk that say its size
 
-struct ImageFacts {
+struct WebpFacts {
   std::uint32_t width = 0;
   std::uint32_t height = 0;
   bool hasAlpha = false;
@@ -27,30 +27,30 @@ std::uint32_t u24(ByteView bytes, std::uint64_t offset) {
 }
 
 // A canvas with flags in front; sizes are stored less 1.
-std::optional<ImageFacts> extendedFacts(ByteView start) {
+std::optional<WebpFacts> extendedFacts(ByteView start) {
   constexpr std::uint8_t alphaFlag = 0x10;
   if (start.size() < 10) return std::nullopt;
-  return ImageFacts{u24(start, 4) + 1, u24(start, 7) + 1, (*start.u8(0) & alphaFlag) != 0};
+  return WebpFacts{u24(start, 4) + 1, u24(start, 7) + 1, (*start.u8(0) & alphaFlag) != 0};
 }
 
 // A frame tag of three bytes, a start code, sizes of 14 bits with two bits of scale above them.
-std::optional<ImageFacts> lossyFacts(ByteView start) {
+std::optional<WebpFacts> lossyFacts(ByteView start) {
   if (start.size() < 10 || !start.from(3).startsWith("\x9D\x01\x2A")) return std::nullopt;
   constexpr std::uint32_t sizeBits = 0x3FFF;
-  return ImageFacts{*start.u16(6, ByteOrder::little) & sizeBits,
-                    *start.u16(8, ByteOrder::little) & sizeBits};
+  return WebpFacts{*start.u16(6, ByteOrder::little) & sizeBits,
+                   *start.u16(8, ByteOrder::little) & sizeBits};
 }
 
 // A signature byte, two sizes of 14 bits less 1, a bit for alpha.
-std::optional<ImageFacts> losslessFacts(ByteView start) {
+std::optional<WebpFacts> losslessFacts(ByteView start) {
   if (start.size() < 5 || start.u8(0) != 0x2F) return std::nullopt;
   const std::uint32_t bits = *start.u32(1, ByteOrder::little);
-  return ImageFacts{(bits & 0x3FFF) + 1, (bits >> 14 & 0x3FFF) + 1, (bits >> 28 & 1) != 0};
+  return WebpFacts{(bits & 0x3FFF) + 1, (bits >> 14 & 0x3FFF) + 1, (bits >> 28 & 1) != 0};
 }
 
 struct ImageChunk {
   std::string_view type;
-  std::optional<ImageFacts> (*facts)(ByteView start);
+  std::optional<WebpFacts> (*facts)(ByteView start);
 };
 
 constexpr ImageChunk imageChunks[] = {

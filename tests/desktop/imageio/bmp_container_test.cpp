@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "tests/desktop/imageio/container_builder.h"
 
 namespace desktop::imageio {
@@ -50,7 +52,8 @@ std::string bmpFile(const BmpToWrite& bmp) {
 }
 
 TEST(BmpContainer, readsEveryHeaderVersion) {
-  for (const std::size_t size : {12, 16, 40, 52, 56, 64, 108, 124}) {
+  constexpr std::size_t sizes[] = {12, 16, 40, 52, 56, 64, 108, 124};
+  for (const std::size_t size : sizes) {
     BmpToWrite bmp;
     bmp.headerSize = size;
     bmp.width = 640;

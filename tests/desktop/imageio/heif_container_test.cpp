@@ -293,9 +293,10 @@ TEST(HeifContainer, hostileTablesCostLittle) {
     manyItems += fullBox("infe", 2, 0, number + "\0\0Exif\0"s);
     manyReferences += isoBox("cdsc", number + "\0\1\0\1"s) + isoBox("auxl", number + "\0\1\0\1"s);
   }
-  std::string nested = "x";
-  for (int depth = 0; depth < 20'000; ++depth)
-    nested = bigEndian(8 + nested.size(), 4) + "meta" + nested;
+  std::string nested;
+  for (std::uint64_t inside = 20'000; inside > 0; --inside) {
+    nested.append(bigEndian(8 * inside, 4)).append("meta");
+  }
   const std::string hostile[] = {
       fullBox("iloc", 0, 0, "\0\0"s + bigEndian(60'000, 2) + entriesWithoutWidth),
       fullBox("iloc", 1, 0, "\xFF\xFF\xFF\xFF" + std::string(100, '\xFF')),
@@ -308,7 +309,10 @@ TEST(HeifContainer, hostileTablesCostLittle) {
   };
   int number = 0;
   for (const std::string& boxes : hostile) {
-    const std::string file = type + fullBox("meta", 0, 0, primary + extents + boxes);
+    std::string children = primary;
+    children.append(extents).append(boxes);
+    std::string file = type;
+    file.append(fullBox("meta", 0, 0, children));
     EXPECT_EQ(*entry(propertiesOf(file), "", "PixelWidth"), 8) << number++;
   }
 }

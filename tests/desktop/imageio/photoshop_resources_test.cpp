@@ -19,8 +19,9 @@ model::Dictionary read(std::string_view resources) {
 
 TEST(PhotoshopResources, theDatasetsAreFoundAmongOthers) {
   const std::string iptc = photoshopResource(0x0404, iptcDataset(2, 90, "Kingston"));
+  constexpr std::size_t sizes[] = {0, 1, 2, 31};
   for (const char* name : {"", "a", "ab", "abc"}) {
-    for (const std::size_t size : {0, 1, 2, 31}) {
+    for (const std::size_t size : sizes) {
       const auto properties = read(photoshopResource(0x03ED, std::string(size, 'r'), name) + iptc);
       ASSERT_TRUE(entry(properties, "{IPTC}", "City")) << name << size;
       EXPECT_EQ(*entry(properties, "{IPTC}", "City"), "Kingston");
