@@ -60,10 +60,15 @@ void addWords(CLI::App& app, std::vector<std::string>& into) {
       });
 }
 
+// A digit is taken for a negative number unless the command itself has it as an option.
+void addZeroFlag(CLI::App& app, Options& options) {
+  app.add_flag("-0,--null", options.listsEndInZero);
+}
+
 void addCommonOptions(CLI::App& app, Options& options) {
   app.add_flag("-r,--recursive", options.isRecursive);
   addText(app, "--files-from", options.filesFrom);
-  app.add_flag("-0,--null", options.listsEndInZero);
+  addZeroFlag(app, options);
   addNumber(app, "-j,--jobs", options.jobs)->check(CLI::Range(1U, mostJobs));
   addText(app, "--settings", options.settingsFile);
   addNumber(app, "--map-type", options.mapType);
@@ -246,6 +251,7 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     CLI::App* command = app.add_subcommand(row.name);
     command->preparse_callback([&line, &row, &chosen, command](std::size_t) {
       chosen = &row;
+      addZeroFlag(*command, line.options);
       row.define(*command, line.options);
     });
   }

@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <functional>
+#include <string>
 #include <system_error>
 #include <unordered_set>
 #include <vector>
@@ -21,11 +23,27 @@ namespace lumifact::tool {
 
 namespace {
 
-model::Result<std::int64_t> fileSize(const std::string& path) {
+// What tells files apart in little memory: two names of one file that have the same hash too are
+// taken for one name.
+struct Item {
+  dev_t device = 0;
+  ino_t number = 0;
+  std::size_t nameHash = 0;
+  bool operator==(const Item&) const = default;
+};
+
+struct ItemHash {
+  std::size_t operator()(const Item& item) const { return item.nameHash; }
+};
+
+// Fills `item` and answers the file's size.
+model::Result<std::int64_t> fileSize(const std::string& path, Item& item) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) {
     return model::Error{std::generic_category().message(errno)};
   }
+  item.device = status.st_dev;
+  item.number = status.st_ino;
   if (!S_ISREG(status.st_mode)) return model::Error{"not a regular file"};
   return static_cast<std::int64_t>(status.st_size);
 }
@@ -35,12 +53,14 @@ model::Result<std::int64_t> fileSize(const std::string& path) {
 void runSize(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   FileList files(filesOf(options));
-  std::unordered_set<std::string> selected;
+  std::unordered_set<Item, ItemHash> selected;
   std::vector<std::optional<std::int64_t>> sizes;
   while (const auto item = files.next()) {
     const std::string path = desktop::photos::absolutePath(item->path);
-    if (!selected.insert(path).second) continue;
-    const auto size = item->error ? *item->error : fileSize(environment.root.onDisk(path));
+    Item known{.nameHash = std::hash<std::string>()(path)};
+    auto size = fileSize(environment.root.onDisk(path), known);
+    if (!selected.insert(known).second) continue;
+    if (item->error) size = *item->error;
     if (!size) console.fail(item->path, size.error().reason);
     sizes.push_back(size ? std::optional(*size) : std::nullopt);
   }

@@ -23,6 +23,17 @@ TEST(CommandLine, CommonOptionsStandBeforeOrBehindTheCommand) {
   }
 }
 
+TEST(CommandLine, ListsMayEndInZeroBytes) {
+  for (const Words& words :
+       {Words{"-0", "size", "--files-from", "-"}, Words{"size", "--files-from", "-", "-0"},
+        Words{"size", "--null", "--files-from=-"}}) {
+    const CommandLine line = readCommandLine(words);
+    EXPECT_EQ(line.usageError, "");
+    EXPECT_TRUE(line.options.listsEndInZero);
+    EXPECT_TRUE(line.options.files.empty());
+  }
+}
+
 TEST(CommandLine, KeepsFileNamesAsTheyAre) {
   const CommandLine line = readCommandLine(
       {"report", "size", "[a,b]", "++", "a b", "", "--", "-x", "--help", "--", "[c]"});
