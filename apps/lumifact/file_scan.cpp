@@ -36,6 +36,7 @@ void scanFiles(const Options& options, Console& console, const FileScan& scan) {
   FileList files(filesOf(options));
   Progress progress(console);
   std::size_t done = 0;
+  std::size_t begun = 0;
   bool isFirst = true;
   const auto emit = [&](const FileOutcome& outcome) {
     if (outcome.result) {
@@ -45,13 +46,15 @@ void scanFiles(const Options& options, Console& console, const FileScan& scan) {
     } else {
       console.fail(outcome.path, outcome.result.error().reason);
     }
-    progress.update(++done, files.remaining());
+    progress.update(++done, begun + files.remaining());
     return console.isOpen();
   };
-  runFiles({.next = [&] { return files.next(); },
-            .work = scan.work,
-            .emit = emit,
-            .threads = threadsOf(options)});
+  const auto next = [&] {
+    auto item = files.next();
+    if (item) ++begun;
+    return item;
+  };
+  runFiles({.next = next, .work = scan.work, .emit = emit, .threads = threadsOf(options)});
 }
 
 }  // namespace lumifact::tool

@@ -51,10 +51,12 @@ constexpr std::string_view settingsOptions = R"(
 Settings:
       --settings FILE    the settings file; a missing one means the defaults
                          (default: the phone's own path below the root)
-      --map-type N       where map links lead: 1 the map application, any other
-                         number the web
-      --map-zoom N       zoom of links for the map application; 0 leaves it out
-      --map-view N       1 standard, 2 satellite, 3 transit; others leave it out
+      --map-type N       where map links lead, in place of the setting mapType:
+                         1 the map application, any other number the web
+      --map-zoom N       in place of mapZoomLevel: zoom of links for the map
+                         application; 0 leaves it out
+      --map-view N       in place of mapViewType: 1 standard, 2 satellite,
+                         3 transit; any other number leaves it out
 )";
 
 constexpr std::string_view generalOptions = R"(

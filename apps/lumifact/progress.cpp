@@ -26,10 +26,10 @@ Progress::~Progress() {
   _console.showStatus({});
 }
 
-void Progress::update(std::size_t done, std::size_t remaining) {
+void Progress::update(std::size_t done, std::size_t total) {
   if (!_console.canShowStatus() || Clock::now() < _nextDrawing) return;
   _nextDrawing = Clock::now() + interval;
-  _console.showStatus(progressLine(done, done + remaining, wantedColour()));
+  _console.showStatus(progressLine(done, total, wantedColour()));
 }
 
 std::string progressLine(std::size_t done, std::size_t total, Colour colour) {

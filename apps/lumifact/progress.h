@@ -19,8 +19,8 @@ class Progress {
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  // To be called after each file, with the files done and those known to follow.
-  void update(std::size_t done, std::size_t remaining);
+  // To be called after each file, with the files done and all that are known so far.
+  void update(std::size_t done, std::size_t total);
 
  private:
   using Clock = std::chrono::steady_clock;
