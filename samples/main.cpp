@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // make_samples FOLDER [--force]: makes the sample library.
+#include <cstdio>
+#include <exception>
 #include <iostream>
 #include <string>
 #include <string_view>
@@ -25,9 +27,7 @@ int report(const std::string& folder, const model::Result<samples::Outcome>& out
   return 0;
 }
 
-}  // namespace
-
-int main(int count, char** arguments) {
+int run(int count, char** arguments) {
   std::string folder;
   auto rewrite = samples::Rewrite::ifOutdated;
   for (int index = 1; index < count; ++index) {
@@ -46,4 +46,17 @@ int main(int count, char** arguments) {
     return 2;
   }
   return report(folder, samples::makeLibrary(folder, rewrite));
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  try {
+    return run(count, arguments);
+  } catch (const std::exception& problem) {
+    std::fputs("make_samples: ", stderr);
+    std::fputs(problem.what(), stderr);
+    std::fputs("\n", stderr);
+    return 1;
+  }
 }

@@ -70,7 +70,7 @@ class NearestColor {
   }
 
   const std::vector<Rgb>& _palette;
-  std::vector<std::int16_t> _known = std::vector<std::int16_t>(32 * 32 * 32, -1);
+  std::vector<std::int16_t> _known = std::vector<std::int16_t>(std::size_t{32} * 32 * 32, -1);
 };
 
 constexpr std::array<std::array<int, 4>, 4> ditherMatrix = {
@@ -100,6 +100,7 @@ std::vector<Rgb> medianCutPalette(const std::vector<Picture>& pictures) {
     boxes.push_back(upper);
   }
   std::vector<Rgb> palette;
+  palette.reserve(paletteSize);
   for (const std::span<Rgb>& box : boxes) palette.push_back(meanColor(box));
   palette.resize(paletteSize);
   return palette;

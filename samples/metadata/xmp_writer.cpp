@@ -63,7 +63,7 @@ void addAttributes(std::string& packet, const Photo& photo) {
   }
   if (photo.rating > 0) addAttribute(packet, "xmp:Rating", std::to_string(photo.rating));
   addAttribute(packet, "photoshop:Headline", photo.title);
-  if (!photo.namesPlace) return;
+  if (!photo.namesPlace || photo.place == nullptr) return;
   addAttribute(packet, "photoshop:City", photo.place->city);
   addAttribute(packet, "photoshop:State", photo.place->province);
   addAttribute(packet, "photoshop:Country", photo.place->country);

@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "samples/pictures/positions.h"
+
 namespace samples {
 
 namespace {
@@ -13,13 +15,19 @@ void paintLitWindows(Picture& picture, const Towers& towers, float left, float t
                            hexColor(0xCFE4FF)};
   const float step = towers.window * 1.9f;
   const float floorShare = random.between(0.5f, 1.4f) * towers.windowShare;
-  for (float y = top + step; y < towers.foot - step; y += step * 1.15f) {
-    for (float x = left + step * 0.5f; x + towers.window < left + width - step * 0.3f; x += step) {
-      if (random.unit() > floorShare) continue;
-      fillRectangle(picture, {x, y}, {x + towers.window, y + towers.window * 1.25f},
-                    lamps[random.index(4)], random.between(0.35f, 0.95f));
-    }
-  }
+  const auto paintWindow = [&](float x, float y) {
+    if (random.unit() > floorShare) return;
+    const Rgb lamp = lamps[random.index(4)];
+    fillRectangle(picture, {x, y}, {x + towers.window, y + towers.window * 1.25f}, lamp,
+                  random.between(0.35f, 0.95f));
+  };
+  forEachPosition(
+      top + step, towers.foot - step, [&] { return step * 1.15f; },
+      [&](float y) {
+        forEachPosition(
+            left + step * 0.5f, left + width - step * 0.3f - towers.window, [&] { return step; },
+            [&](float x) { paintWindow(x, y); });
+      });
 }
 
 void paintTower(Picture& picture, const Towers& towers, float left, float width, float height,

@@ -3,6 +3,7 @@
 
 #include "samples/pictures/land.h"
 #include "samples/pictures/noise.h"
+#include "samples/pictures/positions.h"
 #include "samples/pictures/scene_painters.h"
 #include "samples/pictures/sky.h"
 #include "samples/pictures/water.h"
@@ -27,13 +28,15 @@ void paintStem(Picture& picture, float x, float width, float lean, Rgb color, Ra
       picture.blend(column, row, color * (1.18f - 0.62f * side * side), coverage);
     }
   }
-  for (float y = random.between(0, 0.15f); y < 1; y += random.between(0.13f, 0.19f)) {
+  const auto paintRing = [&](float y) {
     const float middle = x + lean * (1 - y);
     fillRounded(picture, {middle - width * 0.54f, y}, {middle + width * 0.54f, y + width * 0.09f},
                 width * 0.04f, mix(color * 1.3f, {0.9f, 0.92f, 0.8f}, 0.35f));
     fillRectangle(picture, {middle - width * 0.5f, y + width * 0.09f},
                   {middle + width * 0.5f, y + width * 0.17f}, color * 0.45f, 0.7f);
-  }
+  };
+  forEachPosition(
+      random.between(0, 0.15f), 1, [&] { return random.between(0.13f, 0.19f); }, paintRing);
 }
 
 // Leaves that hang into the upper part of the picture, and the mist between two rows of stems.
@@ -175,10 +178,14 @@ void paintBamboo(Picture& picture, float) {
     const Rgb color = mix(hexColor(0xB4CF8A), hexColor(0x3D6B35), nearness);
     const float width = 0.012f + 0.050f * nearness * nearness;
     const float spacing = 0.035f + 0.17f * nearness;
-    for (float x = random.between(-0.1f, 0.1f); x < aspect + 0.1f;
-         x += spacing * random.between(0.5f, 1.6f))
-      paintStem(picture, x, width * random.between(0.8f, 1.2f), random.between(-0.05f, 0.05f),
-                color * random.between(0.9f, 1.1f), random);
+    forEachPosition(
+        random.between(-0.1f, 0.1f), aspect + 0.1f,
+        [&] { return spacing * random.between(0.5f, 1.6f); },
+        [&](float x) {
+          const float lean = random.between(-0.05f, 0.05f);
+          paintStem(picture, x, width * random.between(0.8f, 1.2f), lean,
+                    color * random.between(0.9f, 1.1f), random);
+        });
     paintCrowns(picture, nearness, color, mix(hexColor(0xE2EFB8), hexColor(0x6F9A55), nearness),
                 230 + static_cast<std::uint32_t>(depth));
   }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "samples/pictures/noise.h"
+#include "samples/pictures/positions.h"
 
 namespace samples {
 
@@ -137,13 +138,15 @@ void paintDune(Picture& picture, const SkyLine& line, Rgb lit, Rgb shade, float 
 
 void paintConifers(Picture& picture, const SkyLine& line, const Trees& trees) {
   Random random(trees.seed);
-  for (float x = -trees.spacing; x < picture.aspect() + trees.spacing;
-       x += trees.spacing * random.between(0.55f, 1.5f)) {
-    const int column =
-        std::clamp(static_cast<int>(x / picture.pixelSize()), 0, picture.width() - 1);
-    const float foot = line[static_cast<std::size_t>(column)] + trees.height * 0.06f;
-    paintConifer(picture, {x, foot}, trees.height * random.between(0.55f, 1.1f), trees, random);
-  }
+  forEachPosition(
+      -trees.spacing, picture.aspect() + trees.spacing,
+      [&] { return trees.spacing * random.between(0.55f, 1.5f); },
+      [&](float x) {
+        const int column =
+            std::clamp(static_cast<int>(x / picture.pixelSize()), 0, picture.width() - 1);
+        const float foot = line[static_cast<std::size_t>(column)] + trees.height * 0.06f;
+        paintConifer(picture, {x, foot}, trees.height * random.between(0.55f, 1.1f), trees, random);
+      });
 }
 
 void paintWood(Picture& picture, const SkyLine& line, const Trees& trees) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "samples/pictures/land.h"
 #include "samples/pictures/noise.h"
+#include "samples/pictures/positions.h"
 #include "samples/pictures/scene_painters.h"
 #include "samples/pictures/sky.h"
 #include "samples/pictures/water.h"
@@ -255,8 +256,12 @@ void paintGraniteBay(Picture& picture, float phase) {
                                         .scale = 1.5f,
                                         .sharpness = 0.4f,
                                         .seed = 130 + static_cast<std::uint32_t>(layer)});
-    for (float x = random.between(0, 0.8f); x < aspect; x += random.between(0.5f, 1.3f))
-      raiseDome(picture, hills, x, random.between(0.12f, 0.26f), random.between(0.06f, 0.26f));
+    forEachPosition(
+        random.between(0, 0.8f), aspect, [&] { return random.between(0.5f, 1.3f); },
+        [&](float x) {
+          const float width = random.between(0.12f, 0.26f);
+          raiseDome(picture, hills, x, width, random.between(0.06f, 0.26f));
+        });
     paintLand(picture, hills,
               {.lit = tones[layer] * 1.12f,
                .shade = tones[layer] * 0.84f,
@@ -276,9 +281,13 @@ void paintGraniteBay(Picture& picture, float phase) {
                        .sunX = aspect * 0.72f,
                        .phase = phase,
                        .seed = 139});
-  for (float x = 0.4f; x < aspect; x += random.between(0.35f, 1.1f))
-    paintSailBoat(picture, {x, random.between(0.71f, 0.86f)}, random.between(0.03f, 0.07f),
-                  hexColor(0xFFF3E2), hexColor(0x40424E));
+  forEachPosition(
+      0.4f, aspect, [&] { return random.between(0.35f, 1.1f); },
+      [&](float x) {
+        const float y = random.between(0.71f, 0.86f);
+        paintSailBoat(picture, {x, y}, random.between(0.03f, 0.07f), hexColor(0xFFF3E2),
+                      hexColor(0x40424E));
+      });
 }
 
 }  // namespace samples

@@ -92,6 +92,14 @@ Rgb tileColor(float x, float y) {
   return mix(color, hexColor(0xB9B2A4), smoothStep(0.975f, 0.99f, std::max(ax, ay)));
 }
 
+// A scale of clay: rings of its glaze and a paler one.
+void paintScale(Picture& picture, Point center, float radius, Rgb glaze) {
+  const Rgb pale = mix(glaze, hexColor(0xF6F1E2), 0.72f);
+  for (int ring = 0; ring < 4; ++ring)
+    fillCircle(picture, center, radius * (1 - 0.24f * static_cast<float>(ring)),
+               ring % 2 == 0 ? glaze : pale);
+}
+
 // Seven strokes of a digit, as on a pocket calculator: top, upper left, upper right, middle,
 // lower left, lower right, bottom.
 void paintDigit(Picture& picture, Point corner, float height, int digit, Rgb color) {
@@ -146,9 +154,11 @@ void paintMural(Picture& picture, float) {
   constexpr int rows = 6;
   const float size = 1.0f / rows;
   Random random(421);
-  for (float y = 0; y < 1 - size / 2; y += size)
-    for (float x = 0; x < picture.aspect(); x += size)
-      paintMuralCell(picture, {x, y}, size, random);
+  const int columns = static_cast<int>(std::ceil(picture.aspect() * rows));
+  for (int row = 0; row < rows; ++row)
+    for (int column = 0; column < columns; ++column)
+      paintMuralCell(picture, {size * static_cast<float>(column), size * static_cast<float>(row)},
+                     size, random);
   // Paint on plaster: uneven, with a little sunlight from the left.
   forEachPixel(picture, [&](Rgb& pixel, float x, float y) {
     const float plaster = fractalNoise(x * 42, y * 42, 4, 422) - 0.5f;
@@ -176,16 +186,14 @@ void paintScales(Picture& picture, float) {
                             hexColor(0xE9DFC4), hexColor(0xE2A857), hexColor(0x184E5C)};
   constexpr float radius = 0.085f;
   // From the top down, so that each row covers the lower half of the one above it.
-  int row = 0;
-  for (float y = 0; y < 1 + 2 * radius; y += radius / 2, ++row) {
-    int column = 0;
-    for (float x = row % 2 == 0 ? 0 : radius; x < picture.aspect() + radius; x += 2 * radius) {
-      const Rgb glaze = glazes[hashPoint(column++, row, 451) % 6];
-      for (int ring = 0; ring < 4; ++ring)
-        fillCircle(picture, {x, y}, radius * (1 - 0.24f * static_cast<float>(ring)),
-                   ring % 2 == 0 ? glaze : mix(glaze, hexColor(0xF6F1E2), 0.72f));
-    }
-  }
+  const int rows = static_cast<int>((1 + 2 * radius) / (radius / 2));
+  const int columns = static_cast<int>((picture.aspect() + radius) / (2 * radius)) + 1;
+  for (int row = 0; row <= rows; ++row)
+    for (int column = 0; column < columns; ++column)
+      paintScale(
+          picture,
+          {radius * static_cast<float>(2 * column + row % 2), radius / 2 * static_cast<float>(row)},
+          radius, glazes[hashPoint(column, row, 451) % 6]);
   addGlow(picture, {picture.aspect() * 0.35f, 0.25f}, 0.6f, hexColor(0x181612));
 }
 

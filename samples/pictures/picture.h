@@ -121,7 +121,9 @@ void addFilmLook(Picture& picture, float vignette, float grain, std::uint32_t se
 
 // Rounds 0..1 to 0..maximum, clamped.
 constexpr int quantized(float value, int maximum) {
-  return static_cast<int>(std::clamp(value, 0.0f, 1.0f) * static_cast<float>(maximum) + 0.5f);
+  const float scaled = std::clamp(value, 0.0f, 1.0f) * static_cast<float>(maximum);
+  const int cut = static_cast<int>(scaled);
+  return scaled - static_cast<float>(cut) < 0.5f ? cut : cut + 1;
 }
 
 // The pixels as red, green and blue bytes, in rows without padding.

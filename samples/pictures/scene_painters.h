@@ -26,10 +26,12 @@ void paintBamboo(Picture& picture, float phase);
 
 // The sea (sea_scenes.cpp).
 void paintTropicalSunset(Picture& picture, float phase);
-void paintFishingHarbour(Picture& picture, float phase);
-void paintLighthouse(Picture& picture, float phase);
 void paintLagoon(Picture& picture, float phase);
 void paintSurf(Picture& picture, float phase);
+
+// The coast (harbour_scenes.cpp).
+void paintFishingHarbour(Picture& picture, float phase);
+void paintLighthouse(Picture& picture, float phase);
 
 // Towns (city_scenes.cpp, town_scenes.cpp).
 void paintDuskSkyline(Picture& picture, float phase);

@@ -36,7 +36,7 @@ TEST(MakerNote, MeasuresTheBrightnessOfThePicture) {
   picture.at(31, 0) = {1, 1, 1};
   const BrightnessGrid grid = brightnessGrid(picture);
   EXPECT_EQ(grid[0], 0);
-  EXPECT_NEAR(grid[15], 65535 / 4, 1);
+  EXPECT_NEAR(grid[15], 16383.75, 1);
 }
 
 }  // namespace

@@ -30,6 +30,7 @@ Bytes boxOf(const MovieTrack& track, const std::vector<Chunk>& chunks, std::stri
 TEST(SampleTable, InterleavesTracksByHalfSeconds) {
   const std::vector<Chunk> chunks = interleavedChunks({trackOf(10, 10, 1), trackOf(100, 2, 50)});
   std::vector<std::size_t> order;
+  order.reserve(chunks.size());
   for (const Chunk& chunk : chunks) order.push_back(chunk.track);
   EXPECT_EQ(order, (std::vector<std::size_t>{0, 1, 0, 1}));
   EXPECT_EQ(chunks[2].firstSample, 5u);
