@@ -139,13 +139,13 @@ const SettingRow* rowOf(std::string_view key) {
   return nullptr;
 }
 
-std::optional<model::Value> flagFromText(std::string_view text) {
-  for (const std::string_view word : {"true", "yes", "1"}) {
-    if (text == word) return true;
+// In any case of letters.
+std::optional<model::Value> flagFromText(std::string text) {
+  for (char& letter : text) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
   }
-  for (const std::string_view word : {"false", "no", "0"}) {
-    if (text == word) return false;
-  }
+  if (text == "true" || text == "yes" || text == "1") return true;
+  if (text == "false" || text == "no" || text == "0") return false;
   return std::nullopt;
 }
 
@@ -188,7 +188,7 @@ model::Result<model::Value> settingFromText(std::string_view key, std::string_vi
   };
   switch (rowOf(key)->kind) {
     case SettingKind::flag:
-      return reading(flagFromText(text), "true or false (or yes, no, 1, 0)");
+      return reading(flagFromText(std::string(text)), "true or false (or yes, no, 1, 0)");
     case SettingKind::integer:
       return reading(numberFromText<std::int64_t>(text), "an integer");
     case SettingKind::real:

@@ -151,6 +151,7 @@ TEST(SettingText, ReadsByTheKindOfTheKey) {
   const Case cases[] = {
       {"showSelectedSize", "true", true},
       {"showSelectedSize", "yes", true},
+      {"showSelectedSize", "YES", true},
       {"showSelectedSize", "1", true},
       {"showSelectedSize", "false", false},
       {"showSelectedSize", "no", false},
