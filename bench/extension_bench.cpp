@@ -77,7 +77,7 @@ double timeInNewProcess() {
 
 void loadExtension(benchmark::State& state) {
   prepareHost();
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     const double seconds = timeInNewProcess();
     if (seconds < 0) return state.SkipWithError("the extension cannot be mapped");
     state.SetIterationTime(seconds);
@@ -97,7 +97,7 @@ void indirectCall(benchmark::State& state) {
   const SEL command = selector<"layoutOthers">();
   auto function = reinterpret_cast<Function>(implementationOf(command));
   const auto receiver = Owned<NSObject>::adopt(send<NSObject, "new">(Cell::classObject()));
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     benchmark::DoNotOptimize(function);
     function(receiver->get(), command);
   }
@@ -107,7 +107,7 @@ BENCHMARK(indirectCall);
 void unhookedMessage(benchmark::State& state) {
   prepareHost();
   const auto cell = Owned<NSObject>::adopt(send<NSObject, "new">(Cell::classObject()));
-  for (auto _ : state) send<void, "layoutOthers">(cell);
+  while (state.KeepRunning()) send<void, "layoutOthers">(cell);
 }
 BENCHMARK(unhookedMessage);
 
@@ -120,7 +120,7 @@ void hookedMessage(benchmark::State& state) {
       implementationOf(selector<"layoutOthers">()))
     return state.SkipWithError("the method is not hooked");
   const auto cell = Owned<NSObject>::adopt(send<NSObject, "new">(Cell::classObject()));
-  for (auto _ : state) send<void, "layoutSubviews">(cell);
+  while (state.KeepRunning()) send<void, "layoutSubviews">(cell);
 }
 BENCHMARK(hookedMessage);
 

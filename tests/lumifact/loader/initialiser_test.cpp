@@ -13,7 +13,6 @@ namespace lumifact::host {
 namespace {
 
 using testing::Contains;
-using testing::ElementsAreArray;
 using testing::StartsWith;
 
 std::vector<std::string> stepsBeforeTheHooks() {

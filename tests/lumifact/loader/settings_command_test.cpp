@@ -2,10 +2,12 @@
 //
 // Two processes: this one, a host with the extension loaded, follows what the command-line tool
 // writes.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include "desktop/runtime/darwin_notifications.h"
 #include "tests/lumifact/loader/loaded_extension.h"
@@ -21,16 +23,22 @@ class SettingsCommandTest : public testing::Test {
   int runTool(std::vector<std::string> words) const {
     words.insert(words.begin(), {TOOL_PATH, "--root", host.root(), "settings"});
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
+    posix_spawn_file_actions_t silence;
+    posix_spawn_file_actions_init(&silence);
+    for (const int stream : {STDOUT_FILENO, STDERR_FILENO})
+      posix_spawn_file_actions_addopen(&silence, stream, "/dev/null", O_WRONLY, 0);
     pid_t tool = 0;
-    if (posix_spawn(&tool, TOOL_PATH, nullptr, nullptr, arguments.data(), environ) != 0) return -1;
-    int status = -1;
+    int status = posix_spawn(&tool, TOOL_PATH, &silence, nullptr, arguments.data(), environ);
+    posix_spawn_file_actions_destroy(&silence);
+    if (status != 0) return -1;
     waitpid(tool, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
-  // The settings after the main loop has woken up and delivered; the number of deliveries.
+  // Waits until something is posted and delivers it; answers the number of names delivered.
   static int turnMainLoop() {
     pollfd waiting = {desktop::runtime::darwinNotificationDescriptor(), POLLIN, 0};
     return poll(&waiting, 1, patience) == 1 ? desktop::runtime::deliverDarwinNotifications() : 0;
