@@ -82,7 +82,7 @@ TEST(Initialiser, LoadsNoFrameworkIntoThePhotoApplication) {
 }
 
 TEST(Initialiser, HasTheUsersSettingsBeforeTheFirstHookedCall) {
-  EXPECT_EQ(loadedExtension().probe->settings.fontSize, 21);
+  EXPECT_EQ(loadedExtension().settingsAfter.fontSize, 21);
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ void load(LoadedExtension& extension) {
   if (!library) throw std::runtime_error(dlerror());
   const auto probe = reinterpret_cast<ExtensionProbe*>(dlsym(library, "extensionProbe"));
   extension.probe = probe();
+  extension.settingsAfter = extension.probe->settings;
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ struct LoadedExtension {
   ExtensionHost host{"com.apple.mobileslideshow"};
   std::vector<std::string> events;  // of the loading
   const Probe* probe = nullptr;
+  Settings settingsAfter;       // as the loading left them
   IMP siblingBefore = nullptr;  // viewWillAppear: of HostSiblingViewController before the loading
 };
 

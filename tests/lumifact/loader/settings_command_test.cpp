@@ -66,6 +66,8 @@ TEST_F(SettingsCommandTest, ARunningHostFollowsWhatIsWritten) {
 }
 
 TEST_F(SettingsCommandTest, WritesWhileTheHostIsBusyAreOneReload) {
+  host.removeSettings();
+  host.notify(settingsChangedNotification);
   ASSERT_EQ(runTool({"set", "viewType", "5"}), 0);
   ASSERT_EQ(runTool({"set", "viewType", "6"}), 0);
   EXPECT_NE(settings.viewType, 6);
