@@ -10,8 +10,6 @@ namespace desktop::avfoundation {
 
 namespace {
 
-constexpr auto big = ByteOrder::big;
-
 constexpr std::uint8_t streamTag = 3;
 constexpr std::uint8_t decoderTag = 4;
 constexpr std::uint8_t configurationTag = 5;

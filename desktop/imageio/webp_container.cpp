@@ -23,7 +23,8 @@ struct WebpFacts {
 };
 
 std::uint32_t u24(ByteView bytes, std::uint64_t offset) {
-  return bytes.u16(offset, ByteOrder::little).value_or(0) | bytes.u8(offset + 2).value_or(0) << 16;
+  const std::uint32_t high = bytes.u8(offset + 2).value_or(0);
+  return bytes.u16(offset, ByteOrder::little).value_or(0) | high << 16;
 }
 
 // A canvas with flags in front; sizes are stored less 1.
