@@ -5,7 +5,7 @@
 # What building and testing need.
 build_packages=(
   cmake g++ git ninja-build pkg-config
-  libavcodec-dev libavformat-dev libavutil-dev libswscale-dev
+  libavcodec-dev libavformat-dev libavutil-dev
   libbenchmark-dev libgmock-dev libgtest-dev
   libcli11-dev libheif-dev libicu-dev libjpeg62-turbo-dev libpugixml-dev nlohmann-json3-dev
   libgnustep-base-dev libobjc-12-dev
