@@ -92,6 +92,7 @@ Bytes makeTiff(const Photo& photo, const Picture& stored) {
 Bytes makeGif(const Photo& photo) {
   constexpr int frameCount = 16;
   std::vector<Picture> frames;
+  frames.reserve(frameCount);
   for (int frame = 0; frame < frameCount; ++frame)
     frames.push_back(
         paintScene(photo.scene, photo.width, photo.height, 0.12f * static_cast<float>(frame)));
