@@ -55,7 +55,7 @@ bool isInstalled(const std::string& program) {
   const char* path = std::getenv("PATH");
   std::istringstream folders(path == nullptr ? "" : path);
   for (std::string folder; std::getline(folders, folder, ':');) {
-    if (::access((folder + "/" + program).c_str(), X_OK) == 0) return true;
+    if (::access(folder.append("/").append(program).c_str(), X_OK) == 0) return true;
   }
   return false;
 }
@@ -69,6 +69,7 @@ std::optional<std::string> outputOf(const std::vector<std::string>& arguments) {
   ::posix_spawn_file_actions_addclose(&actions, ends[0]);
   ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
   std::vector<char*> pointers;
+  pointers.reserve(arguments.size() + 1);
   for (const auto& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
   pointers.push_back(nullptr);
   pid_t child = 0;

@@ -21,6 +21,7 @@ Run runProcess(const std::vector<std::string>& command) {
   ::posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
   ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
   std::vector<char*> pointers;
+  pointers.reserve(command.size() + 1);
   for (const auto& argument : command) pointers.push_back(const_cast<char*>(argument.c_str()));
   pointers.push_back(nullptr);
   const auto start = std::chrono::steady_clock::now();

@@ -57,7 +57,7 @@ std::vector<fs::path> samplesNamed(const fs::path& samples, const std::string& e
 // Fills a folder with copies of the samples of one kind, each in turn.
 fs::path copies(const fs::path& samples, const fs::path& work, const std::string& extension,
                 std::size_t count) {
-  const fs::path folder = work / extension.substr(1);
+  fs::path folder = work / extension.substr(1);
   fs::create_directories(folder);
   const auto originals = samplesNamed(samples, extension);
   if (originals.empty()) {
@@ -73,7 +73,7 @@ fs::path copies(const fs::path& samples, const fs::path& work, const std::string
 
 // Many names for few files, so that a long scan needs no disk.
 fs::path manyLinks(const fs::path& from, const fs::path& work, std::size_t count) {
-  const fs::path folder = work / ("links-" + std::to_string(count));
+  fs::path folder = work / ("links-" + std::to_string(count));
   std::vector<fs::path> originals;
   for (const auto& entry : fs::directory_iterator(from)) originals.push_back(entry.path());
   std::ranges::sort(originals);
