@@ -40,7 +40,7 @@ constexpr std::int64_t photoPropertyCount = 29;
 
 void buildImageReport(benchmark::State& state) {
   const model::Dictionary original = photoProperties(state.range(0));
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     state.PauseTiming();
     model::Dictionary properties = original;
     state.ResumeTiming();

@@ -23,9 +23,9 @@ using fuzz::Field;
 // Coded pixels and sound tell the readers nothing: what lies behind this many bytes is left out
 // where the structure ends earlier, and larger files only give a few seeds.
 constexpr std::size_t codedTail = 64;
-constexpr std::size_t largestSeed = 256 * 1024;
+constexpr std::size_t largestSeed = std::size_t{256} * 1024;
 constexpr std::size_t mostSeedsAFile = 400;
-constexpr std::size_t mostBytesAFile = 12 << 20;
+constexpr std::size_t mostBytesAFile = std::size_t{12} << 20;
 
 void put(Bytes& bytes, const Field& field, std::uint64_t value) {
   for (std::size_t index = 0; index < field.width; ++index) {
