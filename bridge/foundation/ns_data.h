@@ -19,6 +19,11 @@ struct NSData : NSObject {
   const void* bytes() const { return send<const void*, "bytes">(*this); }
   // The bytes, borrowed from the object.
   std::string_view view() const { return {static_cast<const char*>(bytes()), length()}; }
+  // The bytes read as UTF-8; nil where they are none.
+  Owned<NSString> utf8Text() const {
+    return Owned<NSString>::adopt(send<NSString, "initWithData:encoding:">(
+        send<id, "alloc">(NSString::classObject()), *this, NSUInteger{4}));
+  }
 };
 
 struct NSDate : NSObject {

@@ -23,6 +23,15 @@ struct NSString : NSObject {
   bool isEqualToString(NSString other) const {
     return send<bool, "isEqualToString:">(*this, other);
   }
+  bool hasPrefix(NSString prefix) const { return send<bool, "hasPrefix:">(*this, prefix); }
+  // REQUIRES: index <= length().
+  NSString substringFrom(NSUInteger index) const {
+    return send<NSString, "substringFromIndex:">(*this, index);
+  }
+  // REQUIRES: end is not nil.
+  NSString appending(NSString end) const {
+    return send<NSString, "stringByAppendingString:">(*this, end);
+  }
   int intValue() const { return send<int, "intValue">(*this); }
   NSInteger localizedCaseInsensitiveCompare(NSString other) const {
     return send<NSInteger, "localizedCaseInsensitiveCompare:">(*this, other);

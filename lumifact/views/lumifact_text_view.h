@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+//
+// LumifactTextView: a text view that says that it can become first responder.
+#pragma once
+
+#include "bridge/bound.h"
+#include "bridge/uikit/ui_controls.h"
+
+namespace lumifact {
+
+class LumifactTextView : public bridge::Bound<LumifactTextView, bridge::UITextView> {
+ public:
+  using Bound::Bound;
+  static Class classObject();
+  static bridge::Owned<bridge::UITextView> make();
+
+  bool canBecomeFirstResponder() const { return true; }
+};
+
+}  // namespace lumifact
