@@ -69,15 +69,36 @@ void restoreSeptember(SimpleDateFormat& format) {
   format.setDateFormatSymbols(symbols);
 }
 
-Format makeFormat(DateStyle style, const icu::Locale& locale) {
-  const bool isMedium = style == DateStyle::mediumDate;
+// Every form of a date that is written here.
+enum class Form { mediumDateTime, shortDateTime, day, month, year };
+
+Format dateTimeFormat(Form form, const icu::Locale& locale) {
+  const bool isMedium = form == Form::mediumDateTime;
   Format format =
       stockFormat(isMedium ? DateFormat::kMedium : DateFormat::kShort, DateFormat::kMedium, locale);
+  if (format == nullptr || !isMedium || !joinsMediumDatesByAWord(locale)) return format;
+  const UnicodeString joined = patternJoinedByAWord(locale);
+  if (!joined.isEmpty()) format->applyPattern(joined);
+  return format;
+}
+
+// The locale's own order and words for the fields of a skeleton.
+Format skeletonFormat(const UnicodeString& skeleton, const icu::Locale& locale) {
+  UErrorCode status = U_ZERO_ERROR;
+  return Format(dynamic_cast<SimpleDateFormat*>(
+      DateFormat::createInstanceForSkeleton(skeleton, locale, status)));
+}
+
+Format formatOfForm(Form form, const icu::Locale& locale) {
+  if (form == Form::day) return stockFormat(DateFormat::kMedium, DateFormat::kNone, locale);
+  if (form == Form::month) return skeletonFormat(u"yMMMM", locale);
+  if (form == Form::year) return skeletonFormat(u"y", locale);
+  return dateTimeFormat(form, locale);
+}
+
+Format makeFormat(Form form, const icu::Locale& locale) {
+  Format format = formatOfForm(form, locale);
   if (format == nullptr) return nullptr;
-  if (isMedium && joinsMediumDatesByAWord(locale)) {
-    const UnicodeString joined = patternJoinedByAWord(locale);
-    if (!joined.isEmpty()) format->applyPattern(joined);
-  }
   if (std::string_view(locale.getLanguage()) == "en") restoreSeptember(*format);
   format->setTimeZone(*icu::TimeZone::getGMT());
   return format;
@@ -85,29 +106,44 @@ Format makeFormat(DateStyle style, const icu::Locale& locale) {
 
 // A format takes a millisecond to make, and is used from one thread at a time. Null where ICU has
 // no data.
-const SimpleDateFormat* formatOf(DateStyle style, const Locale& locale) {
-  thread_local std::map<std::pair<std::string, DateStyle>, Format> formats;
-  const auto [entry, isNew] = formats.try_emplace({locale.name(), style});
+const SimpleDateFormat* formatOf(Form form, const Locale& locale) {
+  thread_local std::map<std::pair<std::string, Form>, Format> formats;
+  const auto [entry, isNew] = formats.try_emplace({locale.name(), form});
   if (isNew) {
     const auto icuLocale = icuLocaleOf(locale);
-    if (icuLocale) entry->second = makeFormat(style, *icuLocale);
+    if (icuLocale) entry->second = makeFormat(form, *icuLocale);
   }
   return entry->second.get();
 }
 
-}  // namespace
-
 // The clocks' time is given to ICU as if it were UTC, so that the C library alone decides on the
 // time zone.
-std::optional<std::string> localisedDateText(const model::CivilTime& time, DateStyle style,
-                                             const Locale& locale) {
-  const SimpleDateFormat* format = formatOf(style, locale);
+std::optional<std::string> textOf(const model::CivilTime& time, Form form, const Locale& locale) {
+  const SimpleDateFormat* format = formatOf(form, locale);
   if (format == nullptr) return std::nullopt;
   UnicodeString text;
   format->format(model::dateFromUtc(time).secondsSince1970 * 1000, text);
   text.findAndReplace(UnicodeString(u'\u202F'), UnicodeString(u' '));
   std::string result;
   return text.toUTF8String(result);
+}
+
+Form formOf(CalendarUnit unit) {
+  if (unit == CalendarUnit::day) return Form::day;
+  return unit == CalendarUnit::month ? Form::month : Form::year;
+}
+
+}  // namespace
+
+std::optional<std::string> localisedDateText(const model::CivilTime& time, DateStyle style,
+                                             const Locale& locale) {
+  const bool isMedium = style == DateStyle::mediumDate;
+  return textOf(time, isMedium ? Form::mediumDateTime : Form::shortDateTime, locale);
+}
+
+std::optional<std::string> localisedCalendarText(const model::CivilTime& time, CalendarUnit unit,
+                                                 const Locale& locale) {
+  return textOf(time, formOf(unit), locale);
 }
 
 }  // namespace desktop::foundation

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "desktop/foundation/calendar_text.h"
 #include "desktop/foundation/date_text.h"
 
 namespace desktop::foundation {
@@ -14,5 +15,9 @@ namespace desktop::foundation {
 // are plain where newer data has narrow ones. Thread-safe.
 std::optional<std::string> localisedDateText(const model::CivilTime& time, DateStyle style,
                                              const Locale& locale);
+
+// The day, the month with its year or the year, likewise.
+std::optional<std::string> localisedCalendarText(const model::CivilTime& time, CalendarUnit unit,
+                                                 const Locale& locale);
 
 }  // namespace desktop::foundation
