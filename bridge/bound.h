@@ -49,6 +49,8 @@ class Bound {
         reinterpret_cast<Derived*>(reinterpret_cast<char*>(object) + binding.stateOffset));
   }
 
+  static Derived& of(Object object) { return of(object.get()); }
+
   static long liveObjects() { return binding.liveObjects; }
 
   static inline constinit BoundClass binding{};

@@ -7,8 +7,10 @@ build_packages=(
   cmake g++ git ninja-build pkg-config
   libavcodec-dev libavformat-dev libavutil-dev
   libbenchmark-dev libgmock-dev libgtest-dev
+  fonts-inter fonts-urw-base35
   libcli11-dev libheif-dev libicu-dev libjpeg62-turbo-dev libpugixml-dev nlohmann-json3-dev
   libgnustep-base-dev libobjc-12-dev
+  qt6-base-dev
   tzdata zlib1g-dev
 )
 

@@ -26,7 +26,7 @@ Class UIFont::classObject() {
 bridge::NSObject UIFont::systemFontOfSize(CGFloat size) {
   auto font =
       bridge::Owned<bridge::NSObject>::adopt(bridge::send<bridge::NSObject, "new">(classObject()));
-  if (font) of(font.get().get())._pointSize = size;
+  if (font) of(font.get())._pointSize = size;
   return font.autorelease();
 }
 

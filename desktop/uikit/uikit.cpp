@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/uikit.h"
 
+#include "desktop/uikit/class_list.h"
 #include "desktop/uikit/string_drawing.h"
-#include "desktop/uikit/ui_font.h"
+#include "desktop/uikit/ui_view.h"
 
 namespace desktop::uikit {
 
 void registerUIKit() {
   static const bool registered = [] {
     addStringDrawing();
-    return UIFont::classObject() != nullptr;
+    registerClasses();
+    addViewAnimations();
+    return true;
   }();
   static_cast<void>(registered);
 }

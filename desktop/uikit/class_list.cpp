@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/class_list.h"
+
+#include "desktop/uikit/ca_gradient_layer.h"
+#include "desktop/uikit/ca_layer.h"
+#include "desktop/uikit/ui_application.h"
+#include "desktop/uikit/ui_bezier_path.h"
+#include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_font.h"
+#include "desktop/uikit/ui_responder.h"
+#include "desktop/uikit/ui_screen.h"
+#include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/ui_window.h"
+
+namespace desktop::uikit {
+namespace {
+
+// A superclass stands before the classes below it.
+constexpr Class (*classes[])() = {
+    &UIColor::classObject,       &UIFont::classObject,          &UIBezierPath::classObject,
+    &CALayer::classObject,       &CAGradientLayer::classObject, &UIResponder::classObject,
+    &UIApplication::classObject, &UIScreen::classObject,        &UIView::classObject,
+    &UIWindow::classObject,      &UIScrollView::classObject,
+};
+
+}  // namespace
+
+void registerClasses() {
+  for (const auto& classObject : classes) classObject();
+}
+
+}  // namespace desktop::uikit

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// A fresh stage for every test, with one window that fills it; time stands still until a test
+// advances the stage.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "bridge/uikit.h"
+#include "desktop/uikit/geometry.h"
+#include "desktop/uikit/handles.h"
+#include "desktop/uikit/stage.h"
+#include "desktop/uikit/uikit.h"
+
+namespace desktop::uikit {
+
+class StageTest : public testing::Test {
+ protected:
+  StageTest() {
+    registerUIKit();
+    resetStage();
+    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(stage().screenSize));
+    made->makeKeyAndVisible();
+    stage().prepareFrame();
+  }
+  ~StageTest() override { resetStage(); }
+
+  static handles::UIWindow window() { return handles::UIWindow(stage().windows.at(0)->get()); }
+
+ private:
+  const bridge::AutoreleasePool _pool;
+};
+
+}  // namespace desktop::uikit

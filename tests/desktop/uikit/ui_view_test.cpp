@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/ui_view.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "bridge/uikit.h"
+#include "desktop/uikit/handles.h"
+#include "tests/desktop/uikit/stage_test.h"
+
+namespace desktop::uikit {
+namespace {
+
+class UIViewTest : public StageTest {
+ protected:
+  static bridge::Owned<bridge::UIView> view(CGRect frame) {
+    return bridge::makeView<bridge::UIView>(frame);
+  }
+};
+
+TEST_F(UIViewTest, AFrameIsItsBoundsAroundItsCenter) {
+  const auto box = view({{10, 20}, {30, 40}});
+  EXPECT_EQ(box->frame(), (CGRect{{10, 20}, {30, 40}}));
+  EXPECT_EQ(box->bounds(), (CGRect{{0, 0}, {30, 40}}));
+  EXPECT_EQ(UIView::of(box.get()).center(), (CGPoint{25, 40}));
+}
+
+TEST_F(UIViewTest, AScaledViewsFrameIsTheRectangleAroundIt) {
+  const auto box = view({{10, 20}, {30, 40}});
+  box->setTransform(bridge::scaling(2, 2));
+  EXPECT_EQ(box->frame(), (CGRect{{-5, 0}, {60, 80}}));
+  EXPECT_EQ(box->bounds(), (CGRect{{0, 0}, {30, 40}}));
+}
+
+TEST_F(UIViewTest, AFrameThatIsNotFiniteIsEmpty) {
+  const auto box = view({{NAN, 0}, {10, 10}});
+  EXPECT_EQ(box->frame(), CGRect{});
+  box->setFrame({{0, 0}, {INFINITY, 10}});
+  EXPECT_EQ(box->frame(), CGRect{});
+}
+
+TEST_F(UIViewTest, FlexibleSizeFollowsTheSuperview) {
+  const auto outer = view({{0, 0}, {100, 200}});
+  const auto inner = view({{10, 20}, {80, 160}});
+  inner->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  outer->addSubview(inner);
+  outer->setFrame({{0, 0}, {150, 180}});
+  EXPECT_EQ(inner->frame(), (CGRect{{10, 20}, {130, 140}}));
+}
+
+TEST_F(UIViewTest, AViewCannotContainItself) {
+  const auto outer = view({});
+  const auto inner = view({});
+  outer->addSubview(inner);
+  inner->addSubview(outer);
+  outer->addSubview(outer);
+  EXPECT_EQ(inner->subviews().count(), 0u);
+  EXPECT_EQ(outer->subviews().count(), 1u);
+}
+
+TEST_F(UIViewTest, ViewsGoWithTheirLastOwner) {
+  const long before = bridge::liveBoundObjects();
+  {
+    const bridge::AutoreleasePool inner;
+    const auto outer = view({});
+    for (int count = 0; count < 3; ++count) outer->addSubview(view({}));
+    EXPECT_GT(bridge::liveBoundObjects(), before);
+  }
+  EXPECT_EQ(bridge::liveBoundObjects(), before);
+}
+
+TEST_F(UIViewTest, AnimationsShowWhatIsOnTheWay) {
+  const auto box = view({{0, 0}, {10, 10}});
+  window().addSubview(box);
+  bool finished = false;
+  bridge::UIView::animate(0.25, bridge::Block<void()>([&box] { box->setAlpha(0); }),
+                          bridge::Block<void(bool)>([&finished](bool whole) { finished = whole; }));
+  EXPECT_EQ(UIView::of(box.get()).alpha(), 0);
+  stage().scheduler.advanceTo(stage().scheduler.now() + 0.125);
+  EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().alpha, 0.5);
+  stage().advance(0.1);
+  EXPECT_FALSE(finished);
+  stage().advance(0.05);
+  EXPECT_TRUE(finished);
+  EXPECT_EQ(UIView::of(box.get()).shown().alpha, 0);
+}
+
+TEST_F(UIViewTest, WhatLeavesTheWindowIsNoLongerAnimated) {
+  const auto box = view({{0, 0}, {10, 10}});
+  window().addSubview(box);
+  int completions = 0;
+  bool finished = true;
+  bridge::UIView::animate(1, bridge::Block<void()>([&box] { box->setAlpha(0); }),
+                          bridge::Block<void(bool)>([&](bool whole) {
+                            finished = whole;
+                            ++completions;
+                          }));
+  box->removeFromSuperview();
+  EXPECT_EQ(completions, 1);
+  EXPECT_FALSE(finished);
+  EXPECT_TRUE(stage().animator.isIdle());
+}
+
+}  // namespace
+}  // namespace desktop::uikit
