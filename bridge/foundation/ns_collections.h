@@ -72,6 +72,11 @@ inline Owned<NSMutableDictionary> mutableCopy(NSDictionary dictionary) {
   return Owned<NSMutableDictionary>::adopt(send<NSMutableDictionary, "mutableCopy">(dictionary));
 }
 
+// A copy that never changes; +1.
+inline Owned<NSDictionary> copy(NSDictionary dictionary) {
+  return Owned<NSDictionary>::adopt(send<NSDictionary, "copy">(dictionary));
+}
+
 struct NSSet : NSObject {
   using NSObject::NSObject;
   static Class classObject() { return classNamed<"NSSet">(); }

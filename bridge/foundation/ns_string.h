@@ -42,4 +42,9 @@ inline NSString NSObject::description() const {
   return send<NSString, "description">(*this);
 }
 
+// What "%@" prints of an object, nil included.
+inline NSString printed(Object object) {
+  return object ? NSObject(object.get()).description() : NSString::make("(null)");
+}
+
 }  // namespace bridge

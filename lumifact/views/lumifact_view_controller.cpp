@@ -174,7 +174,7 @@ SortedKeys& LumifactViewController::keysOf(Object data) {
 }
 
 void LumifactViewController::shareButtonTouched(UIBarButtonItem sender) {
-  const auto sheet = makeShareSheet(descriptionText(_tableData.get()));
+  const auto sheet = makeShareSheet(bridge::printed(_tableData.get()));
   sheet->popoverPresentationController().setBarButtonItem(sender);
   self().present(sheet, UIViewController::animated, {});
 }

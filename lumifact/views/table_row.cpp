@@ -61,9 +61,9 @@ TableRow tableRow(Object data, SortedKeys& keys, NSInteger index, NSString pageT
 
 NSString sharedText(const TableRow& row) {
   const Object value = row.value ? row.value : row.detail;
-  return descriptionText(row.title)
+  return bridge::printed(row.title)
       .appending(NSString::make(" = "))
-      .appending(descriptionText(value));
+      .appending(bridge::printed(value));
 }
 
 }  // namespace lumifact

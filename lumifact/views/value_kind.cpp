@@ -10,7 +10,6 @@ using bridge::NSData;
 using bridge::NSDate;
 using bridge::NSDictionary;
 using bridge::NSNumber;
-using bridge::NSObject;
 using bridge::NSString;
 using bridge::Object;
 
@@ -69,10 +68,6 @@ NSString displayText(Object value) {
       break;
   }
   return {};
-}
-
-NSString descriptionText(Object value) {
-  return value ? NSObject(value.get()).description() : NSString::make("(null)");
 }
 
 }  // namespace lumifact

@@ -20,7 +20,4 @@ bool isContainer(ValueKind kind);
 // for nil and for what is of an unknown kind.
 bridge::NSString displayText(bridge::Object value);
 
-// The description of an object, "(null)" for nil: what "%@" prints.
-bridge::NSString descriptionText(bridge::Object value);
-
 }  // namespace lumifact

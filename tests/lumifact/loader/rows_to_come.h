@@ -27,11 +27,6 @@ inline constexpr std::string_view replacedRowsToCome[] = {
     "PUPhotosGridViewController localizedSelectionTitle",
     "PUPhotosGridViewController viewDidLoad",
     "PUPhotosGridViewController collectionView:cellForItemAtIndexPath:",
-    "PUOneUpBarsController updateBars",
-    "PUOneUpTilingLayout init",
-    "PUOneUpViewController viewWillDisappear:",
-    "PUOneUpViewController viewDidLoad",
-    "PUOneUpViewController _setTilingView:",
 };
 
 // They do nothing and answer nil.
@@ -43,8 +38,6 @@ inline constexpr std::string_view addedRowsToCome[] = {
     "PUPhotosAlbumViewController LFChangeGridsize:",
     "PUPhotosAlbumViewController addGridSizeButton",
     "PUPhotosGridViewController lumifactLongPress:",
-    "PUOneUpViewController LXErrorAlert:",
-    "PUOneUpViewController LXViewExifData:",
 };
 
 }  // namespace lumifact::host

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "lumifact/details/data_parser_class.h"
+
+#include "bridge/class_builder.h"
+#include "bridge/convert.h"
+#include "bridge/convert_media.h"
+#include "lumifact/report/data_parser.h"
+
+namespace lumifact {
+namespace {
+
+using bridge::AutoreleasePool;
+using bridge::NSMutableDictionary;
+using bridge::NSString;
+
+// The order in which the platform shows keys.
+int compareAsShown(std::string_view left, std::string_view right) {
+  const AutoreleasePool pool;
+  return static_cast<int>(
+      NSString::make(left).localizedCaseInsensitiveCompare(NSString::make(right)));
+}
+
+void handOut(const std::optional<std::string>& coordinates, id* mapCoordinates) {
+  if (coordinates) *mapCoordinates = NSString::make(*coordinates).get();
+}
+
+std::optional<std::string> textOf(id string) {
+  return string ? std::optional(NSString(string).utf8()) : std::nullopt;
+}
+
+}  // namespace
+
+Class DataParserClass::classObject() {
+  static const Class made =
+      bridge::ClassBuilder<DataParserClass>("DataParser")
+          .classMethod<"parseDataToString:mapCoordinates:", &DataParserClass::parseDataToString>()
+          .classMethod<"parseAVURLAsset:toDataAndString:mapCoordinates:",
+                       &DataParserClass::parseAVURLAsset>()
+          .build();
+  return made;
+}
+
+NSString DataParserClass::parseDataToString(id* data, id* mapCoordinates) {
+  const NSMutableDictionary properties(*data);
+  const model::Value read = bridge::toValue(properties);
+  const model::Dictionary before = read.asDictionary() ? *read.asDictionary() : model::Dictionary();
+  model::Dictionary after = before;
+  std::optional<std::string> coordinates;
+  const std::string text = DataParser::parseDataToString(after, coordinates, compareAsShown);
+  bridge::writeChanges(properties, before, after);
+  handOut(coordinates, mapCoordinates);
+  return NSString::make(text);
+}
+
+NSString DataParserClass::parseAVURLAsset(bridge::AVURLAsset asset, id*, id* mapCoordinates) {
+  const model::MediaAsset media = bridge::toMediaAsset(asset);
+  model::Dictionary untouched;
+  std::optional<std::string> coordinates;
+  const std::string text =
+      DataParser::parseAVURLAsset(asset ? &media : nullptr, untouched, coordinates, compareAsShown);
+  handOut(coordinates, mapCoordinates);
+  return NSString::make(text);
+}
+
+Report reportOfImage(NSMutableDictionary properties) {
+  id data = properties.get();
+  id coordinates = nullptr;
+  const auto text = bridge::send<NSString, "parseDataToString:mapCoordinates:">(
+      DataParserClass::classObject(), &data, &coordinates);
+  return {text, textOf(coordinates)};
+}
+
+Report reportOfVideo(bridge::AVURLAsset asset) {
+  const auto data = bridge::makeNew<NSMutableDictionary>();
+  id dataObject = data->get();
+  id coordinates = nullptr;
+  const auto text = bridge::send<NSString, "parseAVURLAsset:toDataAndString:mapCoordinates:">(
+      DataParserClass::classObject(), asset, &dataObject, &coordinates);
+  return {text, textOf(coordinates)};
+}
+
+}  // namespace lumifact

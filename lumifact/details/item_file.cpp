@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "lumifact/details/item_file.h"
+
+#include "lumifact/assets/file_names.h"
+
+namespace lumifact {
+namespace {
+
+using bridge::NSString;
+using bridge::NSURL;
+using bridge::PHAsset;
+
+void open(ItemFile& file, NSURL url) {
+  file.source = bridge::openImageSource(url);
+  file.path = bridge::Owned<NSString>::retain(url.path());
+}
+
+NSURL largePreview(NSURL mediumPreview) {
+  if (!mediumPreview) return {};
+  return NSURL::withString(NSString::make(largePreviewName(mediumPreview.absoluteString().utf8())));
+}
+
+void openPreview(ItemFile& file, PHAsset asset) {
+  const NSURL medium = asset.fileURLForMediumPreview();
+  for (const NSURL url : {asset.fileURLForFullsizeImage(), asset.fileURLForLargePreview(), medium,
+                          largePreview(medium)}) {
+    open(file, url);
+    if (file.source) return;
+  }
+}
+
+std::string dateText(bridge::NSDate date) {
+  using bridge::NSDateFormatter;
+  if (!date) return bridge::printed({}).utf8();
+  return NSDateFormatter::localizedString(date, NSDateFormatter::mediumStyle,
+                                          NSDateFormatter::mediumStyle)
+      .utf8();
+}
+
+std::string sizeText(unsigned long long bytes) {
+  using bridge::NSByteCountFormatter;
+  return NSByteCountFormatter::string(static_cast<long long>(bytes),
+                                      NSByteCountFormatter::fileStyle)
+      .utf8();
+}
+
+}  // namespace
+
+ItemFile openItemFile(PHAsset asset) {
+  ItemFile file;
+  open(file, asset.mainFileURL());
+  if (!file.source && !asset.isVideo()) openPreview(file, asset);
+  return file;
+}
+
+FileFacts factsOf(NSString path, PHAsset asset) {
+  const auto attributes = bridge::NSFileManager::defaultManager().attributesOfItem(path);
+  return {
+      .path = shownPath(path.utf8()),
+      .fileDate = dateText(attributes.fileModificationDate()),
+      .fileSize = sizeText(attributes.fileSize()),
+      .pixelHeight = static_cast<std::int64_t>(asset.pixelHeight()),
+      .pixelWidth = static_cast<std::int64_t>(asset.pixelWidth()),
+  };
+}
+
+}  // namespace lumifact

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+//
+// Which single-photo view is on the screen, and what was made for its bar: one of each for the
+// process, kept by the hooks.
+#pragma once
+
+#include "bridge/photos.h"
+
+namespace lumifact {
+
+struct OneUpState {
+  // From the view's loading until it goes away; nil for one that is presented for preview.
+  bridge::Owned<bridge::PUOneUpViewController> controller;
+  // Made anew for every view that is loaded.
+  bridge::Owned<bridge::UIButton> detailsButton;
+  bridge::Owned<bridge::UIBarButtonItem> detailsItem;
+  bridge::Owned<bridge::UIBarButtonItem> spacer;
+  // The one that was made last, for good.
+  bridge::Owned<bridge::PUOneUpTilingLayout> tilingLayout;
+};
+
+OneUpState& oneUpState();
+
+}  // namespace lumifact
