@@ -5,12 +5,12 @@
 # What building and testing need.
 build_packages=(
   cmake g++ git ninja-build pkg-config
-  libavcodec-dev libavformat-dev libavutil-dev
+  libavcodec-dev libavformat-dev libavutil-dev libswscale-dev
   libbenchmark-dev libgmock-dev libgtest-dev
   fonts-inter fonts-urw-base35
   libcli11-dev libheif-dev libicu-dev libjpeg62-turbo-dev libpugixml-dev nlohmann-json3-dev
   libgnustep-base-dev libobjc-12-dev
-  qt6-base-dev
+  qt6-base-dev qt6-image-formats-plugins
   tzdata zlib1g-dev
 )
 

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+//
+// HEIF and AVIF files with libheif: by a thumbnail item where one is large enough, else whole.
+#pragma once
+
+#include "desktop/io/byte_source.h"
+#include "desktop/pictures/picture.h"
+#include "model/result.h"
+
+namespace desktop::pictures {
+
+// REQUIRES: the request is not empty.
+model::Result<Picture> decodeHeif(ByteSource& source, const Request& request);
+
+}  // namespace desktop::pictures

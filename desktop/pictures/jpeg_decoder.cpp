@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/pictures/jpeg_decoder.h"
+
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "desktop/imageio/jpeg_segments.h"
+#include "desktop/pictures/colours.h"
+#include "desktop/pictures/exif_block.h"
+#include "desktop/pictures/jpeg_stream.h"
+#include "desktop/pictures/limits.h"
+#include "desktop/pictures/row_scaler.h"
+
+namespace desktop::pictures {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+ExifBlock exifOf(ByteSource& source) {
+  constexpr std::uint8_t app1 = 0xE1;
+  constexpr auto signature = "Exif\0"sv;  // a padding byte follows
+  SourceReader file(source);
+  imageio::JpegSegmentWalk walk(file);
+  while (const auto segment = walk.next()) {
+    if (segment->marker != app1 || segment->payload.size() > limits.exifBytes) continue;
+    const auto bytes = file.view(segment->payload.begin, segment->payload.size());
+    if (bytes && bytes->startsWith(signature)) return readExifBlock(bytes->from(6));
+  }
+  return {};
+}
+
+// Decodes what is left of a stream to exactly the target. None where not even one row comes.
+std::optional<Picture> scaledTo(PixelSize target, JpegStream& stream) {
+  if (!stream.start(target)) return std::nullopt;
+  RowScaler scaler(stream.scaledSize(), target);
+  auto row = stream.nextRow();
+  if (row.empty()) return std::nullopt;
+  for (; !row.empty(); row = stream.nextRow()) scaler.addRow(row);
+  return scaler.take();
+}
+
+std::optional<Picture> thumbnailAs(PixelSize target, PixelSize image,
+                                   std::vector<std::uint8_t> thumbnail) {
+  if (thumbnail.empty()) return std::nullopt;
+  MemorySource source(std::move(thumbnail));
+  JpegStream stream(source);
+  if (!stream.readHeader() || !covers(stream.size(), target)) return std::nullopt;
+  if (!hasSameAspect(stream.size(), image)) return std::nullopt;
+  return scaledTo(target, stream);
+}
+
+}  // namespace
+
+model::Result<Picture> decodeJpeg(ByteSource& source, const Request& request,
+                                  std::optional<Orientation> orientation) {
+  JpegStream stream(source);
+  if (!stream.readHeader()) return stream.error();
+  ExifBlock exif = exifOf(source);
+  const Orientation turn = orientation.value_or(exif.orientation);
+  const PixelSize image = stream.size();
+  const PixelSize target = turn.turned(targetSize(turn.turned(image), request));
+  auto picture = thumbnailAs(target, image, std::move(exif.thumbnail));
+  if (!picture) picture = scaledTo(target, stream);
+  if (!picture) return stream.error();
+  convertToSrgb(stream.profile(), *picture);
+  return turn.upright(*std::move(picture));
+}
+
+}  // namespace desktop::pictures

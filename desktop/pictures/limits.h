@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+//
+// How much decoding may take: the one table of this room.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+
+namespace desktop::pictures {
+
+struct Limits {
+  std::size_t pictureBytes;        // of one finished picture; a larger request is answered smaller
+  int imageSide;                   // pixels
+  unsigned decodedMegabytes;       // of an image that its library decodes whole
+  std::size_t exifBytes;           // of an Exif block
+  std::size_t embeddedImageBytes;  // of a coded thumbnail or preview, read into memory
+  std::size_t profileBytes;        // of a colour profile; a larger one is not applied
+  int jpegScans;                   // of a progressive JPEG, each as costly as the image
+  int heifThumbnails;              // looked at in one file
+  int decoderThreads;              // of one HEIF or video decoder
+  int framesUntilPicture;          // packets of a video read until a frame comes out
+  std::chrono::milliseconds videoTime;  // for one frame
+  std::size_t videoAllocation;          // bytes, of one piece of memory
+  std::size_t workerAddressSpace;       // bytes, of a worker process
+  std::size_t pathBytes;                // of a file's path
+  std::size_t reasonBytes;              // of the reason of a failure
+};
+
+inline constexpr Limits limits = {
+    .pictureBytes = 256u << 20,
+    .imageSide = 65'535,
+    .decodedMegabytes = 1024,
+    .exifBytes = 65'533,
+    .embeddedImageBytes = 32u << 20,
+    .profileBytes = 4u << 20,
+    .jpegScans = 200,
+    .heifThumbnails = 8,
+    .decoderThreads = 2,
+    .framesUntilPicture = 300,
+    .videoTime = std::chrono::milliseconds(1800),
+    .videoAllocation = 256u << 20,
+    .workerAddressSpace = std::size_t{3} << 30,
+    .pathBytes = 4096,
+    .reasonBytes = 512,
+};
+
+}  // namespace desktop::pictures
