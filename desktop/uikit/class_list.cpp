@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/class_list.h"
 
+#include "desktop/uikit/action_control.h"
 #include "desktop/uikit/ca_gradient_layer.h"
 #include "desktop/uikit/ca_layer.h"
+#include "desktop/uikit/menu_overlay.h"
 #include "desktop/uikit/ui_application.h"
 #include "desktop/uikit/ui_bezier_path.h"
 #include "desktop/uikit/ui_color.h"
 #include "desktop/uikit/ui_font.h"
+#include "desktop/uikit/ui_menu_controller.h"
 #include "desktop/uikit/ui_responder.h"
 #include "desktop/uikit/ui_screen.h"
 #include "desktop/uikit/ui_scroll_view.h"
@@ -18,10 +21,22 @@ namespace {
 
 // A superclass stands before the classes below it.
 constexpr Class (*classes[])() = {
-    &UIColor::classObject,       &UIFont::classObject,          &UIBezierPath::classObject,
-    &CALayer::classObject,       &CAGradientLayer::classObject, &UIResponder::classObject,
-    &UIApplication::classObject, &UIScreen::classObject,        &UIView::classObject,
-    &UIWindow::classObject,      &UIScrollView::classObject,
+    // clang-format off
+    &UIColor::classObject,
+    &UIFont::classObject,
+    &UIBezierPath::classObject,
+    &CALayer::classObject,
+    &CAGradientLayer::classObject,
+    &UIResponder::classObject,
+    &UIApplication::classObject,
+    &UIScreen::classObject,
+    &UIView::classObject,
+    &UIWindow::classObject,
+    &UIScrollView::classObject,
+    &ActionControl::classObject,
+    &MenuOverlay::classObject,
+    &UIMenuController::classObject,
+    // clang-format on
 };
 
 }  // namespace
