@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/file_list.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,21 +24,6 @@ model::Error lastError() {
 bool isFolder(const std::string& path) {
   struct stat status {};
   return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
-bool isLink(const std::string& path) {
-  struct stat status {};
-  return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-}
-
-enum class EntryKind { file, folder, skipped };
-
-EntryKind kindOf(const dirent& entry, const std::string& path) {
-  if (entry.d_name[0] == '.') return EntryKind::skipped;  // ".", ".." and hidden ones
-  if (entry.d_type == DT_DIR) return EntryKind::folder;
-  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return EntryKind::file;
-  if (!isFolder(path)) return EntryKind::file;
-  return isLink(path) ? EntryKind::skipped : EntryKind::folder;
 }
 
 }  // namespace
@@ -84,10 +68,12 @@ std::optional<FileItem> FileList::nextInFolders() {
       _folders.pop_back();
       continue;
     }
-    const Entry entry = std::move(folder.entries.back());
+    const auto entry = std::move(folder.entries.back());
     folder.entries.pop_back();
-    std::string path = folder.prefix + entry.name;
-    if (!entry.isFolder) return FileItem{std::move(path), std::nullopt};
+    std::string path = desktop::photos::pathInFolder(folder.path, entry.name);
+    if (entry.kind == desktop::photos::FolderEntryKind::file) {
+      return FileItem{std::move(path), std::nullopt};
+    }
     if (auto error = enter(path)) return FileItem{std::move(path), std::move(error)};
   }
   return std::nullopt;
@@ -95,21 +81,10 @@ std::optional<FileItem> FileList::nextInFolders() {
 
 // Starts to walk a folder.
 std::optional<model::Error> FileList::enter(const std::string& path) {
-  const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(path.c_str()), &::closedir);
-  if (!directory) return lastError();
-  Folder folder{.prefix = path.ends_with('/') ? path : path + '/', .entries = {}};
-  errno = 0;
-  while (const dirent* entry = ::readdir(directory.get())) {
-    const EntryKind kind = kindOf(*entry, folder.prefix + entry->d_name);
-    if (kind != EntryKind::skipped) {
-      folder.entries.push_back({entry->d_name, kind == EntryKind::folder});
-    }
-    errno = 0;
-  }
-  if (errno != 0) return lastError();
-  std::sort(folder.entries.begin(), folder.entries.end(),
-            [](const Entry& left, const Entry& right) { return left.name > right.name; });
-  _folders.push_back(std::move(folder));
+  auto entries = desktop::photos::readFolder(path);
+  if (!entries) return entries.error();
+  std::ranges::reverse(*entries);
+  _folders.push_back({.path = path, .entries = *std::move(entries)});
   return std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apps/lumifact/line_reader.h"
+#include "desktop/photos/folder_entries.h"
 #include "model/result.h"
 
 namespace lumifact::tool {
@@ -45,14 +46,10 @@ class FileList {
   std::size_t remaining() const;
 
  private:
-  struct Entry {
-    std::string name;
-    bool isFolder;
-  };
   // A folder being walked; its entries stand in reverse, so that the next is the last.
   struct Folder {
-    std::string prefix;  // "folder/"
-    std::vector<Entry> entries;
+    std::string path;
+    std::vector<desktop::photos::FolderEntry> entries;
   };
 
   std::optional<FileItem> nextInFolders();
