@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/environment.h"
-#include "apps/lumifact/settings_file.h"
+#include "apps/lumifact/setting_text.h"
+#include "desktop/foundation/property_list_edit.h"
 #include "desktop/runtime/notification_core.h"
 #include "model/description.h"
 
 namespace lumifact::tool {
 
 namespace {
+
+using desktop::foundation::AfterEdit;
 
 // The value in effect, as it is shown.
 std::string shownValue(const Settings& settings, std::string_view key) {
@@ -33,7 +36,7 @@ void announceChange(const Options& options, const std::string& file, Console& co
 void edit(const Options& options, Console& console, AfterEdit after,
           const std::function<void(model::Dictionary&)>& change) {
   const std::string file = settingsFileOf(options);
-  if (const auto error = editSettingsFile(file, change, after))
+  if (const auto error = desktop::foundation::editPropertyListFile(file, change, after))
     return console.fail(file, error->reason);
   announceChange(options, file, console);
 }
