@@ -32,4 +32,72 @@ struct UIScrollView : bridge::UIView {
   void setContentSize(CGSize size) const { bridge::send<void, "setContentSize:">(*this, size); }
 };
 
+struct UIImageView : bridge::UIView {
+  using bridge::UIView::UIView;
+  static Class classObject() { return bridge::classNamed<"UIImageView">(); }
+
+  bridge::UIImage image() const { return bridge::send<bridge::UIImage, "image">(*this); }
+  void setImage(bridge::UIImage image) const { bridge::send<void, "setImage:">(*this, image); }
+};
+
+// A new recogniser of a handle's class with a target, which it does not keep; +1.
+template <bridge::Handle T>
+bridge::Owned<T> makeRecognizer(bridge::NSObject target, SEL action) {
+  return bridge::Owned<T>::adopt(bridge::send<T, "initWithTarget:action:">(
+      bridge::send<id, "alloc">(T::classObject()), target, action));
+}
+
+struct UITapGestureRecognizer : bridge::UIGestureRecognizer {
+  using bridge::UIGestureRecognizer::UIGestureRecognizer;
+  static Class classObject() { return bridge::classNamed<"UITapGestureRecognizer">(); }
+
+  void setNumberOfTapsRequired(NSUInteger taps) const {
+    bridge::send<void, "setNumberOfTapsRequired:">(*this, taps);
+  }
+};
+
+struct UIPanGestureRecognizer : bridge::UIGestureRecognizer {
+  using bridge::UIGestureRecognizer::UIGestureRecognizer;
+  static Class classObject() { return bridge::classNamed<"UIPanGestureRecognizer">(); }
+
+  CGPoint translationIn(bridge::UIView view) const {
+    return bridge::send<CGPoint, "translationInView:">(*this, view);
+  }
+  CGPoint velocityIn(bridge::UIView view) const {
+    return bridge::send<CGPoint, "velocityInView:">(*this, view);
+  }
+};
+
+// An element of a collection; `frame` in the collection view's coordinates.
+struct UICollectionViewLayoutAttributes : bridge::NSObject {
+  using bridge::NSObject::NSObject;
+  static Class classObject() { return bridge::classNamed<"UICollectionViewLayoutAttributes">(); }
+
+  CGRect frame() const { return bridge::send<CGRect, "frame">(*this); }
+  void setFrame(CGRect frame) const { bridge::send<void, "setFrame:">(*this, frame); }
+  void setZIndex(NSInteger index) const { bridge::send<void, "setZIndex:">(*this, index); }
+};
+
+struct UICollectionReusableView : bridge::UIView {
+  using bridge::UIView::UIView;
+  static Class classObject() { return bridge::classNamed<"UICollectionReusableView">(); }
+
+  void prepareForReuse() const { bridge::send<void, "prepareForReuse">(*this); }
+  void applyLayoutAttributes(UICollectionViewLayoutAttributes attributes) const {
+    bridge::send<void, "applyLayoutAttributes:">(*this, attributes);
+  }
+};
+
+struct UICollectionViewCell : UICollectionReusableView {
+  using UICollectionReusableView::UICollectionReusableView;
+  static Class classObject() { return bridge::classNamed<"UICollectionViewCell">(); }
+
+  bridge::UIView contentView() const { return bridge::send<bridge::UIView, "contentView">(*this); }
+  bool isSelected() const { return bridge::send<bool, "isSelected">(*this); }
+  void setSelected(bool selected) const { bridge::send<void, "setSelected:">(*this, selected); }
+  void setHighlighted(bool highlighted) const {
+    bridge::send<void, "setHighlighted:">(*this, highlighted);
+  }
+};
+
 }  // namespace desktop::uikit::handles

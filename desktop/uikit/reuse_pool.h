@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+//
+// Views that scrolled out of sight and wait to show something else, by their reuse identifiers,
+// and the classes that new ones are made of.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "bridge/uikit/ui_view.h"
+
+namespace desktop::uikit {
+
+class ReusePool {
+ public:
+  // Null takes the class back.
+  void registerClass(const std::string& identifier, Class aClass);
+  // Null where none is registered.
+  Class classFor(const std::string& identifier) const;
+
+  // The view stays where it is in the tree, out of sight, until settle() or until it is taken. One
+  // without an identifier is never used again.
+  void put(const std::string& identifier, const bridge::Owned<bridge::UIView>& view);
+  // A view that waits; nil where none does. It may still be in the tree.
+  bridge::Owned<bridge::UIView> take(const std::string& identifier);
+  // Takes what still waits out of the tree.
+  void settle();
+
+ private:
+  std::map<std::string, Class> _classes;
+  std::map<std::string, std::vector<bridge::Owned<bridge::UIView>>> _waiting;
+  std::vector<bridge::Owned<bridge::UIView>> _unsettled;
+};
+
+}  // namespace desktop::uikit

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+//
+// UICollectionReusableView: what a collection view shows of an item, or above and below a section.
+#pragma once
+
+#include "bridge/bound.h"
+#include "desktop/uikit/handles.h"
+
+namespace desktop::uikit {
+
+class UICollectionReusableView : public bridge::Bound<UICollectionReusableView, bridge::UIView> {
+ public:
+  using Bound::Bound;
+  static Class classObject();
+
+  // What it waits under to be used again: for supplementary views with their kind.
+  const std::string& poolKey() const { return _poolKey; }
+  void setIdentity(bridge::NSString reuseIdentifier, std::string poolKey);
+
+ private:
+  bridge::NSString reuseIdentifier() const { return _reuseIdentifier; }
+  void prepareForReuse() {}
+  void applyLayoutAttributes(handles::UICollectionViewLayoutAttributes) {}
+
+  bridge::Owned<bridge::NSString> _reuseIdentifier;
+  std::string _poolKey;
+};
+
+}  // namespace desktop::uikit

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// UITableViewHeaderFooterView: the title above or below a section of a table.
+#pragma once
+
+#include "bridge/bound.h"
+#include "bridge/uikit/ui_controls.h"
+
+namespace desktop::uikit {
+
+class UITableViewHeaderFooterView
+    : public bridge::Bound<UITableViewHeaderFooterView, bridge::UIView> {
+ public:
+  enum class Place { header, footer };
+
+  explicit UITableViewHeaderFooterView(id self);
+  static Class classObject();
+
+  // A title as a table of this kind shows it. Autoreleased.
+  static bridge::UIView make(bridge::NSString title, Place place, bool isGrouped);
+  // The height of such a title in a table of the width, in points.
+  static CGFloat heightOf(bridge::NSString title, Place place, bool isGrouped, CGFloat width);
+
+  bridge::UILabel textLabel() const { return _textLabel; }
+
+ private:
+  void layoutSubviews();
+
+  bridge::Owned<bridge::UILabel> _textLabel;
+  Place _place = Place::header;
+  bool _isGrouped = false;
+};
+
+}  // namespace desktop::uikit
