@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The C++ state lies inside the runtime object, in one instance variable as large as it is, which
-// carries the class's own name: a bound class below another one has both.
+// carries the class's own name: a bound class below another one has both. Fields that others read
+// by name stand behind it.
 #include "bridge/class_builder.h"
 
 #include <bit>
@@ -16,6 +17,12 @@ void addMethods(Class aClass, const std::vector<BoundMethod>& methods) {
   for (const BoundMethod& method : methods)
     class_addMethod(aClass, sel_registerName(method.selector), method.implementation,
                     method.encoding);
+}
+
+void addField(Class aClass, const char* name, std::size_t size, std::size_t alignment,
+              const char* encoding) {
+  class_addIvar(aClass, name, size, static_cast<std::uint8_t>(std::countr_zero(alignment)),
+                encoding);
 }
 
 void declareProtocols(Class aClass, const std::vector<const char*>& names) {
@@ -40,9 +47,9 @@ Class registerClass(const ClassRecord& record, BoundClass& binding) {
   if (!made) return nullptr;
   const std::string stateName = std::string("_stateOf") + record.name;
   const std::string stateEncoding = "[" + std::to_string(record.size) + "C]";
-  class_addIvar(made, stateName.c_str(), record.size,
-                static_cast<std::uint8_t>(std::countr_zero(record.alignment)),
-                stateEncoding.c_str());
+  addField(made, stateName.c_str(), record.size, record.alignment, stateEncoding.c_str());
+  for (const BoundField& field : record.fields)
+    addField(made, field.name, sizeof(void*), alignof(void*), field.encoding);
   addMethods(made, record.methods);
   addMethods(object_getClass(rawObject(made)), record.classMethods);
   declareProtocols(made, record.protocols);

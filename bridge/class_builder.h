@@ -29,6 +29,12 @@ struct BoundMethod {
   IMP implementation;
 };
 
+// A field of one word beside the C++ state, which others read by name.
+struct BoundField {
+  const char* name;
+  const char* encoding;
+};
+
 // All that registering a class needs. Texts are borrowed for the life of the process.
 struct ClassRecord {
   const char* name = nullptr;
@@ -37,6 +43,7 @@ struct ClassRecord {
   std::size_t alignment = 1;  // of the C++ state, in bytes
   std::vector<BoundMethod> methods;
   std::vector<BoundMethod> classMethods;
+  std::vector<BoundField> fields;
   std::vector<const char*> protocols;  // declared where the runtime knows them
 };
 
@@ -159,6 +166,13 @@ class ClassBuilder {
   template <FixedString Selector, auto Function>
   ClassBuilder& classMethod() {
     _record.classMethods.push_back(bind<Selector, Function>());
+    return *this;
+  }
+
+  // A field that others read by its name, as bridge/runtime/fields.h does: an object ("@") or a
+  // selector (":"), nil at first. What a destructor leaves in it is not released.
+  ClassBuilder& field(const char* name, const char* encoding) {
+    _record.fields.push_back({name, encoding});
     return *this;
   }
 

@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "bridge/runtime/fields.h"
 #include "tests/bridge/victims.h"
 
 namespace bridge {
@@ -104,6 +105,27 @@ class Labelled : public Bound<Labelled, CounterHandle> {
   std::unique_ptr<int> _label = std::make_unique<int>(3);
 };
 
+// Others read its fields by name.
+class Record : public Bound<Record, Base> {
+ public:
+  using Bound::Bound;
+  ~Record() { setObjectField(self(), "_kept", Object()); }
+  long number() const { return _number; }
+
+  static Class classObject() {
+    static const Class made = ClassBuilder<Record>("BuiltRecord")
+                                  .method<"number", &Record::number>()
+                                  .field("_kept", "@")
+                                  .field("_borrowed", "@")
+                                  .field("_action", ":")
+                                  .build();
+    return made;
+  }
+
+ private:
+  long _number = 7;
+};
+
 class ClassBuilderTest : public testing::Test {
  protected:
   ClassBuilderTest() { makeBase(); }
@@ -163,6 +185,47 @@ TEST_F(ClassBuilderTest, KeepsItsOwnExceptionsAndPassesTheHosts) {
   const auto counter = makeCounter(0, "");
   EXPECT_EQ((send<int, "failing">(counter)), 0);
   EXPECT_ANY_THROW((send<void, "raising">(counter)));
+}
+
+TEST_F(ClassBuilderTest, FieldsStandBesideTheState) {
+  const auto record = victims::make(Record::classObject());
+  const auto other = victims::make(Record::classObject());
+  EXPECT_FALSE(objectField(record, "_kept"));
+  EXPECT_EQ(selectorField(record, "_action"), nullptr);
+  setBorrowedField(record, "_borrowed", other);
+  setSelectorField(record, "_action", selector<"copy:">());
+  EXPECT_EQ(objectField(record, "_borrowed"), other.get());
+  EXPECT_FALSE(objectField(other, "_borrowed"));
+  EXPECT_TRUE(sameSelector(selectorField(record, "_action"), selector<"copy:">()));
+  EXPECT_EQ((send<long, "number">(record)), 7);
+  EXPECT_EQ((send<long, "number">(other)), 7);
+}
+
+TEST_F(ClassBuilderTest, AnObjectInAFieldLivesAsLongAsItIsThere) {
+  victims::deaths = 0;
+  {
+    const auto record = victims::make(Record::classObject());
+    setObjectField(record, "_kept", victims::make(victims::mortalClass()).get());
+    EXPECT_EQ(victims::deaths, 0);
+    setObjectField(record, "_kept", objectField(record, "_kept"));
+    EXPECT_EQ(victims::deaths, 0);
+    setObjectField(record, "_kept", victims::make(victims::mortalClass()).get());
+    EXPECT_EQ(victims::deaths, 1);
+  }
+  EXPECT_EQ(victims::deaths, 2);
+}
+
+TEST_F(ClassBuilderTest, AnAbsentFieldKeepsNothing) {
+  victims::deaths = 0;
+  const auto record = victims::make(Record::classObject());
+  {
+    const auto mortal = victims::make(victims::mortalClass());
+    setObjectField(record, "_missing", mortal);
+    setObjectField(record, "_action", mortal);
+    setObjectField(Object(), "_kept", mortal);
+  }
+  EXPECT_EQ(victims::deaths, 1);
+  EXPECT_EQ(selectorField(record, "_action"), nullptr);
 }
 
 TEST_F(ClassBuilderTest, DerivesEncodings) {
