@@ -1,25 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/string_drawing.h"
 
+#include <algorithm>
+
 #include "bridge/foundation.h"
 #include "desktop/uikit/ui_font.h"
+#include "desktop/uikit/utf16.h"
 
 id NSFontAttributeName = nullptr;
 
 namespace desktop::uikit {
 namespace {
 
-constexpr double sizeWithoutFont = 12;
+constexpr FontFace faceWithoutFont{.size = 12};
 
+// As wide as the longest line, as high as the lines.
 CGSize NSString_sizeWithAttributes(id self, SEL, id attributes) {
-  const std::string text = bridge::NSString(self).utf8();
-  const bridge::Object font =
-      bridge::NSDictionary(attributes).at(bridge::Object(NSFontAttributeName));
-  const bool isFont = bridge::isKindOf(font, UIFont::classObject());
-  const FontMetrics& metrics = isFont ? UIFont::of(font.get()).metrics() : systemFontMetrics();
-  const double size = isFont ? UIFont::of(font.get()).pointSize() : sizeWithoutFont;
-  const auto [width, height] = measureText(metrics, size, text);
-  return {width, height};
+  const FontFace face = UIFont::faceOf(
+      bridge::NSDictionary(attributes).at(bridge::Object(NSFontAttributeName)), faceWithoutFont);
+  const std::u16string text = utf16Of(bridge::NSString(self));
+  CGSize size;
+  for (std::size_t start = 0; start <= text.size();) {
+    const std::size_t end = std::min(text.find(u'\n', start), text.size());
+    const auto line = std::u16string_view(text).substr(start, end - start);
+    size.width = std::max(size.width, textEngine().width(face, line));
+    size.height += measuresOf(face).lineHeight();
+    start = end + 1;
+  }
+  return size;
 }
 
 }  // namespace

@@ -4,9 +4,8 @@
 #pragma once
 
 #include "bridge/bound.h"
-#include "bridge/foundation/ns_string.h"
-#include "bridge/geometry.h"
-#include "desktop/uikit/font_metrics.h"
+#include "bridge/uikit/ui_appearance.h"
+#include "desktop/uikit/text_engine.h"
 
 namespace desktop::uikit {
 
@@ -15,24 +14,37 @@ class UIFont : public bridge::Bound<UIFont, bridge::NSObject> {
   using Bound::Bound;
   static Class classObject();
 
-  // The user interface's font; autoreleased. Any size is taken as it is.
-  static bridge::NSObject systemFontOfSize(CGFloat size);
+  // A new font; autoreleased. A size that is not positive and finite becomes the standard one.
+  static bridge::UIFont make(const FontFace& face);
+  // The face of a font; another one for nil and for what is no font.
+  static FontFace faceOf(bridge::Object font, const FontFace& otherwise = {});
 
-  const FontMetrics& metrics() const { return *_metrics; }
-  CGFloat pointSize() const { return _pointSize; }
-  CGFloat lineHeight() const { return scaled(*_metrics, _metrics->lineHeight(), _pointSize); }
-  CGFloat ascender() const { return scaled(*_metrics, _metrics->ascender, _pointSize); }
-  CGFloat descender() const { return scaled(*_metrics, _metrics->descender, _pointSize); }
+  const FontFace& face() const { return _face; }
+  CGFloat pointSize() const { return _face.size; }
+  // As the font itself is called, such as "Courier-Bold".
+  std::string_view name() const;
 
  private:
+  static bridge::UIFont systemFontOfSize(CGFloat size);
+  static bridge::UIFont boldSystemFontOfSize(CGFloat size);
+  static bridge::UIFont systemFontOfWeight(CGFloat size, CGFloat weight);
+  // Nil for a name that is not known.
+  static bridge::UIFont fontWithName(bridge::NSString name, CGFloat size);
+
+  bridge::UIFont fontWithSize(CGFloat size) const;
+  bridge::NSString fontName() const { return bridge::NSString::make(name()); }
+  bridge::NSString familyName() const;
+  CGFloat lineHeight() const { return measuresOf(_face).lineHeight(); }
+  CGFloat ascender() const { return measuresOf(_face).ascender; }
+  CGFloat descender() const { return measuresOf(_face).descender; }
   CGFloat leading() const { return 0; }
-  bridge::NSString fontName() const { return bridge::NSString::make(_metrics->name); }
+  CGFloat capHeight() const;
+  CGFloat xHeight() const;
   bridge::Object copyWithZone(void* zone);
   bool isEqual(bridge::Object other) const;
-  unsigned long hash() const;
+  NSUInteger hash() const;
 
-  const FontMetrics* _metrics = &systemFontMetrics();
-  CGFloat _pointSize = 0;
+  FontFace _face;
 };
 
 }  // namespace desktop::uikit

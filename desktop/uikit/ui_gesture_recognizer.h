@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+//
+// UIGestureRecognizer: watches the touches of its view and of all below it, and tells its targets
+// when they become its gesture. Classes below it answer touchesBegan:withEvent: and its sisters,
+// and say what they make of them by setState:.
+#pragma once
+
+#include <vector>
+
+#include "bridge/bound.h"
+#include "bridge/uikit/ui_view.h"
+
+namespace desktop::uikit {
+
+class UIGestureRecognizer : public bridge::Bound<UIGestureRecognizer, bridge::NSObject> {
+ public:
+  using State = bridge::UIGestureRecognizer::State;
+  using Bound::Bound;
+  static Class classObject();
+  ~UIGestureRecognizer();
+
+  struct Action {
+    bridge::NSObject target;  // borrowed
+    SEL action;
+  };
+  std::vector<Action> actions() const;
+  void addTarget(bridge::NSObject target, SEL action);
+  State state() const { return _state; }
+  // Nil where it is of no view. Borrowed.
+  bridge::UIView view() const { return _view; }
+  bool isEnabled() const { return _isEnabled; }
+  bool cancelsTouchesInView() const { return _cancelsTouchesInView; }
+  bool delaysTouchesBegan() const { return _delaysTouchesBegan; }
+  bool delaysTouchesEnded() const { return _delaysTouchesEnded; }
+
+  // For the dispatcher. Undecided: it may still become a gesture.
+  bool isUndecided() const { return _state == State::possible; }
+  bool isUnderWay() const { return _state == State::began || _state == State::changed; }
+  // Undecided by a decision of another one.
+  bool isWaiting() const { return _awaited != State::possible; }
+  // Whether it goes on without a finger: between taps.
+  bool staysUndecided() const { return isWaiting() || _expectsMoreTouches; }
+  bool wantsTouch(bridge::UITouch touch) const;
+  void touched(bridge::UITouch touch, bridge::UIEvent event);
+  // Ends what is under way, and gives up what is undecided.
+  void giveUp();
+  // Looks again whether those that it waits for have decided.
+  void tryAgain();
+  // Possible again, for the next touch. Tells nobody.
+  void startAnew();
+
+  // For classes below.
+  void become(State state);
+  void setExpectsMoreTouches(bool expects) { _expectsMoreTouches = expects; }
+  CGPoint locationOnScreen() const { return _location; }
+
+ private:
+  bridge::UIGestureRecognizer init();
+  bridge::UIGestureRecognizer initWithTarget(bridge::NSObject target, SEL action);
+  void removeTarget(bridge::NSObject target, SEL action);
+  void moveToView(bridge::UIView view);
+  NSInteger stateNumber() const { return _state; }
+  void setStateNumber(NSInteger state) { become(static_cast<State>(state)); }
+  CGPoint locationIn(bridge::UIView view) const;
+  CGPoint locationOfTouch(NSUInteger index, bridge::UIView view) const;
+  NSUInteger numberOfTouches() const { return _hasTouch ? 1 : 0; }
+  void setEnabled(bool enabled);
+  bridge::NSObject delegate() const { return _delegate; }
+  void setDelegate(bridge::NSObject delegate) { _delegate = delegate; }
+  void setCancelsTouchesInView(bool cancels) { _cancelsTouchesInView = cancels; }
+  void setDelaysTouchesBegan(bool delays) { _delaysTouchesBegan = delays; }
+  void setDelaysTouchesEnded(bool delays) { _delaysTouchesEnded = delays; }
+  void requireToFail(bridge::UIGestureRecognizer other);
+  void ignoreTouches(bridge::NSSet, bridge::UIEvent) {}
+  void reset() {}
+
+  bridge::UIGestureRecognizer me() const { return bridge::UIGestureRecognizer(self().get()); }
+  void recognize(State first);
+  bool mayBegin() const;
+  bool mustWait() const;
+  bool isExcluded() const;
+  bool goesTogetherWith(bridge::UIGestureRecognizer other) const;
+  bool allowsTogether(bridge::UIGestureRecognizer other) const;
+  void excludeOthers() const;
+  void fail();
+  void fire();
+
+  bridge::UIView _view;                   // borrowed
+  bridge::NSObject _delegate;             // borrowed
+  bridge::Owned<bridge::UITouch> _touch;  // asked about by the view; the last one
+  std::vector<bridge::Owned<bridge::UIGestureRecognizer>> _required;  // to fail first
+  State _state = State::possible;
+  State _awaited = State::possible;  // what it becomes once those required have failed
+  CGPoint _location;                 // on the screen
+  bool _hasTouch = false;
+  bool _expectsMoreTouches = false;
+  bool _isEnabled = true;
+  bool _cancelsTouchesInView = true;
+  bool _delaysTouchesBegan = false;
+  bool _delaysTouchesEnded = true;
+};
+
+// What a recogniser tells, and whom: the objects in its field `_targets`.
+class UIGestureRecognizerTarget
+    : public bridge::Bound<UIGestureRecognizerTarget, bridge::NSObject> {
+ public:
+  using Bound::Bound;
+  static Class classObject();
+};
+
+}  // namespace desktop::uikit
