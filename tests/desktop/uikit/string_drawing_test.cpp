@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/font_metrics.h"
 #include "desktop/uikit/uikit.h"
+#include "desktop/uikit/utf16.h"
 
 namespace desktop::uikit {
 namespace {
@@ -30,7 +30,20 @@ TEST_F(StringDrawingTest, ALineIsAsHighAsItsFont) {
   const CGSize size = sizeOf("0000x0000, mgj", font);
   EXPECT_DOUBLE_EQ(size.height, (bridge::send<CGFloat, "lineHeight">(font)));
   EXPECT_NEAR(size.height, 14.52, 0.01);
-  EXPECT_NEAR(size.width, 93.8, 0.01);
+  EXPECT_NEAR(size.width, 14 * 7.2, 0.01);
+}
+
+TEST_F(StringDrawingTest, LinesStandBelowEachOther) {
+  const auto font = bridge::UIFont::systemFont(10);
+  const CGSize one = sizeOf("longest", font);
+  const CGSize three = sizeOf("a\nlongest\n", font);
+  EXPECT_DOUBLE_EQ(three.width, one.width);
+  EXPECT_DOUBLE_EQ(three.height, 3 * one.height);
+}
+
+TEST_F(StringDrawingTest, LoneSurrogatesAreMeasuredToo) {
+  const auto half = stringOf(u"\U0001F4F7z").substringFrom(1);
+  EXPECT_NEAR(bridge::sizeWithAttributes(half, {}).width, 2 * 7.2, 0.01);
 }
 
 TEST_F(StringDrawingTest, TheAttributeNameHasThePlatformsValue) {

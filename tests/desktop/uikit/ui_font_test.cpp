@@ -3,17 +3,25 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "bridge/uikit.h"
 #include "desktop/uikit/uikit.h"
 
 namespace desktop::uikit {
 namespace {
 
+using bridge::NSString;
 using bridge::send;
 
 class UIFontTest : public testing::Test {
  protected:
   UIFontTest() { registerUIKit(); }
+
+  static bridge::UIFont named(const char* name) {
+    return bridge::UIFont::named(NSString::make(name), 12);
+  }
+  static std::string nameOf(bridge::UIFont font) { return send<NSString, "fontName">(font).utf8(); }
 
   const bridge::AutoreleasePool pool;
 };
@@ -30,20 +38,49 @@ TEST_F(UIFontTest, HasTheMeasuresOfItsSize) {
   EXPECT_NEAR((send<CGFloat, "lineHeight">(font)), 24.2045, 0.0001);
   EXPECT_NEAR((send<CGFloat, "ascender">(font)), 19.375, 0.0001);
   EXPECT_NEAR((send<CGFloat, "descender">(font)), -4.8295, 0.0001);
+  EXPECT_NEAR((send<CGFloat, "capHeight">(font)), 14.5455, 0.0001);
+  EXPECT_NEAR((send<CGFloat, "xHeight">(font)), 10.9091, 0.0001);
   EXPECT_EQ((send<CGFloat, "leading">(font)), 0);
-  EXPECT_EQ((send<bridge::NSString, "fontName">(font).utf8()), "Inter");
+  EXPECT_EQ(nameOf(font), "Inter");
 }
 
-TEST_F(UIFontTest, TakesAnySize) {
-  EXPECT_EQ((send<CGFloat, "lineHeight">(bridge::UIFont::systemFont(0))), 0);
-  EXPECT_LT((send<CGFloat, "lineHeight">(bridge::UIFont::systemFont(-3))), 0);
+TEST_F(UIFontTest, ACourierLineIsAsHighAsItsSize) {
+  const auto font = named("Courier");
+  EXPECT_DOUBLE_EQ((send<CGFloat, "lineHeight">(font)), 12);
+  EXPECT_EQ((send<NSString, "familyName">(font).utf8()), "Courier");
 }
 
-TEST_F(UIFontTest, EqualsFontsOfItsSizeOnly) {
+TEST_F(UIFontTest, IsNamedByFamilyAndWeight) {
+  const Class font = UIFont::classObject();
+  EXPECT_EQ(nameOf(send<bridge::UIFont, "boldSystemFontOfSize:">(font, 17.0)), "Inter-Bold");
+  EXPECT_EQ(nameOf(send<bridge::UIFont, "systemFontOfSize:weight:">(font, 17.0, 0.3)),
+            "Inter-SemiBold");
+  EXPECT_EQ(nameOf(send<bridge::UIFont, "systemFontOfSize:weight:">(font, 17.0, 0.4)),
+            "Inter-Bold");
+  EXPECT_EQ(nameOf(send<bridge::UIFont, "systemFontOfSize:weight:">(font, 17.0, NAN)), "Inter");
+  EXPECT_EQ(nameOf(named("CourierNewPSMT")), "Courier");
+  EXPECT_EQ(nameOf(named("Courier-Bold")), "Courier-Bold");
+}
+
+TEST_F(UIFontTest, AnUnknownNameHasNoFont) {
+  EXPECT_FALSE(named("Wingdings"));
+  EXPECT_FALSE(named(""));
+  EXPECT_FALSE(bridge::UIFont::named({}, 12));
+}
+
+TEST_F(UIFontTest, ASizeThatIsNoneIsTheStandardOne) {
+  for (const double size : {0.0, -3.0, static_cast<double>(NAN), static_cast<double>(INFINITY)})
+    EXPECT_EQ((send<CGFloat, "pointSize">(bridge::UIFont::systemFont(size))), 12) << size;
+  EXPECT_EQ((send<CGFloat, "pointSize">(bridge::UIFont::systemFont(0.5))), 0.5);
+}
+
+TEST_F(UIFontTest, EqualsFontsOfItsFaceAndSizeOnly) {
   const auto font = bridge::UIFont::systemFont(12);
   EXPECT_TRUE(font.isEqual(bridge::UIFont::systemFont(12)));
+  EXPECT_TRUE(font.isEqual(send<bridge::UIFont, "fontWithSize:">(font, 12.0)));
   EXPECT_FALSE(font.isEqual(bridge::UIFont::systemFont(13)));
-  EXPECT_FALSE(font.isEqual(bridge::NSString::make("font")));
+  EXPECT_FALSE(font.isEqual(named("Courier")));
+  EXPECT_FALSE(font.isEqual(NSString::make("font")));
   EXPECT_FALSE(font.isEqual(bridge::Object()));
   EXPECT_EQ((send<NSUInteger, "hash">(font)),
             (send<NSUInteger, "hash">(bridge::UIFont::systemFont(12))));
