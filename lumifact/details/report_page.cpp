@@ -13,7 +13,6 @@ namespace lumifact {
 namespace {
 
 using bridge::NSDictionary;
-using bridge::NSMutableDictionary;
 using bridge::NSString;
 using bridge::Owned;
 using bridge::PHAsset;
