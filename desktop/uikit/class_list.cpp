@@ -8,11 +8,17 @@
 #include "desktop/uikit/ui_application.h"
 #include "desktop/uikit/ui_bezier_path.h"
 #include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_event.h"
 #include "desktop/uikit/ui_font.h"
+#include "desktop/uikit/ui_gesture_recognizer.h"
+#include "desktop/uikit/ui_long_press_gesture_recognizer.h"
 #include "desktop/uikit/ui_menu_controller.h"
+#include "desktop/uikit/ui_pan_gesture_recognizer.h"
 #include "desktop/uikit/ui_responder.h"
 #include "desktop/uikit/ui_screen.h"
 #include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/ui_tap_gesture_recognizer.h"
+#include "desktop/uikit/ui_touch.h"
 #include "desktop/uikit/ui_view.h"
 #include "desktop/uikit/ui_window.h"
 
@@ -27,6 +33,13 @@ constexpr Class (*classes[])() = {
     &UIBezierPath::classObject,
     &CALayer::classObject,
     &CAGradientLayer::classObject,
+    &UITouch::classObject,
+    &UIEvent::classObject,
+    &UIGestureRecognizerTarget::classObject,
+    &UIGestureRecognizer::classObject,
+    &UITapGestureRecognizer::classObject,
+    &UILongPressGestureRecognizer::classObject,
+    &UIPanGestureRecognizer::classObject,
     &UIResponder::classObject,
     &UIApplication::classObject,
     &UIScreen::classObject,

@@ -5,9 +5,14 @@
 #include <utility>
 
 namespace desktop::uikit {
+namespace {
+
+constinit Scheduler::Timer lastTimer = 0;
+
+}  // namespace
 
 Scheduler::Timer Scheduler::callAfter(Seconds delay, Work work) {
-  const Timer timer = ++_lastTimer;
+  const Timer timer = ++lastTimer;
   _work.emplace(Due{_now + std::max(delay, 0.0), timer}, std::move(work));
   return timer;
 }

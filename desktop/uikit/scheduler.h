@@ -16,7 +16,8 @@ using Seconds = double;  // since the application's start, or a stretch of time
 class Scheduler {
  public:
   using Work = std::function<void()>;
-  using Timer = std::uint64_t;  // never 0
+  using Timer =
+      std::uint64_t;  // never 0, and never that of other work, of another scheduler either
 
   Seconds now() const { return _now; }
 
@@ -39,7 +40,6 @@ class Scheduler {
   };
 
   Seconds _now = 0;
-  Timer _lastTimer = 0;
   std::map<Due, Work> _work;
 };
 

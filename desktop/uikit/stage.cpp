@@ -70,6 +70,7 @@ Stage& stage() {
 
 void resetStage() {
   const bridge::AutoreleasePool pool;
+  stage().touches.abandon();
   // The windows go while there is still a stage for their views to tell of it.
   const auto windows = std::exchange(stage().windows, {});
   slot() = std::make_unique<Stage>();

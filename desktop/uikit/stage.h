@@ -10,6 +10,7 @@
 #include "bridge/uikit/ui_view.h"
 #include "desktop/uikit/animator.h"
 #include "desktop/uikit/scheduler.h"
+#include "desktop/uikit/touch_dispatcher.h"
 
 namespace desktop::uikit {
 
@@ -38,6 +39,7 @@ struct Stage {
   CGFloat statusBarHeight = 20;  // points
   Scheduler scheduler;
   Animator animator;
+  TouchDispatcher touches;
   Damage damage;
   std::vector<bridge::Owned<bridge::UIView>> windows;  // from back to front
   std::vector<std::string> opened;                     // links handed to the system so far

@@ -38,19 +38,33 @@ class TouchDispatcher {
   void abandon();
 
   // For recognisers and views.
+
+  // While something happens with touches. Whoever waited for what was decided meanwhile hears of it
+  // at the end of the outermost one.
+  class Turn {
+   public:
+    explicit Turn(TouchDispatcher& dispatcher);
+    ~Turn();
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+
+   private:
+    const bridge::AutoreleasePool _pool;
+    TouchDispatcher& _dispatcher;
+  };
+
   using Recognizers = std::vector<bridge::Owned<bridge::UIGestureRecognizer>>;
   // All that take part in a touch which the recogniser takes part in, without itself.
   Recognizers rivalsOf(bridge::UIGestureRecognizer recognizer) const;
   bool takesPart(bridge::UIGestureRecognizer recognizer) const;
-  // A recogniser came to a decision: others may wait for it, and the touched view.
-  void settled(bridge::UIGestureRecognizer recognizer);
+  // The view below the finger that the recogniser watches, or watched last; nil where it does not.
+  bridge::UIView touchedViewOf(bridge::UIGestureRecognizer recognizer) const;
   // The touches that the recogniser takes part in are now its own.
   void takeFromViews(bridge::UIGestureRecognizer recognizer);
   // It takes part in no touch any longer.
   void forget(bridge::UIGestureRecognizer recognizer);
 
  private:
-  class Turn;
   using Session = std::shared_ptr<TouchSession>;
 
   bridge::UIView viewAt(CGPoint point, bridge::UIEvent event) const;
@@ -58,6 +72,7 @@ class TouchDispatcher {
   void finish(CGPoint point, bool isCancelled);
   void tidy();
   bool tidyOnce();
+  void release(const Session& session);
 
   Session _current;                // null while no finger is down
   std::vector<Session> _sessions;  // the current one last; before it those still undecided

@@ -44,8 +44,12 @@ class UIGestureRecognizer : public bridge::Bound<UIGestureRecognizer, bridge::NS
   void touched(bridge::UITouch touch, bridge::UIEvent event);
   // Ends what is under way, and gives up what is undecided.
   void giveUp();
-  // Looks again whether those that it waits for have decided.
-  void tryAgain();
+  // Gives up and takes part in no touch: its view is no longer shown.
+  void leaveTouches();
+  // The same without a word: its view is being destroyed.
+  void viewIsGone();
+  // Where it waits, looks again whether the others have decided. Whether it has now, too.
+  bool tryAgain();
   // Possible again, for the next touch. Tells nobody.
   void startAnew();
 

@@ -20,6 +20,9 @@ class UILongPressGestureRecognizer
   CGFloat allowableMovement() const { return _allowableMovement; }
 
  private:
+  using State = UIGestureRecognizer::State;
+
+  UIGestureRecognizer& base() const;
   void setMinimumPressDuration(Seconds duration) { _minimumPressDuration = duration; }
   void setAllowableMovement(CGFloat points) { _allowableMovement = points; }
   void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);

@@ -24,6 +24,9 @@ class UIPanGestureRecognizer
   CGPoint velocityIn(bridge::UIView view) const;
 
  private:
+  using State = UIGestureRecognizer::State;
+
+  UIGestureRecognizer& base() const;
   void setTranslation(CGPoint translation, bridge::UIView view);
   NSUInteger minimumNumberOfTouches() const { return _minimumTouches; }
   void setMinimumNumberOfTouches(NSUInteger touches) { _minimumTouches = touches; }

@@ -82,6 +82,12 @@ CGPoint UIScrollView::clamped(CGPoint offset) const {
                 room.height)};
 }
 
+bool UIScrollView::delaysTouches() const {
+  const CGSize room = UIView::of(self()).bounds().size;
+  const bool isLarger = _contentSize.width > room.width || _contentSize.height > room.height;
+  return _delaysContentTouches && _isScrollEnabled && isLarger;
+}
+
 bool UIScrollView::scrollBy(CGPoint distance) {
   const CGPoint before = contentOffset();
   const CGPoint after = clamped(before + distance);

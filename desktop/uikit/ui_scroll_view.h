@@ -37,6 +37,8 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
 
   bridge::NSObject delegate() const { return _delegate; }
   bool isScrollEnabled() const { return _isScrollEnabled; }
+  // Whether touches on the content wait until it is clear that they do not scroll.
+  bool delaysTouches() const;
 
  private:
   void setContentOffsetAnimated(CGPoint offset, bool animated);
@@ -48,6 +50,7 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
   EdgeInsets _contentInset;
   bridge::NSObject _delegate;  // borrowed
   bool _isScrollEnabled = true;
+  bool _delaysContentTouches = true;
 };
 
 }  // namespace desktop::uikit

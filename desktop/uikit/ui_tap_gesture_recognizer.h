@@ -18,6 +18,9 @@ class UITapGestureRecognizer
   NSUInteger numberOfTapsRequired() const { return _tapsRequired; }
 
  private:
+  using State = UIGestureRecognizer::State;
+
+  UIGestureRecognizer& base() const;
   void setNumberOfTapsRequired(NSUInteger taps) { _tapsRequired = taps > 0 ? taps : 1; }
   NSUInteger numberOfTouchesRequired() const { return _touchesRequired; }
   void setNumberOfTouchesRequired(NSUInteger touches) { _touchesRequired = touches; }
@@ -26,7 +29,7 @@ class UITapGestureRecognizer
   void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
   void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
   void reset();
-  void failAfter(double seconds);
+  void failAfter(Seconds time);
 
   NSUInteger _tapsRequired = 1;
   NSUInteger _touchesRequired = 1;

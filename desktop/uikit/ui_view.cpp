@@ -12,6 +12,7 @@
 #include "desktop/uikit/encodings.h"
 #include "desktop/uikit/stage.h"
 #include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_gesture_recognizer.h"
 
 namespace desktop::uikit {
 
@@ -95,6 +96,8 @@ UIView::UIView(id self) : Bound(self) {
 UIView::~UIView() {
   CALayer::of(_layer.get()).setView({});
   for (const auto& view : _subviews) of(view.get())._superview = {};
+  for (const auto& recognizer : _gestureRecognizers)
+    UIGestureRecognizer::of(recognizer.get()).viewIsGone();
 }
 
 bridge::UIView UIView::init() {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_gesture_recognizer.h"
 #include "desktop/uikit/ui_view.h"
 #include "desktop/uikit/ui_window.h"
 
@@ -104,10 +105,15 @@ void UIView::detach(bridge::UIView subview) {
   setNeedsLayout();
 }
 
-// What leaves the window is no longer shown: its animations end there.
+// What leaves the window is no longer shown: its animations and gestures end there.
 void UIView::tellMovedToWindow() {
   const bridge::UIView me(self().get());
-  if (!window()) stage().animator.stop(me);
+  if (!window()) {
+    stage().animator.stop(me);
+    const auto recognizers = _gestureRecognizers;
+    for (const auto& recognizer : recognizers)
+      UIGestureRecognizer::of(recognizer.get()).leaveTouches();
+  }
   bridge::send<void, "didMoveToWindow">(me);
   const auto children = _subviews;
   for (const auto& child : children) of(child.get()).tellMovedToWindow();

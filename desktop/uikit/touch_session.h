@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+//
+// One touch with all who watch it: which recognisers may still make it theirs, and what its view
+// has been told. It lasts until the finger is up and everybody has decided.
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "desktop/uikit/pending_call.h"
+#include "desktop/uikit/touch_dispatcher.h"
+#include "desktop/uikit/ui_touch.h"
+
+namespace desktop::uikit {
+
+class TouchSession {
+ public:
+  TouchSession(bridge::UITouch touch, bridge::UIEvent event);
+
+  bridge::UITouch touch() const { return _touch; }
+  const TouchDispatcher::Recognizers& recognizers() const { return _recognizers; }
+  bool has(bridge::UIGestureRecognizer recognizer) const;
+  bool isFingerDown() const { return _isFingerDown; }
+  // Whether something may still come of it.
+  bool isOpen() const;
+
+  // Tells the recognisers, then the view, unless a recogniser keeps that back.
+  void deliver(UITouch::Phase phase);
+  // Tells the view what may be told by now. Whether there was something.
+  bool flush();
+  // The view hears that the touch is over, if it has heard of it at all.
+  void cancelInView();
+  void drop(bridge::UIGestureRecognizer recognizer);
+
+ private:
+  void findRecognizers();
+  void holdForScrolling();
+  void giveUpUndecided();
+  bool isHeld(UITouch::Phase phase) const;
+  void tellView(UITouch::Phase phase);
+
+  bridge::Owned<bridge::UITouch> _touch;
+  bridge::Owned<bridge::UIEvent> _event;
+  TouchDispatcher::Recognizers _recognizers;  // the touched view's first, then those around it
+  std::deque<UITouch::Phase> _untold;         // what the view has not been told yet
+  PendingCall _scrolling;                     // waits whether the finger scrolls
+  bool _isFingerDown = true;
+  bool _viewKnows = false;
+  bool _isOverForView = false;
+};
+
+}  // namespace desktop::uikit
