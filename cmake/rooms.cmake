@@ -23,6 +23,27 @@ function(room_library name alias)
   target_link_libraries(${name} PUBLIC ${ROOM_DEPENDS} PRIVATE $<BUILD_INTERFACE:room_flags> ${ROOM_PRIVATE_DEPENDS})
 endfunction()
 
+# Where modules lie, below the root of the build tree and of the installed one.
+set(ROOM_MODULE_DIR ${CMAKE_INSTALL_LIBDIR}/desktop-modules)
+
+# room_module(NAME SOURCES a.cpp ... [DEPENDS lib ...])
+# NAME.so, which programs map when they first need it, and with it the libraries that it links (see
+# desktop/io/on_demand_module.h). It shows no symbol but its own.
+function(room_module name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_library(${name} MODULE ${ROOM_SOURCES})
+  set_target_properties(${name} PROPERTIES
+    PREFIX "" SUFFIX ".so" LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ROOM_MODULE_DIR})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE room_flags ${ROOM_DEPENDS})
+  target_link_options(${name} PRIVATE LINKER:--exclude-libs,ALL)
+  # A sanitizer's own functions are the program's.
+  if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    target_link_options(${name} PRIVATE LINKER:--no-undefined)
+  endif()
+  install(TARGETS ${name} LIBRARY DESTINATION ${ROOM_MODULE_DIR})
+endfunction()
+
 # How every test is compiled. The assertions themselves need no optimisation, and without it they
 # compile twice as fast; some libraries want position-independent code of whoever uses them, and a
 # precompiled header serves one kind of code only. Clang's own warnings are not what the tests are

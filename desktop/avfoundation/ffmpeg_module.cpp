@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/avfoundation/ffmpeg_module.h"
 
-#include "desktop/avfoundation/on_demand_module.h"
+#include "desktop/io/on_demand_module.h"
 
 namespace desktop::avfoundation {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <limits>
 
-#include "desktop/foundation/localised_byte_count.h"
+#include "desktop/foundation/locale_data.h"
 #include "model/number_text.h"
 
 namespace desktop::foundation {
@@ -76,7 +76,9 @@ std::string byteCountText(std::int64_t bytes, const Locale& locale) {
   const UnitRow& row = unitFor(magnitude);
   const std::string decimal = (bytes < 0 ? "-" : "") + decimalText(magnitude, row);
   if (locale.isEnUS()) return englishText(decimal, row.unit);
-  return localisedByteCount(decimal, row.unit, locale).value_or(englishText(decimal, row.unit));
+  const LocaleData* data = localeData();
+  const auto text = data ? data->byteCountText(decimal, row.unit, locale) : std::nullopt;
+  return text.value_or(englishText(decimal, row.unit));
 }
 
 }  // namespace desktop::foundation

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "desktop/foundation/localised_date_text.h"
+#include "desktop/foundation/locale_data.h"
 #include "model/number_text.h"
 
 namespace desktop::foundation {
@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, 12> monthNames = {
     "July",    "August",   "September", "October", "November", "December"};
 
 std::string americanText(const model::CivilTime& time, CalendarUnit unit) {
-  const std::string year = model::integerText(time.year);
+  std::string year = model::integerText(time.year);
   const std::string_view month = monthNames[static_cast<std::size_t>(time.month - 1)];
   switch (unit) {
     case CalendarUnit::day:
@@ -33,7 +33,9 @@ std::string americanText(const model::CivilTime& time, CalendarUnit unit) {
 
 std::string calendarText(const model::CivilTime& time, CalendarUnit unit, const Locale& locale) {
   if (locale.isEnUS()) return americanText(time, unit);
-  return localisedCalendarText(time, unit, locale).value_or(americanText(time, unit));
+  const LocaleData* data = localeData();
+  const auto text = data ? data->calendarText(time, unit, locale) : std::nullopt;
+  return text.value_or(americanText(time, unit));
 }
 
 }  // namespace desktop::foundation

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/foundation/collation.h"
 
-#include <unicode/coll.h>
-
 #include <algorithm>
 #include <array>
 #include <memory>
 #include <mutex>
 #include <string>
+
+#include "desktop/foundation/locale_data.h"
 
 namespace desktop::foundation {
 
@@ -29,33 +29,19 @@ bool isAscii(std::string_view text) {
 // A collator costs over a millisecond, so it is made when it is first asked.
 class LazyCollator {
  public:
-  explicit LazyCollator(std::string localeName) : _localeName(std::move(localeName)) {}
+  explicit LazyCollator(const Locale& locale) : _locale(locale) {}
 
   int compare(std::string_view left, std::string_view right) {
-    std::call_once(_made, [this] { make(); });
-    if (_collator == nullptr) return model::compareKeys(left, right);
-    UErrorCode status = U_ZERO_ERROR;
-    return _collator->compareUTF8({left.data(), static_cast<int32_t>(left.size())},
-                                  {right.data(), static_cast<int32_t>(right.size())}, status);
+    std::call_once(_made, [this] {
+      if (const LocaleData* data = localeData()) _collator = data->makeCollator(_locale);
+    });
+    return _collator ? _collator->compare(left, right) : model::compareKeys(left, right);
   }
 
  private:
-  // Secondary strength compares all letters first, then all accents, and never case.
-  void make() {
-    UErrorCode status = U_ZERO_ERROR;
-    _collator.reset(icu::Collator::createInstance(icu::Locale(_localeName.c_str()), status));
-    if (_collator == nullptr) return;
-    _collator->setAttribute(UCOL_STRENGTH, UCOL_SECONDARY, status);
-    _collator->setAttribute(UCOL_ALTERNATE_HANDLING, UCOL_NON_IGNORABLE, status);
-    _collator->setAttribute(UCOL_NUMERIC_COLLATION, UCOL_OFF, status);
-    _collator->setAttribute(UCOL_CASE_LEVEL, UCOL_OFF, status);
-    _collator->setAttribute(UCOL_NORMALIZATION_MODE, UCOL_ON, status);
-    if (U_FAILURE(status)) _collator.reset();
-  }
-
-  std::string _localeName;
+  Locale _locale;
   std::once_flag _made;
-  std::unique_ptr<icu::Collator> _collator;
+  std::unique_ptr<Collator> _collator;
 };
 
 }  // namespace
@@ -63,7 +49,7 @@ class LazyCollator {
 model::KeyComparison keyComparison(const Locale& locale) {
   const std::string language = locale.name().substr(0, locale.name().find('_'));
   const bool rootOrderForAscii = std::ranges::count(languagesWithTheirOwnAlphabet, language) == 0;
-  const auto collator = std::make_shared<LazyCollator>(locale.name());
+  const auto collator = std::make_shared<LazyCollator>(locale);
   return [rootOrderForAscii, collator](std::string_view left, std::string_view right) {
     if (rootOrderForAscii && isAscii(left) && isAscii(right)) {
       return model::compareKeys(left, right);

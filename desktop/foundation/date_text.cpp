@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "desktop/foundation/localised_date_text.h"
+#include "desktop/foundation/locale_data.h"
 #include "model/number_text.h"
 
 namespace desktop::foundation {
@@ -48,7 +48,9 @@ std::string americanText(const model::CivilTime& time, DateStyle style) {
 std::string dateText(model::Date date, DateStyle style, const Locale& locale) {
   const model::CivilTime time = localTime(date);
   if (locale.isEnUS()) return americanText(time, style);
-  return localisedDateText(time, style, locale).value_or(americanText(time, style));
+  const LocaleData* data = localeData();
+  const auto text = data ? data->dateText(time, style, locale) : std::nullopt;
+  return text.value_or(americanText(time, style));
 }
 
 }  // namespace desktop::foundation

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/foundation/localised_date_text.h"
+#include "desktop/foundation/icu/localised_date_text.h"
 
 #include <unicode/dtfmtsym.h>
 #include <unicode/smpdtfmt.h>
@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "desktop/foundation/icu_locale.h"
+#include "desktop/foundation/icu/icu_locale.h"
 
 namespace desktop::foundation {
 

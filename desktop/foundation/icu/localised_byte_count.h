@@ -6,12 +6,9 @@
 #include <optional>
 #include <string>
 
-#include "desktop/foundation/locale.h"
+#include "desktop/foundation/locale_data.h"
 
 namespace desktop::foundation {
-
-// In the order of their sizes; decimal: a kilobyte is 1,000 bytes.
-enum class ByteUnit { byte, kilobyte, megabyte, gigabyte, terabyte, petabyte };
 
 // A plain decimal ("-1.29") of the unit in the digits, separators and unit names of the locale;
 // "0" is kilobytes, spelled out where the platform does so. None where ICU has no data.

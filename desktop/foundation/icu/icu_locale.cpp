@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/foundation/icu_locale.h"
+#include "desktop/foundation/icu/icu_locale.h"
 
 #include <unicode/ures.h>
 

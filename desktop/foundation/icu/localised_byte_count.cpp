@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/foundation/localised_byte_count.h"
+#include "desktop/foundation/icu/localised_byte_count.h"
 
 #include <unicode/measunit.h>
 #include <unicode/numberformatter.h>
@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-#include "desktop/foundation/icu_locale.h"
+#include "desktop/foundation/icu/icu_locale.h"
 
 namespace desktop::foundation {
 
