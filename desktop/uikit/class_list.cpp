@@ -5,12 +5,14 @@
 #include "desktop/uikit/ca_gradient_layer.h"
 #include "desktop/uikit/ca_layer.h"
 #include "desktop/uikit/menu_overlay.h"
+#include "desktop/uikit/ns_paragraph_style.h"
 #include "desktop/uikit/ui_application.h"
 #include "desktop/uikit/ui_bezier_path.h"
 #include "desktop/uikit/ui_color.h"
 #include "desktop/uikit/ui_event.h"
 #include "desktop/uikit/ui_font.h"
 #include "desktop/uikit/ui_gesture_recognizer.h"
+#include "desktop/uikit/ui_label.h"
 #include "desktop/uikit/ui_long_press_gesture_recognizer.h"
 #include "desktop/uikit/ui_menu_controller.h"
 #include "desktop/uikit/ui_pan_gesture_recognizer.h"
@@ -18,6 +20,7 @@
 #include "desktop/uikit/ui_screen.h"
 #include "desktop/uikit/ui_scroll_view.h"
 #include "desktop/uikit/ui_tap_gesture_recognizer.h"
+#include "desktop/uikit/ui_text_position.h"
 #include "desktop/uikit/ui_touch.h"
 #include "desktop/uikit/ui_view.h"
 #include "desktop/uikit/ui_window.h"
@@ -30,6 +33,10 @@ constexpr Class (*classes[])() = {
     // clang-format off
     &UIColor::classObject,
     &UIFont::classObject,
+    &NSParagraphStyle::classObject,
+    &NSMutableParagraphStyle::classObject,
+    &UITextPosition::classObject,
+    &UITextRange::classObject,
     &UIBezierPath::classObject,
     &CALayer::classObject,
     &CAGradientLayer::classObject,
@@ -46,6 +53,7 @@ constexpr Class (*classes[])() = {
     &UIView::classObject,
     &UIWindow::classObject,
     &UIScrollView::classObject,
+    &UILabel::classObject,
     &ActionControl::classObject,
     &MenuOverlay::classObject,
     &UIMenuController::classObject,

@@ -100,4 +100,9 @@ struct UICollectionViewCell : UICollectionReusableView {
   }
 };
 
+struct NSParagraphStyle : bridge::NSObject {
+  using bridge::NSObject::NSObject;
+  static Class classObject() { return bridge::classNamed<"NSParagraphStyle">(); }
+};
+
 }  // namespace desktop::uikit::handles

@@ -27,6 +27,8 @@ class FixedAdvanceEngine : public TextEngine {
     return lines;
   }
 
+  bool breaksQuickly(const FontFace&, std::u16string_view) override { return true; }
+
   std::size_t indexAt(const FontFace& face, std::u16string_view line, double x) override {
     if (advance(face) <= 0) return 0;
     const double index = std::round(x / advance(face));

@@ -59,6 +59,8 @@ class TextEngine {
   // one line, and always on: room without width takes a character a line.
   virtual std::vector<TextLine> breakLines(const FontFace& face, std::u16string_view paragraph,
                                            const ParagraphRoom& room) = 0;
+  // Whether breaking this paragraph takes next to no time, so that nobody needs to put it off.
+  virtual bool breaksQuickly(const FontFace& face, std::u16string_view paragraph) = 0;
   // The unit of a line before which a caret nearest to x stands, and the x of a caret there.
   virtual std::size_t indexAt(const FontFace& face, std::u16string_view line, double x) = 0;
   virtual double positionOf(const FontFace& face, std::u16string_view line, std::size_t index) = 0;
