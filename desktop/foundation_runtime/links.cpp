@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // Foundation here makes no link of a text with an empty host and a query, as application schemes
-// have it.
+// have it, and knows no path of a link whose escapes are no valid UTF-8.
+#include "desktop/foundation/file_url.h"
 #include "desktop/foundation_runtime/corrections.h"
 #include "desktop/foundation_runtime/opaque_link.h"
 #include "desktop/foundation_runtime/replacement.h"
+#include "model/utf8.h"
 
 namespace desktop::foundation {
 namespace {
@@ -18,10 +20,18 @@ id NSURL_URLWithString(id self, SEL command, id text) {
   return OpaqueLink::make(NSString(text).utf8()).get();
 }
 
+bridge::Stock<id(id, SEL)> stockPath;
+id NSURL_path(id self, SEL command) {
+  if (const id path = stockPath(self, command)) return path;
+  const auto bytes = pathOfFileUrl(bridge::NSURL(self).absoluteString().utf8());
+  return bytes ? NSString::make(model::replacingInvalidUtf8(*bytes)).get() : nullptr;
+}
+
 }  // namespace
 
 void correctLinks() {
   replaceClassMethod("NSURL", "URLWithString:", &NSURL_URLWithString, stockURLWithString);
+  replaceMethod("NSURL", "path", &NSURL_path, stockPath);
 }
 
 }  // namespace desktop::foundation

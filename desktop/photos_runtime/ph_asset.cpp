@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_runtime/ph_asset.h"
+
+#include <functional>
+
+#include "bridge/class_builder.h"
+#include "desktop/imageio/image_type.h"
+#include "desktop/photos/paths.h"
+#include "desktop/photos/preview_files.h"
+#include "desktop/photos_runtime/cl_location.h"
+
+namespace desktop::photos {
+
+using bridge::NSDate;
+using bridge::NSString;
+using bridge::NSURL;
+
+namespace {
+
+NSURL linkTo(std::string_view devicePath) {
+  return NSURL::withString(NSString::make(fileUrlText(devicePath)));
+}
+
+}  // namespace
+
+Class PHAsset::classObject() {
+  static const Class made =
+      bridge::ClassBuilder<PHAsset>("PHAsset")
+          .method<"uuid", &PHAsset::uuid>()
+          .method<"localIdentifier", &PHAsset::uuid>()
+          .method<"uniformTypeIdentifier", &PHAsset::uniformTypeIdentifier>()
+          .method<"isVideo", &PHAsset::isVideo>()
+          .method<"mediaType", &PHAsset::mediaType>()
+          .method<"pixelWidth", &PHAsset::pixelWidth>()
+          .method<"pixelHeight", &PHAsset::pixelHeight>()
+          .method<"duration", &PHAsset::duration>()
+          .method<"exifOrientation", &PHAsset::exifOrientation>()
+          .method<"creationDate", &PHAsset::creationDate>()
+          .method<"modificationDate", &PHAsset::modificationDate>()
+          .method<"location", &PHAsset::location>()
+          .method<"localizedGeoDescription", &PHAsset::localizedGeoDescription>()
+          .method<"mainFileURL", &PHAsset::mainFileURL>()
+          .method<"fileURLForFullsizeImage", &PHAsset::fileURLForFullsizeImage>()
+          .method<"fileURLForLargePreview", &PHAsset::fileURLForLargePreview>()
+          .method<"fileURLForMediumPreview", &PHAsset::fileURLForMediumPreview>()
+          .method<"isEqual:", &PHAsset::isEqual>()
+          .method<"hash", &PHAsset::hash>()
+          .method<"copyWithZone:", &PHAsset::copyWithZone>()
+          .build();
+  return made;
+}
+
+bridge::PHAsset PHAsset::make(std::shared_ptr<PhotoLibrary> library, ItemPointer item) {
+  auto made =
+      bridge::Owned<bridge::PHAsset>::adopt(bridge::send<bridge::PHAsset, "new">(classObject()));
+  if (!made) return {};
+  PHAsset& asset = of(made->get());
+  asset._library = std::move(library);
+  asset._item = std::move(item);
+  return made.autorelease();
+}
+
+ItemPointer PHAsset::itemOf(bridge::Object asset) {
+  return bridge::isKindOf(asset, classObject()) ? of(asset.get())._item : nullptr;
+}
+
+const AssetFacts* PHAsset::facts() const {
+  const FactsCache::Facts& facts = _library->facts(*_item);
+  return facts ? facts->get() : nullptr;
+}
+
+std::string PHAsset::devicePath() const {
+  return _library->root().onDevice(_item->path);
+}
+
+NSString PHAsset::uniformTypeIdentifier() const {
+  const AssetFacts* known = facts();
+  return NSString::make(known != nullptr ? known->uniformTypeIdentifier
+                                         : imageio::uniformTypeIdentifier({}, _item->path));
+}
+
+bool PHAsset::isVideo() const {
+  const AssetFacts* known = facts();
+  return known != nullptr ? known->isVideo : _item->isVideo();
+}
+
+NSUInteger PHAsset::pixelWidth() const {
+  const AssetFacts* known = facts();
+  return known != nullptr ? static_cast<NSUInteger>(known->pixelWidth) : 0;
+}
+
+NSUInteger PHAsset::pixelHeight() const {
+  const AssetFacts* known = facts();
+  return known != nullptr ? static_cast<NSUInteger>(known->pixelHeight) : 0;
+}
+
+double PHAsset::duration() const {
+  const AssetFacts* known = facts();
+  return known != nullptr ? known->duration : 0;
+}
+
+short PHAsset::exifOrientation() const {
+  const AssetFacts* known = facts();
+  return known != nullptr ? static_cast<short>(known->exifOrientation) : 1;
+}
+
+NSDate PHAsset::creationDate() const {
+  const AssetFacts* known = facts();
+  const model::Date date = known != nullptr ? known->creationDate : _item->modificationDate;
+  return NSDate::withTimeIntervalSince1970(date.secondsSince1970);
+}
+
+NSDate PHAsset::modificationDate() const {
+  return NSDate::withTimeIntervalSince1970(_item->modificationDate.secondsSince1970);
+}
+
+bridge::CLLocation PHAsset::location() const {
+  const AssetFacts* known = facts();
+  if (known == nullptr || !known->location) return {};
+  return CLLocation::make(*known->location);
+}
+
+NSString PHAsset::localizedGeoDescription() const {
+  const AssetFacts* known = facts();
+  if (known == nullptr || !known->localizedGeoDescription) return {};
+  return NSString::make(*known->localizedGeoDescription);
+}
+
+NSURL PHAsset::mainFileURL() const {
+  return linkTo(devicePath());
+}
+
+NSURL PHAsset::fileURLForFullsizeImage() const {
+  return linkTo(previewFilesOf(devicePath()).fullsizeImage);
+}
+
+NSURL PHAsset::fileURLForLargePreview() const {
+  return linkTo(previewFilesOf(devicePath()).largePreview);
+}
+
+NSURL PHAsset::fileURLForMediumPreview() const {
+  return linkTo(previewFilesOf(devicePath()).mediumPreview);
+}
+
+bool PHAsset::isEqual(bridge::Object other) const {
+  const ItemPointer item = itemOf(other);
+  return item && item->uuid == _item->uuid;
+}
+
+unsigned long PHAsset::hash() const {
+  return std::hash<std::string>()(_item->uuid);
+}
+
+// An asset never changes: its copy is itself, with a reference for the caller.
+bridge::Object PHAsset::copyWithZone(void*) {
+  return bridge::Owned<bridge::NSObject>::retain(self()).detach();
+}
+
+}  // namespace desktop::photos
