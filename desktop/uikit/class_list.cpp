@@ -8,10 +8,14 @@
 #include "desktop/uikit/ns_paragraph_style.h"
 #include "desktop/uikit/ui_application.h"
 #include "desktop/uikit/ui_bezier_path.h"
+#include "desktop/uikit/ui_button.h"
 #include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_control.h"
 #include "desktop/uikit/ui_event.h"
 #include "desktop/uikit/ui_font.h"
 #include "desktop/uikit/ui_gesture_recognizer.h"
+#include "desktop/uikit/ui_image.h"
+#include "desktop/uikit/ui_image_view.h"
 #include "desktop/uikit/ui_label.h"
 #include "desktop/uikit/ui_long_press_gesture_recognizer.h"
 #include "desktop/uikit/ui_menu_controller.h"
@@ -38,6 +42,7 @@ constexpr Class (*classes[])() = {
     &UITextPosition::classObject,
     &UITextRange::classObject,
     &UIBezierPath::classObject,
+    &UIImage::classObject,
     &CALayer::classObject,
     &CAGradientLayer::classObject,
     &UITouch::classObject,
@@ -53,6 +58,9 @@ constexpr Class (*classes[])() = {
     &UIView::classObject,
     &UIWindow::classObject,
     &UIScrollView::classObject,
+    &UIControl::classObject,
+    &UIImageView::classObject,
+    &UIButton::classObject,
     &UILabel::classObject,
     &ActionControl::classObject,
     &MenuOverlay::classObject,

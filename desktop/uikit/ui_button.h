@@ -60,9 +60,11 @@ class UIButton : public bridge::Bound<UIButton, bridge::UIControl> {
   void setSelected(bool isSelected);
   void setEnabled(bool isEnabled);
   void setTintColor(bridge::UIColor color);
+  void didMoveToSuperview();
   void layoutSubviews();
   CGSize sizeThatFits(CGSize size) const;
 
+  NSUInteger state() const;
   bool hasSymbol() const { return _type >= detailDisclosure; }
   CGSize imageSize() const;
   CGSize titleSize() const;

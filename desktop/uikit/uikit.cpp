@@ -2,6 +2,7 @@
 #include "desktop/uikit/uikit.h"
 
 #include "desktop/uikit/class_list.h"
+#include "desktop/uikit/image_context.h"
 #include "desktop/uikit/string_drawing.h"
 #include "desktop/uikit/ui_view.h"
 
@@ -12,6 +13,7 @@ void registerUIKit() {
     addStringDrawing();
     registerClasses();
     addViewAnimations();
+    provideImageContexts();
     return true;
   }();
   static_cast<void>(registered);
