@@ -61,7 +61,7 @@ void deliverUntil(PhotoLibrary& library, const std::function<bool()>& condition)
 
 void firstItems(benchmark::State& state) {
   manyFiles();
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     const auto library = manyFiles().open();
     deliverUntil(*library, [&] { return !library->items().empty(); });
     state.PauseTiming();
@@ -72,7 +72,7 @@ void firstItems(benchmark::State& state) {
 BENCHMARK(firstItems)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void allItems(benchmark::State& state) {
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     const auto library = manyFiles().open();
     deliverUntil(*library, [&] { return library->state() == LoadingState::ready; });
     if (library->items().size() != 100'000) state.SkipWithError("not all items");
@@ -82,14 +82,14 @@ BENCHMARK(allItems)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void readAgain(benchmark::State& state) {
   const auto library = manyFiles().open();
-  for (auto _ : state) library->waitAndDeliver();
+  while (state.KeepRunning()) library->waitAndDeliver();
 }
 BENCHMARK(readAgain)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void albums(benchmark::State& state) {
   const auto library = manyFiles().open();
   library->waitAndDeliver();
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     benchmark::DoNotOptimize(makeAlbums({.libraryFolder = library->folder(),
                                          .items = library->items(),
                                          .isPanorama = [](const ItemPointer&) { return false; },
@@ -101,11 +101,12 @@ BENCHMARK(albums)->Unit(benchmark::kMillisecond);
 // A photo an hour, so that there are thousands of days.
 void moments(benchmark::State& state) {
   std::vector<ItemPointer> items;
+  items.reserve(100'000);
   for (int hour = 0; hour < 100'000; ++hour) {
     items.push_back(std::make_shared<const LibraryItem>(
         LibraryItem{.path = "/a.jpg", .modificationDate = {hour * 3600.0}}));
   }
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     benchmark::DoNotOptimize(
         makeSections(items, ZoomLevel::moments, desktop::foundation::Locale()));
   }

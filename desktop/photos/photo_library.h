@@ -57,6 +57,9 @@ class PhotoLibrary {
   PhotoLibrary(const PhotoLibrary&) = delete;
   PhotoLibrary& operator=(const PhotoLibrary&) = delete;
 
+  // For objects that may outlive the library.
+  std::weak_ptr<PhotoLibrary> reference() const { return _self; }
+
   // Absolute, on disk.
   const std::string& folder() const { return _folder; }
   const foundation::DeviceRoot& root() const { return _root; }
@@ -112,6 +115,8 @@ class PhotoLibrary {
   void applyPanoramas(const std::vector<ItemPointer>& panoramas, LibraryChange& change);
   LoadingState stateAfter(bool isWalkComplete) const;
 
+  // Owns nothing; it ends with the library, and all references with it.
+  const std::shared_ptr<PhotoLibrary> _self{this, [](PhotoLibrary*) {}};
   const std::string _folder;
   const foundation::DeviceRoot _root;
   LoadingState _state = LoadingState::reading;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/photos_runtime/ph_asset.h"
 
+#include <algorithm>
 #include <functional>
+#include <limits>
 
 #include "bridge/class_builder.h"
 #include "desktop/imageio/image_type.h"
@@ -19,6 +21,12 @@ namespace {
 
 NSURL linkTo(std::string_view devicePath) {
   return NSURL::withString(NSString::make(fileUrlText(devicePath)));
+}
+
+// The field is 16 bits wide in a file, too. EXIF 2.31, tag 0x0112.
+short orientation(const AssetFacts& facts) {
+  constexpr std::int64_t largest = std::numeric_limits<short>::max();
+  return static_cast<short>(std::clamp<std::int64_t>(facts.exifOrientation, 0, largest));
 }
 
 }  // namespace
@@ -50,12 +58,13 @@ Class PHAsset::classObject() {
   return made;
 }
 
-bridge::PHAsset PHAsset::make(std::shared_ptr<PhotoLibrary> library, ItemPointer item) {
+bridge::PHAsset PHAsset::make(const PhotoLibrary& library, ItemPointer item) {
   auto made =
       bridge::Owned<bridge::PHAsset>::adopt(bridge::send<bridge::PHAsset, "new">(classObject()));
   if (!made) return {};
   PHAsset& asset = of(made->get());
-  asset._library = std::move(library);
+  asset._library = library.reference();
+  asset._devicePath = library.root().onDevice(item->path);
   asset._item = std::move(item);
   return made.autorelease();
 }
@@ -65,12 +74,10 @@ ItemPointer PHAsset::itemOf(bridge::Object asset) {
 }
 
 const AssetFacts* PHAsset::facts() const {
-  const FactsCache::Facts& facts = _library->facts(*_item);
+  const auto library = _library.lock();
+  if (!library) return nullptr;
+  const FactsCache::Facts& facts = library->facts(*_item);
   return facts ? facts->get() : nullptr;
-}
-
-std::string PHAsset::devicePath() const {
-  return _library->root().onDevice(_item->path);
 }
 
 NSString PHAsset::uniformTypeIdentifier() const {
@@ -101,7 +108,8 @@ double PHAsset::duration() const {
 
 short PHAsset::exifOrientation() const {
   const AssetFacts* known = facts();
-  return known != nullptr ? static_cast<short>(known->exifOrientation) : 1;
+  if (known == nullptr) return 1;
+  return orientation(*known);
 }
 
 NSDate PHAsset::creationDate() const {
@@ -127,19 +135,19 @@ NSString PHAsset::localizedGeoDescription() const {
 }
 
 NSURL PHAsset::mainFileURL() const {
-  return linkTo(devicePath());
+  return linkTo(_devicePath);
 }
 
 NSURL PHAsset::fileURLForFullsizeImage() const {
-  return linkTo(previewFilesOf(devicePath()).fullsizeImage);
+  return linkTo(previewFilesOf(_devicePath).fullsizeImage);
 }
 
 NSURL PHAsset::fileURLForLargePreview() const {
-  return linkTo(previewFilesOf(devicePath()).largePreview);
+  return linkTo(previewFilesOf(_devicePath).largePreview);
 }
 
 NSURL PHAsset::fileURLForMediumPreview() const {
-  return linkTo(previewFilesOf(devicePath()).mediumPreview);
+  return linkTo(previewFilesOf(_devicePath).mediumPreview);
 }
 
 bool PHAsset::isEqual(bridge::Object other) const {

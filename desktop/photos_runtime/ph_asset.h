@@ -5,6 +5,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
@@ -17,16 +18,16 @@ class PHAsset : public bridge::Bound<PHAsset, bridge::NSObject> {
   using Bound::Bound;
   static Class classObject();
 
-  // Autoreleased. Two of the same file are equal, also where the file has changed in between. The
-  // asset keeps the library alive. REQUIRES: neither is null.
-  static bridge::PHAsset make(std::shared_ptr<PhotoLibrary> library, ItemPointer item);
+  // Autoreleased. Two of the same file are equal, also where the file has changed in between. When
+  // the library is gone, an asset tells what it would of a file that cannot be read. REQUIRES: the
+  // item is not null.
+  static bridge::PHAsset make(const PhotoLibrary& library, ItemPointer item);
   // The item of an asset; null for other objects and nil.
   static ItemPointer itemOf(bridge::Object asset);
 
  private:
-  // Null where the file cannot be read.
+  // Null where the file cannot be read, or the library is gone.
   const AssetFacts* facts() const;
-  std::string devicePath() const;
 
   bridge::NSString uuid() const { return bridge::NSString::make(_item->uuid); }
   bridge::NSString uniformTypeIdentifier() const;
@@ -48,8 +49,9 @@ class PHAsset : public bridge::Bound<PHAsset, bridge::NSObject> {
   unsigned long hash() const;
   bridge::Object copyWithZone(void* zone);
 
-  std::shared_ptr<PhotoLibrary> _library;
+  std::weak_ptr<PhotoLibrary> _library;
   ItemPointer _item;
+  std::string _devicePath;  // as the phone's programs know it
 };
 
 }  // namespace desktop::photos

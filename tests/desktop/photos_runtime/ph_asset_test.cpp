@@ -29,12 +29,12 @@ class PHAssetTest : public testing::Test {
   bridge::PHAsset asset(const std::string& folder = folderOfPhone) {
     _library = *PhotoLibrary::open(folder, _root);
     _library->waitAndDeliver();
-    return PHAsset::make(_library, _library->items().at(0));
+    return PHAsset::make(*_library, _library->items().at(0));
   }
 
   LibraryFolder _folder;
   foundation::DeviceRoot _root;
-  std::shared_ptr<PhotoLibrary> _library;
+  std::unique_ptr<PhotoLibrary> _library;
   const bridge::AutoreleasePool _pool;
 };
 
@@ -130,11 +130,11 @@ TEST_F(PHAssetTest, assetsOfTheSameFileAreEqual) {
   const std::string path = _folder.photo("library/a.jpg", 1);
   _folder.photo("library/b.jpg", 2);
   const bridge::PHAsset first = asset(_folder.file("library"));
-  const bridge::PHAsset other = PHAsset::make(_library, _library->items()[1]);
+  const bridge::PHAsset other = PHAsset::make(*_library, _library->items()[1]);
   std::filesystem::resize_file(path, 10);
   setFileDate(path, 3);
   _library->waitAndDeliver();
-  const bridge::PHAsset changed = PHAsset::make(_library, _library->items()[1]);
+  const bridge::PHAsset changed = PHAsset::make(*_library, _library->items()[1]);
   EXPECT_NE(PHAsset::itemOf(first), PHAsset::itemOf(changed));
   EXPECT_TRUE(first.isEqual(changed));
   EXPECT_EQ((bridge::send<unsigned long, "hash">(first)),
@@ -146,11 +146,13 @@ TEST_F(PHAssetTest, assetsOfTheSameFileAreEqual) {
   EXPECT_EQ(PHAsset::itemOf(bridge::Object()), nullptr);
 }
 
-TEST_F(PHAssetTest, anAssetOutlivesTheLibrarysOwner) {
+TEST_F(PHAssetTest, anAssetMayOutliveItsLibrary) {
   _folder.photo("library/a.jpg");
   const bridge::PHAsset photo = asset(_folder.file("library"));
-  _library.reset();
   EXPECT_EQ(photo.pixelWidth(), 40U);
+  _library.reset();
+  EXPECT_EQ(photo.pixelWidth(), 0U);
+  EXPECT_EQ(photo.mainFileURL().path().utf8(), _folder.file("library/a.jpg"));
 }
 
 TEST_F(PHAssetTest, objectsGoWhenNobodyKeepsThem) {
