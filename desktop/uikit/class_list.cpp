@@ -9,6 +9,11 @@
 #include "desktop/uikit/ui_application.h"
 #include "desktop/uikit/ui_bezier_path.h"
 #include "desktop/uikit/ui_button.h"
+#include "desktop/uikit/ui_collection_reusable_view.h"
+#include "desktop/uikit/ui_collection_view.h"
+#include "desktop/uikit/ui_collection_view_cell.h"
+#include "desktop/uikit/ui_collection_view_layout.h"
+#include "desktop/uikit/ui_collection_view_layout_attributes.h"
 #include "desktop/uikit/ui_color.h"
 #include "desktop/uikit/ui_control.h"
 #include "desktop/uikit/ui_event.h"
@@ -23,6 +28,9 @@
 #include "desktop/uikit/ui_responder.h"
 #include "desktop/uikit/ui_screen.h"
 #include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/ui_table_view.h"
+#include "desktop/uikit/ui_table_view_cell.h"
+#include "desktop/uikit/ui_table_view_header_footer_view.h"
 #include "desktop/uikit/ui_tap_gesture_recognizer.h"
 #include "desktop/uikit/ui_text_position.h"
 #include "desktop/uikit/ui_touch.h"
@@ -65,6 +73,14 @@ constexpr Class (*classes[])() = {
     &ActionControl::classObject,
     &MenuOverlay::classObject,
     &UIMenuController::classObject,
+    &UITableViewCell::classObject,
+    &UITableViewHeaderFooterView::classObject,
+    &UITableView::classObject,
+    &UICollectionReusableView::classObject,
+    &UICollectionViewCell::classObject,
+    &UICollectionViewLayoutAttributes::classObject,
+    &UICollectionViewLayout::classObject,
+    &UICollectionView::classObject,
     // clang-format on
 };
 

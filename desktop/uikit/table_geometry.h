@@ -19,7 +19,7 @@ struct Band {
   bool operator==(const Band&) const = default;
 };
 
-// What a section is made of. Heights that are negative or not finite count as 0.
+// What a section is made of. Heights that are negative or not finite count as 0; there is a limit.
 struct TableSection {
   CGFloat headerHeight = 0;
   NSInteger rows = 0;

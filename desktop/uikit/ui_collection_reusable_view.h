@@ -16,6 +16,9 @@ class UICollectionReusableView : public bridge::Bound<UICollectionReusableView, 
   // What it waits under to be used again: for supplementary views with their kind.
   const std::string& poolKey() const { return _poolKey; }
   void setIdentity(bridge::NSString reuseIdentifier, std::string poolKey);
+  // The order of what overlaps: the layout's for what it shows.
+  NSInteger zIndex() const { return _zIndex; }
+  void setZIndex(NSInteger index) { _zIndex = index; }
 
  private:
   bridge::NSString reuseIdentifier() const { return _reuseIdentifier; }
@@ -24,6 +27,7 @@ class UICollectionReusableView : public bridge::Bound<UICollectionReusableView, 
 
   bridge::Owned<bridge::NSString> _reuseIdentifier;
   std::string _poolKey;
+  NSInteger _zIndex = 0;
 };
 
 }  // namespace desktop::uikit

@@ -37,7 +37,7 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
     right = 32
   };
 
-  explicit UICollectionView(id self);
+  using Bound::Bound;
   ~UICollectionView();
   static Class classObject();
 
@@ -58,6 +58,8 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   const Views& views() const { return _views; }
 
  private:
+  bridge::UICollectionView me() const { return bridge::UICollectionView(self().get()); }
+
   // Making, and what of it is asked and set.
   bridge::UIView initWithFrame(CGRect frame);
   bridge::UIView initWithFrameAndLayout(CGRect frame, bridge::UICollectionViewLayout layout);
@@ -83,17 +85,20 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   handles::UICollectionViewLayoutAttributes attributesForSupplementary(bridge::NSString kind,
                                                                        bridge::NSIndexPath path);
   std::map<Element, handles::UICollectionViewLayoutAttributes> attributesIn(CGRect rect);
+  std::optional<ItemPath> itemAt(CGPoint point);
   void scrollToItem(bridge::NSIndexPath path, NSUInteger position, bool animated);
 
   // Views come and go.
   void layoutSubviews();
+  bool isStale() const;
   void placeViews();
+  static void place(bridge::UIView view, handles::UICollectionViewLayoutAttributes attributes);
   void show(const Element& element, handles::UICollectionViewLayoutAttributes attributes);
-  bridge::Owned<bridge::UIView> viewFromSource(
-      const Element& element, handles::UICollectionViewLayoutAttributes attributes);
+  void showState(ItemPath path, bridge::UIView cell) const;
+  bridge::Owned<bridge::UIView> viewFromSource(const Element& element);
   void recycle(const Element& element, bridge::UIView view);
   void recycleAll();
-  void insert(bridge::UIView view, const Element& element, NSInteger zIndex);
+  void insert(bridge::UIView view, NSInteger zIndex);
   void registerCellClass(Class aClass, bridge::NSString identifier);
   void registerSupplementaryClass(Class aClass, bridge::NSString kind, bridge::NSString identifier);
   bridge::UIView dequeueCell(bridge::NSString identifier, bridge::NSIndexPath path);
@@ -102,6 +107,7 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   bridge::UIView dequeue(const std::string& key, bridge::NSString identifier, Class fallback);
   bridge::NSArray visibleCells() const;
   bridge::NSArray visibleItems() const;
+  bridge::NSArray visibleViews(const std::string& kind) const;
   bridge::UIView supplementaryView(bridge::NSString kind, bridge::NSIndexPath path) const;
   bridge::NSArray visibleSupplementaryViews(bridge::NSString kind) const;
 
@@ -110,8 +116,8 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   void deleteItems(bridge::NSArray paths);
   void reloadItems(bridge::NSArray paths);
   void sectionsChange(bridge::Object sections);
-  void performBatchUpdates(const bridge::Block<void()>& updates,
-                           const bridge::Block<void(bool)>& completion);
+  void performBatchUpdates(const bridge::BlockHeader* updates,
+                           const bridge::BlockHeader* completion);
   void contentsChange();
 
   // Touch and selection.
@@ -123,6 +129,8 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   void tap(ItemPath path);
   void select(ItemPath path);
   void deselect(ItemPath path);
+  void deselectAll();
+  handles::UICollectionViewCell cellAt(ItemPath path) const;
   bridge::NSArray indexPathsForSelectedItems() const;
   void selectItem(bridge::NSIndexPath path, bool animated, NSUInteger position);
   void deselectItem(bridge::NSIndexPath path, bool animated);
@@ -139,7 +147,6 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   bool _isCounting = false;
   bool _isUnprepared = true;
   CGRect _preparedBounds;
-  int _openBatches = 0;
   Views _views;
   ReusePool _pool;
 

@@ -11,7 +11,7 @@ namespace desktop::uikit {
 class UICollectionViewCell
     : public bridge::Bound<UICollectionViewCell, handles::UICollectionReusableView> {
  public:
-  explicit UICollectionViewCell(id self);
+  using Bound::Bound;
   static Class classObject();
 
   bridge::UIView contentView() const { return _contentView; }
@@ -19,6 +19,7 @@ class UICollectionViewCell
   bool isHighlighted() const { return _isHighlighted; }
 
  private:
+  bridge::UIView initWithFrame(CGRect frame);
   void setSelected(bool selected);
   void setHighlighted(bool highlighted);
   bridge::UIView backgroundView() const { return _backgroundView; }

@@ -12,6 +12,7 @@
 #include "desktop/uikit/scheduler.h"
 #include "desktop/uikit/table_geometry.h"
 #include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/ui_table_view_header_footer_view.h"
 
 namespace desktop::uikit {
 
@@ -21,7 +22,7 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   enum SeparatorStyle : NSInteger { noSeparators = 0, singleLine = 1 };
   enum ScrollPosition : NSInteger { none = 0, top = 1, middle = 2, bottom = 3 };
 
-  explicit UITableView(id self);
+  using Bound::Bound;
   ~UITableView();
   static Class classObject();
 
@@ -43,6 +44,8 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   const std::map<ItemPath, bridge::Owned<bridge::UITableViewCell>>& cells() const { return _cells; }
 
  private:
+  bridge::UITableView me() const { return bridge::UITableView(self().get()); }
+
   // Making, and what of it is asked and set.
   bridge::UIView initWithFrame(CGRect frame);
   bridge::UITableView initWithFrameAndStyle(CGRect frame, NSInteger style);
@@ -69,18 +72,21 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   void replaceEdgeView(bridge::Owned<bridge::UIView>& slot, bridge::UIView view);
 
   // Where things are.
+  using Place = UITableViewHeaderFooterView::Place;
   const TableGeometry& geometry();
   void measure();
-  TableSection measured(NSInteger section);
+  void remeasure();
+  TableSection measured(NSInteger section, NSInteger rowsLeft);
+  CGFloat ownRowHeight(ItemPath path, CGFloat standard);
   CGFloat headerHeight(NSInteger section);
   CGFloat footerHeight(NSInteger section);
-  NSInteger countFrom(bridge::NSObject source, NSInteger section) const;
+  bridge::NSString titleOf(NSInteger section, Place place) const;
+  void keepOffsetInside();
+  std::optional<ItemPath> rowAt(CGPoint point);
   CGRect across(Band band) const;
-  CGRect rectForSection(NSInteger section) { return across(geometry().section(section)); }
-  CGRect rectForHeader(NSInteger section) { return across(geometry().header(section)); }
-  CGRect rectForFooter(NSInteger section) { return across(geometry().footer(section)); }
-  bridge::NSArray visibleCells() const;
-  bridge::NSArray visibleRows() const;
+  CGRect rectForSection(NSInteger section);
+  CGRect rectForHeader(NSInteger section);
+  CGRect rectForFooter(NSInteger section);
   void scrollToRow(bridge::NSIndexPath path, NSInteger position, bool animated);
 
   // Cells come and go.
@@ -89,10 +95,13 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   void placeEdgeViews();
   void placeCells();
   void placeTitles();
-  void placeTitle(std::map<NSInteger, bridge::Owned<bridge::UIView>>& titles, NSInteger section,
-                  Band band, bool isHeader);
+  using Titles = std::map<NSInteger, bridge::Owned<bridge::UIView>>;  // by section
+  void placeTitle(Titles& titles, NSInteger section, Place place, Band band);
+  Band headerBand(NSInteger section) const;
+  bridge::UIView titleView(NSInteger section, Place place) const;
   void showRow(ItemPath path);
   bridge::Owned<bridge::UITableViewCell> cellFromSource(ItemPath path);
+  void putBehindTitles(bridge::UIView cell);
   void recycle(bridge::UITableViewCell cell, ItemPath path);
   void recycleAll();
   void styleCell(bridge::UITableViewCell cell, ItemPath path) const;
@@ -101,18 +110,19 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   void registerCellClass(Class aClass, bridge::NSString identifier);
   void rowsChange(bridge::NSArray paths, NSInteger animation);
   void sectionsChange(bridge::Object sections, NSInteger animation);
-  void keepOffsetInside();
+  bridge::NSArray visibleCells() const;
+  bridge::NSArray visibleRows() const;
 
   // Touch and selection.
   void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
   void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
   void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
   void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
-  void press(ItemPath path);
+  void press(ItemPath path, Seconds since);
   void release();
   void pressWasLong();
   void showMenu(ItemPath path);
-  void performMenuCommand(SEL action, ItemPath path);
+  void performCommand(SEL action, ItemPath path);
   void select(ItemPath path);
   bridge::NSIndexPath indexPathForSelectedRow() const;
   void selectRow(bridge::NSIndexPath path, bool animated, NSInteger position);
@@ -136,8 +146,8 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   bool _isMeasuring = false;
   CGFloat _measuredWidth = 0;
   std::map<ItemPath, bridge::Owned<bridge::UITableViewCell>> _cells;
-  std::map<NSInteger, bridge::Owned<bridge::UIView>> _headers;
-  std::map<NSInteger, bridge::Owned<bridge::UIView>> _footers;
+  Titles _headers;
+  Titles _footers;
   ReusePool _pool;
 
   std::optional<ItemPath> _selected;

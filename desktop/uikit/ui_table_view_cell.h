@@ -7,6 +7,7 @@
 #include "bridge/bound.h"
 #include "bridge/uikit/ui_lists.h"
 #include "desktop/uikit/color.h"
+#include "desktop/uikit/handles.h"
 
 namespace desktop::uikit {
 
@@ -33,7 +34,7 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
   };
   enum Selection : NSInteger { noSelection = 0, blue = 1, gray = 2, standard = 3 };
 
-  explicit UITableViewCell(id self);
+  using Bound::Bound;
   static Class classObject();
 
   NSInteger style() const { return _style; }
@@ -73,8 +74,9 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
   void prepareForReuse();
   void layoutSubviews();
 
-  CGFloat accessoryRoom() const;  // from the right edge, in points
-  bool hasText(bridge::UILabel label) const;
+  CGFloat accessoryRoom() const;
+  CGFloat imageRoom() const;
+  void drawSeparators(Canvas& canvas, CGRect bounds) const;
   bridge::Owned<bridge::UILabel> makeLabel(CGFloat fontSize, Color color) const;
 
   NSInteger _style = plain;
@@ -82,7 +84,7 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
   bridge::Owned<bridge::UIView> _contentView;
   bridge::Owned<bridge::UILabel> _textLabel;
   bridge::Owned<bridge::UILabel> _detailTextLabel;
-  bridge::Owned<bridge::UIView> _imageView;
+  bridge::Owned<handles::UIImageView> _imageView;
   bridge::Owned<bridge::UIView> _accessoryView;
   NSInteger _accessoryType = noAccessory;
   NSInteger _selectionStyle = standard;

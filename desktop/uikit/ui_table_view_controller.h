@@ -13,6 +13,7 @@ class UITableViewController
     : public bridge::Bound<UITableViewController, bridge::UIViewController> {
  public:
   using Bound::Bound;
+  ~UITableViewController();
   static Class classObject();
 
  private:

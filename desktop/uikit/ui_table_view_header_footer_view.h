@@ -13,7 +13,7 @@ class UITableViewHeaderFooterView
  public:
   enum class Place { header, footer };
 
-  explicit UITableViewHeaderFooterView(id self);
+  using Bound::Bound;
   static Class classObject();
 
   // A title as a table of this kind shows it. Autoreleased.
@@ -24,6 +24,9 @@ class UITableViewHeaderFooterView
   bridge::UILabel textLabel() const { return _textLabel; }
 
  private:
+  bridge::UIView initWithFrame(CGRect frame);
+  void show(bridge::NSString title, Place place, bool isGrouped);
+  CGSize textSize(CGFloat width) const;
   void layoutSubviews();
 
   bridge::Owned<bridge::UILabel> _textLabel;

@@ -3,6 +3,7 @@
 
 #include "desktop/uikit/class_list.h"
 #include "desktop/uikit/image_context.h"
+#include "desktop/uikit/index_path.h"
 #include "desktop/uikit/string_drawing.h"
 #include "desktop/uikit/ui_view.h"
 
@@ -11,6 +12,7 @@ namespace desktop::uikit {
 void registerUIKit() {
   static const bool registered = [] {
     addStringDrawing();
+    addIndexPathMethods();
     registerClasses();
     addViewAnimations();
     provideImageContexts();
