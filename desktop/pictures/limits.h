@@ -20,11 +20,13 @@ struct Limits {
   int heifThumbnails;              // looked at in one file
   int decoderThreads;              // of one HEIF or video decoder
   int framesUntilPicture;          // packets of a video read until a frame comes out
-  std::chrono::milliseconds videoTime;  // for one frame
-  std::size_t videoAllocation;          // bytes, of one piece of memory
-  std::size_t workerAddressSpace;       // bytes, of a worker process
-  std::size_t pathBytes;                // of a file's path
-  std::size_t reasonBytes;              // of the reason of a failure
+  std::chrono::milliseconds videoTime;    // for one frame
+  std::size_t videoAllocation;            // bytes, of one piece of memory
+  std::size_t workerAddressSpace;         // bytes, of a worker process
+  std::chrono::milliseconds workerStart;  // until a worker is ready
+  std::size_t untakenBytes;  // of finished pictures that nobody takes, until decoding pauses
+  std::size_t pathBytes;     // of a file's path
+  std::size_t reasonBytes;   // of the reason of a failure
 };
 
 inline constexpr Limits limits = {
@@ -41,6 +43,8 @@ inline constexpr Limits limits = {
     .videoTime = std::chrono::milliseconds(1800),
     .videoAllocation = 256u << 20,
     .workerAddressSpace = std::size_t{3} << 30,
+    .workerStart = std::chrono::seconds(10),
+    .untakenBytes = 128u << 20,
     .pathBytes = 4096,
     .reasonBytes = 512,
 };

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+//
+// File descriptors that are closed by their owner, and one that wakes whoever polls it.
+#pragma once
+
+#include <utility>
+
+namespace desktop::pictures {
+
+// Owns a file descriptor, or none.
+class Descriptor {
+ public:
+  Descriptor() = default;
+  explicit Descriptor(int number) : _number(number) {}
+  ~Descriptor() { reset(); }
+  Descriptor(Descriptor&& other) noexcept : _number(std::exchange(other._number, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    if (this != &other) reset(std::exchange(other._number, -1));
+    return *this;
+  }
+
+  explicit operator bool() const { return _number >= 0; }
+  // -1 where there is none.
+  int number() const { return _number; }
+  void reset(int number = -1);
+
+ private:
+  int _number = -1;
+};
+
+// Readable from signal() to clear(). Both may be called from any thread.
+class WakeDescriptor {
+ public:
+  WakeDescriptor();
+
+  int number() const { return _descriptor.number(); }
+  void signal();
+  void clear();
+
+ private:
+  Descriptor _descriptor;
+};
+
+}  // namespace desktop::pictures
