@@ -2,10 +2,14 @@
 //
 // Paths of the phone's file system lead below the device root, and property lists are read by a
 // reader of our own: Foundation's knows no binary ones, crashes on deep nesting, hangs on large
-// files and prints on standard error.
+// files and prints on standard error. Names that are no UTF-8 have no text, so their files are
+// looked for by what is shown of them.
+#include <sys/stat.h>
+
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
 #include "desktop/foundation/property_list.h"
+#include "desktop/foundation/shown_path.h"
 #include "desktop/foundation_runtime/corrections.h"
 #include "desktop/foundation_runtime/replacement.h"
 
@@ -24,7 +28,8 @@ id onDisk(id path) {
 
 bridge::Stock<BOOL(id, SEL, id)> stockFileExists;
 BOOL NSFileManager_fileExists(id self, SEL command, id path) {
-  return stockFileExists(self, command, onDisk(path));
+  return stockFileExists(self, command, onDisk(path)) ||
+         (path && fileOfShownPath(pathOnDisk(path)).has_value());
 }
 
 bridge::Stock<BOOL(id, SEL, id, BOOL*)> stockFileExistsIsDirectory;
@@ -32,9 +37,24 @@ BOOL NSFileManager_fileExistsIsDirectory(id self, SEL command, id path, BOOL* is
   return stockFileExistsIsDirectory(self, command, onDisk(path), isDirectory);
 }
 
+// The attributes that are asked for of a photo; nil where there is no such file.
+id attributesOfShownPath(id path) {
+  const auto file = path ? fileOfShownPath(pathOnDisk(path)) : std::nullopt;
+  struct stat status {};
+  if (!file || ::lstat(file->c_str(), &status) != 0) return nullptr;
+  const double modified = static_cast<double>(status.st_mtim.tv_sec) +
+                          static_cast<double>(status.st_mtim.tv_nsec) / 1e9;
+  auto attributes = bridge::makeNew<bridge::NSMutableDictionary>();
+  attributes->set(bridge::NSNumber::withLongLong(status.st_size), NSString::make("NSFileSize"));
+  attributes->set(bridge::NSDate::withTimeIntervalSince1970(modified),
+                  NSString::make("NSFileModificationDate"));
+  return attributes.autorelease().get();
+}
+
 bridge::Stock<id(id, SEL, id, id*)> stockAttributes;
 id NSFileManager_attributes(id self, SEL command, id path, id* error) {
-  return stockAttributes(self, command, onDisk(path), error);
+  if (const id attributes = stockAttributes(self, command, onDisk(path), error)) return attributes;
+  return attributesOfShownPath(path);
 }
 
 bridge::Stock<id(id, SEL, id)> stockContents;

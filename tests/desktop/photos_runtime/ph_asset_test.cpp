@@ -118,12 +118,17 @@ TEST_F(PHAssetTest, aPhotoWithoutAPlaceHasNone) {
 }
 
 TEST_F(PHAssetTest, aNameThatIsNoTextHasALinkToItsBytes) {
-  _folder.photo("library/\xFF.jpg");
+  const std::string path = _folder.photo("library/\xFF.jpg", 1234);
   const bridge::PHAsset photo = asset(_folder.file("library"));
   EXPECT_EQ(photo.mainFileURL().absoluteString().utf8(),
             "file://" + _folder.file("library/%FF.jpg"));
   EXPECT_EQ(photo.mainFileURL().path().utf8(), _folder.file("library/\uFFFD.jpg"));
   EXPECT_EQ(photo.pixelWidth(), 40U);
+  const auto files = bridge::NSFileManager::defaultManager();
+  EXPECT_TRUE(files.fileExists(photo.mainFileURL().path()));
+  const auto attributes = files.attributesOfItem(photo.mainFileURL().path());
+  EXPECT_EQ(attributes.fileSize(), std::filesystem::file_size(path));
+  EXPECT_EQ(attributes.fileModificationDate().timeIntervalSince1970(), 1234);
 }
 
 TEST_F(PHAssetTest, assetsOfTheSameFileAreEqual) {
