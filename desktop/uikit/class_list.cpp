@@ -33,6 +33,7 @@
 #include "desktop/uikit/ui_table_view_header_footer_view.h"
 #include "desktop/uikit/ui_tap_gesture_recognizer.h"
 #include "desktop/uikit/ui_text_position.h"
+#include "desktop/uikit/ui_text_view.h"
 #include "desktop/uikit/ui_touch.h"
 #include "desktop/uikit/ui_view.h"
 #include "desktop/uikit/ui_window.h"
@@ -60,12 +61,14 @@ constexpr Class (*classes[])() = {
     &UITapGestureRecognizer::classObject,
     &UILongPressGestureRecognizer::classObject,
     &UIPanGestureRecognizer::classObject,
+    &UIScrollViewPanGestureRecognizer::classObject,
     &UIResponder::classObject,
     &UIApplication::classObject,
     &UIScreen::classObject,
     &UIView::classObject,
     &UIWindow::classObject,
     &UIScrollView::classObject,
+    &UITextView::classObject,
     &UIControl::classObject,
     &UIImageView::classObject,
     &UIButton::classObject,

@@ -61,6 +61,11 @@ CGPoint UIPanGestureRecognizer::velocityIn(bridge::UIView view) const {
   return wayIn(velocityOnScreen(), view);
 }
 
+void UIPanGestureRecognizer::setWays(bool across, bool down) {
+  _goesAcross = across;
+  _goesDown = down;
+}
+
 // A finger that has come to rest has none.
 CGPoint UIPanGestureRecognizer::velocityOnScreen() const {
   const Seconds now = stage().scheduler.now();
@@ -84,7 +89,7 @@ void UIPanGestureRecognizer::note(CGPoint location) {
 }
 
 void UIPanGestureRecognizer::touchesBegan(bridge::NSSet, bridge::UIEvent) {
-  if (_minimumTouches > 1) return base().become(State::failed);
+  if (_minimumTouches > 1 || !(_goesAcross || _goesDown)) return base().become(State::failed);
   _samples.clear();
   _start = base().locationOnScreen();
   note(_start);
@@ -95,7 +100,7 @@ void UIPanGestureRecognizer::touchesMoved(bridge::NSSet, bridge::UIEvent) {
   note(base().locationOnScreen());
   if (base().isUnderWay()) return base().become(State::changed);
   const CGPoint way = _last - _start;
-  const CGFloat distance = std::hypot(way.x, way.y);
+  const CGFloat distance = std::hypot(_goesAcross ? way.x : 0, _goesDown ? way.y : 0);
   if (distance < slop) return;
   const CGFloat part = slop / distance;
   _start = _start + CGPoint{way.x * part, way.y * part};

@@ -23,6 +23,9 @@ class UIPanGestureRecognizer
   // In points a second, of the finger's last tenth of a second.
   CGPoint velocityIn(bridge::UIView view) const;
 
+  // Which ways of the finger make it a pan, until said otherwise.
+  void setWays(bool across, bool down);
+
  private:
   using State = UIGestureRecognizer::State;
 
@@ -48,6 +51,8 @@ class UIPanGestureRecognizer
   CGPoint _start;  // where the way is counted from, on the screen
   CGPoint _last;   // where the finger is
   std::deque<Sample> _samples;
+  bool _goesAcross = true;
+  bool _goesDown = true;
   NSUInteger _minimumTouches = 1;
   NSUInteger _maximumTouches = 10;
 };

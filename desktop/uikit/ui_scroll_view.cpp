@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
+//
+// Where the content is. How fingers move it is in ui_scroll_view_panning.cpp.
 #include "desktop/uikit/ui_scroll_view.h"
 
-#include <algorithm>
+#include <cmath>
 
-#include "bridge/block.h"
 #include "bridge/class_builder.h"
+#include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_gesture_recognizer.h"
 
 namespace desktop::uikit {
 namespace {
 
 constexpr Seconds scrollTime = 0.3;
 
-// One direction of clamping: from `least` as far as the content reaches beyond the room.
+// One direction of clamping: from the inset before the content as far as the content reaches
+// beyond the room.
 CGFloat clampedTo(CGFloat offset, CGFloat before, CGFloat content, CGFloat after, CGFloat room) {
   return std::clamp(offset, -before, std::max(-before, content + after - room));
 }
@@ -19,26 +23,55 @@ CGFloat clampedTo(CGFloat offset, CGFloat before, CGFloat content, CGFloat after
 }  // namespace
 
 Class UIScrollView::classObject() {
+  using Self = UIScrollView;
   static const Class made =
-      bridge::ClassBuilder<UIScrollView>("UIScrollView")
-          .method<"contentOffset", &UIScrollView::contentOffset>()
-          .method<"setContentOffset:", &UIScrollView::setContentOffset>()
-          .method<"setContentOffset:animated:", &UIScrollView::setContentOffsetAnimated>()
-          .method<"contentSize", &UIScrollView::contentSize>()
-          .method<"setContentSize:", &UIScrollView::setContentSize>()
-          .method<"contentInset", &UIScrollView::contentInset>()
-          .method<"setContentInset:", &UIScrollView::setContentInset>()
-          .method<"delegate", &UIScrollView::delegate>()
-          .method<"setDelegate:", &UIScrollView::setDelegate>()
-          .method<"isScrollEnabled", &UIScrollView::isScrollEnabled>()
-          .method<"setScrollEnabled:", &UIScrollView::setScrollEnabled>()
-          .method<"scrollRectToVisible:animated:", &UIScrollView::scrollRectToVisible>()
+      bridge::ClassBuilder<Self>("UIScrollView")
+          .method<"contentOffset", &Self::contentOffset>()
+          .method<"setContentOffset:", &Self::setContentOffset>()
+          .method<"setContentOffset:animated:", &Self::setContentOffsetAnimated>()
+          .method<"contentSize", &Self::contentSize>()
+          .method<"setContentSize:", &Self::setContentSize>()
+          .method<"contentInset", &Self::contentInset>()
+          .method<"setContentInset:", &Self::setContentInset>()
+          .method<"delegate", &Self::delegate>()
+          .method<"setDelegate:", &Self::setDelegate>()
+          .method<"isScrollEnabled", &Self::isScrollEnabled>()
+          .method<"setScrollEnabled:", &Self::setScrollEnabled>()
+          .method<"isPagingEnabled", &Self::isPagingEnabled>()
+          .method<"setPagingEnabled:", &Self::setPagingEnabled>()
+          .method<"bounces", &Self::bounces>()
+          .method<"setBounces:", &Self::setBounces>()
+          .method<"alwaysBounceVertical", &Self::alwaysBounceVertical>()
+          .method<"setAlwaysBounceVertical:", &Self::setAlwaysBounceVertical>()
+          .method<"alwaysBounceHorizontal", &Self::alwaysBounceHorizontal>()
+          .method<"setAlwaysBounceHorizontal:", &Self::setAlwaysBounceHorizontal>()
+          .method<"isDirectionalLockEnabled", &Self::isDirectionalLockEnabled>()
+          .method<"setDirectionalLockEnabled:", &Self::setDirectionalLockEnabled>()
+          .method<"delaysContentTouches", &Self::delaysContentTouches>()
+          .method<"setDelaysContentTouches:", &Self::setDelaysContentTouches>()
+          .method<"showsVerticalScrollIndicator", &Self::showsVerticalIndicator>()
+          .method<"setShowsVerticalScrollIndicator:", &Self::setShowsVerticalIndicator>()
+          .method<"showsHorizontalScrollIndicator", &Self::showsHorizontalIndicator>()
+          .method<"setShowsHorizontalScrollIndicator:", &Self::setShowsHorizontalIndicator>()
+          .method<"flashScrollIndicators", &Self::showIndicators>()
+          .method<"isTracking", &Self::isTracking>()
+          .method<"isDragging", &Self::isDragging>()
+          .method<"isDecelerating", &Self::isDecelerating>()
+          .method<"panGestureRecognizer", &Self::panGestureRecognizer>()
+          .method<"handlePan:", &Self::handlePan>()
+          .method<"scrollRectToVisible:animated:", &Self::scrollRectToVisible>()
+          .method<"hitTest:withEvent:", &Self::hitTest>()
           .build();
   return made;
 }
 
 UIScrollView::UIScrollView(id self) : Bound(self) {
   UIView::of(self).layer().setMasksToBounds(true);
+  _pan = bridge::Owned<handles::UIPanGestureRecognizer>::adopt(
+      bridge::send<handles::UIPanGestureRecognizer, "initWithTarget:action:">(
+          bridge::send<id, "alloc">(UIScrollViewPanGestureRecognizer::classObject()), self,
+          bridge::selector<"handlePan:">()));
+  me().addGestureRecognizer(_pan);
 }
 
 CGPoint UIScrollView::contentOffset() const {
@@ -46,6 +79,8 @@ CGPoint UIScrollView::contentOffset() const {
 }
 
 void UIScrollView::setContentOffset(CGPoint offset) {
+  if (!std::isfinite(offset.x) || !std::isfinite(offset.y)) return;
+  if (!_isMovingItself) stopMotion();
   UIView& view = UIView::of(self());
   const CGRect before = view.bounds();
   view.setBounds({offset, before.size});
@@ -56,15 +91,22 @@ void UIScrollView::setContentOffset(CGPoint offset) {
 }
 
 void UIScrollView::setContentOffsetAnimated(CGPoint offset, bool animated) {
-  if (!animated) return bridge::send<void, "setContentOffset:">(self(), offset);
-  const bridge::UIView me = self();
-  bridge::UIView::animate(scrollTime, bridge::Block<void()>([me, offset] {
-                            bridge::send<void, "setContentOffset:">(me, offset);
-                          }));
+  const CGPoint from = contentOffset();
+  const bool isGoing = animated && UIView::of(self()).window() && std::isfinite(offset.x) &&
+                       std::isfinite(offset.y) && offset != from;
+  if (!isGoing) return bridge::send<void, "setContentOffset:">(self(), offset);
+  start({ScrollMotion::easing(from.x, offset.x, scrollTime),
+         ScrollMotion::easing(from.y, offset.y, scrollTime), stage().scheduler.now(), false});
 }
 
+// Content that became smaller is not left behind.
 void UIScrollView::setContentSize(CGSize size) {
+  if (!std::isfinite(size.width) || !std::isfinite(size.height)) size = {};
+  if (size == _contentSize) return;
   _contentSize = size;
+  if (_isDragging || _motion) return;
+  const CGPoint inside = clamped(contentOffset());
+  if (inside != contentOffset()) bridge::send<void, "setContentOffset:">(self(), inside);
 }
 
 void UIScrollView::setContentInset(EdgeInsets insets) {
@@ -75,24 +117,24 @@ void UIScrollView::setContentInset(EdgeInsets insets) {
 }
 
 CGPoint UIScrollView::clamped(CGPoint offset) const {
-  const CGSize room = UIView::of(self()).bounds().size;
-  return {
-      clampedTo(offset.x, _contentInset.left, _contentSize.width, _contentInset.right, room.width),
-      clampedTo(offset.y, _contentInset.top, _contentSize.height, _contentInset.bottom,
-                room.height)};
+  return {clampedTo(offset.x, _contentInset.left, _contentSize.width, _contentInset.right,
+                    room().width),
+          clampedTo(offset.y, _contentInset.top, _contentSize.height, _contentInset.bottom,
+                    room().height)};
 }
 
-bool UIScrollView::delaysTouches() const {
-  const CGSize room = UIView::of(self()).bounds().size;
-  const bool isLarger = _contentSize.width > room.width || _contentSize.height > room.height;
-  return _delaysContentTouches && _isScrollEnabled && isLarger;
+void UIScrollView::setScrollEnabled(bool enabled) {
+  if (enabled == _isScrollEnabled) return;
+  _isScrollEnabled = enabled;
+  if (!enabled && _isDragging) UIGestureRecognizer::of(_pan.get()).leaveTouches();
 }
 
 bool UIScrollView::scrollBy(CGPoint distance) {
   const CGPoint before = contentOffset();
   const CGPoint after = clamped(before + distance);
-  if (!_isScrollEnabled || after == before) return false;
+  if (!_isScrollEnabled || _isDragging || after == before) return false;
   bridge::send<void, "setContentOffset:">(self(), after);
+  showIndicators();
   return true;
 }
 
@@ -102,6 +144,12 @@ void UIScrollView::scrollRectToVisible(CGRect rect, bool animated) {
   offset.x = std::max(std::min(offset.x, rect.origin.x), right(rect) - seen.size.width);
   offset.y = std::max(std::min(offset.y, rect.origin.y), bottom(rect) - seen.size.height);
   setContentOffsetAnimated(clamped(offset), animated);
+}
+
+// A finger on content that is moving stops it, and does nothing else.
+bridge::UIView UIScrollView::hitTest(CGPoint point, bridge::UIEvent event) {
+  const auto hit = super<bridge::UIView, "hitTest:withEvent:">(point, event);
+  return hit && isDecelerating() ? me() : hit;
 }
 
 }  // namespace desktop::uikit

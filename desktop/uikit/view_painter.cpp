@@ -6,6 +6,7 @@
 #include "desktop/uikit/stage.h"
 #include "desktop/uikit/ui_bezier_path.h"
 #include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_scroll_view.h"
 #include "desktop/uikit/ui_view.h"
 
 namespace desktop::uikit {
@@ -79,6 +80,8 @@ void paintView(bridge::UIView view, Canvas& canvas) {
     for (const auto& sublayer : layer.sublayers()) paintLayer(sublayer, canvas);
     bridge::send<void, "drawContentOn:">(view, &canvas);
     for (const auto& subview : state.subviews()) paintView(subview, canvas);
+    if (bridge::isKindOf(view, UIScrollView::classObject()))
+      UIScrollView::of(view).drawIndicators(canvas);
     paintBorder(style, seen.bounds, canvas);
   }
   canvas.restore();
