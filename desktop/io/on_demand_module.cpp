@@ -21,7 +21,6 @@ std::vector<fs::path> modulePlaces(const std::string& moduleName) {
   std::vector<fs::path> places;
   std::error_code error;
   fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-  places.push_back(folder / moduleName);
   for (int step = 0; step < longestWayUp && folder.has_relative_path(); ++step) {
     folder = folder.parent_path();
     places.push_back(folder / MODULE_RELATIVE_DIR / moduleName);

@@ -9,9 +9,8 @@
 namespace desktop {
 
 // The function of a module, or null where the module, or a library that it needs, is not
-// installed. The module is looked for beside the program, in the module folder of the tree that the
-// program lies in (the installed or the build tree), then where it was to be installed; it stays
-// mapped.
+// installed. The module is looked for in the module folder of the tree that the program lies in
+// (the installed or the build tree), then where it was to be installed; it stays mapped.
 void* functionOfModule(const std::string& moduleName, const char* functionName);
 
 }  // namespace desktop
