@@ -55,4 +55,20 @@ AttributedText AttributedText::of(bridge::NSAttributedString text, const FontFac
   return made;
 }
 
+bridge::NSAttributedString attributedString(bridge::NSString string,
+                                            const std::vector<TextRun>& runs) {
+  using bridge::NSString;
+  auto made = bridge::NSMutableAttributedString::withString(string);
+  for (std::size_t index = 0; index < runs.size(); ++index) {
+    const TextRun& run = runs[index];
+    const NSUInteger end = index + 1 < runs.size() ? runs[index + 1].start : string.length();
+    const NSRange range{run.start, end - run.start};
+    made->addAttribute(bridge::fontAttributeName(), UIFont::make(run.face), range);
+    made->addAttribute(bridge::paragraphStyleAttributeName(), NSParagraphStyle::make(run.style),
+                       range);
+    if (run.color) made->addAttribute(NSString::make("NSColor"), UIColor::make(*run.color), range);
+  }
+  return made.autorelease();
+}
+
 }  // namespace desktop::uikit

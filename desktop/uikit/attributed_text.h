@@ -58,6 +58,10 @@ struct AttributedText {
   static AttributedText of(bridge::NSAttributedString text, const FontFace& face);
 };
 
+// The platform's object of a string with these runs. Autoreleased.
+bridge::NSAttributedString attributedString(bridge::NSString string,
+                                            const std::vector<TextRun>& runs);
+
 // Shared by those who lay it out; never changed once it is.
 using SharedText = std::shared_ptr<const AttributedText>;
 

@@ -9,7 +9,7 @@
 namespace desktop::uikit {
 namespace {
 
-bridge::Object newStyle(Class style, const ParagraphStyle& value) {
+bridge::NSObject newStyle(Class style, const ParagraphStyle& value) {
   const auto made = bridge::send<bridge::NSObject, "new">(style);
   if (made) NSParagraphStyle::of(made).setValue(value);
   return made;
@@ -56,10 +56,8 @@ ParagraphStyle NSParagraphStyle::valueOf(bridge::Object style) {
   return bridge::isKindOf(style, classObject()) ? of(style)._value : ParagraphStyle{};
 }
 
-bridge::NSObject NSParagraphStyle::defaultParagraphStyle() {
-  return bridge::Owned<bridge::NSObject>::adopt(
-             bridge::send<bridge::NSObject, "new">(classObject()))
-      .autorelease();
+bridge::NSObject NSParagraphStyle::make(const ParagraphStyle& value) {
+  return bridge::Owned<bridge::NSObject>::adopt(newStyle(classObject(), value)).autorelease();
 }
 
 bridge::Object NSParagraphStyle::copyWithZone(void*) const {

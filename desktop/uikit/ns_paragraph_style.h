@@ -14,6 +14,8 @@ class NSParagraphStyle : public bridge::Bound<NSParagraphStyle, bridge::NSObject
   using Bound::Bound;
   static Class classObject();
 
+  // A new style; autoreleased.
+  static bridge::NSObject make(const ParagraphStyle& value);
   // The value of a style; the standard one for nil and for what is no style.
   static ParagraphStyle valueOf(bridge::Object style);
 
@@ -21,7 +23,7 @@ class NSParagraphStyle : public bridge::Bound<NSParagraphStyle, bridge::NSObject
   void setValue(const ParagraphStyle& value) { _value = value; }
 
  private:
-  static bridge::NSObject defaultParagraphStyle();
+  static bridge::NSObject defaultParagraphStyle() { return make({}); }
 
   template <auto Field>
   auto get() const;

@@ -116,9 +116,10 @@ CGSize TextLayout::size() const {
 double TextLayout::refine(double top, double bottom) {
   double shift = 0;
   if (isExact()) return shift;
-  for (std::size_t index = _heights.at(top); index < _pieces.size(); ++index) {
+  const double margin = std::max(bottom - top, 0.0);
+  for (std::size_t index = _heights.at(top - margin); index < _pieces.size(); ++index) {
     const double pieceTop = _heights.before(index);
-    if (pieceTop > bottom + shift) break;
+    if (pieceTop > bottom + margin + shift) break;
     if (_measured[index].isExact) continue;
     const double before = heightOf(index);
     const std::vector<TextLine>& lines = linesOf(index);

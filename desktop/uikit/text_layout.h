@@ -44,7 +44,8 @@ class TextLayout {
   // How many lines there are, estimated unless it is exact.
   std::size_t lineCount() const { return _lineCount; }
 
-  // Lays out what lies between two heights. Answers how far what is at `top` moved down by that.
+  // Lays out what lies between two heights, and as much above and below. Answers how far what is
+  // at `top` moved down by that.
   double refine(double top, double bottom);
 
   // The lines that lie between two heights, at least in part.

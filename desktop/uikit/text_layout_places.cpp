@@ -104,6 +104,7 @@ void TextLayout::draw(Canvas& canvas, CGPoint origin, Color color, double top,
                       double bottom) const {
   for (const PlacedLine& line : lines(top, bottom)) {
     const auto units = std::u16string_view(_text->text).substr(line.start, line.length);
+    if (canvas.isClippedAway(offset(line.frame, origin))) continue;
     const double baseline = line.frame.origin.y + measuresOf(line.face).ascender;
     for (std::size_t at = 0; at < units.size();) {
       const TextRun* const run = &_text->runAt(line.start + at);

@@ -1,0 +1,347 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/ui_text_view.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "bridge/class_builder.h"
+#include "desktop/uikit/ui_menu_controller.h"
+#include "desktop/uikit/ui_responder.h"
+#include "desktop/uikit/utf16.h"
+#include "tests/desktop/uikit/stage_test.h"
+
+namespace desktop::uikit {
+namespace {
+
+using bridge::NSString;
+using bridge::send;
+
+// Counts what a text view tells its delegate.
+class SelectionListener : public bridge::Bound<SelectionListener, bridge::NSObject> {
+ public:
+  using Bound::Bound;
+  static Class classObject() {
+    static const Class made =
+        bridge::ClassBuilder<SelectionListener>("SelectionListener")
+            .method<"textViewDidChangeSelection:", &SelectionListener::selectionChanged>()
+            .build();
+    return made;
+  }
+  int changes = 0;
+
+ private:
+  void selectionChanged(bridge::NSObject) { ++changes; }
+};
+
+// At 10 points a letter is 6 points wide and a line of Courier is 10 high.
+class UITextViewTest : public StageTest {
+ protected:
+  UITextViewTest() {
+    listener = bridge::Owned<bridge::NSObject>::adopt(
+        send<bridge::NSObject, "new">(SelectionListener::classObject()));
+    view = bridge::makeView<bridge::UITextView>({{0, 0}, {130, 200}});
+    view->setFont(bridge::UIFont::named(NSString::make("Courier"), 10));
+    view->setEditable(false);
+    view->setDelegate(listener);
+    window().addSubview(view);
+  }
+
+  void show(std::u16string_view text) const {
+    send<void, "setText:">(view, stringOf(text));
+    stage().prepareFrame();
+  }
+  int changes() const { return SelectionListener::of(listener.get()).changes; }
+  UITextView& state() const { return UITextView::of(view.get()); }
+  NSRange selectedRange() const { return send<NSRange, "selectedRange">(view); }
+  std::string selectedText() const {
+    return send<NSString, "textInRange:">(view, view->selectedTextRange()).utf8();
+  }
+  // The middle of a unit on the screen.
+  CGPoint pointOf(std::size_t index) const {
+    const CGRect caret = state().caretAt(index);
+    const CGPoint scrolled = UIScrollView::of(view.get()).contentOffset();
+    return {caret.origin.x + 3 - scrolled.x, caret.origin.y + 5 - scrolled.y};
+  }
+  // Where a caret in front of a unit stands on the screen.
+  CGPoint pointBefore(std::size_t index) const {
+    const CGPoint middle = pointOf(index);
+    return {middle.x - 3, middle.y};
+  }
+  static void longPress(CGPoint point) {
+    stage().touches.down(point);
+    stage().advance(0.6);
+  }
+  static void tap(CGPoint point) {
+    stage().touches.down(point);
+    stage().touches.up(point);
+    stage().advance(0.5);
+  }
+
+  bridge::Owned<bridge::NSObject> listener;
+  bridge::Owned<bridge::UITextView> view;
+};
+
+TEST_F(UITextViewTest, StartsEmptyAndEditable) {
+  const auto fresh = bridge::makeView<bridge::UITextView>({{0, 0}, {100, 100}});
+  EXPECT_EQ(fresh->text().utf8(), "");
+  EXPECT_TRUE((send<bool, "isEditable">(fresh)));
+  EXPECT_TRUE((send<bool, "isSelectable">(fresh)));
+  EXPECT_FALSE(fresh->selectedTextRange());
+  EXPECT_EQ((send<EdgeInsets, "textContainerInset">(fresh)), (EdgeInsets{8, 0, 8, 0}));
+}
+
+TEST_F(UITextViewTest, TheContentIsAsWideAsTheViewAndAsHighAsTheLines) {
+  show(u"one\ntwo\nthree");
+  EXPECT_EQ(view->contentSize(), (CGSize{130, 46}));
+  // 20 letters fit into 130 - 10 points.
+  show(u"twenty letters fit in, and so on");
+  EXPECT_EQ(view->contentSize(), (CGSize{130, 36}));
+  view->setFrame({{0, 0}, {70, 200}});
+  EXPECT_EQ(view->contentSize(), (CGSize{70, 56}));
+}
+
+TEST_F(UITextViewTest, FitsAroundItsLongestLine) {
+  show(u"one\ntwo\nthree");
+  EXPECT_EQ((send<CGSize, "sizeThatFits:">(view, CGSize{130, 5})), (CGSize{40, 46}));
+  EXPECT_EQ((send<CGSize, "sizeThatFits:">(view, CGSize{0, 0})), (CGSize{40, 46}));
+  view->sizeToFit();
+  EXPECT_EQ(view->frame(), (CGRect{{0, 0}, {40, 46}}));
+  EXPECT_EQ(view->contentSize(), (CGSize{40, 46}));
+}
+
+TEST_F(UITextViewTest, WrappedTextKeepsItsLinesWhenFitted) {
+  show(u"several words that were wrapped once more");
+  const CGFloat height = view->contentSize().height;
+  view->sizeToFit();
+  EXPECT_LT(view->frame().size.width, 130);
+  EXPECT_EQ(view->contentSize().height, height);
+}
+
+TEST_F(UITextViewTest, AttributedTextBringsFontAndIndents) {
+  const auto style = bridge::makeNew<bridge::NSMutableParagraphStyle>();
+  style->setHeadIndent(12);
+  style->setParagraphSpacing(1.5);
+  const auto text = bridge::NSMutableAttributedString::withString(
+      NSString::make("aaaa bbbb cccc dddd eeee\nffff"));
+  const auto font = bridge::UIFont::named(NSString::make("Courier"), 10);
+  text->addAttribute(bridge::fontAttributeName(), font, {0, text->length()});
+  text->addAttribute(bridge::paragraphStyleAttributeName(), style, {0, text->length()});
+  view->setAttributedText(text);
+  const auto lines = state().layout().lines(0, 100);
+  ASSERT_EQ(lines.size(), 3u);
+  EXPECT_EQ(lines[1].frame.origin, (CGPoint{12, 10}));
+  EXPECT_EQ(lines[2].frame.origin, (CGPoint{0, 21.5}));
+  EXPECT_EQ(view->contentSize().height, 48);
+  const auto back = send<bridge::NSAttributedString, "attributedText">(view);
+  EXPECT_TRUE((send<bool, "isEqualToAttributedString:">(back, text)));
+}
+
+TEST_F(UITextViewTest, SelectsAllAndClearsByCode) {
+  show(u"some text");
+  view->selectAll({});
+  EXPECT_EQ(selectedRange(), (NSRange{0, 9}));
+  EXPECT_EQ(changes(), 1);
+  const auto range = view->selectedTextRange();
+  EXPECT_EQ(view->offset(view->beginningOfDocument(), range.start()), 0);
+  EXPECT_EQ(view->offset(range.start(), range.end()), 9);
+  EXPECT_FALSE((send<bool, "isEmpty">(range)));
+  view->selectAll({});
+  EXPECT_EQ(changes(), 1);
+  view->setSelectedTextRange({});
+  EXPECT_FALSE(view->selectedTextRange());
+  EXPECT_EQ(changes(), 2);
+  view->setSelectedTextRange({});
+  EXPECT_EQ(changes(), 2);
+}
+
+TEST_F(UITextViewTest, AllOfAnEmptyTextIsACaret) {
+  show(u"");
+  view->selectAll({});
+  ASSERT_TRUE(view->selectedTextRange());
+  EXPECT_TRUE((send<bool, "isEmpty">(view->selectedTextRange())));
+  EXPECT_EQ(changes(), 1);
+}
+
+TEST_F(UITextViewTest, ASelectionIsCutToTheText) {
+  show(u"some text");
+  send<void, "setSelectedRange:">(view, NSRange{5, 1000});
+  EXPECT_EQ(selectedText(), "text");
+  send<void, "setSelectedRange:">(view, NSRange{~0UL, ~0UL});
+  EXPECT_FALSE(state().hasSelectedText());
+  send<void, "setSelectedRange:">(view, NSRange{static_cast<NSUInteger>(NSNotFound), 0});
+  EXPECT_FALSE(view->selectedTextRange());
+}
+
+TEST_F(UITextViewTest, PositionsAreCountedWithinTheText) {
+  show(u"some text");
+  const auto start = view->beginningOfDocument();
+  const auto end = send<bridge::UITextPosition, "endOfDocument">(view);
+  EXPECT_EQ(view->offset(start, end), 9);
+  EXPECT_EQ(view->offset(end, start), -9);
+  const auto fifth =
+      send<bridge::UITextPosition, "positionFromPosition:offset:">(view, start, NSInteger{5});
+  const auto range =
+      send<bridge::UITextRange, "textRangeFromPosition:toPosition:">(view, end, fifth);
+  view->setSelectedTextRange(range);
+  EXPECT_EQ(selectedRange(), (NSRange{5, 4}));
+  for (const NSInteger offset : {NSInteger{10}, NSInteger{-1}, NSNotFound, -NSNotFound - 1})
+    EXPECT_FALSE(
+        (send<bridge::UITextPosition, "positionFromPosition:offset:">(view, start, offset)))
+        << offset;
+}
+
+TEST_F(UITextViewTest, AnotherTextHasNoSelection) {
+  show(u"some text");
+  view->selectAll({});
+  show(u"other");
+  EXPECT_FALSE(view->selectedTextRange());
+  EXPECT_EQ(changes(), 2);
+}
+
+TEST_F(UITextViewTest, ALongPressSelectsAWordAndShowsTheMenu) {
+  show(u"some words in a row");
+  longPress(pointOf(6));
+  EXPECT_EQ(selectedText(), "words");
+  EXPECT_EQ(changes(), 1);
+  EXPECT_EQ(UIResponder::firstResponder(), view.get());
+  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  stage().touches.up(pointOf(6));
+  stage().advance(0.5);
+  EXPECT_EQ(UIMenuController::shared().titles(), (std::vector<std::string>{"Copy", "Select All"}));
+}
+
+TEST_F(UITextViewTest, ALongPressThatIsDraggedSelectsMore) {
+  show(u"some words in a row");
+  longPress(pointOf(6));
+  stage().touches.move(pointOf(11));
+  EXPECT_EQ(selectedText(), "words in");
+  stage().touches.move(pointOf(1));
+  EXPECT_EQ(selectedText(), "some words");
+  stage().touches.up(pointOf(1));
+}
+
+TEST_F(UITextViewTest, TheMenuCopiesAndSelectsAll) {
+  std::vector<std::string> copied;
+  stage().outside.copyText = [&](const std::string& text) { copied.push_back(text); };
+  show(u"some words \U0001F4F7");
+  longPress(pointOf(6));
+  stage().touches.up(pointOf(6));
+  stage().advance(0.5);
+  UIMenuController::shared().run(1);
+  stage().advance(0.5);
+  EXPECT_EQ(selectedRange(), (NSRange{0, 13}));
+  EXPECT_EQ(UIMenuController::shared().titles(), std::vector<std::string>{"Copy"});
+  UIMenuController::shared().run(0);
+  EXPECT_EQ(copied, std::vector<std::string>{"some words \xF0\x9F\x93\xB7"});
+  EXPECT_TRUE(state().hasSelectedText());
+}
+
+TEST_F(UITextViewTest, ATapClearsTheSelection) {
+  show(u"some words in a row");
+  view->selectAll({});
+  stage().prepareFrame();
+  tap({100, 150});
+  EXPECT_FALSE(view->selectedTextRange());
+  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_EQ(changes(), 2);
+}
+
+TEST_F(UITextViewTest, TheEndsOfASelectionCanBeDragged) {
+  show(u"some words in a row\n\n\n\n\n\nfurther down");
+  send<void, "setSelectedRange:">(view, NSRange{5, 5});
+  stage().touches.down(pointBefore(10));
+  stage().advance(0.1);
+  stage().touches.move(pointBefore(2));
+  EXPECT_EQ(selectedText(), "me ");
+  stage().touches.move(pointBefore(13));
+  stage().touches.up(pointBefore(13));
+  EXPECT_EQ(selectedText(), "words in");
+  stage().advance(0.5);
+  EXPECT_TRUE(UIMenuController::shared().isVisible());
+}
+
+TEST_F(UITextViewTest, APressOnTheEndOfAWordSelectsThatWord) {
+  show(u"some words");
+  const CGPoint end = pointBefore(4);
+  longPress({end.x - 1, end.y});
+  EXPECT_EQ(selectedText(), "some");
+  stage().touches.up(end);
+}
+
+TEST_F(UITextViewTest, WhatIsNotSelectableStaysUnselected) {
+  show(u"some words in a row");
+  send<void, "setSelectable:">(view, false);
+  longPress(pointOf(6));
+  stage().touches.up(pointOf(6));
+  view->selectAll({});
+  EXPECT_FALSE(view->selectedTextRange());
+  EXPECT_FALSE((send<bool, "canBecomeFirstResponder">(view)));
+}
+
+TEST_F(UITextViewTest, CommandsArePossibleWhereTheyMakeSense) {
+  const auto can = [&](SEL action) {
+    return send<bool, "canPerformAction:withSender:">(view, action, bridge::Object());
+  };
+  show(u"");
+  EXPECT_FALSE(can(bridge::selector<"selectAll:">()));
+  show(u"text");
+  EXPECT_TRUE(can(bridge::selector<"selectAll:">()));
+  EXPECT_FALSE(can(bridge::selector<"copy:">()));
+  EXPECT_FALSE(can(bridge::selector<"paste:">()));
+  view->selectAll({});
+  EXPECT_FALSE(can(bridge::selector<"selectAll:">()));
+  EXPECT_TRUE(can(bridge::selector<"copy:">()));
+}
+
+TEST_F(UITextViewTest, AnythingIsShownInSomeWay) {
+  for (const std::u16string& text :
+       {std::u16string(u"\x05D0\x05D1 \x05D2"), std::u16string(3, u'\0'),
+        std::u16string(u"\t\x1B[0m"), std::u16string(100'000, u'x'),
+        std::u16string(u"\r\r\n\x2028\x2029")}) {
+    show(text);
+    EXPECT_GE(view->contentSize().height, 26);
+    longPress({20, 12});
+    stage().touches.up({20, 12});
+    view->selectAll({});
+    EXPECT_EQ(selectedRange().length, text.size());
+  }
+  send<void, "setText:">(view, NSString());
+  EXPECT_EQ(view->text().utf8(), "");
+  view->setAttributedText({});
+  EXPECT_EQ(view->text().utf8(), "");
+  const auto half = stringOf(u"\U0001F4F7z").substringFrom(1);
+  send<void, "setText:">(view, half);
+  EXPECT_EQ(view->text().length(), 2u);
+}
+
+TEST_F(UITextViewTest, AViewWithoutRoomShowsNoText) {
+  show(u"some text");
+  for (const CGFloat width : {0.0, -5.0, 10.0, static_cast<CGFloat>(NAN)}) {
+    view->setFrame({{0, 0}, {width, 10}});
+    EXPECT_EQ(view->contentSize().height, 16) << width;
+  }
+}
+
+TEST_F(UITextViewTest, LeavesNothingBehind) {
+  const long before = bridge::liveBoundObjects();
+  {
+    const bridge::AutoreleasePool inner;
+    const auto other = bridge::makeView<bridge::UITextView>({{0, 0}, {100, 100}});
+    window().addSubview(other);
+    send<void, "setText:">(other, NSString::make("some text"));
+    stage().prepareFrame();
+    longPress({10, 12});
+    stage().touches.up({10, 12});
+    stage().advance(0.5);
+    bridge::send<void, "setMenuVisible:animated:">(UIMenuController::sharedMenuController(), false,
+                                                   false);
+    stage().advance(1);
+    other->removeFromSuperview();
+  }
+  stage().advance(1);
+  EXPECT_EQ(bridge::liveBoundObjects(), before);
+}
+
+}  // namespace
+}  // namespace desktop::uikit
