@@ -132,7 +132,6 @@ void LumifactViewController::didSelectRow(UITableView table, NSIndexPath path) {
 
 void LumifactViewController::openPageOf(const TableRow& row) const {
   const auto page = make({.tableData = row.value,
-                          .extraData = {},
                           .mapType = subPage,
                           .mapLink = _mapString.get(),
                           .title = row.title});

@@ -22,11 +22,11 @@ class LumifactViewController
   // What a page is made of. `extraData`, `mapLink` and `title` may be nil; anything may be
   // `tableData`.
   struct Contents {
-    bridge::Object tableData;
-    bridge::NSDictionary extraData;  // rows shown first
-    std::int32_t mapType = 0;        // subPage marks a page without a "Dismiss" button
-    bridge::NSString mapLink;
-    bridge::NSString title;
+    bridge::Object tableData = {};
+    bridge::NSDictionary extraData = {};  // rows shown first
+    std::int32_t mapType = 0;             // subPage marks a page without a "Dismiss" button
+    bridge::NSString mapLink = {};
+    bridge::NSString title = {};
   };
   static constexpr std::int32_t subPage = -2;
 
