@@ -246,7 +246,7 @@ void UICollectionView::scrollToItem(bridge::NSIndexPath path, NSUInteger positio
   if (!attributes) return;
   const CGRect frame = attributes.frame();
   const UIScrollView& scroll = UIScrollView::of(self());
-  const EdgeInsets insets = scroll.contentInset();
+  const EdgeInsets insets = scroll.adjustedContentInset();
   const CGSize size = UIView::of(self()).bounds().size;
   const CGPoint first = {frame.origin.x - insets.left, frame.origin.y - insets.top};
   const CGPoint last = {uikit::right(frame) + insets.right - size.width,

@@ -33,6 +33,9 @@ Class UIScrollView::classObject() {
           .method<"setContentSize:", &Self::setContentSize>()
           .method<"contentInset", &Self::contentInset>()
           .method<"setContentInset:", &Self::setContentInset>()
+          .method<"adjustedContentInset", &Self::adjustedContentInset>()
+          .method<"contentInsetAdjustmentBehavior", &Self::adjustmentBehavior>()
+          .method<"setContentInsetAdjustmentBehavior:", &Self::setAdjustmentBehavior>()
           .method<"delegate", &Self::delegate>()
           .method<"setDelegate:", &Self::setDelegate>()
           .method<"isScrollEnabled", &Self::isScrollEnabled>()
@@ -110,16 +113,41 @@ void UIScrollView::setContentSize(CGSize size) {
 }
 
 void UIScrollView::setContentInset(EdgeInsets insets) {
-  const CGPoint before = contentOffset();
-  const bool wasAtTop = before.y == -_contentInset.top;
   _contentInset = insets;
+  adjustInset();
+}
+
+void UIScrollView::setSafeArea(EdgeInsets area) {
+  _safeArea = area;
+  adjustInset();
+}
+
+void UIScrollView::setAdjustmentBehavior(NSInteger behavior) {
+  _adjustmentBehavior = behavior;
+  adjustInset();
+}
+
+// What stood at its top stays there.
+void UIScrollView::adjustInset() {
+  constexpr NSInteger never = 2;
+  EdgeInsets insets = _contentInset;
+  if (_adjustmentBehavior != never) {
+    insets.top += _safeArea.top;
+    insets.left += _safeArea.left;
+    insets.bottom += _safeArea.bottom;
+    insets.right += _safeArea.right;
+  }
+  if (insets == _adjustedInset) return;
+  const CGPoint before = contentOffset();
+  const bool wasAtTop = before.y == -_adjustedInset.top;
+  _adjustedInset = insets;
   if (wasAtTop) bridge::send<void, "setContentOffset:">(self(), CGPoint{before.x, -insets.top});
 }
 
 CGPoint UIScrollView::clamped(CGPoint offset) const {
-  return {clampedTo(offset.x, _contentInset.left, _contentSize.width, _contentInset.right,
+  return {clampedTo(offset.x, _adjustedInset.left, _contentSize.width, _adjustedInset.right,
                     room().width),
-          clampedTo(offset.y, _contentInset.top, _contentSize.height, _contentInset.bottom,
+          clampedTo(offset.y, _adjustedInset.top, _contentSize.height, _adjustedInset.bottom,
                     room().height)};
 }
 

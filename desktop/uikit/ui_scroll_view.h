@@ -39,6 +39,11 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
   void setContentSize(CGSize size);
   EdgeInsets contentInset() const { return _contentInset; }
   void setContentInset(EdgeInsets insets);
+  // Room that bars take at the edges, which the content keeps out of unless the adjustment
+  // behaviour is never (2); set by the controller around the view.
+  void setSafeArea(EdgeInsets area);
+  // The content inset and the safe area together: what counts.
+  EdgeInsets adjustedContentInset() const { return _adjustedInset; }
   // The offset nearest to this one that shows no room outside content and insets.
   CGPoint clamped(CGPoint offset) const;
   // Scrolls by a distance as far as there is content: what a wheel does. Whether it moved.
@@ -74,6 +79,9 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
     CGPoint at(Seconds time) const { return {x.at(time), y.at(time)}; }
   };
   bridge::UIView me() const { return bridge::UIView(self().get()); }
+  NSInteger adjustmentBehavior() const { return _adjustmentBehavior; }
+  void setAdjustmentBehavior(NSInteger behavior);
+  void adjustInset();
   void setDelegate(bridge::NSObject delegate) { _delegate = delegate; }
   void setScrollEnabled(bool enabled);
   void setPagingEnabled(bool enabled) { _isPagingEnabled = enabled; }
@@ -122,6 +130,9 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
 
   CGSize _contentSize;
   EdgeInsets _contentInset;
+  EdgeInsets _safeArea;
+  EdgeInsets _adjustedInset;
+  NSInteger _adjustmentBehavior = 0;  // automatic
   bridge::NSObject _delegate;  // borrowed
   bridge::Owned<handles::UIPanGestureRecognizer> _pan;
   CGPoint _dragStart;  // the content offset there

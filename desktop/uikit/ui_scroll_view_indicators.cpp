@@ -43,19 +43,19 @@ double UIScrollView::indicatorAlpha() const {
 
 CGRect UIScrollView::verticalIndicator() const {
   const CGRect seen = UIView::of(self()).bounds();
-  const CGFloat content = _contentSize.height + _contentInset.top + _contentInset.bottom;
+  const CGFloat content = _contentSize.height + _adjustedInset.top + _adjustedInset.bottom;
   if (!_showsVerticalIndicator || !(content > seen.size.height && seen.size.height > 2 * margin))
     return {};
-  const Bar bar = barFor(seen.origin.y + _contentInset.top, content, seen.size.height);
+  const Bar bar = barFor(seen.origin.y + _adjustedInset.top, content, seen.size.height);
   return {{right(seen) - margin - thickness, seen.origin.y + bar.start}, {thickness, bar.length}};
 }
 
 CGRect UIScrollView::horizontalIndicator() const {
   const CGRect seen = UIView::of(self()).bounds();
-  const CGFloat content = _contentSize.width + _contentInset.left + _contentInset.right;
+  const CGFloat content = _contentSize.width + _adjustedInset.left + _adjustedInset.right;
   if (!_showsHorizontalIndicator || !(content > seen.size.width && seen.size.width > 2 * margin))
     return {};
-  const Bar bar = barFor(seen.origin.x + _contentInset.left, content, seen.size.width);
+  const Bar bar = barFor(seen.origin.x + _adjustedInset.left, content, seen.size.width);
   return {{seen.origin.x + bar.start, bottom(seen) - margin - thickness}, {bar.length, thickness}};
 }
 

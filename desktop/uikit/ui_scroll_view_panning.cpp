@@ -38,13 +38,13 @@ CGPoint onPixels(CGPoint point) {
 }  // namespace
 
 bool UIScrollView::canDragAcross() const {
-  const bool isWider = _contentSize.width + _contentInset.left + _contentInset.right > room().width;
+  const bool isWider = _contentSize.width + _adjustedInset.left + _adjustedInset.right > room().width;
   return _isScrollEnabled && (isWider || (_bounces && _alwaysBounceHorizontal));
 }
 
 bool UIScrollView::canDragDown() const {
   const bool isHigher =
-      _contentSize.height + _contentInset.top + _contentInset.bottom > room().height;
+      _contentSize.height + _adjustedInset.top + _adjustedInset.bottom > room().height;
   return _isScrollEnabled && (isHigher || (_bounces && _alwaysBounceVertical));
 }
 

@@ -197,7 +197,7 @@ Band UITableView::headerBand(NSInteger section) const {
   Band band = _geometry.header(section);
   if (isGrouped()) return band;
   const CGFloat sightTop =
-      UIView::of(self()).bounds().origin.y + UIScrollView::of(self()).contentInset().top;
+      UIView::of(self()).bounds().origin.y + UIScrollView::of(self()).adjustedContentInset().top;
   const CGFloat lowest = _geometry.section(section).bottom() - band.height;
   band.top = std::max(band.top, std::min(sightTop, lowest));
   return band;

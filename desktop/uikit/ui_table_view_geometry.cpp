@@ -172,7 +172,7 @@ void UITableView::scrollToRow(bridge::NSIndexPath path, NSInteger position, bool
   const auto at = itemPathOf(path);
   if (!at || !geometry().contains(*at)) return;
   const UIScrollView& scroll = UIScrollView::of(self());
-  const EdgeInsets insets = scroll.contentInset();
+  const EdgeInsets insets = scroll.adjustedContentInset();
   const Band row = _geometry.row(*at);
   const CGFloat room = UIView::of(self()).bounds().size.height - insets.top - insets.bottom;
   const CGFloat atTop = row.top - insets.top;
