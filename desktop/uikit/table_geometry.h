@@ -23,8 +23,8 @@ struct Band {
 struct TableSection {
   CGFloat headerHeight = 0;
   NSInteger rows = 0;
-  CGFloat rowHeight = 0;               // of each row, but for those of
-  std::vector<CGFloat> ownRowHeights;  // the first rows, where they differ
+  CGFloat rowHeight = 0;                 // of each row, but for those of
+  std::vector<CGFloat> ownRowHeights{};  // the first rows, where they differ
   CGFloat footerHeight = 0;
 };
 
