@@ -1,0 +1,426 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/ui_collection_view.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "desktop/uikit/ui_collection_view_cell.h"
+#include "tests/desktop/uikit/collection_source.h"
+#include "tests/desktop/uikit/stage_test.h"
+
+namespace desktop::uikit {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+template <typename T>
+bridge::Owned<bridge::NSObject> make() {
+  return bridge::Owned<bridge::NSObject>::adopt(
+      bridge::send<bridge::NSObject, "init">(bridge::send<id, "alloc">(T::classObject())));
+}
+
+class UICollectionViewTest : public StageTest {
+ protected:
+  UICollectionViewTest() : _source(make<CollectionSource>()), _layout(make<GridLayout>()) {}
+  ~UICollectionViewTest() override { close(); }
+
+  CollectionSource& source() { return CollectionSource::of(_source.get()); }
+  GridLayout& layout() { return GridLayout::of(_layout.get()); }
+
+  void show() {
+    close();
+    _view = bridge::Owned<bridge::UICollectionView>::adopt(
+        bridge::send<bridge::UICollectionView, "initWithFrame:collectionViewLayout:">(
+            bridge::send<id, "alloc">(bridge::UICollectionView::classObject()),
+            rectOfSize(stage().screenSize), _layout));
+    bridge::send<void, "setDataSource:">(_view, _source);
+    bridge::send<void, "setDelegate:">(_view, _source);
+    bridge::send<void, "registerClass:forCellWithReuseIdentifier:">(_view, TestCell::classObject(),
+                                                                    bridge::NSString::make("cell"));
+    window().addSubview(_view);
+    stage().prepareFrame();
+  }
+
+  void close() {
+    if (_view) _view->removeFromSuperview();
+    _view.reset();
+  }
+
+  UICollectionView& view() { return UICollectionView::of(_view.get()); }
+  UIScrollView& scroll() { return UIScrollView::of(_view.get()); }
+
+  void scrollTo(CGFloat y) {
+    handles::UIScrollView(_view.get().get()).setContentOffset({0, y});
+    stage().prepareFrame();
+  }
+
+  // The items in sight, in order, as their cells know them.
+  std::vector<NSInteger> tags() {
+    std::vector<NSInteger> all;
+    for (const auto& [element, shown] : view().views())
+      if (element.kind.empty()) all.push_back(UIView::of(shown.get()).tag());
+    return all;
+  }
+
+  UICollectionViewCell& cell(NSInteger item) {
+    return UICollectionViewCell::of(view().cellForItem(indexPathOf({0, item})));
+  }
+
+  void tap(NSInteger item) {
+    const CGPoint point =
+        apply(UIView::of(_view.get()).toScreen(), middle(layout().frameOf({0, item})));
+    stage().touches.down(point);
+    stage().advance(0.2);
+    stage().touches.up(point);
+    stage().advance(0.02);
+  }
+
+  void allowMultipleSelection() { bridge::send<void, "setAllowsMultipleSelection:">(_view, true); }
+
+  bridge::Owned<bridge::NSObject> _source;
+  bridge::Owned<bridge::NSObject> _layout;
+  bridge::Owned<bridge::UICollectionView> _view;
+};
+
+TEST_F(UICollectionViewTest, ExactlyTheItemsInSightHaveCells) {
+  source().itemCount = 1000;
+  show();
+  EXPECT_EQ(tags().size(), 32u);  // 8 rows of 94 points, the last in part
+  scrollTo(94 * 50);
+  EXPECT_EQ(tags().front(), 200);
+  EXPECT_EQ(tags().back(), 231);
+  EXPECT_EQ(_view->subviews().count(), 32u);
+  EXPECT_EQ(cell(201).self().frame(), (CGRect{{94, 4700}, {93, 93}}));
+}
+
+TEST_F(UICollectionViewTest, CellsAreUsedAgain) {
+  source().itemCount = 100'000;
+  show();
+  const long before = TestCell::liveObjects();
+  TestCell::reused = 0;
+  for (int step = 0; step < 500; ++step) scrollTo(step * 31.0);
+  EXPECT_LE(TestCell::liveObjects(), before + 4);
+  EXPECT_GT(TestCell::reused, 500);
+  scrollTo(94 * 24'990);
+  EXPECT_LE(TestCell::liveObjects(), before + 4);
+  EXPECT_EQ(tags().back(), 99'991);
+  EXPECT_EQ(source().displayed - source().ended, static_cast<long>(tags().size()));
+}
+
+TEST_F(UICollectionViewTest, OnlyWhatIsInSightIsAskedOfTheLayout) {
+  source().itemCount = 100'000;
+  show();
+  layout().attributesMade = 0;
+  scrollTo(94 * 10'000);
+  EXPECT_EQ(layout().attributesMade, 32);
+  EXPECT_EQ(layout().prepared, 1);
+}
+
+TEST_F(UICollectionViewTest, AnyCountOfItemsIsShown) {
+  struct Count {
+    NSInteger items;
+    std::size_t cells;
+  };
+  for (const auto& [items, cells] : {Count{0, 0}, Count{1, 1}, Count{5, 5}, Count{100'000, 32}}) {
+    source().itemCount = items;
+    show();
+    EXPECT_EQ(tags().size(), cells) << items;
+    EXPECT_EQ(view().numberOfItems(0), items);
+  }
+}
+
+TEST_F(UICollectionViewTest, AbsurdCountsAreLimited) {
+  constexpr NSInteger most = std::numeric_limits<NSInteger>::max();
+  constexpr NSInteger least = std::numeric_limits<NSInteger>::min();
+  for (const auto& [sections, items] : std::vector<std::pair<NSInteger, NSInteger>>{
+           {-1, 5}, {least, 5}, {1, -1}, {1, least}, {1, most}, {most, 1}, {most, most}}) {
+    source().sectionCount = sections;
+    source().itemCount = items;
+    show();
+    EXPECT_LE(tags().size(), 40u) << sections << " sections of " << items;
+    scrollTo(1e300);
+    scrollTo(-1e300);
+  }
+}
+
+TEST_F(UICollectionViewTest, ALayoutThatLiesShowsWhatThereIs) {
+  source().itemCount = 10;
+  for (const auto answer :
+       {GridLayout::Answer::nothing, GridLayout::Answer::text, GridLayout::Answer::absurd}) {
+    layout().answer = answer;
+    show();
+    EXPECT_LE(tags().size(), 10u);
+    scrollTo(5);
+  }
+  EXPECT_EQ(tags().size(), 10u);  // the absurd ones are left out
+}
+
+TEST_F(UICollectionViewTest, WithoutALayoutThereIsNothing) {
+  source().itemCount = 10;
+  show();
+  bridge::send<void, "setCollectionViewLayout:">(_view, bridge::UICollectionViewLayout());
+  stage().prepareFrame();
+  EXPECT_THAT(tags(), IsEmpty());
+  EXPECT_FALSE(view().indexPathForItemAt({10, 10}));
+  bridge::send<void, "setCollectionViewLayout:animated:">(_view, _layout, true);
+  stage().prepareFrame();
+  EXPECT_EQ(tags().size(), 10u);
+}
+
+TEST_F(UICollectionViewTest, WhatIsNoCellIsShownAsAnEmptyItem) {
+  source().itemCount = 10;
+  for (const auto answer : {CollectionSource::Answer::nothing, CollectionSource::Answer::text}) {
+    source().answer = answer;
+    show();
+    EXPECT_EQ(tags().size(), 10u);
+    scrollTo(5);
+  }
+}
+
+TEST_F(UICollectionViewTest, ASourceThatAlwaysReloadsDoesNotHang) {
+  source().itemCount = 10;
+  source().reloadsMeanwhile = true;
+  show();
+  stage().advance(0.1);
+  EXPECT_THAT(tags(), IsEmpty());
+}
+
+TEST_F(UICollectionViewTest, APointIsInTheItemAroundIt) {
+  source().itemCount = 10;
+  show();
+  EXPECT_EQ(itemPathOf(view().indexPathForItemAt({92.9, 0})), (ItemPath{0, 0}));
+  EXPECT_EQ(itemPathOf(view().indexPathForItemAt({94, 94})), (ItemPath{0, 5}));
+  EXPECT_EQ(itemPathOf(view().indexPathForItemAt({94.5, 280})), (ItemPath{0, 9}));
+  for (const CGPoint outside : {CGPoint{93.5, 10}, CGPoint{300, 200}, CGPoint{-1, 0},
+                                CGPoint{double{NAN}, 0}, CGPoint{0, double{INFINITY}}})
+    EXPECT_FALSE(view().indexPathForItemAt(outside)) << outside.x << ", " << outside.y;
+}
+
+TEST_F(UICollectionViewTest, ACellKnowsItsItem) {
+  source().itemCount = 10;
+  show();
+  EXPECT_EQ(itemPathOf(view().indexPathForCell(cell(7).self())), (ItemPath{0, 7}));
+  EXPECT_FALSE(view().indexPathForCell({}));
+  EXPECT_FALSE(view().cellForItem(indexPathOf({0, 10})));
+  const auto attributes =
+      bridge::send<handles::UICollectionViewLayoutAttributes,
+                   "layoutAttributesForItemAtIndexPath:">(_view, indexPathOf({0, 7}));
+  EXPECT_EQ(attributes.frame(), cell(7).self().frame());
+  EXPECT_FALSE(
+      (bridge::send<id, "layoutAttributesForItemAtIndexPath:">(_view, indexPathOf({0, 10}))));
+}
+
+TEST_F(UICollectionViewTest, HeadersStandAboveTheirItems) {
+  source().sectionCount = 3;
+  source().itemCount = 8;
+  layout().headerHeight = 40;
+  show();
+  const auto kind = bridge::NSString::make("UICollectionElementKindSectionHeader");
+  const auto header = bridge::send<bridge::UIView, "supplementaryViewForElementKind:atIndexPath:">(
+      _view, kind, indexPathOf({1, 0}));
+  EXPECT_EQ(header.frame(), (CGRect{{0, 228}, {375, 40}}));
+  EXPECT_EQ(
+      (bridge::send<bridge::NSArray, "visibleSupplementaryViewsOfKind:">(_view, kind).count()), 3u);
+  EXPECT_EQ(_view->subviews().count(), 27u);
+  EXPECT_TRUE(bridge::isKindOf(_view->subviews().at(0), TestCell::classObject()));
+  EXPECT_FALSE(bridge::isKindOf(_view->subviews().at(26), TestCell::classObject()));
+  scrollTo(300);
+  EXPECT_EQ(
+      (bridge::send<bridge::NSArray, "visibleSupplementaryViewsOfKind:">(_view, kind).count()), 1u);
+}
+
+TEST_F(UICollectionViewTest, AnInvalidLayoutIsPreparedAgain) {
+  source().itemCount = 100;
+  show();
+  layout().columns = 2;
+  layout().side = 187;
+  stage().prepareFrame();
+  EXPECT_EQ(tags().size(), 32u);  // nobody has said so yet
+  bridge::UICollectionViewLayout(_layout.get().get()).invalidateLayout();
+  stage().prepareFrame();
+  EXPECT_EQ(tags().size(), 8u);
+  EXPECT_EQ(cell(1).self().frame(), (CGRect{{188, 0}, {187, 187}}));
+  EXPECT_EQ(scroll().contentSize(), (CGSize{375, 50 * 188}));
+}
+
+TEST_F(UICollectionViewTest, ALayoutDecidesWhetherScrollingInvalidatesIt) {
+  source().itemCount = 100;
+  show();
+  scrollTo(10);
+  EXPECT_EQ(layout().prepared, 1);
+  layout().invalidatesAlways = true;
+  scrollTo(20);
+  scrollTo(30);
+  EXPECT_EQ(layout().prepared, 3);
+}
+
+TEST_F(UICollectionViewTest, ATapSelectsTheItem) {
+  source().itemCount = 100;
+  show();
+  scrollTo(94);
+  tap(9);
+  EXPECT_TRUE(cell(9).isSelected());
+  tap(10);
+  EXPECT_FALSE(cell(9).isSelected());
+  EXPECT_THAT(source().events, ElementsAre("select 0.9", "deselect 0.9", "select 0.10"));
+  EXPECT_THAT(view().selectedItems(), ElementsAre(ItemPath{0, 10}));
+}
+
+TEST_F(UICollectionViewTest, SeveralItemsCanBeSelected) {
+  source().itemCount = 100;
+  show();
+  allowMultipleSelection();
+  for (const NSInteger item : {3, 5, 3, 6}) tap(item);
+  EXPECT_THAT(source().events,
+              ElementsAre("select 0.3", "select 0.5", "deselect 0.3", "select 0.6"));
+  const auto paths = bridge::send<bridge::NSArray, "indexPathsForSelectedItems">(_view);
+  EXPECT_EQ(paths.count(), 2u);
+  bridge::send<void, "setAllowsMultipleSelection:">(_view, false);
+  EXPECT_THAT(view().selectedItems(), IsEmpty());
+  EXPECT_FALSE(cell(5).isSelected());
+}
+
+TEST_F(UICollectionViewTest, TheDelegateCanRefuse) {
+  source().itemCount = 100;
+  source().allowsChanges = false;
+  show();
+  tap(3);
+  EXPECT_THAT(source().events, IsEmpty());
+  bridge::send<void, "setAllowsSelection:">(_view, false);
+  source().allowsChanges = true;
+  tap(3);
+  EXPECT_THAT(source().events, IsEmpty());
+}
+
+TEST_F(UICollectionViewTest, AFingerThatScrollsSelectsNothing) {
+  source().itemCount = 100;
+  show();
+  const CGPoint from = middle(layout().frameOf({0, 20}));
+  stage().touches.down(from);
+  stage().advance(0.2);
+  EXPECT_TRUE(cell(20).isHighlighted());
+  for (CGFloat y = 0; y <= 200; y += 20) {
+    stage().touches.move({from.x, from.y - y});
+    stage().advance(0.02);
+  }
+  EXPECT_FALSE(cell(20).isHighlighted());
+  stage().touches.up({from.x, from.y - 200});
+  stage().advance(3);
+  EXPECT_GT(scroll().contentOffset().y, 100);
+  EXPECT_THAT(source().events, IsEmpty());
+}
+
+TEST_F(UICollectionViewTest, SelectionByCodeTellsNobody) {
+  source().itemCount = 1000;
+  show();
+  bridge::send<void, "selectItemAtIndexPath:animated:scrollPosition:">(
+      _view, indexPathOf({0, 400}), false, NSUInteger{UICollectionView::centeredVertically});
+  stage().prepareFrame();
+  EXPECT_TRUE(cell(400).isSelected());
+  EXPECT_EQ(scroll().contentOffset().y, 9400 - (667 - 93) / 2.0);
+  bridge::send<void, "deselectItemAtIndexPath:animated:">(_view, indexPathOf({0, 400}), false);
+  EXPECT_FALSE(cell(400).isSelected());
+  EXPECT_THAT(source().events, IsEmpty());
+}
+
+TEST_F(UICollectionViewTest, ASelectedItemIsStillSelectedWhenItComesBack) {
+  source().itemCount = 1000;
+  show();
+  tap(3);
+  scrollTo(5000);
+  for (const auto& [element, shown] : view().views())
+    EXPECT_FALSE(UICollectionViewCell::of(shown.get()).isSelected()) << element.path.item;
+  scrollTo(0);
+  EXPECT_TRUE(cell(3).isSelected());
+}
+
+TEST_F(UICollectionViewTest, ItemsComeAndGoWhileScrolled) {
+  source().itemCount = 1000;
+  show();
+  allowMultipleSelection();
+  scrollTo(94 * 100);
+  for (const NSInteger item : {405, 408, 410}) tap(item);
+  source().itemCount = 998;
+  bridge::send<void, "deleteItemsAtIndexPaths:">(
+      _view, bridge::NSArray::of(indexPathOf({0, 2}), indexPathOf({0, 408})));
+  stage().prepareFrame();
+  EXPECT_THAT(view().selectedItems(), ElementsAre(ItemPath{0, 404}, ItemPath{0, 408}));
+  EXPECT_EQ(tags().front(), 400);
+  EXPECT_TRUE(cell(404).isSelected());
+  source().itemCount = 999;
+  bridge::send<void, "insertItemsAtIndexPaths:">(_view, bridge::NSArray::of(indexPathOf({0, 0})));
+  EXPECT_EQ(view().numberOfItems(0), 999);
+  EXPECT_THAT(view().selectedItems(), ElementsAre(ItemPath{0, 405}, ItemPath{0, 409}));
+  source().itemCount = 10;
+  view().reloadData();
+  stage().prepareFrame();
+  EXPECT_EQ(scroll().contentOffset().y, 0);
+  EXPECT_EQ(tags().size(), 10u);
+  EXPECT_THAT(view().selectedItems(), IsEmpty());
+}
+
+TEST_F(UICollectionViewTest, UpdatesInABatchAreCountedOnce) {
+  source().itemCount = 10;
+  show();
+  bool isDone = false;
+  bridge::send<void, "performBatchUpdates:completion:">(
+      _view, bridge::Block<void()>([this] {
+        source().itemCount = 12;
+        bridge::send<void, "insertItemsAtIndexPaths:">(
+            _view, bridge::NSArray::of(indexPathOf({0, 10}), indexPathOf({0, 11})));
+      }),
+      bridge::Block<void(bool)>([&isDone](bool finished) { isDone = finished; }));
+  stage().prepareFrame();
+  EXPECT_TRUE(isDone);
+  EXPECT_EQ(tags().size(), 12u);
+}
+
+TEST_F(UICollectionViewTest, ScrollingToAnItemShowsItWhereItWasAsked) {
+  source().itemCount = 1000;
+  show();
+  struct Item {
+    NSUInteger position;
+    CGFloat offset;
+  };
+  for (const auto& [position, expected] :
+       {Item{UICollectionView::top, 9400}, Item{UICollectionView::bottom, 9493 - 667},
+        Item{UICollectionView::none, 9493 - 667}}) {
+    scrollTo(0);
+    bridge::send<void, "scrollToItemAtIndexPath:atScrollPosition:animated:">(
+        _view, indexPathOf({0, 401}), position, false);
+    EXPECT_EQ(scroll().contentOffset(), (CGPoint{0, expected})) << position;
+  }
+}
+
+TEST_F(UICollectionViewTest, NothingStaysBehind) {
+  const long before = bridge::liveBoundObjects();
+  {
+    const bridge::AutoreleasePool pool;
+    source().itemCount = 1000;
+    layout().headerHeight = 30;
+    show();
+    allowMultipleSelection();
+    for (CGFloat y = 0; y < 5000; y += 300) scrollTo(y);
+    scrollTo(0);
+    tap(2);
+    view().reloadData();
+    scrollTo(500);
+    close();
+    stage().advance(1);
+  }
+  EXPECT_EQ(bridge::liveBoundObjects(), before);
+}
+
+TEST_F(UICollectionViewTest, ALayoutMayOutliveItsView) {
+  source().itemCount = 10;
+  show();
+  close();
+  EXPECT_FALSE((bridge::send<id, "collectionView">(_layout)));
+  bridge::UICollectionViewLayout(_layout.get().get()).invalidateLayout();
+}
+
+}  // namespace
+}  // namespace desktop::uikit
