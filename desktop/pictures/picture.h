@@ -8,17 +8,12 @@
 #include <memory>
 #include <vector>
 
+#include "model/picture.h"
+
 namespace desktop::pictures {
 
-// Rows from top to bottom without gaps, upright: the file's orientation is applied. A pixel is
-// 0xAARRGGBB, its colours multiplied by its alpha, in sRGB.
-struct Picture {
-  int width = 0;   // pixels
-  int height = 0;  // pixels
-  std::vector<std::uint32_t> pixels;
-
-  std::size_t byteCount() const { return pixels.size() * sizeof(std::uint32_t); }
-};
+// Upright: the file's orientation is applied.
+using Picture = model::Picture;
 
 // Shared by everybody who shows it; never changed.
 using SharedPicture = std::shared_ptr<const Picture>;

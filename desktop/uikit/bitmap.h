@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// Pixels as a plain value.
+// Pixels to paint: those that decoders of pictures make.
 #pragma once
 
 #include <cstdint>
 #include <memory>
 #include <vector>
 
+#include "model/picture.h"
+
 namespace desktop::uikit {
 
-// Rows from top to bottom without gaps; a pixel is 0xAARRGGBB with its colours multiplied by its
-// alpha. Width and height are in pixels.
-struct Bitmap {
-  int width = 0;
-  int height = 0;
-  std::vector<std::uint32_t> pixels;  // width times height of them
-};
+using Bitmap = model::Picture;
 
 // Shared by everybody who shows it; never changed once it is.
 using SharedBitmap = std::shared_ptr<const Bitmap>;

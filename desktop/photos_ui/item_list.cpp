@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/item_list.h"
+
+#include <algorithm>
+
+namespace desktop::photos_ui {
+
+ItemList::ItemList(std::vector<photos::ItemPointer> items) : _items(std::move(items)) {
+  if (!_items.empty()) _sections.push_back({.title = {}, .first = 0, .count = _items.size()});
+}
+
+ItemList::ItemList(std::vector<photos::ItemPointer> items, std::vector<photos::Section> sections)
+    : _items(std::move(items)), _sections(std::move(sections)) {}
+
+std::span<const photos::ItemPointer> ItemList::itemsOf(const photos::Section& section) const {
+  return std::span(_items).subspan(section.first, section.count);
+}
+
+std::optional<std::size_t> ItemList::indexOf(uikit::ItemPath path) const {
+  if (path.section < 0 || path.item < 0) return {};
+  const auto section = static_cast<std::size_t>(path.section);
+  const auto item = static_cast<std::size_t>(path.item);
+  if (section >= _sections.size() || item >= _sections[section].count) return {};
+  return _sections[section].first + item;
+}
+
+std::optional<uikit::ItemPath> ItemList::pathOf(std::size_t index) const {
+  if (index >= _items.size()) return {};
+  const auto behind = std::ranges::upper_bound(_sections, index, {}, &photos::Section::first);
+  const auto section = std::prev(behind);
+  return uikit::ItemPath{section - _sections.begin(),
+                         static_cast<NSInteger>(index - section->first)};
+}
+
+std::optional<std::size_t> ItemList::findDated(const photos::LibraryItem& item) const {
+  const auto dateOf = [](const photos::ItemPointer& each) {
+    return each->modificationDate.secondsSince1970;
+  };
+  const auto dated =
+      std::ranges::equal_range(_items, item.modificationDate.secondsSince1970, {}, dateOf);
+  const auto found = std::ranges::find(dated, item.uuid, &photos::LibraryItem::uuid);
+  if (found == dated.end()) return {};
+  return static_cast<std::size_t>(found - _items.begin());
+}
+
+// Most files stand where their date says; one that changed may have got another date.
+std::optional<std::size_t> ItemList::find(const photos::LibraryItem& item) const {
+  if (const auto place = findDated(item)) return place;
+  const auto found = std::ranges::find(_items, item.uuid, &photos::LibraryItem::uuid);
+  if (found == _items.end()) return {};
+  return static_cast<std::size_t>(found - _items.begin());
+}
+
+std::optional<std::size_t> ItemList::placeAfterChange(const ItemList& before,
+                                                      std::size_t index) const {
+  if (isEmpty() || index >= before.size()) return {};
+  if (const auto place = find(*before.at(index))) return place;
+  for (std::size_t next = index + 1; next < before.size(); ++next)
+    if (const auto place = findDated(*before.at(next))) return place;
+  return size() - 1;
+}
+
+ItemListPointer listOfLibrary(const photos::PhotoLibrary& library, photos::ZoomLevel level) {
+  const auto& items = library.items();
+  return std::make_shared<ItemList>(
+      items, photos::makeSections(items, level, foundation::Locale::ofUser("LC_TIME")));
+}
+
+ItemListPointer listOfAlbum(const photos::Album& album) {
+  return std::make_shared<ItemList>(album.items);
+}
+
+}  // namespace desktop::photos_ui
