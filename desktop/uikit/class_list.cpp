@@ -2,11 +2,21 @@
 #include "desktop/uikit/class_list.h"
 
 #include "desktop/uikit/action_control.h"
+#include "desktop/uikit/alert_view.h"
+#include "desktop/uikit/bar_background.h"
+#include "desktop/uikit/bar_button_view.h"
 #include "desktop/uikit/ca_gradient_layer.h"
 #include "desktop/uikit/ca_layer.h"
 #include "desktop/uikit/menu_overlay.h"
+#include "desktop/uikit/navigation_bar_titles.h"
 #include "desktop/uikit/ns_paragraph_style.h"
+#include "desktop/uikit/tab_bar_button.h"
+#include "desktop/uikit/transition_view.h"
+#include "desktop/uikit/ui_activity_view_controller.h"
+#include "desktop/uikit/ui_alert_action.h"
+#include "desktop/uikit/ui_alert_controller.h"
 #include "desktop/uikit/ui_application.h"
+#include "desktop/uikit/ui_bar_button_item.h"
 #include "desktop/uikit/ui_bezier_path.h"
 #include "desktop/uikit/ui_button.h"
 #include "desktop/uikit/ui_collection_reusable_view.h"
@@ -24,18 +34,27 @@
 #include "desktop/uikit/ui_label.h"
 #include "desktop/uikit/ui_long_press_gesture_recognizer.h"
 #include "desktop/uikit/ui_menu_controller.h"
+#include "desktop/uikit/ui_navigation_bar.h"
+#include "desktop/uikit/ui_navigation_controller.h"
+#include "desktop/uikit/ui_navigation_item.h"
 #include "desktop/uikit/ui_pan_gesture_recognizer.h"
+#include "desktop/uikit/ui_popover_presentation_controller.h"
 #include "desktop/uikit/ui_responder.h"
 #include "desktop/uikit/ui_screen.h"
 #include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/ui_tab_bar.h"
+#include "desktop/uikit/ui_tab_bar_controller.h"
+#include "desktop/uikit/ui_tab_bar_item.h"
 #include "desktop/uikit/ui_table_view.h"
 #include "desktop/uikit/ui_table_view_cell.h"
 #include "desktop/uikit/ui_table_view_header_footer_view.h"
 #include "desktop/uikit/ui_tap_gesture_recognizer.h"
 #include "desktop/uikit/ui_text_position.h"
 #include "desktop/uikit/ui_text_view.h"
+#include "desktop/uikit/ui_toolbar.h"
 #include "desktop/uikit/ui_touch.h"
 #include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/ui_view_controller.h"
 #include "desktop/uikit/ui_window.h"
 
 namespace desktop::uikit {
@@ -76,6 +95,26 @@ constexpr Class (*classes[])() = {
     &ActionControl::classObject,
     &MenuOverlay::classObject,
     &UIMenuController::classObject,
+    &UIBarButtonItem::classObject,
+    &UINavigationItem::classObject,
+    &UITabBarItem::classObject,
+    &UIPopoverPresentationController::classObject,
+    &UIAlertAction::classObject,
+    &BarBackground::classObject,
+    &BarButtonView::classObject,
+    &TabBarButton::classObject,
+    &TransitionView::classObject,
+    &AlertView::classObject,
+    &NavigationBarContentView::classObject,
+    &NavigationBarLargeTitleView::classObject,
+    &UINavigationBar::classObject,
+    &UIToolbar::classObject,
+    &UITabBar::classObject,
+    &UIViewController::classObject,
+    &UINavigationController::classObject,
+    &UITabBarController::classObject,
+    &UIAlertController::classObject,
+    &UIActivityViewController::classObject,
     &UITableViewCell::classObject,
     &UITableViewHeaderFooterView::classObject,
     &UITableView::classObject,

@@ -105,4 +105,26 @@ struct NSParagraphStyle : bridge::NSObject {
   static Class classObject() { return bridge::classNamed<"NSParagraphStyle">(); }
 };
 
+struct UIToolbar : bridge::UIView {
+  using bridge::UIView::UIView;
+  static Class classObject() { return bridge::classNamed<"UIToolbar">(); }
+
+  void setItems(bridge::NSArray items) const { bridge::send<void, "setItems:">(*this, items); }
+};
+
+struct UITabBarController : bridge::UIViewController {
+  using bridge::UIViewController::UIViewController;
+  static Class classObject() { return bridge::classNamed<"UITabBarController">(); }
+
+  void setViewControllers(bridge::NSArray controllers) const {
+    bridge::send<void, "setViewControllers:">(*this, controllers);
+  }
+  bridge::UIViewController selectedViewController() const {
+    return bridge::send<bridge::UIViewController, "selectedViewController">(*this);
+  }
+  void setSelectedIndex(NSUInteger index) const {
+    bridge::send<void, "setSelectedIndex:">(*this, index);
+  }
+};
+
 }  // namespace desktop::uikit::handles

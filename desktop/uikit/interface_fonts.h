@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// The fonts that the platform's own views are set in.
+// The fonts that the platform's own views are set in. Sizes are in points.
 #pragma once
 
-#include "bridge/uikit/ui_appearance.h"
+#include "desktop/uikit/ui_font.h"
 
 namespace desktop::uikit {
 
-// Sizes are in points; autoreleased.
 inline bridge::UIFont semiboldFont(CGFloat size) {
-  constexpr CGFloat semibold = 0.3;
-  return bridge::send<bridge::UIFont, "systemFontOfSize:weight:">(bridge::UIFont::classObject(),
-                                                                  size, semibold);
+  return UIFont::make({.weight = FontWeight::semibold, .size = size});
 }
 inline bridge::UIFont boldFont(CGFloat size) {
-  return bridge::send<bridge::UIFont, "boldSystemFontOfSize:">(bridge::UIFont::classObject(), size);
+  return UIFont::make({.weight = FontWeight::bold, .size = size});
 }
 
 }  // namespace desktop::uikit

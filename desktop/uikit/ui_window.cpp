@@ -5,6 +5,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_view_controller.h"
 
 namespace desktop::uikit {
 
@@ -21,14 +22,16 @@ Class UIWindow::classObject() {
 }
 
 void UIWindow::setRootViewController(bridge::UIViewController controller) {
+  if (controller == _rootViewController.get()) return;
   const auto before = _rootViewController;
   _rootViewController = bridge::Owned<bridge::UIViewController>::retain(controller);
-  if (before) before->view().removeFromSuperview();
-  const bridge::UIView view = controller.view();
-  UIView& me = UIView::of(self().get());
-  view.setFrame(me.bounds());
-  view.setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
-  me.insertSubview(view, 0);
+  if (before) {
+    UIViewController& gone = UIViewController::of(before.get());
+    gone.beginAppearance(false, false);
+    if (const auto view = gone.viewIfLoaded()) view.removeFromSuperview();
+    gone.endAppearance();
+  }
+  if (isVisible()) showRoot();
 }
 
 void UIWindow::makeKeyAndVisible() {
@@ -37,6 +40,26 @@ void UIWindow::makeKeyAndVisible() {
   std::erase_if(windows, [this](const auto& window) { return window.get() == self(); });
   windows.push_back(kept);
   UIView::of(self().get()).setNeedsDisplay();
+  showRoot();
+}
+
+bool UIWindow::isVisible() const {
+  return std::ranges::any_of(stage().windows,
+                             [this](const auto& window) { return window.get() == self(); });
+}
+
+// The view comes at once; that it has come is told when time goes on.
+void UIWindow::showRoot() {
+  const auto root = _rootViewController;
+  if (!root || UIViewController::of(root.get()).appearance() != UIViewController::Appearance::gone)
+    return;
+  UIView& me = UIView::of(self().get());
+  const bridge::UIView view = root->view();
+  UIViewController::of(root.get()).beginAppearance(true, false);
+  view.setFrame(me.bounds());
+  view.setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  me.insertSubview(view, 0);
+  stage().scheduler.callAfter(0, [root] { UIViewController::of(root.get()).endAppearance(); });
 }
 
 bool UIWindow::isKeyWindow() const {

@@ -17,11 +17,14 @@ class UIWindow : public bridge::Bound<UIWindow, bridge::UIView> {
   bridge::UIViewController rootViewController() const { return _rootViewController; }
 
  private:
-  // The controller's view fills the window, behind everything that is presented.
+  // The controller's view fills the window, behind everything that is presented, from when the
+  // window is visible.
   void setRootViewController(bridge::UIViewController controller);
   void makeKeyAndVisible();
   bool isKeyWindow() const;
   bridge::UIResponder nextResponder() const;
+  bool isVisible() const;
+  void showRoot();
 
   bridge::Owned<bridge::UIViewController> _rootViewController;
 };

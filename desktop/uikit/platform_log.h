@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+//
+// What the platform has to say to whoever debugs an application.
+#pragma once
+
+#include <string>
+
+#include "bridge/runtime/object.h"
+
+namespace desktop::uikit {
+
+// Adds a line to the stage's log and to the debug log.
+void logLine(const std::string& line);
+
+// How an object is called in a line: by its class.
+std::string nameOf(bridge::Object object);
+
+}  // namespace desktop::uikit
