@@ -23,27 +23,28 @@ class RowScaler {
   Picture take();
 
  private:
-  // How much of a source pixel goes to its first target pixel; the rest goes to the next one.
-  struct Share {
-    int target;
-    std::uint32_t weight;  // up to wholeWeight
+  // The source pixels of a target pixel, along one side: those in [begin, end) lie in it whole. The
+  // one at `end` may be shared: `tail` of its weight lies in it, the rest in the next one.
+  struct Span {
+    int begin;
+    int end;
+    bool isShared;
+    std::uint32_t tail;
+    std::uint32_t weight;  // of all together
   };
-  static constexpr std::uint32_t wholeWeight = 256;
 
-  static std::vector<Share> sharesOf(int source, int target);
-  static std::vector<std::uint32_t> weightSums(const std::vector<Share>& shares, int target);
+  static std::vector<Span> spansOf(int source, int target);
   void addColumns(std::span<const std::uint32_t> row);
   void addToSums(std::uint32_t weight);
   void finishRow();
 
   PixelSize _source;
-  std::vector<Share> _columns;
-  std::vector<std::uint32_t> _columnWeights;  // of each target column
-  std::vector<Share> _rows;
-  std::vector<std::uint32_t> _rowWeights;  // of each target row
-  std::vector<std::uint32_t> _line;        // the current row, scaled across: four channels a pixel
-  std::vector<float> _sums;                // of the target row under work
-  int _nextRow = 0;
+  std::vector<Span> _columns;
+  std::vector<Span> _rows;
+  std::vector<std::int32_t> _line;  // the current row, scaled across: four channels a pixel
+  std::vector<float> _sums;         // of the target row under work
+  int _nextRow = 0;                 // of the source
+  int _targetRow = 0;
   Picture _picture;
 };
 
