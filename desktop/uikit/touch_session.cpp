@@ -71,10 +71,11 @@ bool TouchSession::isOpen() const {
 }
 
 void TouchSession::deliver(UITouch::Phase phase) {
-  UITouch::of(_touch.get()).setPhase(phase);
   const auto present = _recognizers;
-  for (const auto& recognizer : present)
+  for (const auto& recognizer : present) {
+    UITouch::of(_touch.get()).setPhase(phase);  // the view may have heard of another one meanwhile
     if (has(recognizer)) stateOf(recognizer).touched(_touch, _event);
+  }
   if (phase == UITouch::ended || phase == UITouch::cancelled) {
     _isFingerDown = false;
     _scrolling.cancel();

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+//
+// Fingers that do anything at all, over views that come and go meanwhile.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "desktop/uikit/ui_control.h"
+#include "desktop/uikit/ui_gesture_recognizer.h"
+#include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/ui_view.h"
+#include "tests/desktop/uikit/touch_probes.h"
+
+namespace desktop::uikit {
+namespace {
+
+constexpr int sequences = 1'000;
+constexpr int stepsASequence = 30;
+
+class TouchSequencesTest : public TouchTest {
+ protected:
+  TouchSequencesTest() {
+    UIScrollView::of(scroller.get()).setContentSize({900, 3'000});
+    bridge::send<void, "setDelegate:">(scroller.get(), probe.get());
+    of(probe).onAction = [this] {
+      if (below(8) == 0) removeAny();
+      if (below(20) == 0) touches().cancel();
+    };
+    window().addSubview(scroller);
+  }
+  ~TouchSequencesTest() override {
+    bridge::send<void, "setDelegate:">(scroller.get(), bridge::NSObject());
+  }
+
+  int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
+  CGPoint anywhere() { return {below(420) - 20.0, below(700) - 20.0}; }
+
+  // Any view of the tree below the window, or the window.
+  bridge::UIView anyView() {
+    bridge::UIView view = window();
+    for (int depth = below(5); depth > 0; --depth) {
+      const auto& subviews = UIView::of(view.get()).subviews();
+      if (subviews.empty()) break;
+      view = subviews[random() % subviews.size()];
+    }
+    return view;
+  }
+
+  void removeAny() {
+    const bridge::UIView view = anyView();
+    if (view != window()) view.removeFromSuperview();
+    if (!UIView::of(scroller.get()).superview()) window().addSubview(scroller);
+  }
+
+  void addView() {
+    const CGRect frame{anywhere(), {below(300) + 1.0, below(300) + 1.0}};
+    switch (below(3)) {
+      case 0: {
+        const auto control = bridge::makeView<bridge::UIControl>(frame);
+        UIControl::of(control.get()).addTarget(probe, bridge::selector<"act:event:">(), 0xfff);
+        return anyView().addSubview(control);
+      }
+      case 1: {
+        const auto inner = bridge::makeView<handles::UIScrollView>(frame);
+        inner->setContentSize({below(1'000) + 0.0, below(1'000) + 0.0});
+        bridge::send<void, "setPagingEnabled:">(inner.get(), below(2) == 0);
+        return anyView().addSubview(inner);
+      }
+      default:
+        return anyView().addSubview(ProbeView::make(frame));
+    }
+  }
+
+  void addRecognizer() {
+    const bridge::UIView view = anyView();
+    const auto others = UIView::of(view.get()).gestureRecognizers();
+    bridge::Owned<bridge::UIGestureRecognizer> made;
+    switch (below(3)) {
+      case 0: {
+        const auto tapping = recognize<handles::UITapGestureRecognizer>(view, probe);
+        tapping->setNumberOfTapsRequired(static_cast<NSUInteger>(1 + below(2)));
+        made = made.retain(tapping);
+        break;
+      }
+      case 1:
+        made = made.retain(recognize<bridge::UILongPressGestureRecognizer>(view, probe));
+        break;
+      default:
+        made = made.retain(recognize<handles::UIPanGestureRecognizer>(view, probe));
+    }
+    made->setDelaysTouchesBegan(below(3) == 0);
+    if (below(3) == 0) made->setDelegate(probe);
+    if (!others.empty() && below(2) == 0)
+      bridge::send<void, "requireGestureRecognizerToFail:">(made.get(),
+                                                            others[random() % others.size()].get());
+  }
+
+  void changeRecognizer() {
+    const bridge::UIView view = anyView();
+    const auto recognizers = UIView::of(view.get()).gestureRecognizers();
+    if (recognizers.empty()) return;
+    const auto& any = recognizers[random() % recognizers.size()];
+    if (below(2) == 0)
+      bridge::send<void, "setEnabled:">(any.get(), below(3) != 0);
+    else if (!bridge::isKindOf(view, UIScrollView::classObject()))
+      view.removeGestureRecognizer(any);
+  }
+
+  void step() {
+    switch (below(13)) {
+      case 0:
+      case 1:
+        return touches().down(anywhere());
+      case 2:
+      case 3:
+      case 4:
+      case 5:
+        return touches().move(anywhere());
+      case 6:
+      case 7:
+        return touches().up(anywhere());
+      case 8:
+        return below(3) == 0 ? touches().cancel() : touches().scroll(anywhere(), anywhere());
+      case 9:
+        return addView();
+      case 10:
+        return addRecognizer();
+      case 11:
+        return below(2) == 0 ? removeAny() : changeRecognizer();
+      default:
+        return wait(below(100) * 0.01);
+    }
+  }
+
+  std::mt19937 random;
+  bridge::Owned<handles::UIScrollView> scroller =
+      bridge::makeView<handles::UIScrollView>({{20, 20}, {300, 600}});
+};
+
+TEST_F(TouchSequencesTest, EndWell) {
+  const auto seed = std::random_device()();
+  RecordProperty("seed", std::to_string(seed));
+  std::printf("seed %u\n", seed);
+  random.seed(seed);
+  const long before = bridge::liveBoundObjects();
+  for (int sequence = 0; sequence < sequences; ++sequence) {
+    const bridge::AutoreleasePool pool;
+    of(probe).letsTogether = below(2) == 0;
+    of(probe).letsReceive = below(8) != 0;
+    of(probe).letsBegin = below(8) != 0;
+    for (int count = 0; count < stepsASequence; ++count) step();
+    touches().cancel();
+    while (!UIView::of(scroller.get()).subviews().empty())
+      UIView::of(scroller.get()).subviews().back()->removeFromSuperview();
+    while (!UIView::of(window().get()).subviews().empty())
+      UIView::of(window().get()).subviews().back()->removeFromSuperview();
+    const auto recognizers = UIView::of(window().get()).gestureRecognizers();
+    for (const auto& recognizer : recognizers) window().removeGestureRecognizer(recognizer);
+    const auto ofScroller = UIView::of(scroller.get()).gestureRecognizers();
+    for (std::size_t index = 1; index < ofScroller.size(); ++index)
+      scroller->removeGestureRecognizer(ofScroller[index]);
+    window().addSubview(scroller);
+    wait(1);
+    ASSERT_FALSE(touches().isDown()) << "seed " << seed << ", sequence " << sequence;
+  }
+  EXPECT_EQ(bridge::liveBoundObjects(), before) << "seed " << seed;
+}
+
+}  // namespace
+}  // namespace desktop::uikit
