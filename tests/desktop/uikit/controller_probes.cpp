@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "tests/desktop/uikit/controller_probes.h"
+
+#include "bridge/class_builder.h"
+#include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_label.h"
+
+namespace desktop::uikit {
+namespace {
+
+bridge::UIView find(bridge::UIView view, std::string_view text) {
+  const UIView& state = UIView::of(view.get());
+  if (state.isHidden() || !(state.alpha() > 0)) return {};
+  for (auto child = state.subviews().rbegin(); child != state.subviews().rend(); ++child)
+    if (const auto found = find(child->get(), text)) return found;
+  const bool isLabel = bridge::isKindOf(view, UILabel::classObject());
+  return isLabel && bridge::UILabel(view.get()).text().utf8() == text ? view : bridge::UIView();
+}
+
+}  // namespace
+
+std::vector<std::string> ProbeController::calls;
+
+Class ProbeController::classObject() {
+  static const Class made = bridge::ClassBuilder<ProbeController>("ProbeController")
+                                .method<"viewDidLoad", &ProbeController::viewDidLoad>()
+                                .method<"viewWillAppear:", &ProbeController::viewWillAppear>()
+                                .method<"viewDidAppear:", &ProbeController::viewDidAppear>()
+                                .method<"viewWillDisappear:", &ProbeController::viewWillDisappear>()
+                                .method<"viewDidDisappear:", &ProbeController::viewDidDisappear>()
+                                .method<"press:", &ProbeController::press>()
+                                .build();
+  return made;
+}
+
+bridge::Owned<bridge::UIViewController> ProbeController::make(std::string name) {
+  auto made = bridge::Owned<bridge::UIViewController>::adopt(
+      bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(classObject())));
+  of(made.get())._name = name;
+  bridge::send<void, "setTitle:">(made.get(), bridge::NSString::make(name));
+  return made;
+}
+
+void ProbeController::viewDidLoad() {
+  super<void, "viewDidLoad">();
+  self().view().setBackgroundColor(bridge::UIColor::whiteColor());
+  note("didLoad");
+}
+
+void ProbeController::viewWillAppear(bool animated) {
+  super<void, "viewWillAppear:">(animated);
+  note("willAppear");
+}
+
+void ProbeController::viewDidAppear(bool animated) {
+  super<void, "viewDidAppear:">(animated);
+  note("didAppear");
+}
+
+void ProbeController::viewWillDisappear(bool animated) {
+  super<void, "viewWillDisappear:">(animated);
+  note("willDisappear");
+  if (onDisappear) onDisappear();
+}
+
+void ProbeController::viewDidDisappear(bool animated) {
+  super<void, "viewDidDisappear:">(animated);
+  note("didDisappear");
+}
+
+void ProbeController::press(bridge::Object from) {
+  sender = from;
+  note("pressed");
+  if (onPress) onPress();
+}
+
+bridge::Owned<bridge::UIViewController> ControllerTest::showRoot(
+    const bridge::Owned<bridge::UIViewController>& root) {
+  window().setRootViewController(root);
+  wait(0.1);
+  takeCalls();
+  return root;
+}
+
+void ControllerTest::tap(CGPoint point) {
+  stage().touches.down(point);
+  wait(0.05);
+  stage().touches.up(point);
+  wait(0.02);
+}
+
+void ControllerTest::tap(bridge::UIView view) {
+  ASSERT_TRUE(view);
+  tap(middle(apply(UIView::of(view.get()).toScreen(), view.bounds())));
+}
+
+bridge::UIView ControllerTest::viewWithText(std::string_view text) {
+  stage().prepareFrame();
+  for (auto each = stage().windows.rbegin(); each != stage().windows.rend(); ++each)
+    if (const auto found = find(each->get(), text)) return found;
+  return {};
+}
+
+void ControllerTest::tap(std::string_view text) {
+  const auto view = viewWithText(text);
+  ASSERT_TRUE(view) << text;
+  tap(view);
+}
+
+std::vector<double> numbers(CGRect rect) {
+  return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+std::vector<double> onScreen(bridge::UIView view) {
+  return numbers(apply(UIView::of(view.get()).toScreen(), view.bounds()));
+}
+
+}  // namespace desktop::uikit

@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/ui_view_controller.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/desktop/uikit/controller_probes.h"
+
+namespace desktop::uikit {
+namespace {
+
+using bridge::Block;
+using bridge::Owned;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using How = bridge::UIViewController::Animated;
+constexpr How animated = bridge::UIViewController::animated;
+constexpr How atOnce = bridge::UIViewController::immediately;
+
+class UIViewControllerTest : public ControllerTest {
+ protected:
+  static bridge::UIViewController presentedBy(const Owned<bridge::UIViewController>& controller) {
+    return bridge::send<bridge::UIViewController, "presentedViewController">(controller.get());
+  }
+};
+
+TEST_F(UIViewControllerTest, LoadsItsViewWhenItIsFirstAskedForIt) {
+  const auto a = ProbeController::make("A");
+  EXPECT_FALSE((bridge::send<bool, "isViewLoaded">(a.get())));
+  EXPECT_THAT(takeCalls(), IsEmpty());
+  EXPECT_EQ(a->view().frame(), (CGRect{{0, 0}, {375, 667}}));
+  EXPECT_THAT(takeCalls(), ElementsAre("A didLoad"));
+  a->view();
+  EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(UIViewControllerTest, ARootIsToldThatItComesAndWhenItHasCome) {
+  const auto a = ProbeController::make("A");
+  window().setRootViewController(a);
+  EXPECT_THAT(takeCalls(), ElementsAre("A didLoad", "A willAppear"));
+  wait(0.02);
+  EXPECT_THAT(takeCalls(), ElementsAre("A didAppear"));
+  const auto b = ProbeController::make("B");
+  window().setRootViewController(b);
+  wait(0.02);
+  EXPECT_THAT(takeCalls(), ElementsAre("A willDisappear", "A didDisappear", "B didLoad",
+                                       "B willAppear", "B didAppear"));
+}
+
+TEST_F(UIViewControllerTest, PresentingTellsBothInThePlatformsOrder) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  a->present(b, animated, Block<void()>([] { ProbeController::calls.push_back("completed"); }));
+  EXPECT_THAT(takeCalls(), ElementsAre("B didLoad", "A willDisappear", "B willAppear"));
+  EXPECT_EQ(presentedBy(a), b.get());
+  wait(0.35);
+  EXPECT_THAT(takeCalls(), IsEmpty());
+  wait(0.1);
+  EXPECT_THAT(takeCalls(), ElementsAre("B didAppear", "A didDisappear", "completed"));
+  EXPECT_FALSE(UIView::of(a->view().get()).window());
+
+  b->dismiss(animated, Block<void()>([] { ProbeController::calls.push_back("completed"); }));
+  EXPECT_THAT(takeCalls(), ElementsAre("B willDisappear", "A willAppear"));
+  wait(0.45);
+  EXPECT_THAT(takeCalls(), ElementsAre("A didAppear", "B didDisappear", "completed"));
+  EXPECT_FALSE(presentedBy(a));
+  EXPECT_TRUE(UIView::of(a->view().get()).window());
+  EXPECT_FALSE(UIView::of(b->view().get()).window());
+}
+
+TEST_F(UIViewControllerTest, WithoutAnimationAllIsDoneAtOnce) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  a->present(b, atOnce, {});
+  EXPECT_THAT(takeCalls(), ElementsAre("B didLoad", "A willDisappear", "B willAppear",
+                                       "B didAppear", "A didDisappear"));
+  a->dismiss(atOnce, {});
+  EXPECT_THAT(takeCalls(),
+              ElementsAre("B willDisappear", "A willAppear", "A didAppear", "B didDisappear"));
+}
+
+TEST_F(UIViewControllerTest, APresentedViewSlidesUpFromBelowTheScreen) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  a->present(b, animated, {});
+  EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 667, 375, 667));
+  stage().scheduler.advanceTo(stage().scheduler.now() + 0.2);
+  EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 333.5, 375, 667));
+  wait(0.3);
+  EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 0, 375, 667));
+}
+
+TEST_F(UIViewControllerTest, TouchesGoNowhereWhileOneTakesThePlaceOfTheOther) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto button = bridge::makeView<bridge::UIControl>({{0, 0}, {375, 667}});
+  button->addTarget(a.get(), bridge::selector<"press:">(), bridge::touchUpInside);
+  a->view().addSubview(button);
+  tap({100, 100});
+  EXPECT_THAT(takeCalls(), ElementsAre("A pressed"));
+  a->present(ProbeController::make("B"), animated, {});
+  takeCalls();
+  tap({100, 100});
+  EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(UIViewControllerTest, APresentationDuringAnotherIsRefusedAndLogged) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  const auto c = ProbeController::make("C");
+  bool completed = false;
+  a->present(b, animated, {});
+  a->present(c, animated, Block<void()>([&completed] { completed = true; }));
+  ASSERT_EQ(stage().log.size(), 1u);
+  EXPECT_THAT(stage().log[0], HasSubstr("while a presentation is in progress"));
+  wait(0.5);
+  EXPECT_EQ(presentedBy(a), b.get());
+  a->present(c, animated, {});
+  ASSERT_EQ(stage().log.size(), 2u);
+  EXPECT_THAT(stage().log[1], HasSubstr("already presenting"));
+  wait(0.5);
+  EXPECT_FALSE(completed);
+  EXPECT_FALSE((bridge::send<bool, "isViewLoaded">(c.get())));
+}
+
+TEST_F(UIViewControllerTest, WhatIsNotInTheWindowOrIsShownAlreadyPresentsNothing) {
+  const auto a = ProbeController::make("A");
+  a->present(ProbeController::make("B"), animated, {});
+  a->present({}, animated, {});
+  showRoot(a);
+  a->present(a, animated, {});
+  EXPECT_EQ(stage().log.size(), 3u);
+  EXPECT_FALSE(presentedBy(a));
+}
+
+TEST_F(UIViewControllerTest, DismissingWhilePresentingIsRefusedAndLogged) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  a->present(b, animated, {});
+  wait(0.1);
+  b->dismiss(animated, {});
+  ASSERT_EQ(stage().log.size(), 1u);
+  EXPECT_THAT(stage().log[0], HasSubstr("Attempt to dismiss"));
+  wait(0.5);
+  EXPECT_EQ(presentedBy(a), b.get());
+}
+
+TEST_F(UIViewControllerTest, DismissingTwiceDismissesOne) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  const auto c = ProbeController::make("C");
+  a->present(b, atOnce, {});
+  b->present(c, atOnce, {});
+  int completions = 0;
+  const Block<void()> done([&completions] { ++completions; });
+  c->dismiss(animated, done);
+  c->dismiss(animated, done);
+  wait(0.5);
+  EXPECT_EQ(completions, 1);
+  EXPECT_EQ(presentedBy(a), b.get());
+  EXPECT_FALSE(presentedBy(b));
+  EXPECT_EQ(stage().log.size(), 1u);
+}
+
+TEST_F(UIViewControllerTest, APresenterDismissesEverythingAboveIt) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  const auto c = ProbeController::make("C");
+  a->present(b, atOnce, {});
+  b->present(c, atOnce, {});
+  takeCalls();
+  a->dismiss(animated, {});
+  wait(0.5);
+  EXPECT_THAT(takeCalls(),
+              ElementsAre("C willDisappear", "A willAppear", "A didAppear", "C didDisappear"));
+  EXPECT_FALSE(presentedBy(a));
+  EXPECT_EQ(UIView::of(window()).subviews().size(), 1u);
+}
+
+TEST_F(UIViewControllerTest, ControllersGoWhenTheyAreDismissed) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const long before = bridge::liveBoundObjects();
+  {
+    const bridge::AutoreleasePool pool;
+    const auto navigation = bridge::UINavigationController::withRoot(ProbeController::make("B"));
+    a->present(navigation, animated, {});
+    wait(0.5);
+    navigation->push(ProbeController::make("C"), animated);
+    wait(0.5);
+    navigation->dismiss(animated, {});
+    wait(0.5);
+  }
+  EXPECT_EQ(bridge::liveBoundObjects(), before);
+}
+
+TEST_F(UIViewControllerTest, NothingIsLeftOfAStageThatGoesInTheMiddle) {
+  showRoot(ProbeController::make("warm"));
+  resetStage();
+  const long before = bridge::liveBoundObjects();
+  {
+    const bridge::AutoreleasePool pool;
+    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(stage().screenSize));
+    made->makeKeyAndVisible();
+    const auto a = showRoot(ProbeController::make("A"));
+    a->present(ProbeController::make("B"), animated, Block<void()>([a] { a->view(); }));
+    wait(0.1);
+    resetStage();
+  }
+  EXPECT_EQ(bridge::liveBoundObjects(), before);
+}
+
+TEST_F(UIViewControllerTest, AChildInsideASubviewHearsOfItsParentsComingAndGoing) {
+  const auto a = ProbeController::make("A");
+  const auto b = ProbeController::make("B");
+  bridge::send<void, "addChildViewController:">(a.get(), b.get());
+  a->view().addSubview(b->view());
+  showRoot(a);
+  EXPECT_EQ((bridge::send<bridge::UIViewController, "parentViewController">(b.get())), a.get());
+  a->present(ProbeController::make("C"), atOnce, {});
+  EXPECT_THAT(takeCalls(),
+              ElementsAre("C didLoad", "A willDisappear", "B willDisappear", "C willAppear",
+                          "C didAppear", "A didDisappear", "B didDisappear"));
+}
+
+TEST_F(UIViewControllerTest, AViewsCommandsGoOnToItsControllerAndItsPresenter) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  a->present(b, atOnce, {});
+  const auto next = [](bridge::UIResponder responder) {
+    return bridge::send<bridge::UIResponder, "nextResponder">(responder);
+  };
+  EXPECT_EQ(next(b->view()), b.get());
+  EXPECT_EQ(next(b.get()), a.get());
+}
+
+TEST_F(UIViewControllerTest, ATitleReachesTheItemsMadeOfIt) {
+  const auto a = ProbeController::make("A");
+  EXPECT_EQ((bridge::send<bridge::NSString, "title">(a->navigationItem())).utf8(), "A");
+  bridge::send<void, "setTitle:">(a.get(), bridge::NSString::make("Next"));
+  EXPECT_EQ((bridge::send<bridge::NSString, "title">(a->navigationItem())).utf8(), "Next");
+}
+
+}  // namespace
+}  // namespace desktop::uikit
