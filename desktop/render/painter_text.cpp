@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/render/painter_text.h"
+
+#include "desktop/render/shaped_line.h"
+
+namespace desktop::render {
+
+void paintText(QPainter& painter, std::u16string_view line, const uikit::FontFace& face,
+               const QColor& color, QPointF baseline) {
+  painter.setPen(color);
+  for (const QGlyphRun& run : shapedLine(face, line)->runs) painter.drawGlyphRun(baseline, run);
+}
+
+}  // namespace desktop::render
