@@ -19,7 +19,7 @@ namespace desktop::pictures {
 model::Result<Picture> decodeVideoFrame(const std::string& name, ByteSource& source,
                                         const Request& request);
 
-// The module's one function, under its C name. Fills the picture and returns 0, or returns another
+// The module's function, under its C name. Fills the picture and returns 0, or returns another
 // number and leaves it as it is.
 extern "C" {
 using DecodeFrameWithFfmpeg = int (*)(const char* name, ByteSource* source, const Request* request,

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "desktop/pictures/colours.h"
+#include "desktop/pictures/heif_tiles.h"
 #include "desktop/pictures/limits.h"
 #include "desktop/pictures/row_scaler.h"
 
@@ -141,6 +142,13 @@ model::Result<Picture> decode(const Handle& handle, PixelSize target) {
   return scaledTo(target, image.get(), heif_image_handle_is_premultiplied_alpha(handle.get()) != 0);
 }
 
+model::Result<Picture> decodeWhole(ByteSource& source, const Handle& primary, PixelSize target) {
+  if (heif_image_handle_has_alpha_channel(primary.get()) == 0) {
+    if (auto picture = decodeHeifTiles(source, sizeOf(primary), target)) return *std::move(picture);
+  }
+  return decode(primary, target);
+}
+
 void convertColours(const Handle& primary, Picture& picture) {
   const std::size_t size = heif_image_handle_get_raw_color_profile_size(primary.get());
   if (size > 0 && size <= limits.profileBytes) {
@@ -172,7 +180,7 @@ model::Result<Picture> decodeHeif(ByteSource& source, const Request& request) {
   const PixelSize target = targetSize(sizeOf(primary), request);
   const Handle thumbnail = coveringThumbnail(primary, target);
   auto picture = thumbnail ? decode(thumbnail, target) : model::Error{};
-  if (!picture) picture = decode(primary, target);
+  if (!picture) picture = decodeWhole(source, primary, target);
   if (picture) convertColours(primary, *picture);
   return picture;
 }

@@ -18,8 +18,9 @@ struct Limits {
   std::size_t profileBytes;        // of a colour profile; a larger one is not applied
   int jpegScans;                   // of a progressive JPEG, each as costly as the image
   int heifThumbnails;              // looked at in one file
-  int decoderThreads;              // of one HEIF or video decoder
-  int framesUntilPicture;          // packets of a video read until a frame comes out
+  int decoderThreads;              // for the tiles of a HEIF picture, or for a video
+  std::uint64_t configurationBytes;       // of a coder's configuration record
+  int framesUntilPicture;                 // packets of a video read until a frame comes out
   std::chrono::milliseconds videoTime;    // for one frame
   std::size_t videoAllocation;            // bytes, of one piece of memory
   std::size_t workerAddressSpace;         // bytes, of a worker process
@@ -39,6 +40,7 @@ inline constexpr Limits limits = {
     .jpegScans = 200,
     .heifThumbnails = 8,
     .decoderThreads = 2,
+    .configurationBytes = 65'536,
     .framesUntilPicture = 300,
     .videoTime = std::chrono::milliseconds(1800),
     .videoAllocation = 256u << 20,

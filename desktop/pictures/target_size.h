@@ -27,4 +27,9 @@ bool covers(PixelSize inner, PixelSize outer);
 // that cameras pad with black bars are not.
 bool hasSameAspect(PixelSize small, PixelSize large);
 
+// The length of a row that FFmpeg's vector code may write to: it writes 16 pixels at a time.
+constexpr std::size_t paddedWidth(int width) {
+  return (static_cast<std::size_t>(width) + 15) / 16 * 16;
+}
+
 }  // namespace desktop::pictures

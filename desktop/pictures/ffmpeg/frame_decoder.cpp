@@ -7,13 +7,6 @@ namespace desktop::pictures {
 
 namespace {
 
-struct FreeCodec {
-  void operator()(AVCodecContext* codec) const { avcodec_free_context(&codec); }
-  void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-};
-using Codec = std::unique_ptr<AVCodecContext, FreeCodec>;
-using Packet = std::unique_ptr<AVPacket, FreeCodec>;
-
 Codec openCodec(const AVStream& stream) {
   const AVCodec* decoder = avcodec_find_decoder(stream.codecpar->codec_id);
   if (decoder == nullptr) return nullptr;

@@ -13,10 +13,14 @@ extern "C" {
 
 namespace desktop::pictures {
 
-struct FreeFrame {
+struct FreeCodec {
+  void operator()(AVCodecContext* codec) const { avcodec_free_context(&codec); }
+  void operator()(AVPacket* packet) const { av_packet_free(&packet); }
   void operator()(AVFrame* frame) const { av_frame_free(&frame); }
 };
-using Frame = std::unique_ptr<AVFrame, FreeFrame>;
+using Codec = std::unique_ptr<AVCodecContext, FreeCodec>;
+using Packet = std::unique_ptr<AVPacket, FreeCodec>;
+using Frame = std::unique_ptr<AVFrame, FreeCodec>;
 
 // Null where there is none within the limits.
 Frame firstFrame(avfoundation::Demuxer& demuxer, const AVStream& stream);

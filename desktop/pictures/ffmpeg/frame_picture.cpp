@@ -3,13 +3,10 @@
 
 extern "C" {
 #include <libavutil/display.h>
-#include <libswscale/swscale.h>
 }
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
-#include <span>
 
 #include "desktop/pictures/limits.h"
 #include "desktop/pictures/orientation.h"
@@ -17,11 +14,6 @@ extern "C" {
 namespace desktop::pictures {
 
 namespace {
-
-struct FreeScaler {
-  void operator()(SwsContext* context) const { sws_freeContext(context); }
-};
-using Scaler = std::unique_ptr<SwsContext, FreeScaler>;
 
 // Where the stored x and y axes point on screen, as the display matrix of the track says. Turns
 // that are no quarters count as the nearest.
@@ -47,16 +39,20 @@ PixelSize shownSize(const AVFrame& frame, const AVStream& stream) {
   return size;
 }
 
-// The matrix and range of the frame; without any, what such sizes usually have.
-void setColours(SwsContext& scaler, const AVFrame& frame) {
+void setColours(SwsContext& scaler, int matrix, bool isFullRange) {
+  constexpr int one = 1 << 16;
+  sws_setColorspaceDetails(&scaler, sws_getCoefficients(matrix), isFullRange ? 1 : 0,
+                           sws_getCoefficients(SWS_CS_DEFAULT), 1, 0, one, one);
+}
+
+// As the frame says; without a statement, as films of such sizes usually are.
+void setFilmColours(SwsContext& scaler, const AVFrame& frame) {
   constexpr int highDefinition = 720;  // lines
   int matrix = frame.colorspace;
   if (matrix == AVCOL_SPC_UNSPECIFIED)
     matrix = frame.height < highDefinition ? SWS_CS_ITU601 : SWS_CS_ITU709;
   const bool isFull = frame.color_range == AVCOL_RANGE_JPEG || frame.format == AV_PIX_FMT_YUVJ420P;
-  constexpr int one = 1 << 16;
-  sws_setColorspaceDetails(&scaler, sws_getCoefficients(matrix), isFull ? 1 : 0,
-                           sws_getCoefficients(SWS_CS_DEFAULT), 1, 0, one, one);
+  setColours(scaler, matrix, isFull);
 }
 
 std::optional<Picture> scaledTo(PixelSize target, const AVFrame& frame) {
@@ -64,17 +60,16 @@ std::optional<Picture> scaledTo(PixelSize target, const AVFrame& frame) {
       frame.width, frame.height, static_cast<AVPixelFormat>(frame.format), target.width,
       target.height, AV_PIX_FMT_RGB32, SWS_AREA, nullptr, nullptr, nullptr));
   if (!scaler) return std::nullopt;
-  setColours(*scaler, frame);
-  Picture picture{target.width, target.height, {}};
-  const auto width = static_cast<std::size_t>(target.width);
-  // Its vector code may write a little behind the last row.
-  constexpr std::size_t slack = 64;
-  picture.pixels.resize(width * static_cast<std::size_t>(target.height) + slack);
-  auto* bytes = reinterpret_cast<std::uint8_t*>(picture.pixels.data());
-  const int stride = target.width * static_cast<int>(sizeof(std::uint32_t));
+  setFilmColours(*scaler, frame);
+  const std::size_t width = paddedWidth(target.width);
+  std::vector<std::uint32_t> rows(width * static_cast<std::size_t>(target.height));
+  auto* bytes = reinterpret_cast<std::uint8_t*>(rows.data());
+  const int stride = static_cast<int>(width * sizeof(std::uint32_t));
   if (sws_scale(scaler.get(), frame.data, frame.linesize, 0, frame.height, &bytes, &stride) <= 0)
     return std::nullopt;
-  picture.pixels.resize(picture.pixels.size() - slack);
+  Picture picture{target.width, target.height, {}};
+  for (auto row = rows.begin(); row != rows.end(); row += static_cast<std::ptrdiff_t>(width))
+    picture.pixels.insert(picture.pixels.end(), row, row + target.width);
   // Films are opaque, whatever a codec says.
   for (std::uint32_t& pixel : picture.pixels) pixel |= 0xFF000000;
   return picture;
@@ -90,6 +85,23 @@ std::optional<Picture> pictureOf(const AVFrame& frame, const AVStream& stream,
   auto picture = scaledTo(orientation.turned(targetSize(orientation.turned(size), request)), frame);
   if (picture) *picture = orientation.upright(*std::move(picture));
   return picture;
+}
+
+bool convertTile(const AVFrame& frame, std::uint32_t* pixels, std::ptrdiff_t stride,
+                 Scaler& scaler) {
+  if (!scaler) {
+    scaler.reset(sws_getContext(frame.width, frame.height, static_cast<AVPixelFormat>(frame.format),
+                                frame.width, frame.height, AV_PIX_FMT_RGB32, SWS_BILINEAR, nullptr,
+                                nullptr, nullptr));
+    if (!scaler) return false;
+    const bool isStated = frame.colorspace != AVCOL_SPC_UNSPECIFIED;
+    setColours(*scaler, isStated ? frame.colorspace : SWS_CS_ITU601,
+               frame.color_range != AVCOL_RANGE_MPEG);
+  }
+  auto* bytes = reinterpret_cast<std::uint8_t*>(pixels);
+  const int bytesApart = static_cast<int>(stride) * static_cast<int>(sizeof(std::uint32_t));
+  return sws_scale(scaler.get(), frame.data, frame.linesize, 0, frame.height, &bytes,
+                   &bytesApart) == frame.height;
 }
 
 }  // namespace desktop::pictures

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// The module's one function.
+// The module's two functions.
 #include <exception>
 
 #include "desktop/pictures/ffmpeg/frame_decoder.h"
 #include "desktop/pictures/ffmpeg/frame_picture.h"
+#include "desktop/pictures/ffmpeg/hevc_tiles.h"
 #include "desktop/pictures/limits.h"
 
 namespace desktop::pictures {
@@ -40,5 +41,14 @@ extern "C" __attribute__((visibility("default"))) int desktopDecodeFrameWithFfmp
     return desktop::pictures::decode(name, *source, *request, *picture) ? 0 : 1;
   } catch (const std::exception&) {
     return 1;
+  }
+}
+
+extern "C" __attribute__((visibility("default"))) desktop::pictures::TileDecoder*
+desktopMakeTileDecoderWithFfmpeg(const desktop::pictures::TileFormat* format) {
+  try {
+    return desktop::pictures::makeHevcTileDecoder(*format).release();
+  } catch (const std::exception&) {
+    return nullptr;
   }
 }
