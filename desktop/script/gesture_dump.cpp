@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/script/node_parts.h"
+#include "desktop/uikit/ui_gesture_recognizer.h"
+
+namespace desktop::script {
+
+void addGestures(const uikit::UIView& view, Json& node) {
+  for (const auto& recognizer : view.gestureRecognizers()) {
+    Json actions = Json::array();
+    for (const auto& action : uikit::UIGestureRecognizer::of(recognizer.get()).actions())
+      actions.push_back(sel_getName(action.action));
+    node["gestures"].push_back({{"class", classNameOf(recognizer.get())}, {"actions", actions}});
+  }
+}
+
+}  // namespace desktop::script

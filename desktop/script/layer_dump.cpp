@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/script/node_parts.h"
+#include "desktop/uikit/ca_gradient_layer.h"
+#include "desktop/uikit/ca_layer.h"
+#include "desktop/uikit/ui_bezier_path.h"
+#include "desktop/uikit/ui_color.h"
+
+namespace desktop::script {
+namespace {
+
+void addColor(Json& json, const char* key, const bridge::Owned<bridge::Object>& color) {
+  if (color) json[key] = jsonOf(uikit::UIColor::valueOf(color.get()));
+}
+
+Json styleOf(const uikit::CALayer::Style& style) {
+  Json json = Json::object();
+  if (style.cornerRadius != 0) json["cornerRadius"] = style.cornerRadius;
+  if (style.borderWidth != 0) json["borderWidth"] = style.borderWidth;
+  addColor(json, "borderColor", style.borderColor);
+  if (style.masksToBounds) json["masksToBounds"] = true;
+  addColor(json, "shadowColor", style.shadowColor);
+  if (style.shadowOpacity != 0) {
+    json["shadowOpacity"] = style.shadowOpacity;
+    json["shadowOffset"] = jsonOf(style.shadowOffset);
+    json["shadowRadius"] = style.shadowRadius;
+  }
+  if (const uikit::Path* path = uikit::UIBezierPath::valueOf(style.shadowPath.get()))
+    json["shadowPath"] = jsonOf(path->bounds());
+  return json;
+}
+
+Json sublayerOf(bridge::CALayer layer);
+
+void addSublayers(bridge::CALayer layer, Json& json) {
+  for (const auto& sublayer : uikit::CALayer::of(layer).sublayers())
+    json["sublayers"].push_back(sublayerOf(sublayer.get()));
+}
+
+Json sublayerOf(bridge::CALayer layer) {
+  const uikit::CALayer& state = uikit::CALayer::of(layer);
+  Json json = {{"class", classNameOf(layer)}, {"frame", jsonOf(state.frame())}};
+  json.update(styleOf(state.style()));
+  if (bridge::isKindOf(layer, uikit::CAGradientLayer::classObject())) {
+    json["colors"] = Json::array();
+    for (const uikit::Color color : uikit::CAGradientLayer::of(layer).colors())
+      json["colors"].push_back(jsonOf(color));
+  }
+  addSublayers(layer, json);
+  return json;
+}
+
+}  // namespace
+
+void addLayer(bridge::CALayer layer, Json& node) {
+  Json json = styleOf(uikit::CALayer::of(layer).style());
+  addSublayers(layer, json);
+  if (!json.empty()) node["layer"] = std::move(json);
+}
+
+}  // namespace desktop::script

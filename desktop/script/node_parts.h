@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+//
+// What a dump tells of a view beyond its place: what its class shows, its layer, its gestures.
+#pragma once
+
+#include <string>
+
+#include "bridge/uikit.h"
+#include "desktop/script/node_dump.h"
+#include "desktop/uikit/ui_view.h"
+
+namespace desktop::script {
+
+std::string classNameOf(bridge::Object object);
+
+// Text, font, editing, accessory and so on, of the classes that have them.
+void addClassParts(bridge::UIView view, Json& node);
+// "layer", where anything of it differs from a plain layer's.
+void addLayer(bridge::CALayer layer, Json& node);
+// "gestures", where there are any.
+void addGestures(const uikit::UIView& view, Json& node);
+
+}  // namespace desktop::script

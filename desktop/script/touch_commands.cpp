@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+//
+// Fingers on the screen, and time.
+#include <algorithm>
+
+#include "desktop/script/screen_text.h"
+#include "desktop/script/script_runner.h"
+#include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_menu_controller.h"
+#include "desktop/uikit/ui_responder.h"
+
+namespace desktop::script {
+namespace {
+
+using Arguments = ScriptRunner::Arguments;
+using Outcome = ScriptRunner::Outcome;
+using uikit::stage;
+
+constexpr uikit::Seconds tapTime = 0.05;
+constexpr uikit::Seconds longPressTime = 0.6;
+constexpr double longestWait = 3'600;  // seconds
+
+CGPoint lastPoint;  // where touch-down and touch-move left the finger
+
+model::Result<CGPoint> pointOf(Arguments words) {
+  if (words.size() != 2) return model::Error{"a place is X and Y in points"};
+  const auto x = numberOf(words[0]);
+  if (!x) return x.error();
+  const auto y = numberOf(words[1]);
+  if (!y) return y.error();
+  return CGPoint{*x, *y};
+}
+
+// Where a text on screen is, or the point that is given.
+model::Result<CGPoint> targetOf(Arguments words) {
+  if (words.size() != 1 || !words[0].isQuoted) return pointOf(words);
+  const auto place = placeOf(words[0].text);
+  if (!place) return model::Error{"\"" + words[0].text + "\" is not on screen"};
+  return *place;
+}
+
+Outcome press(Arguments words, uikit::Seconds time) {
+  settle();
+  const auto at = targetOf(words);
+  if (!at) return at.error();
+  stage().touches.down(*at);
+  stage().advance(time);
+  stage().touches.up(*at);
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome touchDown(Arguments words) {
+  const auto at = pointOf(words);
+  if (!at) return at.error();
+  lastPoint = *at;
+  stage().touches.down(*at);
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome touchMove(Arguments words) {
+  const auto at = pointOf(words);
+  if (!at) return at.error();
+  lastPoint = *at;
+  stage().touches.move(*at);
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome touchUp(Arguments) {
+  stage().touches.up(lastPoint);
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome menu(Arguments words) {
+  if (words.size() != 1) return model::Error{"menu takes the title of one of its commands"};
+  settle();
+  auto& shown = uikit::UIMenuController::shared();
+  const std::vector<std::string> titles = shown.titles();
+  const auto chosen = std::ranges::find(titles, words[0].text);
+  if (chosen == titles.end()) return model::Error{"the edit menu has no \"" + words[0].text + "\""};
+  shown.run(static_cast<std::size_t>(chosen - titles.begin()));
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome type(Arguments words) {
+  if (words.size() != 1 || words[0].text != "copy") return model::Error{"only copy can be typed"};
+  bridge::send<void, "copy:">(uikit::UIResponder::firstResponder(), bridge::Object());
+  return std::nullopt;
+}
+
+Outcome scroll(Arguments words) {
+  if (words.size() != 1) return model::Error{"scroll takes a distance in points"};
+  const auto distance = numberOf(words[0]);
+  if (!distance) return distance.error();
+  settle();
+  const CGSize screen = stage().screenSize;
+  stage().touches.scroll({screen.width / 2, screen.height / 2}, {0, *distance});
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome wait(Arguments words) {
+  if (words.size() != 1) return model::Error{"wait takes a number of seconds"};
+  const auto time = numberOf(words[0]);
+  if (!time) return time.error();
+  if (*time < 0 || *time > longestWait) return model::Error{"wait takes 0 to 3600 seconds"};
+  stage().advance(*time);
+  return std::nullopt;
+}
+
+Outcome rotate(Arguments) {
+  const CGSize size = stage().screenSize;
+  stage().resize({size.height, size.width});
+  stage().advance(0);
+  return std::nullopt;
+}
+
+}  // namespace
+
+void addTouchCommands(ScriptRunner& runner) {
+  runner.add("tap", [](Arguments words) { return press(words, tapTime); });
+  runner.add("long-press", [](Arguments words) { return press(words, longPressTime); });
+  runner.add("touch-down", touchDown);
+  runner.add("touch-move", touchMove);
+  runner.add("touch-up", touchUp);
+  runner.add("menu", menu);
+  runner.add("type", type);
+  runner.add("scroll", scroll);
+  runner.add("rotate", rotate);
+  runner.add("wait", wait);
+}
+
+}  // namespace desktop::script

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+//
+// What is on the screen, as JSON.
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+
+#include "bridge/uikit/ui_view.h"
+
+namespace desktop::script {
+
+// The screen as one JSON object: screen, presentation, navigation, alert, sheet, menu, opened, log
+// and view, the tree of the front-most window's views. Lengths are in points; what is animated is
+// told as it is shown now. Always valid UTF-8.
+std::string dumpScreen();
+
+// One view and everything in it.
+nlohmann::ordered_json dumpView(bridge::UIView view);
+
+}  // namespace desktop::script

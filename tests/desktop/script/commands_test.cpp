@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <filesystem>
+
+#include "bridge/class_builder.h"
+#include "desktop/foundation/property_list.h"
+#include "desktop/script/script_runner.h"
+#include "desktop/script/system_commands.h"
+#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/desktop/uikit/stage_test.h"
+
+namespace desktop::script {
+namespace {
+
+class CommandsTest : public uikit::StageTest {
+ protected:
+  CommandsTest() : root(folder.path()) {
+    addTouchCommands(runner);
+    addScreenCommands(runner);
+    addSystemCommands(runner, root);
+  }
+
+  void expectDone(std::string_view line) {
+    const auto failed = runner.runLine(line);
+    EXPECT_FALSE(failed) << line << ": " << (failed ? failed->reason : "");
+  }
+
+  photos::TemporaryFolder folder;
+  foundation::DeviceRoot root;
+  ScriptRunner runner;
+};
+
+TEST_F(CommandsTest, APreferenceIsOneKeyOfItsDomainsFile) {
+  expectDone("preference com.example.app size 14");
+  expectDone("preference com.example.app zoom 12.5");
+  expectDone("preference com.example.app isOn true");
+  expectDone("preference com.example.app name \"14\"");
+  const auto list = foundation::readPropertyList(
+      root.onDisk("/var/mobile/Library/Preferences/com.example.app.plist"));
+  ASSERT_TRUE(list);
+  EXPECT_EQ(list->root, model::Value(model::Dictionary{
+                            {"size", 14}, {"zoom", 12.5}, {"isOn", true}, {"name", "14"}}));
+}
+
+TEST_F(CommandsTest, APreferenceStaysInItsFolder) {
+  EXPECT_TRUE(runner.runLine("preference ../escape key 1"));
+  EXPECT_TRUE(runner.runLine("preference \"\" key 1"));
+}
+
+TEST_F(CommandsTest, WaitingMovesTimeOn) {
+  const double before = uikit::stage().scheduler.now();
+  expectDone("wait 2.5");
+  EXPECT_DOUBLE_EQ(uikit::stage().scheduler.now(), before + 2.5);
+  for (const char* line : {"wait", "wait -1", "wait 1e9", "wait soon"})
+    EXPECT_TRUE(runner.runLine(line)) << line;
+}
+
+TEST_F(CommandsTest, AScreenshotHasTheScalesPixels) {
+  const std::string file = folder.file("screen.png");
+  expectDone("screenshot " + file);
+  EXPECT_EQ(QImage(QString::fromStdString(file)).size(), QSize(750, 1334));
+  EXPECT_TRUE(runner.runLine("screenshot /does/not/exist.png"));
+}
+
+TEST_F(CommandsTest, ExpectingLooksAtTheScreen) {
+  const auto label = bridge::makeView<bridge::UILabel>({{0, 0}, {100, 20}});
+  label->setText(bridge::NSString::make("hello"));
+  window().addSubview(label);
+  expectDone("expect \"hello\"");
+  expectDone("expect-not \"goodbye\"");
+  EXPECT_EQ(runner.runLine("expect \"goodbye\"")->reason, "\"goodbye\" is not on screen");
+  EXPECT_EQ(runner.runLine("expect-not \"hello\"")->reason, "\"hello\" is on screen");
+}
+
+TEST_F(CommandsTest, AWrongLineIsAnError) {
+  for (const char* line :
+       {"tap", "tap 1", "tap x y", "tap \"nowhere\"", "touch-down", "menu \"Copy\"", "type paste",
+        "scroll", "dump a b", "expect", "notify", "preference a b"})
+    EXPECT_TRUE(runner.runLine(line)) << line;
+}
+
+TEST_F(CommandsTest, RotatingSwapsTheSides) {
+  expectDone("rotate");
+  EXPECT_EQ(uikit::stage().screenSize, (CGSize{667, 375}));
+}
+
+}  // namespace
+}  // namespace desktop::script

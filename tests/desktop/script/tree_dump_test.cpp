@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/script/tree_dump.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "tests/desktop/uikit/stage_test.h"
+
+namespace desktop::script {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+class TreeDumpTest : public uikit::StageTest {};
+
+TEST_F(TreeDumpTest, TellsWhereAViewIsAndHowItLooks) {
+  const auto box = bridge::makeView<bridge::UIView>({{10, 20}, {30, 40}});
+  box->setTag(7);
+  box->setAutoresizingMask(18);
+  box->setBackgroundColor(bridge::UIColor::white(1, 0.5));
+  box->setTransform(bridge::scaling(2, 2));
+  window().addSubview(box);
+  const Json node = dumpView(box.get());
+  EXPECT_EQ(node, Json::parse(R"({"class": "UIView", "frame": [-5.0, 0.0, 60.0, 80.0],
+      "alpha": 1.0, "hidden": false, "tag": 7, "autoresizing": 18,
+      "background": [1.0, 1.0, 1.0, 0.5], "transform": [2.0, 0.0, 0.0, 2.0, 0.0, 0.0]})"));
+}
+
+TEST_F(TreeDumpTest, TellsOfLayersWhatIsNotPlain) {
+  const auto box = bridge::makeView<bridge::UIView>({{0, 0}, {10, 10}});
+  box->layer().setCornerRadius(5);
+  box->layer().setShadowOpacity(0.5F);
+  box->layer().setShadowPath(bridge::UIBezierPath::withRect({{0, 0}, {15, 15}}).cgPath());
+  const Json layer = dumpView(box.get())["layer"];
+  EXPECT_EQ(layer["cornerRadius"], 5.0);
+  EXPECT_EQ(layer["shadowOpacity"], 0.5);
+  EXPECT_EQ(layer["shadowPath"], (Json{0.0, 0.0, 15.0, 15.0}));
+  EXPECT_FALSE(layer.contains("borderWidth"));
+}
+
+TEST_F(TreeDumpTest, ShowsWhatIsAnimatedAsItIsNow) {
+  const auto box = bridge::makeView<bridge::UIView>({{0, 0}, {10, 10}});
+  window().addSubview(box);
+  bridge::UIView::animate(1, bridge::Block<void()>([&box] { box->setAlpha(0); }));
+  uikit::stage().scheduler.advanceTo(0.5);
+  EXPECT_EQ(dumpView(box.get())["alpha"], 0.5);
+}
+
+TEST_F(TreeDumpTest, TheScreenIsOneJsonObject) {
+  uikit::stage().opened.push_back("comgooglemaps://?center=1,2");
+  uikit::stage().log.push_back("bad \xFF text");
+  const Json screen = Json::parse(dumpScreen());
+  EXPECT_EQ(screen["screen"], (Json{{"width", 375.0}, {"height", 667.0}}));
+  EXPECT_EQ(screen["opened"], Json::array({"comgooglemaps://?center=1,2"}));
+  EXPECT_EQ(screen["log"], Json::array({"bad \xEF\xBF\xBD text"}));
+  EXPECT_EQ(screen["view"]["class"], "UIWindow");
+  for (const char* absent : {"navigation", "alert", "sheet", "menu"})
+    EXPECT_TRUE(screen[absent].is_null()) << absent;
+}
+
+}  // namespace
+}  // namespace desktop::script
