@@ -47,6 +47,7 @@
 #include "desktop/uikit/ui_tab_bar_item.h"
 #include "desktop/uikit/ui_table_view.h"
 #include "desktop/uikit/ui_table_view_cell.h"
+#include "desktop/uikit/ui_table_view_controller.h"
 #include "desktop/uikit/ui_table_view_header_footer_view.h"
 #include "desktop/uikit/ui_tap_gesture_recognizer.h"
 #include "desktop/uikit/ui_text_position.h"
@@ -111,6 +112,7 @@ constexpr Class (*classes[])() = {
     &UIToolbar::classObject,
     &UITabBar::classObject,
     &UIViewController::classObject,
+    &UITableViewController::classObject,
     &UINavigationController::classObject,
     &UITabBarController::classObject,
     &UIAlertController::classObject,

@@ -15,7 +15,12 @@ namespace desktop::uikit {
 struct ItemPath {
   NSInteger section = 0;
   NSInteger item = 0;  // or row
-  auto operator<=>(const ItemPath&) const = default;
+  bool operator==(const ItemPath&) const = default;
+  // By section, then by item.
+  constexpr std::strong_ordering operator<=>(const ItemPath& other) const {
+    const auto bySection = section <=> other.section;
+    return std::is_neq(bySection) ? bySection : item <=> other.item;
+  }
 };
 
 // As an object; autoreleased. REQUIRES: no index is negative.

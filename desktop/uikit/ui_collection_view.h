@@ -23,7 +23,11 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   struct Element {
     std::string kind;  // empty: an item
     ItemPath path;
-    auto operator<=>(const Element&) const = default;
+    bool operator==(const Element&) const = default;
+    std::strong_ordering operator<=>(const Element& other) const {
+      const auto byKind = kind <=> other.kind;
+      return std::is_neq(byKind) ? byKind : path <=> other.path;
+    }
   };
   using Views = std::map<Element, bridge::Owned<bridge::UIView>>;
 

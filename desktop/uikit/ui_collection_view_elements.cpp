@@ -64,15 +64,11 @@ bool UICollectionView::isStale() const {
 // and the next one begins anew.
 void UICollectionView::placeViews() {
   const auto wanted = attributesIn(UIView::of(self()).bounds());
-  for (auto at = _views.begin(); at != _views.end();) {
-    const auto [element, view] = *at;
-    if (wanted.contains(element)) {
-      ++at;
-      continue;
-    }
-    at = _views.erase(at);
-    recycle(element, view);
-  }
+  std::vector<Element> leaving;
+  for (const auto& [element, view] : _views)
+    if (!wanted.contains(element)) leaving.push_back(element);
+  for (const Element& element : leaving)
+    if (const auto node = _views.extract(element)) recycle(element, node.mapped());
   for (const auto& [element, attributes] : wanted) {
     if (isStale()) return;
     const auto shown = _views.find(element);

@@ -116,7 +116,7 @@ bridge::UITableViewCell UITableViewCell::initWithStyle(NSInteger style,
 }
 
 bridge::Owned<bridge::UILabel> UITableViewCell::makeLabel(CGFloat fontSize, Color color) const {
-  const auto label = bridge::makeView<bridge::UILabel>({});
+  auto label = bridge::makeView<bridge::UILabel>({});
   label->setFont(bridge::UIFont::systemFont(fontSize));
   label->setTextColor(UIColor::make(color));
   _contentView->addSubview(label);

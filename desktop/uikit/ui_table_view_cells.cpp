@@ -75,15 +75,11 @@ void UITableView::placeEdgeViews() {
 // and the next one begins anew.
 void UITableView::placeCells() {
   const std::vector<ItemPath> wanted = _geometry.rowsIn(inSight(UIView::of(self())));
-  for (auto at = _cells.begin(); at != _cells.end();) {
-    const auto [path, cell] = *at;
-    if (std::ranges::binary_search(wanted, path)) {
-      ++at;
-      continue;
-    }
-    at = _cells.erase(at);
-    recycle(cell, path);
-  }
+  std::vector<ItemPath> leaving;
+  for (const auto& [path, cell] : _cells)
+    if (!std::ranges::binary_search(wanted, path)) leaving.push_back(path);
+  for (const ItemPath path : leaving)
+    if (const auto node = _cells.extract(path)) recycle(node.mapped(), path);
   for (const ItemPath path : wanted) {
     if (_isStale) return;
     const auto shown = _cells.find(path);
