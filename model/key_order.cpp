@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "model/utf8.h"
+
 namespace model {
 
 namespace {
@@ -51,9 +53,12 @@ class RankReader {
 
 }  // namespace
 
+// Where two texts begin alike and the last byte of that is ASCII, nothing of it is to be compared.
 int compareKeys(std::string_view left, std::string_view right) {
-  RankReader leftRanks(left);
-  RankReader rightRanks(right);
+  std::size_t same = commonPrefix(left, right);
+  while (same > 0 && static_cast<unsigned char>(left[same - 1]) >= 128) --same;
+  RankReader leftRanks(left.substr(same));
+  RankReader rightRanks(right.substr(same));
   for (;;) {
     const char32_t a = leftRanks.next();
     const char32_t b = rightRanks.next();

@@ -2,6 +2,7 @@
 #include "model/utf8.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace model {
 
@@ -23,6 +24,13 @@ int rankOf(char character) {
 
 bool isSurrogate(char32_t codePoint) {
   return codePoint >= 0xD800 && codePoint <= 0xDFFF;
+}
+
+// Eight bytes of a text at once. REQUIRES: the text has them.
+std::uint64_t word(std::string_view text, std::size_t offset) {
+  std::uint64_t bytes = 0;
+  std::memcpy(&bytes, text.data() + offset, sizeof(bytes));
+  return bytes;
 }
 
 }  // namespace
@@ -113,10 +121,27 @@ std::string utf16ToUtf8(std::u16string_view text) {
   return result;
 }
 
+bool isAscii(std::string_view text) {
+  std::uint64_t bits = 0;
+  std::size_t offset = 0;
+  for (; offset + sizeof(bits) <= text.size(); offset += sizeof(bits)) bits |= word(text, offset);
+  for (; offset < text.size(); ++offset) bits |= static_cast<unsigned char>(text[offset]);
+  return (bits & 0x8080'8080'8080'8080) == 0;
+}
+
+std::size_t commonPrefix(std::string_view left, std::string_view right) {
+  const std::size_t length = std::min(left.size(), right.size());
+  std::size_t offset = 0;
+  while (offset + sizeof(std::uint64_t) <= length && word(left, offset) == word(right, offset))
+    offset += sizeof(std::uint64_t);
+  while (offset < length && left[offset] == right[offset]) ++offset;
+  return offset;
+}
+
 bool LiteralLess::operator()(std::string_view left, std::string_view right) const {
-  const auto [a, b] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
-  if (b == right.end()) return false;
-  return a == left.end() || rankOf(*a) < rankOf(*b);
+  const std::size_t offset = commonPrefix(left, right);
+  if (offset == right.size()) return false;
+  return offset == left.size() || rankOf(left[offset]) < rankOf(right[offset]);
 }
 
 }  // namespace model

@@ -39,6 +39,12 @@ std::string latin1ToUtf8(std::string_view bytes);
 // UTF-16 code units as UTF-8; unpaired surrogates become U+FFFD.
 std::string utf16ToUtf8(std::u16string_view text);
 
+// Whether all bytes are below 128.
+bool isAscii(std::string_view text);
+
+// How many bytes the two texts begin with in common.
+std::size_t commonPrefix(std::string_view left, std::string_view right);
+
 // Orders keys by their UTF-16 code units, as the platform's literal comparison does. It differs
 // from byte order only between U+E000-U+FFFF and the supplementary planes.
 struct LiteralLess {

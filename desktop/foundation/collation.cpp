@@ -8,6 +8,7 @@
 #include <string>
 
 #include "desktop/foundation/locale_data.h"
+#include "model/utf8.h"
 
 namespace desktop::foundation {
 
@@ -20,11 +21,6 @@ constexpr std::array<std::string_view, 35> languagesWithTheirOwnAlphabet = {
     "az", "br", "bs",  "ceb", "cs",  "cy", "da", "dsb", "ee", "et", "fil", "fo",
     "fy", "ha", "haw", "hr",  "hsb", "hu", "ig", "kl",  "lt", "lv", "nb",  "nn",
     "no", "om", "sh",  "sk",  "sq",  "sr", "tl", "to",  "tr", "uz", "yo"};
-
-bool isAscii(std::string_view text) {
-  return std::ranges::all_of(
-      text, [](char character) { return static_cast<unsigned char>(character) < 0x80; });
-}
 
 // A collator costs over a millisecond, so it is made when it is first asked.
 class LazyCollator {
@@ -51,7 +47,7 @@ model::KeyComparison keyComparison(const Locale& locale) {
   const bool rootOrderForAscii = std::ranges::count(languagesWithTheirOwnAlphabet, language) == 0;
   const auto collator = std::make_shared<LazyCollator>(locale);
   return [rootOrderForAscii, collator](std::string_view left, std::string_view right) {
-    if (rootOrderForAscii && isAscii(left) && isAscii(right)) {
+    if (rootOrderForAscii && model::isAscii(left) && model::isAscii(right)) {
       return model::compareKeys(left, right);
     }
     return collator->compare(left, right);

@@ -2,23 +2,30 @@
 #include "desktop/io/source_reader.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace desktop {
 
 std::optional<ByteView> SourceReader::Window::sub(std::uint64_t at, std::uint64_t length) const {
   if (at < offset) return std::nullopt;
-  return ByteView(bytes).sub(at - offset, length);
+  return view().sub(at - offset, length);
 }
 
 ByteView SourceReader::Window::from(std::uint64_t at) const {
-  return at < offset ? ByteView() : ByteView(bytes).from(at - offset);
+  return at < offset ? ByteView() : view().from(at - offset);
 }
 
-void SourceReader::read(Window& window, std::size_t known) {
-  const std::size_t wanted = window.bytes.size() - known;
+void SourceReader::Window::reserve(std::size_t wanted) {
+  if (wanted <= capacity) return;
+  memory = std::make_unique_for_overwrite<std::uint8_t[]>(wanted);
+  capacity = wanted;
+}
+
+void SourceReader::read(Window& window, std::size_t end) {
+  const std::size_t wanted = end - window.size;
   const auto count =
-      _source.readAt(window.offset + known, std::span(window.bytes).subspan(known, wanted));
-  window.bytes.resize(known + (count ? *count : 0));
+      _source.readAt(window.offset + window.size, {window.memory.get() + window.size, wanted});
+  window.size += count ? *count : 0;
   if (_failure) return;
   if (!count) {
     _failure = count.error();
@@ -27,26 +34,30 @@ void SourceReader::read(Window& window, std::size_t known) {
   }
 }
 
-void SourceReader::fillHead() {
-  _headIsRead = true;
-  _head.bytes.resize(static_cast<std::size_t>(std::min<std::uint64_t>(headSize, size())));
-  read(_head, 0);
+// Behind a read that came back short there is nothing to continue.
+void SourceReader::fillHead(std::size_t end) {
+  const auto most = static_cast<std::size_t>(std::min<std::uint64_t>(headSize, size()));
+  const std::size_t known = std::exchange(_headAsked, std::min(end, most));
+  _head.reserve(most);
+  if (_head.size == known && known < _headAsked) read(_head, _headAsked);
 }
 
 void SourceReader::fillWindow(std::uint64_t offset, std::size_t length) {
   const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(length, size() - offset));
-  _window.offset = offset;
-  _window.bytes.resize(wanted);
   const ByteView known = _head.from(offset);
-  std::ranges::copy(known.bytes(), _window.bytes.begin());
-  read(_window, known.size());
+  _window.reserve(wanted);
+  _window.offset = offset;
+  _window.size = std::min(known.size(), wanted);
+  std::ranges::copy(known.bytes().first(_window.size), _window.memory.get());
+  read(_window, wanted);
 }
 
 std::optional<ByteView> SourceReader::view(std::uint64_t offset, std::uint64_t length,
                                            ReadAhead ahead) {
   if (offset > size() || length > size() - offset || length > largestView) return std::nullopt;
   if (length == 0) return ByteView();
-  if (offset < headSize && !_headIsRead) fillHead();
+  const std::uint64_t end = offset + length;
+  if (offset < headSize && end > _headAsked) fillHead(end <= firstRead ? firstRead : headSize);
   if (offset < headSize && length <= headSize - offset) return _head.sub(offset, length);
   if (const auto known = _window.sub(offset, length)) return known;
   const std::size_t least = ahead == ReadAhead::window ? windowSize : 0;

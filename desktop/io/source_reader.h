@@ -4,7 +4,9 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "desktop/io/byte_source.h"
@@ -14,11 +16,13 @@
 namespace desktop {
 
 // Reads a source through two windows: the head of the source, kept for good, since most metadata
-// lies there; and one that follows the reads elsewhere. A failed read is remembered, so that a
-// walk can simply end at the first missing byte and its caller asks failure() once.
+// lies there; and one that follows the reads elsewhere. The head is read in two steps, as many
+// files need its beginning only. A failed read is remembered, so that a walk can simply end at the
+// first missing byte and its caller asks failure() once.
 class SourceReader {
  public:
-  static constexpr std::size_t headSize = 65536;          // bytes read at once from the front
+  static constexpr std::size_t firstRead = 16384;         // bytes read at once from the front
+  static constexpr std::size_t headSize = 65536;          // bytes that the second read completes
   static constexpr std::size_t windowSize = 4096;         // bytes read at once elsewhere, at least
   static constexpr std::size_t largestView = 33'554'432;  // bytes; a longer view is refused
 
@@ -47,20 +51,27 @@ class SourceReader {
   const std::optional<model::Error>& failure() const { return _failure; }
 
  private:
+  // Bytes of the source in memory that nobody fills with zeros first.
   struct Window {
     std::uint64_t offset = 0;
-    std::vector<std::uint8_t> bytes;
+    std::size_t size = 0;
+    std::size_t capacity = 0;
+    std::unique_ptr<std::uint8_t[]> memory;
+
+    ByteView view() const { return ByteView(std::span(memory.get(), size)); }
     std::optional<ByteView> sub(std::uint64_t at, std::uint64_t length) const;
     ByteView from(std::uint64_t at) const;
+    // Makes room; what the window held is gone where there was none.
+    void reserve(std::size_t wanted);
   };
-  void fillHead();
+  void fillHead(std::size_t end);
   void fillWindow(std::uint64_t offset, std::size_t length);
-  // Reads into the end of the window's bytes, which it shortens to what there was.
-  void read(Window& window, std::size_t known);
+  // Reads behind the window's bytes up to the end, or as far as the source goes.
+  void read(Window& window, std::size_t end);
 
   ByteSource& _source;
   Window _head;
-  bool _headIsRead = false;  // or could not be; it is not tried again
+  std::size_t _headAsked = 0;  // how far the head was read, or could not be; not tried again
   Window _window;
   std::optional<model::Error> _failure;
 };

@@ -148,5 +148,28 @@ TEST(Utf8, LiteralOrderIsThatOfUtf16Units) {
   }
 }
 
+TEST(Utf8, AsciiIsToldAtEveryPlace) {
+  const std::string ascii(20, '\x7F');
+  EXPECT_TRUE(isAscii(ascii));
+  EXPECT_TRUE(isAscii(""));
+  for (std::size_t index = 0; index < ascii.size(); ++index) {
+    std::string text = ascii;
+    text[index] = '\x80';
+    EXPECT_FALSE(isAscii(text)) << index;
+  }
+}
+
+TEST(Utf8, ACommonPrefixEndsAtTheFirstDifference) {
+  const std::string text = "ABCDEFGHIJKLMNOPQRST";
+  EXPECT_EQ(commonPrefix(text, text), text.size());
+  EXPECT_EQ(commonPrefix(text, ""), 0U);
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    std::string other = text;
+    other[index] = 'x';
+    EXPECT_EQ(commonPrefix(text, other), index);
+    EXPECT_EQ(commonPrefix(text.substr(0, index), text), index);
+  }
+}
+
 }  // namespace
 }  // namespace model

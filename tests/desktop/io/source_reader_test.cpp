@@ -27,6 +27,19 @@ TEST(SourceReaderTest, ReadsTheHeadOnce) {
   EXPECT_EQ(source.bytesRead(), SourceReader::headSize);
 }
 
+TEST(SourceReaderTest, ReadsNoMoreThanTheFirstBytesWhereTheyAreEnough) {
+  const auto bytes = bytesOf(200'000);
+  MemorySource source(bytes);
+  SourceReader reader(source);
+  ASSERT_TRUE(reader.view(0, SourceReader::firstRead));
+  EXPECT_EQ(source.bytesRead(), SourceReader::firstRead);
+  const auto view = reader.view(SourceReader::firstRead - 1, 2);
+  ASSERT_TRUE(view);
+  EXPECT_TRUE(
+      std::ranges::equal(view->bytes(), std::span(bytes).subspan(SourceReader::firstRead - 1, 2)));
+  EXPECT_EQ(source.bytesRead(), SourceReader::headSize);
+}
+
 TEST(SourceReaderTest, AViewAcrossTheEndOfTheHeadReadsOnlyTheRest) {
   const auto bytes = bytesOf(200'000);
   MemorySource source(bytes);
