@@ -46,12 +46,10 @@ endfunction()
 
 # How every test is compiled. The assertions themselves need no optimisation, and without it they
 # compile twice as fast; some libraries want position-independent code of whoever uses them, and a
-# precompiled header serves one kind of code only. Clang's own warnings are not what the tests are
-# kept to.
+# precompiled header serves one kind of code only.
 add_library(room_test_flags INTERFACE)
 target_link_libraries(room_test_flags INTERFACE room_flags)
-target_compile_options(room_test_flags INTERFACE
-    -O0 -fPIC $<$<CXX_COMPILER_ID:Clang>:-Wno-everything>)
+target_compile_options(room_test_flags INTERFACE -O0 -fPIC)
 
 # GoogleTest's headers take longer to read than most tests. A compiler cache has no use for
 # precompiled headers, and makes up for them.

@@ -17,9 +17,9 @@ build_packages=(
 # What the device build needs.
 device_packages=(clang-19 libc++-19-dev lld-19 llvm-19 musl-dev)
 
-# What .ci/run needs besides: formatting, static checks, fuzzers, the device build, and the peers it
-# compares with.
-ci_packages=(clang clang-format clang-tidy libclang-rt-14-dev libimage-exiftool-perl mediainfo
+# What .ci/run needs besides: formatting, static checks, sanitizers and fuzzers, the device build, and
+# the peers it compares with.
+ci_packages=(clang-19 clang-format clang-tidy libclang-rt-19-dev libimage-exiftool-perl mediainfo
   "${device_packages[@]}")
 
 # install_packages NAME...: installs those that are missing, with sudo where not root, and says so.
