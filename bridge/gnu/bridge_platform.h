@@ -4,6 +4,8 @@
 // implementation (a look-up, then a call through the cast pointer).
 #pragma once
 
+#include <type_traits>
+
 #include "bridge/runtime/types.h"
 
 using BOOL = unsigned char;
@@ -17,6 +19,7 @@ struct objc_super {
 extern "C" {
 IMP objc_msg_lookup(id receiver, SEL selector);
 IMP objc_msg_lookup_super(objc_super* super, SEL selector);
+BOOL class_respondsToSelector(Class aClass, SEL selector);
 
 // The runtime has this as an inline function only: the first word of an object is its class.
 inline Class object_getClass(id object) {
@@ -26,10 +29,17 @@ inline Class object_getClass(id object) {
 
 namespace bridge {
 
-// REQUIRES: receiver is not nil; the types are exactly those of the method.
+// REQUIRES: receiver is not nil; the types are exactly those of the method. A message that is not
+// answered goes to whatever the runtime has for those, which knows nothing of structures.
 template <typename Result, typename... Arguments>
 Result dispatch(id receiver, SEL selector, Arguments... arguments) {
   using Implementation = Result (*)(id, SEL, Arguments...);
+  if constexpr (std::is_class_v<Result>) {
+    if (!class_respondsToSelector(object_getClass(receiver), selector)) {
+      dispatch<void>(receiver, selector);
+      return Result();
+    }
+  }
   const auto implementation = reinterpret_cast<Implementation>(objc_msg_lookup(receiver, selector));
   return implementation(receiver, selector, arguments...);
 }

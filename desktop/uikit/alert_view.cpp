@@ -10,6 +10,7 @@
 #include "desktop/uikit/stage.h"
 #include "desktop/uikit/ui_alert_action.h"
 #include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_label.h"
 #include "desktop/uikit/ui_view.h"
 
 namespace desktop::uikit {
@@ -51,6 +52,13 @@ Owned<bridge::UIView> makeBox(bridge::UIView parent) {
   made->layer().setCornerRadius(cornerRadius);
   made->setClipsToBounds(true);
   return made;
+}
+
+// An empty text keeps its line.
+CGFloat textHeight(bridge::UILabel label, CGFloat width) {
+  const auto font = UILabel::of(label.get()).font();
+  const CGFloat line = std::ceil(bridge::send<CGFloat, "lineHeight">(font));
+  return std::max(line, bridge::send<CGSize, "sizeThatFits:">(label, CGSize{width, 0}).height);
 }
 
 CGFloat hairline() {
@@ -145,8 +153,7 @@ CGFloat AlertView::layOutText(CGFloat width) const {
       continue;
     }
     if (!isEmpty) y += textGap;
-    const CGSize size = bridge::send<CGSize, "sizeThatFits:">(label, CGSize{inner, 0});
-    const CGFloat height = std::ceil(size.height * stage().scale) / stage().scale;
+    const CGFloat height = textHeight(label, inner);
     label.setFrame({{sideMargin, y}, {inner, height}});
     y += height;
     isEmpty = false;

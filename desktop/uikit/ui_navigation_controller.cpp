@@ -128,25 +128,24 @@ void UINavigationController::setStack(bridge::NSArray controllers, bool animated
 
 void UINavigationController::setBarHidden(bool hidden, bool animated) {
   if (hidden == _isBarHidden) return;
-  constexpr Seconds duration = 0.2;
-  const auto change = [this, hidden] {
-    _isBarHidden = hidden;
-    arrange();
-  };
-  if (!animated) return change();
-  UIView::of(_bar.get()).setHidden(false);
-  stage().animator.animate(duration, 0, AnimationCurve::easeInOut, change, {});
+  _isBarHidden = hidden;
+  arrangeIn(animated);
 }
 
 void UINavigationController::setToolbarHidden(bool hidden, bool animated) {
   if (hidden == _isToolbarHidden) return;
+  _isToolbarHidden = hidden;
+  arrangeIn(animated);
+}
+
+void UINavigationController::arrangeIn(bool animated) {
   constexpr Seconds duration = 0.2;
-  const auto change = [this, hidden] {
-    _isToolbarHidden = hidden;
-    arrange();
-  };
-  if (!animated) return change();
-  stage().animator.animate(duration, 0, AnimationCurve::easeInOut, change, {});
+  if (!animated) return arrange();
+  const auto kept = Owned<bridge::UIViewController>::retain(self());
+  UIView::of(_bar.get()).setHidden(false);
+  stage().animator.animate(
+      duration, 0, AnimationCurve::easeInOut, [this] { arrange(); },
+      [kept](bool) { of(kept.get()).arrange(); });
 }
 
 void UINavigationController::viewWillAppear(bool animated) {

@@ -60,6 +60,7 @@ class UINavigationController
   void endTransition();
   void showTop();
   void arrange();
+  void arrangeIn(bool animated);
   void updateBars();
   CGFloat barBottom() const;
   void tellDelegate(bool isDone, bool animated) const;

@@ -4,6 +4,7 @@
 #include "desktop/uikit/class_list.h"
 #include "desktop/uikit/image_context.h"
 #include "desktop/uikit/index_path.h"
+#include "desktop/uikit/missing_messages.h"
 #include "desktop/uikit/string_drawing.h"
 #include "desktop/uikit/ui_view.h"
 
@@ -16,6 +17,7 @@ void registerUIKit() {
     registerClasses();
     addViewAnimations();
     provideImageContexts();
+    answerMissingMessages();
     return true;
   }();
   static_cast<void>(registered);

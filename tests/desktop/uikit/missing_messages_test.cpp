@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/missing_messages.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "bridge/quartz.h"
+#include "desktop/runtime/debug_log.h"
+#include "tests/desktop/uikit/controller_probes.h"
+
+namespace desktop::uikit {
+namespace {
+
+using bridge::send;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using MissingMessagesTest = ControllerTest;
+
+TEST_F(MissingMessagesTest, AnswerZeroOfEveryKind) {
+  const auto view = bridge::makeView<bridge::UIView>({{1, 2}, {3, 4}});
+  EXPECT_EQ((send<NSInteger, "missingInteger">(view.get())), 0);
+  EXPECT_EQ((send<double, "missingReal">(view.get())), 0);
+  EXPECT_FALSE((send<bool, "missingFlag">(view.get())));
+  EXPECT_FALSE((send<bridge::Object, "missingObject:">(view.get(), CGFloat{7})));
+  EXPECT_EQ((send<CGPoint, "missingPoint">(view.get())), CGPoint{});
+  EXPECT_EQ((send<CGRect, "missingRect:">(view.get(), CGRect{{1, 2}, {3, 4}})), CGRect{});
+  EXPECT_EQ((send<CGAffineTransform, "missingTransform">(view.get())).a, 1);
+  send<void, "missingNothing">(view.get());
+  EXPECT_EQ(stage().log.size(), 8u);
+}
+
+TEST_F(MissingMessagesTest, AreLoggedOnceWithClassAndSelector) {
+  std::vector<std::string> lines;
+  const auto before = runtime::setDebugLogSink(
+      [&lines](const runtime::DebugLogLine& line) { lines.push_back(line.text); });
+  const auto a = ProbeController::make("A");
+  for (int time = 0; time < 3; ++time) send<void, "setMissing:">(a.get(), NSInteger{1});
+  send<bridge::Object, "missingColor">(bridge::UIColor::classObject());
+  send<void, "missing">(bridge::UIScreen::mainScreen());
+  runtime::setDebugLogSink(before);
+  EXPECT_THAT(stage().log,
+              ElementsAre("Missing: -[ProbeController setMissing:]",
+                          "Missing: +[UIColor missingColor]", "Missing: -[UIScreen missing]"));
+  EXPECT_EQ(lines, stage().log);
+}
+
+TEST_F(MissingMessagesTest, WhatIsMissingIsNotSaidToBeThere) {
+  const auto view = bridge::makeView<bridge::UIView>({});
+  EXPECT_FALSE((bridge::respondsTo<"missingRect:">(view.get())));
+  EXPECT_FALSE((bridge::respondsTo<"missingRect:">(view.get())));
+  EXPECT_TRUE((bridge::respondsTo<"frame">(view.get())));
+  EXPECT_THAT(stage().log, IsEmpty());
+}
+
+TEST_F(MissingMessagesTest, ASuperclassThatAnswersNothingIsLoggedToo) {
+  const auto a = ProbeController::make("A");
+  bridge::superSend<void, "press:">(a.get(), bridge::UIViewController::classObject(),
+                                    bridge::Object());
+  EXPECT_THAT(stage().log, ElementsAre("Missing: to super: press:"));
+}
+
+TEST_F(MissingMessagesTest, OtherObjectsStillRaise) {
+  const auto text = bridge::NSString::make("text");
+  EXPECT_ANY_THROW((send<void, "missing">(text)));
+  EXPECT_ANY_THROW((send<CGRect, "missingRect">(text)));
+  EXPECT_THAT(stage().log, IsEmpty());
+}
+
+}  // namespace
+}  // namespace desktop::uikit
