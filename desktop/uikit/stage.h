@@ -10,6 +10,7 @@
 #include "bridge/uikit/ui_view.h"
 #include "desktop/uikit/animator.h"
 #include "desktop/uikit/scheduler.h"
+#include "desktop/uikit/status_bar.h"
 #include "desktop/uikit/touch_dispatcher.h"
 
 namespace desktop::uikit {
@@ -37,6 +38,7 @@ struct Stage {
   CGSize screenSize{375, 667};   // points
   CGFloat scale = 2;             // pixels a point
   CGFloat statusBarHeight = 20;  // points
+  StatusBar statusBar;
   Scheduler scheduler;
   Animator animator;
   TouchDispatcher touches;

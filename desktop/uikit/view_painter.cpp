@@ -4,6 +4,7 @@
 #include "desktop/uikit/ca_gradient_layer.h"
 #include "desktop/uikit/canvas.h"
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/status_bar.h"
 #include "desktop/uikit/ui_bezier_path.h"
 #include "desktop/uikit/ui_color.h"
 #include "desktop/uikit/ui_scroll_view.h"
@@ -89,6 +90,7 @@ void paintView(bridge::UIView view, Canvas& canvas) {
 
 void paintStage(Canvas& canvas) {
   for (const auto& window : stage().windows) paintView(window, canvas);
+  paintStatusBar(canvas);
 }
 
 }  // namespace desktop::uikit

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+//
+// The strip at the top of the screen. It shows the same time always, so that pictures of the same
+// screen are the same.
+#pragma once
+
+namespace desktop::uikit {
+
+class Canvas;
+
+struct StatusBar {
+  bool isShown = false;
+  bool isLight = false;  // white on what is below, instead of black
+};
+
+// Paints it over the windows, where it is shown.
+void paintStatusBar(Canvas& canvas);
+
+}  // namespace desktop::uikit
