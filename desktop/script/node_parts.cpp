@@ -2,6 +2,7 @@
 #include "desktop/script/node_parts.h"
 
 #include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_table_view_cell.h"
 
 namespace desktop::script {
 namespace {
@@ -63,8 +64,8 @@ void addButton(bridge::UIView view, Json& node) {
 }
 
 void addCell(bridge::UIView view, Json& node) {
-  addText("text", bridge::UITableViewCell(view.get()).textLabel().text(), node);
-  addText("detail", bridge::UITableViewCell(view.get()).detailTextLabel().text(), node);
+  addText("text", uikit::UITableViewCell::of(view.get()).text(), node);
+  addText("detail", uikit::UITableViewCell::of(view.get()).detailText(), node);
   node["accessory"] = send<NSInteger, "accessoryType">(view);
   node["selectionStyle"] = send<NSInteger, "selectionStyle">(view);
 }

@@ -45,6 +45,9 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
   bridge::UILabel textLabel();
   bridge::UILabel detailTextLabel();  // nil where the style has none
   bridge::UIView imageView();
+  // What the labels say; nil without a label. Asking makes none.
+  bridge::NSString text() const { return _textLabel->text(); }
+  bridge::NSString detailText() const { return _detailTextLabel->text(); }
 
   NSInteger accessoryType() const { return _accessoryType; }
   void setAccessoryType(NSInteger type);
