@@ -14,8 +14,8 @@
 namespace desktop::uikit {
 namespace {
 
-constexpr int sequences = 1'000;
-constexpr int stepsASequence = 30;
+constexpr std::size_t sequences = 1'000;
+constexpr int stepsASequence = 40;
 
 class TouchSequencesTest : public TouchTest {
  protected:
@@ -34,6 +34,11 @@ class TouchSequencesTest : public TouchTest {
 
   int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
   CGPoint anywhere() { return {below(420) - 20.0, below(700) - 20.0}; }
+  // Where the finger is moved to: mostly near where it was.
+  CGPoint next() {
+    const CGPoint near{last.x + below(31) - 15, last.y + below(31) - 15};
+    return last = below(4) == 0 ? anywhere() : near;
+  }
 
   // Any view of the tree below the window, or the window.
   bridge::UIView anyView() {
@@ -110,15 +115,15 @@ class TouchSequencesTest : public TouchTest {
     switch (below(13)) {
       case 0:
       case 1:
-        return touches().down(anywhere());
+        return touches().down(last = anywhere());
       case 2:
       case 3:
       case 4:
       case 5:
-        return touches().move(anywhere());
+        return touches().move(next());
       case 6:
       case 7:
-        return touches().up(anywhere());
+        return touches().up(next());
       case 8:
         return below(3) == 0 ? touches().cancel() : touches().scroll(anywhere(), anywhere());
       case 9:
@@ -132,6 +137,7 @@ class TouchSequencesTest : public TouchTest {
     }
   }
 
+  CGPoint last;
   std::mt19937 random;
   bridge::Owned<handles::UIScrollView> scroller =
       bridge::makeView<handles::UIScrollView>({{20, 20}, {300, 600}});
@@ -143,11 +149,13 @@ TEST_F(TouchSequencesTest, EndWell) {
   std::printf("seed %u\n", seed);
   random.seed(seed);
   const long before = bridge::liveBoundObjects();
-  for (int sequence = 0; sequence < sequences; ++sequence) {
+  for (std::size_t sequence = 0; sequence < sequences; ++sequence) {
     const bridge::AutoreleasePool pool;
     of(probe).letsTogether = below(2) == 0;
     of(probe).letsReceive = below(8) != 0;
     of(probe).letsBegin = below(8) != 0;
+    for (int count = 0; count < 5; ++count) addView();
+    for (int count = 0; count < 5; ++count) addRecognizer();
     for (int count = 0; count < stepsASequence; ++count) step();
     touches().cancel();
     while (!UIView::of(scroller.get()).subviews().empty())
@@ -164,6 +172,9 @@ TEST_F(TouchSequencesTest, EndWell) {
     ASSERT_FALSE(touches().isDown()) << "seed " << seed << ", sequence " << sequence;
   }
   EXPECT_EQ(bridge::liveBoundObjects(), before) << "seed " << seed;
+  // They did what fingers do.
+  EXPECT_GT(of(probe).told.size(), sequences) << "seed " << seed;
+  EXPECT_GT(of(probe).scrolling.size(), sequences / 2) << "seed " << seed;
 }
 
 }  // namespace
