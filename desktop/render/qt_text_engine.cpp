@@ -12,6 +12,7 @@
 #include "desktop/render/qt_fonts.h"
 #include "desktop/render/qt_strings.h"
 #include "desktop/render/shaped_line.h"
+#include "desktop/uikit/text_direction.h"
 #include "desktop/uikit/utf16.h"
 
 namespace desktop::render {
@@ -48,12 +49,15 @@ void layOutLine(QTextLayout& layout) {
   layout.endLayout();
 }
 
-// From the line's beginning to its end without blanks, as carets stand there.
-double shownWidth(const QTextLine& line, std::u16string_view text) {
+// Without the blanks at the line's end, in points: from caret to caret where the text is all
+// written from left to right, else as it is painted.
+double shownWidth(const QTextLine& line, std::u16string_view text, const FontFace& face) {
   const auto start = static_cast<std::size_t>(line.textStart());
   std::size_t end = start + static_cast<std::size_t>(line.textLength());
   while (end > start && text[end - 1] == u' ') --end;
-  return std::abs(line.cursorToX(static_cast<int>(end)) - line.cursorToX(static_cast<int>(start)));
+  const auto shown = text.substr(start, end - start);
+  if (uikit::hasRightToLeft(text)) return shapedLine(face, shown)->width;
+  return line.cursorToX(static_cast<int>(end)) * face.size / designSize;
 }
 
 // Breaks text whose characters all have one advance.
@@ -182,8 +186,7 @@ class QtTextEngine : public uikit::TextEngine {
       line.setLineWidth(
           std::clamp((room.width - indent + tolerance) / scale + overhang, 0.0, widestRoom));
       lines.push_back({start + static_cast<std::size_t>(line.textStart()),
-                       static_cast<std::size_t>(line.textLength()),
-                       shownWidth(line, text) * scale});
+                       static_cast<std::size_t>(line.textLength()), shownWidth(line, text, face)});
     }
     layout.endLayout();
   }

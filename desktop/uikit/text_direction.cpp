@@ -41,4 +41,8 @@ bool isRightToLeft(std::u16string_view text) {
   return false;
 }
 
+bool hasRightToLeft(std::u16string_view text) {
+  return std::ranges::any_of(text, [](char16_t unit) { return isIn(rightToLeft, unit); });
+}
+
 }  // namespace desktop::uikit

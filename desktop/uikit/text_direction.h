@@ -9,5 +9,7 @@ namespace desktop::uikit {
 
 // Whether the first letter of the text belongs to a script that is written from right to left.
 bool isRightToLeft(std::u16string_view text);
+// Whether any letter of it does.
+bool hasRightToLeft(std::u16string_view text);
 
 }  // namespace desktop::uikit

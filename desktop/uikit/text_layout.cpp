@@ -11,7 +11,7 @@
 namespace desktop::uikit {
 namespace {
 
-constexpr std::size_t eagerUnits = std::size_t{128} << 10;
+constexpr std::size_t eagerUnits = std::size_t{64} << 10;
 constexpr double unlimitedWidth = 1e7;
 constexpr std::size_t keptPieces = 1024;  // whose lines are remembered
 

@@ -78,7 +78,8 @@ TEST_F(QtTextEngineTest, BlanksHangBehindTheLineTheyEnd) {
 }
 
 TEST_F(QtTextEngineTest, BlanksAtALinesEndHaveNoWidth) {
-  for (const char16_t* const text : {u"abc  ", u"\u00E9bc  ", u"\u05E9\u05DC  "})
+  for (const char16_t* const text :
+       {u"abc  ", u"\u00E9bc  ", u"\u05E9\u05DC  ", u"\u05E9\u05DC 12  "})
     for (const FontFace& face : {courier, system13}) {
       const std::u16string line = text;
       const double shown =
