@@ -1,8 +1,64 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/photos_runtime/photos_runtime.h"
+#include "desktop/photos_ui/album_cell.h"
+#include "desktop/photos_ui/cell_marks.h"
+#include "desktop/photos_ui/grid_titles.h"
+#include "desktop/photos_ui/message_view.h"
 #include "desktop/photos_ui/photos_host.h"
+#include "desktop/photos_ui/problem_list.h"
+#include "desktop/photos_ui/pu_album_list_view_controller.h"
+#include "desktop/photos_ui/pu_cloud_shared_album_view_controller.h"
+#include "desktop/photos_ui/pu_one_up_bars_controller.h"
+#include "desktop/photos_ui/pu_one_up_photo_view.h"
+#include "desktop/photos_ui/pu_one_up_tiling_layout.h"
+#include "desktop/photos_ui/pu_one_up_view_controller.h"
+#include "desktop/photos_ui/pu_photo_view.h"
+#include "desktop/photos_ui/pu_photos_album_view_controller.h"
+#include "desktop/photos_ui/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/pu_photos_grid_view_controller.h"
+#include "desktop/photos_ui/pu_photos_panorama_view_controller.h"
+#include "desktop/photos_ui/pu_sectioned_grid_layout.h"
+#include "desktop/photos_ui/pu_tiling_view.h"
+#include "desktop/photos_ui/pu_zoomable_grid_view_controller.h"
+#include "desktop/photos_ui/text_banner.h"
+#include "desktop/photos_ui/video_badge.h"
 
 namespace desktop::photos_ui {
+namespace {
+
+// A superclass stands before the classes below it.
+constexpr Class (*classes[])() = {
+    // clang-format off
+    &PUPhotoViewContentHelper::classObject,
+    &PUPhotoView::classObject,
+    &VideoBadge::classObject,
+    &TextBannerView::classObject,
+    &CellMark::classObject,
+    &PUPhotosGridCell::classObject,
+    &GridHeader::classObject,
+    &GridFooter::classObject,
+    &MessageView::classObject,
+    &PUSectionedGridLayout::classObject,
+    &PUPhotosGridViewController::classObject,
+    &PUPhotosAlbumViewController::classObject,
+    &PUCloudSharedAlbumViewController::classObject,
+    &PUPhotosPanoramaViewController::classObject,
+    &PUFullMomentsZoomLevelInfo::classObject,
+    &PUCollectionsZoomLevelInfo::classObject,
+    &PUYearsZoomLevelInfo::classObject,
+    &PUZoomableGridViewController::classObject,
+    &AlbumCell::classObject,
+    &PUAlbumListViewController::classObject,
+    &ProblemList::classObject,
+    &PUOneUpBarsController::classObject,
+    &PUOneUpPhotoView::classObject,
+    &PUOneUpTilingLayout::classObject,
+    &PUOneUpViewController::classObject,
+    &PUTilingView::classObject,
+    // clang-format on
+};
+
+}  // namespace
 
 PhotosHost& host() {
   static auto& made = *new PhotosHost;
@@ -11,6 +67,7 @@ PhotosHost& host() {
 
 void registerPhotosUI() {
   photos::registerPhotos();
+  for (const auto& classObject : classes) classObject();
 }
 
 }  // namespace desktop::photos_ui

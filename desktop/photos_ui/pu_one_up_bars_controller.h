@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+//
+// PUOneUpBarsController: what the bars above and below a single photo show.
+#pragma once
+
+#include "bridge/bound.h"
+#include "bridge/photos.h"
+
+namespace desktop::photos_ui {
+
+class PUOneUpBarsController : public bridge::Bound<PUOneUpBarsController, bridge::NSObject> {
+ public:
+  using Bound::Bound;
+  static Class classObject();
+
+  // Of a single-photo controller, which outlives it.
+  static bridge::Owned<bridge::NSObject> make(bridge::UIViewController oneUp);
+  // Brings the bars up to what is on show now; by message, for extensions to follow.
+  void update() const;
+
+ private:
+  void updateBars();
+  void makeToolbarItems();
+  void shareTouched(bridge::NSObject sender);
+
+  bridge::UIViewController _oneUp;  // borrowed
+};
+
+}  // namespace desktop::photos_ui

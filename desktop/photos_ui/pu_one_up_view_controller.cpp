@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/pu_one_up_view_controller.h"
+
+#include <algorithm>
+
+#include "bridge/class_builder.h"
+#include "desktop/photos_runtime/ph_asset.h"
+#include "desktop/photos_runtime/pu_asset_reference.h"
+#include "desktop/photos_ui/photos_host.h"
+#include "desktop/photos_ui/pu_one_up_bars_controller.h"
+#include "desktop/photos_ui/pu_one_up_photo_view.h"
+#include "desktop/photos_ui/pu_one_up_tiling_layout.h"
+#include "desktop/uikit/ui_color.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+using bridge::send;
+using uikit::UIView;
+using uikit::handles::makeRecognizer;
+using uikit::handles::UITapGestureRecognizer;
+
+constexpr NSInteger overFullScreen = 5;  // UIModalPresentationOverFullScreen
+constexpr CGFloat cardMargin = 16;       // points, around a preview
+constexpr CGFloat cardRadius = 12;       // points
+constexpr double barsTime = 0.25;        // seconds
+constexpr CGFloat zoomStep = 1.5;
+
+}  // namespace
+
+Class PUOneUpViewController::classObject() {
+  static const Class made =
+      bridge::ClassBuilder<PUOneUpViewController>("PUOneUpViewController")
+          .field("_tilingView", "@")
+          .method<"init", &PUOneUpViewController::init>()
+          .method<"viewDidLoad", &PUOneUpViewController::viewDidLoad>()
+          .method<"viewWillAppear:", &PUOneUpViewController::viewWillAppear>()
+          .method<"viewDidAppear:", &PUOneUpViewController::viewDidAppear>()
+          .method<"viewWillDisappear:", &PUOneUpViewController::viewWillDisappear>()
+          .method<"viewWillLayoutSubviews", &PUOneUpViewController::viewWillLayoutSubviews>()
+          .method<"isPresentedForPreview", &PUOneUpViewController::isPresentedForPreview>()
+          .method<"_assetReferenceAtIndexPath:layout:", &PUOneUpViewController::assetReference>()
+          .method<"_setTilingView:", &PUOneUpViewController::setTilingView>()
+          .method<"barsController", &PUOneUpViewController::barsController>()
+          .method<"handleTap:", &PUOneUpViewController::handleTap>()
+          .method<"handleTapBeside:", &PUOneUpViewController::handleTapBeside>()
+          .method<"gestureRecognizer:shouldReceiveTouch:",
+                  &PUOneUpViewController::shouldReceiveTouch>()
+          .build();
+  return made;
+}
+
+PUOneUpViewController::~PUOneUpViewController() {
+  bridge::setObjectField(self(), "_tilingView", {});
+}
+
+bridge::Owned<bridge::UIViewController> PUOneUpViewController::make(ItemListPointer items,
+                                                                    std::size_t index,
+                                                                    Presentation presentation) {
+  auto made = bridge::Owned<bridge::UIViewController>::adopt(
+      send<bridge::UIViewController, "new">(classObject()));
+  PUOneUpViewController& controller = of(made.get());
+  controller._items = std::move(items);
+  controller._presentation = presentation;
+  controller._index = index;
+  if (presentation == Presentation::preview)
+    send<void, "setModalPresentationStyle:">(made.get(), overFullScreen);
+  send<void, "setHidesBottomBarWhenPushed:">(made.get(), true);
+  return made;
+}
+
+bridge::UIViewController PUOneUpViewController::init() {
+  const auto object = super<bridge::UIViewController, "init">();
+  _layout = bridge::Owned<bridge::NSObject>::adopt(
+      send<bridge::NSObject, "new">(PUOneUpTilingLayout::classObject()));
+  _bars = PUOneUpBarsController::make(bridge::UIViewController(self().get()));
+  return object;
+}
+
+photos::ItemPointer PUOneUpViewController::currentItem() const {
+  return _index < _items->size() ? _items->at(_index) : nullptr;
+}
+
+void PUOneUpViewController::viewDidLoad() {
+  super<void, "viewDidLoad">();
+  const bool isPreview = isPresentedForPreview();
+  me().setBackgroundColor(isPreview ? bridge::UIColor::white(0, 0.4)
+                                    : bridge::UIColor::whiteColor());
+  const auto tiling = makeTilingView();
+  me().addSubview(tiling);
+  send<void, "_setTilingView:">(self(), tiling.get());
+  showItems(_index);
+  if (!isPreview) return;
+  const auto beside =
+      makeRecognizer<UITapGestureRecognizer>(self(), bridge::selector<"handleTapBeside:">());
+  beside->setDelegate(self());
+  me().addGestureRecognizer(beside);
+}
+
+bridge::Owned<bridge::UIView> PUOneUpViewController::makeTilingView() {
+  auto tiling = bridge::Owned<bridge::UIView>::adopt(send<bridge::UIView, "initWithFrame:">(
+      send<id, "alloc">(PUTilingView::classObject()), me().bounds()));
+  const bool isPreview = isPresentedForPreview();
+  send<void, "setPagingEnabled:">(tiling.get(), true);
+  send<void, "setShowsHorizontalScrollIndicator:">(tiling.get(), false);
+  send<void, "setContentInsetAdjustmentBehavior:">(tiling.get(), NSInteger{2});
+  if (isPreview) {
+    tiling->setBackgroundColor(bridge::UIColor::whiteColor());
+    tiling->layer().setCornerRadius(cardRadius);
+    send<void, "setScrollEnabled:">(tiling.get(), false);
+    return tiling;
+  }
+  const auto tap = makeRecognizer<UITapGestureRecognizer>(self(), bridge::selector<"handleTap:">());
+  const auto twice = makeRecognizer<UITapGestureRecognizer>({}, nullptr);
+  twice->setNumberOfTapsRequired(2);
+  send<void, "requireGestureRecognizerToFail:">(tap.get(), twice.get());
+  tiling->addGestureRecognizer(twice);
+  tiling->addGestureRecognizer(tap);
+  return tiling;
+}
+
+// A preview is a card in the middle of what it was called from.
+CGRect PUOneUpViewController::cardFrame() const {
+  const CGRect all = me().bounds();
+  if (!isPresentedForPreview()) return all;
+  const CGFloat width = all.size.width - 2 * cardMargin;
+  const CGFloat height = std::min(width * 1.2, all.size.height - 8 * cardMargin);
+  return {{cardMargin, (all.size.height - height) / 2}, {width, height}};
+}
+
+void PUOneUpViewController::viewWillLayoutSubviews() {
+  if (_tilingView) _tilingView->setFrame(cardFrame());
+}
+
+// The message is also how extensions learn of the view.
+void PUOneUpViewController::setTilingView(bridge::UIView view) {
+  _tilingView = bridge::Owned<bridge::UIView>::retain(view);
+  bridge::setObjectField(self(), "_tilingView", view);
+}
+
+void PUOneUpViewController::showItems(std::size_t index) {
+  pages().pageChanged = [this](std::size_t page) { moved(page); };
+  pages().setPages(_items->size(), index, [items = _items](std::size_t page) {
+    return PUOneUpPhotoView::make(items->at(page));
+  });
+  moved(index);
+}
+
+void PUOneUpViewController::moved(std::size_t index) {
+  _index = index;
+  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items->pathOf(index));
+  PUOneUpBarsController::of(_bars.get()).update();
+}
+
+void PUOneUpViewController::viewWillAppear(bool animated) {
+  super<void, "viewWillAppear:">(animated);
+  if (isPresentedForPreview()) return;
+  send<void, "setToolbarHidden:animated:">(
+      bridge::UIViewController(self().get()).navigationController(), false, animated);
+  PUOneUpBarsController::of(_bars.get()).update();
+}
+
+void PUOneUpViewController::viewDidAppear(bool animated) {
+  super<void, "viewDidAppear:">(animated);
+  PUOneUpBarsController::of(_bars.get()).update();
+}
+
+void PUOneUpViewController::viewWillDisappear(bool animated) {
+  super<void, "viewWillDisappear:">(animated);
+  if (isPresentedForPreview()) return;
+  showBars(true, animated);
+  const auto navigation = bridge::UIViewController(self().get()).navigationController();
+  const auto top = send<bridge::UIViewController, "topViewController">(navigation);
+  if (top != bridge::UIViewController(self().get()))
+    send<void, "setToolbarHidden:animated:">(navigation, true, animated);
+}
+
+bridge::PUAssetReference PUOneUpViewController::assetReference(bridge::NSIndexPath path,
+                                                               bridge::PUOneUpTilingLayout) const {
+  const auto place = uikit::itemPathOf(path);
+  const auto index = place ? _items->indexOf(*place) : std::nullopt;
+  if (!index || !host().library) return {};
+  return photos::PUAssetReference::make(photos::PHAsset::make(*host().library, _items->at(*index)),
+                                        path);
+}
+
+void PUOneUpViewController::handleTap(bridge::UIGestureRecognizer) {
+  showBars(!_areBarsShown, true);
+}
+
+void PUOneUpViewController::handleTapBeside(bridge::UIGestureRecognizer) {
+  leave();
+}
+
+bool PUOneUpViewController::shouldReceiveTouch(bridge::UIGestureRecognizer,
+                                               bridge::UITouch touch) const {
+  return !bridge::contains(cardFrame(), touch.locationIn(me()));
+}
+
+// Without bars a photo stands on black, as in the dark.
+void PUOneUpViewController::showBars(bool shown, bool animated) {
+  if (shown == _areBarsShown) return;
+  _areBarsShown = shown;
+  const bridge::UIViewController controller(self().get());
+  const auto navigation = controller.navigationController();
+  send<void, "setNavigationBarHidden:animated:">(navigation, !shown, animated);
+  send<void, "setToolbarHidden:animated:">(navigation, !shown, animated);
+  const bridge::UIView view = me();
+  bridge::UIView::animate(animated ? barsTime : 0, bridge::Block<void()>([view, shown] {
+                            view.setBackgroundColor(shown ? bridge::UIColor::whiteColor()
+                                                          : bridge::UIColor::blackColor());
+                          }));
+  PUOneUpBarsController::of(_bars.get()).update();
+}
+
+bool PUOneUpViewController::page(std::size_t index) {
+  if (index >= _items->size() || index == _index) return false;
+  pages().show(index, index + 1 == _index || index == _index + 1);
+  return true;
+}
+
+bool PUOneUpViewController::zoom(OneUpAction action) {
+  const bridge::UIView shown = pages().currentPage();
+  if (!shown) return false;
+  PUOneUpPhotoView& photo = PUOneUpPhotoView::of(shown);
+  const CGSize size = UIView::of(shown).bounds().size;
+  const CGPoint mid = {size.width / 2, size.height / 2};
+  switch (action) {
+    case OneUpAction::zoomIn:
+      photo.zoomTo(photo.zoom() * zoomStep, mid, true);
+      break;
+    case OneUpAction::zoomOut:
+      photo.zoomTo(photo.zoom() / zoomStep, mid, true);
+      break;
+    case OneUpAction::fit:
+      photo.zoomTo(1, mid, true);
+      break;
+    default:
+      photo.zoomTo(photo.actualSizeZoom(), mid, true);
+      break;
+  }
+  return true;
+}
+
+bool PUOneUpViewController::perform(OneUpAction action) {
+  if (!_tilingView || _items->isEmpty()) return false;
+  switch (action) {
+    case OneUpAction::next:
+      return page(_index + 1);
+    case OneUpAction::previous:
+      return _index > 0 && page(_index - 1);
+    case OneUpAction::first:
+      return page(0);
+    case OneUpAction::last:
+      return page(_items->size() - 1);
+    case OneUpAction::play: {
+      const bool isVideo = currentItem() && currentItem()->isVideo();
+      if (isVideo) send<void, "playTouched:">(pages().currentPage(), bridge::NSObject());
+      return isVideo;
+    }
+    default:
+      return zoom(action);
+  }
+}
+
+// What is shown stays on show where its file is still there; otherwise what comes next is.
+void PUOneUpViewController::libraryChanged(const photos::LibraryChange&) {
+  if (!host().library || !_tilingView) return;
+  std::vector<photos::ItemPointer> left;
+  for (const photos::ItemPointer& item : _items->items())
+    if (const photos::ItemPointer now = host().library->itemOf(item->uuid)) left.push_back(now);
+  if (left == _items->items()) return;
+  const auto items = std::make_shared<const ItemList>(std::move(left));
+  const auto place = items->placeAfterChange(*_items, _index);
+  _items = items;
+  showItems(place.value_or(0));
+  if (!place) leave();
+}
+
+void PUOneUpViewController::leave() {
+  const bridge::UIViewController controller(self().get());
+  if (isPresentedForPreview())
+    controller.dismiss(bridge::UIViewController::animated, {});
+  else
+    send<bridge::UIViewController, "popViewControllerAnimated:">(controller.navigationController(),
+                                                                 true);
+}
+
+}  // namespace desktop::photos_ui
