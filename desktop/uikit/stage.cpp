@@ -6,6 +6,8 @@
 
 #include "desktop/uikit/geometry.h"
 #include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/ui_view_controller.h"
+#include "desktop/uikit/ui_window.h"
 
 namespace desktop::uikit {
 namespace {
@@ -60,8 +62,13 @@ void Stage::resize(CGSize size) {
   const CGRect before = rectOfSize(screenSize);
   screenSize = size;
   damage.add(rectOfSize(size));
-  for (const auto& window : windows)
-    if (UIView::of(window.get()).frame() == before) window->setFrame(rectOfSize(size));
+  const auto present = windows;
+  for (const auto& window : present) {
+    if (UIView::of(window.get()).frame() != before) continue;
+    const auto root = UIWindow::of(window.get()).rootViewController();
+    if (root) UIViewController::of(root.get()).becomeSize(size);
+    window->setFrame(rectOfSize(size));
+  }
 }
 
 Stage& stage() {

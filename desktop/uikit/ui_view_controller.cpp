@@ -47,6 +47,8 @@ Class UIViewController::classObject() {
           .method<"viewDidDisappear:", &UIViewController::viewDidDisappear>()
           .method<"viewWillLayoutSubviews", &UIViewController::viewWillLayoutSubviews>()
           .method<"viewDidLayoutSubviews", &UIViewController::viewDidLayoutSubviews>()
+          .method<"viewWillTransitionToSize:withTransitionCoordinator:",
+                  &UIViewController::viewWillTransition>()
           .method<"_adjustScrollViews", &UIViewController::adjustScrollViews>()
           .method<"_safeAreaInsets", &UIViewController::safeAreaInsets>()
           .method<"beginAppearanceTransition:animated:", &UIViewController::beginAppearance>()

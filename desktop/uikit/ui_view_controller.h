@@ -68,6 +68,9 @@ class UIViewController : public bridge::Bound<UIViewController, bridge::UIRespon
   // What began is over.
   void endAppearance();
 
+  // The window becomes another size; tells this controller, its children and what it presents.
+  void becomeSize(CGSize size);
+
   // Room at the view's edges, in points, that bars around it take; scroll views that fill the view
   // keep their content out of it.
   EdgeInsets safeArea() const { return _safeArea; }
@@ -87,6 +90,7 @@ class UIViewController : public bridge::Bound<UIViewController, bridge::UIRespon
   void viewDidDisappear(bool) {}
   void viewWillLayoutSubviews() {}
   void viewDidLayoutSubviews() {}
+  void viewWillTransition(CGSize size, bridge::Object coordinator);
   void adjustScrollViews();
   EdgeInsets safeAreaInsets() const { return _safeArea; }
 

@@ -105,6 +105,20 @@ void UIViewController::endAppearance() {
   for (const auto& child : shownChildren()) of(child.get()).endAppearance();
 }
 
+void UIViewController::becomeSize(CGSize size) {
+  bridge::send<void, "viewWillTransitionToSize:withTransitionCoordinator:">(self(), size,
+                                                                            bridge::Object());
+  if (const auto above = presented()) of(above.get()).becomeSize(size);
+}
+
+// There is no coordinator: sizes change at once.
+void UIViewController::viewWillTransition(CGSize size, bridge::Object coordinator) {
+  const auto children = _children;
+  for (const auto& child : children)
+    bridge::send<void, "viewWillTransitionToSize:withTransitionCoordinator:">(child.get(), size,
+                                                                              coordinator);
+}
+
 std::vector<bridge::Owned<bridge::UIViewController>> UIViewController::shownChildren() const {
   auto shown = _children;
   std::erase_if(shown, [this](const auto& child) {

@@ -72,6 +72,7 @@ bool UIView::layOut() {
   const bridge::UIView me(self().get());
   bool didAny = _needsLayout;
   if (std::exchange(_needsLayout, false)) {
+    bridge::send<void, "_adjustScrollViews">(_controller);
     bridge::send<void, "viewWillLayoutSubviews">(_controller);
     bridge::send<void, "layoutSubviews">(me);
     bridge::send<void, "viewDidLayoutSubviews">(_controller);

@@ -28,6 +28,8 @@ Class ProbeController::classObject() {
                                 .method<"viewDidAppear:", &ProbeController::viewDidAppear>()
                                 .method<"viewWillDisappear:", &ProbeController::viewWillDisappear>()
                                 .method<"viewDidDisappear:", &ProbeController::viewDidDisappear>()
+                                .method<"viewWillTransitionToSize:withTransitionCoordinator:",
+                                        &ProbeController::willBecome>()
                                 .method<"press:", &ProbeController::press>()
                                 .build();
   return made;
@@ -66,6 +68,13 @@ void ProbeController::viewWillDisappear(bool animated) {
 void ProbeController::viewDidDisappear(bool animated) {
   super<void, "viewDidDisappear:">(animated);
   note("didDisappear");
+}
+
+void ProbeController::willBecome(CGSize size, bridge::Object coordinator) {
+  super<void, "viewWillTransitionToSize:withTransitionCoordinator:">(size, coordinator);
+  note((std::to_string(static_cast<int>(size.width)) + " x " +
+        std::to_string(static_cast<int>(size.height)))
+           .c_str());
 }
 
 void ProbeController::press(bridge::Object from) {

@@ -37,6 +37,7 @@ class ProbeController : public bridge::Bound<ProbeController, bridge::UIViewCont
   void viewDidAppear(bool animated);
   void viewWillDisappear(bool animated);
   void viewDidDisappear(bool animated);
+  void willBecome(CGSize size, bridge::Object coordinator);
   void press(bridge::Object from);
 
   std::string _name;

@@ -161,6 +161,17 @@ TEST_F(UINavigationControllerTest, ScrollViewsKeepTheirContentOutOfTheBars) {
   EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), (EdgeInsets{.bottom = 44}));
 }
 
+TEST_F(UINavigationControllerTest, AScrollViewThatComesLaterIsKeptOutToo) {
+  const auto a = ProbeController::make("A");
+  showStack(a);
+  const auto list = bridge::makeView<handles::UIScrollView>({{0, 0}, {375, 667}});
+  a->view().addSubview(list);
+  stage().prepareFrame();
+  EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), (EdgeInsets{.top = 64}));
+  bridge::send<void, "setContentInsetAdjustmentBehavior:">(list.get(), NSInteger{2});
+  EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), EdgeInsets{});
+}
+
 TEST_F(UINavigationControllerTest, ALargeTitleMakesRoomBelowTheRowOfButtons) {
   const auto a = ProbeController::make("Albums");
   const auto stack = bridge::UINavigationController::withRoot(a);

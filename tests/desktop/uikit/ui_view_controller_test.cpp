@@ -233,6 +233,19 @@ TEST_F(UIViewControllerTest, AViewsCommandsGoOnToItsControllerAndItsPresenter) {
   EXPECT_EQ(next(b.get()), a.get());
 }
 
+TEST_F(UIViewControllerTest, EveryScreenFillsAWindowThatTurns) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  a->present(b, atOnce, {});
+  takeCalls();
+  stage().resize({667, 375});
+  stage().prepareFrame();
+  EXPECT_THAT(takeCalls(), ElementsAre("A 667 x 375", "B 667 x 375"));
+  EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 0, 667, 375));
+  b->dismiss(atOnce, {});
+  EXPECT_THAT(onScreen(a->view()), ElementsAre(0, 0, 667, 375));
+}
+
 TEST_F(UIViewControllerTest, ATitleReachesTheItemsMadeOfIt) {
   const auto a = ProbeController::make("A");
   EXPECT_EQ((bridge::send<bridge::NSString, "title">(a->navigationItem())).utf8(), "A");
