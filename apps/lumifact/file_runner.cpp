@@ -18,7 +18,8 @@ namespace lumifact::tool {
 
 namespace {
 
-constexpr std::size_t filesInBatch = 8;      // enough that handing over costs little
+constexpr std::size_t filesInFirstBatches = 8;
+constexpr std::size_t filesInLaterBatches = 32;
 constexpr std::size_t batchesPerThread = 3;  // one at work, one waiting, one being emitted
 
 FileOutcome outcomeOf(const FileRun& run, FileItem item) {
@@ -37,14 +38,15 @@ struct Batch {
   bool isDone = false;
 };
 
-Batch nextBatch(const FileRun& run) {
-  Batch batch;
-  while (batch.items.size() < filesInBatch) {
+// Refills a batch.
+void fill(Batch& batch, const FileRun& run, std::size_t count) {
+  batch.items.clear();
+  batch.isDone = false;
+  while (batch.items.size() < count) {
     auto item = run.next();
     if (!item) break;
     batch.items.push_back(*std::move(item));
   }
-  return batch;
 }
 
 bool emitAll(const FileRun& run, const Batch& batch) {
@@ -113,6 +115,7 @@ class Workers {
       // A deque keeps its elements in place while others come and go at its ends.
       Batch& batch = _batches[_batches.size() - _waiting--];
       lock.unlock();
+      batch.outcomes.clear();
       for (FileItem& item : batch.items) batch.outcomes.push_back(outcomeOf(_run, std::move(item)));
       lock.lock();
       batch.isDone = true;
@@ -134,17 +137,22 @@ class Workers {
 
 void runFiles(const FileRun& run) {
   if (run.threads < 2) return runOnThisThread(run, {});
-  Batch batch = nextBatch(run);
-  if (batch.items.size() < filesInBatch) return runOnThisThread(run, std::move(batch.items));
+  Batch batch;
+  fill(batch, run, filesInFirstBatches);
+  if (batch.items.size() < filesInFirstBatches) return runOnThisThread(run, std::move(batch.items));
   Workers workers(run);
   if (workers.capacity() == 0) return runOnThisThread(run, std::move(batch.items));
+  std::size_t size = filesInFirstBatches;
+  Batch spent;
   while (!batch.items.empty() || workers.size() > 0) {
     const bool isFull = workers.size() == workers.capacity();
     if (isFull || batch.items.empty()) {
-      if (!emitAll(run, workers.take())) return;
+      spent = workers.take();
+      if (!emitAll(run, spent)) return;
+      size = filesInLaterBatches;
     } else {
-      workers.put(std::exchange(batch, {}));
-      batch = nextBatch(run);
+      workers.put(std::exchange(batch, std::exchange(spent, {})));
+      fill(batch, run, size);
     }
   }
 }

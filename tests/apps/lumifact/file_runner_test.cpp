@@ -111,7 +111,7 @@ TEST(FileRunner, RunsOnlyAFewFilesAhead) {
                   return true;
                 },
             .threads = 4});
-  EXPECT_LE(furthest, 4 * 3 * 8);
+  EXPECT_LE(furthest, 4 * 3 * 32);
 }
 
 TEST(FileRunner, OneThreadEmitsEachFileBeforeItAsksForTheNext) {
