@@ -167,8 +167,11 @@ void registerMethod(const HostMethod& method) {
     definer = classFor(method.definedBy, "NSObject");
   }
   const Class aClass = classFor(method.className, superclass);
-  class_addMethod(definer ? definer : aClass, sel_registerName(method.selector),
-                  implementationOf(method), method.encoding);
+  const SEL selector = sel_registerName(method.selector);
+  // Two of the classes are UIKit's own and have the method already.
+  if (!class_addMethod(definer ? definer : aClass, selector, implementationOf(method),
+                       method.encoding))
+    method_setImplementation(class_getInstanceMethod(aClass, selector), implementationOf(method));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "bridge/hook.h"
 #include "lumifact/loader/settings.h"
@@ -14,6 +15,8 @@ struct Probe {
   const Settings& settings;
   const double& infoLineHeight;
   std::span<const bridge::HookRow> rows;
+  // The extension's own classes, registered by the call; nil where the superclass is missing.
+  std::vector<Class> (*ownClasses)();
 };
 
 }  // namespace lumifact::host
