@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "desktop/uikit/ui_view.h"
+
 namespace desktop::uikit {
 
 void ReusePool::registerClass(const std::string& identifier, Class aClass) {
@@ -24,13 +26,17 @@ bridge::Owned<bridge::UIView> ReusePool::take(const std::string& identifier) {
   if (found == _waiting.end() || found->second.empty()) return {};
   auto view = std::move(found->second.back());
   found->second.pop_back();
-  std::erase_if(_unsettled, [&](const auto& other) { return other.get() == view.get(); });
   return view;
 }
 
-void ReusePool::settle() {
+void ReusePool::shown(bridge::UIView view) {
+  std::erase_if(_unsettled, [&](const auto& other) { return other.get() == view; });
+}
+
+void ReusePool::settle(bridge::UIView list) {
   const auto leaving = std::exchange(_unsettled, {});
-  for (const auto& view : leaving) view->removeFromSuperview();
+  for (const auto& view : leaving)
+    if (UIView::of(view.get()).superview() == list) view->removeFromSuperview();
 }
 
 }  // namespace desktop::uikit

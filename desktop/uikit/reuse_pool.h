@@ -19,13 +19,15 @@ class ReusePool {
   // Null where none is registered.
   Class classFor(const std::string& identifier) const;
 
-  // The view stays where it is in the tree, out of sight, until settle() or until it is taken. One
+  // The view stays where it is in the tree until settle(), or for good where it is shown again. One
   // without an identifier is never used again.
   void put(const std::string& identifier, const bridge::Owned<bridge::UIView>& view);
-  // A view that waits; nil where none does. It may still be in the tree.
+  // A view that waits; nil where none does.
   bridge::Owned<bridge::UIView> take(const std::string& identifier);
-  // Takes what still waits out of the tree.
-  void settle();
+  // The view shows something.
+  void shown(bridge::UIView view);
+  // Takes what shows nothing out of the list that it was put back by.
+  void settle(bridge::UIView list);
 
  private:
   std::map<std::string, Class> _classes;

@@ -187,8 +187,10 @@ void UICollectionView::prepare() {
 
 void UICollectionView::askAboutNewBounds() {
   const CGRect bounds = UIView::of(self()).bounds();
-  if (std::exchange(_preparedBounds, bounds) == bounds) return;
-  if (bridge::send<bool, "shouldInvalidateLayoutForBoundsChange:">(_layout, bounds))
+  const CGRect before = std::exchange(_preparedBounds, bounds);
+  if (before == bounds) return;
+  if (before.size != bounds.size ||
+      bridge::send<bool, "shouldInvalidateLayoutForBoundsChange:">(_layout, bounds))
     bridge::send<void, "invalidateLayout">(_layout);
 }
 

@@ -53,7 +53,7 @@ void UICollectionView::layoutSubviews() {
   prepare();
   if (_backgroundView) _backgroundView->setFrame(UIView::of(self()).bounds());
   placeViews();
-  _pool.settle();
+  _pool.settle(self());
 }
 
 bool UICollectionView::isStale() const {
@@ -91,6 +91,7 @@ void UICollectionView::show(const Element& element, Attributes attributes) {
   if (!view || isStale()) return;
   std::erase_if(_views, [&](const auto& shown) { return shown.second.get() == view.get(); });
   _views[element] = view;
+  _pool.shown(view);
   stage().animator.withoutAnimation([&] {
     place(view, attributes);
     if (element.kind.empty()) showState(element.path, view);

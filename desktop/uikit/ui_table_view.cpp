@@ -71,7 +71,7 @@ Class UITableView::classObject() {
 }
 
 UITableView::~UITableView() {
-  stage().scheduler.cancel(_longPress);
+  if (_longPress) stage().scheduler.cancel(_longPress);
   if (_menuRow) UIMenuController::shared().hide();
 }
 

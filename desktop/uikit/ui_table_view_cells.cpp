@@ -54,7 +54,7 @@ void UITableView::layoutSubviews() {
   placeEdgeViews();
   placeCells();
   placeTitles();
-  _pool.settle();
+  _pool.settle(self());
 }
 
 void UITableView::didMoveToWindow() {
@@ -97,6 +97,7 @@ void UITableView::showRow(ItemPath path) {
   if (_isStale) return;
   std::erase_if(_cells, [&](const auto& shown) { return shown.second.get() == cell.get(); });
   _cells[path] = cell;
+  _pool.shown(cell);
   stage().animator.withoutAnimation([&] {
     cell->setFrame(across(_geometry.row(path)));
     styleCell(cell, path);

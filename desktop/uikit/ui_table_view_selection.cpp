@@ -48,7 +48,7 @@ void UITableView::press(ItemPath path, Seconds since) {
 
 // Ends a press without any effect.
 void UITableView::release() {
-  stage().scheduler.cancel(std::exchange(_longPress, 0));
+  if (const auto timer = std::exchange(_longPress, 0)) stage().scheduler.cancel(timer);
   if (const auto pressed = std::exchange(_pressed, std::nullopt)) highlight(*pressed, false);
 }
 

@@ -42,6 +42,7 @@ class TableSource : public bridge::Bound<TableSource, bridge::NSObject> {
   enum class Answer { cells, nothing, text, always } answer = Answer::cells;
   bool reloadsMeanwhile = false;
   bool usesIdentifier = true;
+  bool wastesCells = false;  // asks for one that waits, and does not show it
 
   int cellsMade = 0;
   int countsAsked = 0;
@@ -68,6 +69,7 @@ class TableSource : public bridge::Bound<TableSource, bridge::NSObject> {
       return onlyCell;
     }
     bridge::UITableViewCell made = table.dequeueCell(bridge::NSString::make("row"));
+    if (wastesCells) made = {};
     if (!made) made = makeCell().autorelease();
     made.textLabel().setText(bridge::NSString::make(textOf(*itemPathOf(path))));
     return made;

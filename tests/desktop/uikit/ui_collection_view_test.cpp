@@ -257,6 +257,15 @@ TEST_F(UICollectionViewTest, ALayoutDecidesWhetherScrollingInvalidatesIt) {
   EXPECT_EQ(layout().prepared, 3);
 }
 
+TEST_F(UICollectionViewTest, AnotherSizeInvalidatesTheLayout) {
+  source().itemCount = 100;
+  show();
+  _view->setFrame({{0, 0}, {667, 375}});
+  stage().prepareFrame();
+  EXPECT_EQ(layout().prepared, 2);
+  EXPECT_EQ(tags().size(), 16u);
+}
+
 TEST_F(UICollectionViewTest, ATapSelectsTheItem) {
   source().itemCount = 100;
   show();

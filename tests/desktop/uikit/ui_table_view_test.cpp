@@ -143,6 +143,14 @@ TEST_F(UITableViewTest, CellsWithoutIdentifierAreMadeAnew) {
   EXPECT_EQ(UITableViewCell::liveObjects(), alive);
 }
 
+TEST_F(UITableViewTest, CellsThatTheSourceDoesNotShowGo) {
+  source().wastesCells = true;
+  source().rowCount = 100;
+  show();
+  for (CGFloat y = 0; y < 2000; y += 100) scrollTo(y);
+  EXPECT_EQ(object().subviews().count(), table().cells().size());
+}
+
 TEST_F(UITableViewTest, ARegisteredClassMakesCells) {
   source().answer = TableSource::Answer::nothing;
   show();
