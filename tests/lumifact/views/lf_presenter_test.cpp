@@ -210,6 +210,20 @@ TEST_F(PresenterTest, MakesAnImageOfOneColour) {
   EXPECT_EQ(bitmap->pixels, std::vector<std::uint32_t>{0xFF00FF00});
 }
 
+TEST_F(PresenterTest, AReportOfTenMegabytesScrollsToItsEnd) {
+  std::string lines;
+  while (lines.size() < 10'000'000) lines += "  DateTimeOriginal = 2018:09:30 14:03:11\n";
+  show(lines);
+  const desktop::uikit::handles::UIScrollView view(textView().get());
+  EXPECT_GT(view.contentSize().height, 100'000);
+  view.setContentOffset({0, view.contentSize().height - 667});
+  settle();
+  EXPECT_GT(view.contentOffset().y, 100'000);
+  pressToggle();
+  EXPECT_EQ(toggle(), " Deselect");
+  EXPECT_EQ((send<NSRange, "selectedRange">(textView())), (NSRange{0, lines.size()}));
+}
+
 TEST_F(PresenterTest, ShowsAnyTextInAnySize) {
   const std::string messages[] = {"",
                                   "\n",

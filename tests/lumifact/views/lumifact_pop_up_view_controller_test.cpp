@@ -226,6 +226,16 @@ TEST_F(PopUpTest, ItsPropertiesCanBeSet) {
   EXPECT_FALSE(touchDown(view));
 }
 
+TEST_F(PopUpTest, ShowsAMessageOfTenMegabytes) {
+  std::string lines;
+  while (lines.size() < 10'000'000) lines += "Path: 100APPLE/IMG_0001.JPG\n";
+  const UIView view = show(lines);
+  settle();
+  EXPECT_GT(boxOf(view).frame().size.height, 100'000);
+  tap(CGPoint{5, 30});
+  EXPECT_FALSE(overlay());
+}
+
 TEST_F(PopUpTest, ShowsAnyMessageAtAnySize) {
   const std::string messages[] = {"",
                                   "\n\n\n",

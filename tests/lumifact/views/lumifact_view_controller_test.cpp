@@ -271,6 +271,39 @@ TEST_F(TablePageTest, DataOfAnUnknownKindLeavesTitleAndDetailAsTheyAre) {
   EXPECT_EQ(NSString(title).utf8(), "title");
 }
 
+TEST_F(TablePageTest, ShowsAnyTextAndAnythingElse) {
+  const std::string controls("a\0b\x01\x1B\x7F", 6);
+  const std::string arabic = "\xD8\xB3\xD9\x84\xD8\xA7\xD9\x85 123";
+  show(Dictionary{{"", "no key"},
+                  {"a controls", controls},
+                  {"b empty", ""},
+                  {"c huge", std::string(10'000'000, 'x')},
+                  {"d broken bytes", model::Data{0xC3, 0x28, 0xFF}},
+                  {"e null", Value()},
+                  {"f " + arabic, arabic},
+                  {"g lines", "one\ntwo"},
+                  {"h override",
+                   "\xE2\x80\xAE"
+                   "reversed"}});
+  EXPECT_EQ(rows(), " = no key\na controls = " + controls +
+                        "\nb empty = \nc huge = " + std::string(10'000'000, 'x') +
+                        "\nd broken bytes = <c328ff>\ne null\nf " + arabic + " = " + arabic +
+                        "\ng lines = one\ntwo\nh override = \xE2\x80\xAE"
+                        "reversed\n");
+}
+
+TEST_F(TablePageTest, StandsOnAScreenOfAnySize) {
+  for (const CGSize size : {CGSize{1, 1}, CGSize{0, 0}, CGSize{5000, 10}}) {
+    show(photo);
+    stage().resize(size);
+    settle();
+    stage().resize({375, 667});
+    settle();
+    EXPECT_EQ(rows(), "{Exif} >\nDepth = 8\nProfile = sRGB\n") << size.width;
+    press(leftItems().at(0));
+  }
+}
+
 TEST_F(TablePageTest, LeavesNothingBehind) {
   const long before = bridge::liveBoundObjects();
   {
