@@ -15,6 +15,7 @@ struct GridContents {
   std::function<ItemListPointer()> list;  // as the library is now; null where there is none
   int columns = 4;                        // in an upright window 375 points wide
   double heightByWidth = 1;               // of a cell
+  bool hasLargeTitle = false;
   bool hasHeaders = false;
   bool allowsSelecting = true;
   bool startsAtEnd = false;  // the newest are seen first, and stay in sight when new ones come

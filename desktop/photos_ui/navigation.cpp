@@ -15,7 +15,6 @@
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/stage.h"
 #include "desktop/uikit/ui_navigation_controller.h"
-#include "desktop/uikit/ui_navigation_item.h"
 #include "desktop/uikit/ui_tab_bar_item.h"
 #include "desktop/uikit/ui_view.h"
 #include "desktop/uikit/ui_view_controller.h"
@@ -33,13 +32,6 @@ using uikit::handles::UITabBarController;
 namespace {
 
 enum Tab : NSUInteger { photosTab, albumsTab };
-
-// What the largest title of a bar is used for.
-void useLargeTitle(UIViewController controller, bool isLarge) {
-  using Item = uikit::UINavigationItem;
-  bridge::send<void, "setLargeTitleDisplayMode:">(controller.navigationItem(),
-                                                  NSInteger{isLarge ? Item::always : Item::never});
-}
 
 Owned<UINavigationController> makeTab(NSArray controllers, const char* title,
                                       uikit::UITabBarItem::SystemPicture picture) {
@@ -92,12 +84,6 @@ void popTo(UIViewController controller) {
   bridge::send<NSArray, "popToViewController:animated:">(navigation(), controller, false);
 }
 
-Owned<UIViewController> makeZoomLevel(photos::ZoomLevel level) {
-  auto made = PUZoomableGridViewController::make(level);
-  useLargeTitle(made, true);
-  return made;
-}
-
 void showTab(Tab tab) {
   dismissAll();
   tabs().setSelectedIndex(tab);
@@ -117,7 +103,7 @@ void pushLevelsTo(photos::ZoomLevel level) {
   const UIViewController shown = top();
   for (const auto each : zoomLevels)
     if (isLevel(shown) && each < levelOf(shown) && each >= level)
-      navigation().push(makeZoomLevel(each), UIViewController::immediately);
+      navigation().push(PUZoomableGridViewController::make(each), UIViewController::immediately);
 }
 
 // The grid whose items are meant: on show, below a single photo, or of the moments.
@@ -159,10 +145,9 @@ model::Result<PUPhotosGridViewController*> gridWithItem(long index) {
 
 Owned<UIViewController> makeRootController() {
   const auto levels = bridge::makeNew<bridge::NSMutableArray>();
-  for (const auto level : zoomLevels) levels->add(makeZoomLevel(level).get());
+  for (const auto level : zoomLevels) levels->add(PUZoomableGridViewController::make(level).get());
   const auto photosController = makeTab(levels, "Photos", uikit::UITabBarItem::photos);
   const auto list = PUAlbumListViewController::make();
-  useLargeTitle(list, true);
   const auto albumsController =
       makeTab(NSArray::of(list.get()), "Albums", uikit::UITabBarItem::albums);
   const auto made = bridge::makeNew<UITabBarController>();

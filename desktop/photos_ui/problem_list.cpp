@@ -2,6 +2,7 @@
 #include "desktop/photos_ui/problem_list.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/photos_ui/large_title.h"
 #include "desktop/photos_ui/photos_host.h"
 #include "desktop/uikit/ui_table_view_cell.h"
 #include "model/utf8.h"
@@ -38,6 +39,7 @@ bridge::Owned<bridge::UIViewController> ProblemList::make() {
   auto made = bridge::Owned<bridge::UIViewController>::adopt(
       bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(classObject())));
   bridge::send<void, "setTitle:">(made.get(), NSString::make("Not Shown"));
+  useLargeTitle(made, false);
   return made;
 }
 

@@ -3,6 +3,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/album_cell.h"
+#include "desktop/photos_ui/large_title.h"
 #include "desktop/photos_ui/photos_host.h"
 #include "desktop/photos_ui/problem_list.h"
 #include "desktop/photos_ui/pu_photos_album_view_controller.h"
@@ -42,6 +43,7 @@ bridge::Owned<bridge::UIViewController> PUAlbumListViewController::make() {
   auto made = bridge::Owned<bridge::UIViewController>::adopt(
       bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(classObject())));
   bridge::send<void, "setTitle:">(made.get(), NSString::make("Albums"));
+  useLargeTitle(made, true);
   return made;
 }
 

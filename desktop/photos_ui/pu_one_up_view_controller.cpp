@@ -6,6 +6,7 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_runtime/ph_asset.h"
 #include "desktop/photos_runtime/pu_asset_reference.h"
+#include "desktop/photos_ui/large_title.h"
 #include "desktop/photos_ui/photos_host.h"
 #include "desktop/photos_ui/pu_one_up_bars_controller.h"
 #include "desktop/photos_ui/pu_one_up_photo_view.h"
@@ -66,6 +67,7 @@ bridge::Owned<bridge::UIViewController> PUOneUpViewController::make(ItemListPoin
   if (presentation == Presentation::preview)
     send<void, "setModalPresentationStyle:">(made.get(), overFullScreen);
   send<void, "setHidesBottomBarWhenPushed:">(made.get(), true);
+  useLargeTitle(made.get(), false);
   return made;
 }
 

@@ -10,6 +10,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/grid_titles.h"
+#include "desktop/photos_ui/large_title.h"
 #include "desktop/photos_ui/message_view.h"
 #include "desktop/photos_ui/one_up.h"
 #include "desktop/photos_ui/pu_photos_grid_cell.h"
@@ -63,6 +64,7 @@ bridge::Owned<bridge::UIViewController> PUPhotosGridViewController::make(Class a
   grid._contents = std::move(contents);
   grid._staysAtEnd = grid._contents.startsAtEnd;
   bridge::send<void, "setTitle:">(made.get(), NSString::make(grid._contents.title));
+  useLargeTitle(made, grid._contents.hasLargeTitle);
   return made;
 }
 
@@ -121,7 +123,7 @@ bridge::Owned<bridge::UICollectionView> PUPhotosGridViewController::makeCollecti
 
 void PUPhotosGridViewController::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
-  if (_isStale) refresh();
+  load();
 }
 
 // Another width is another grid: what was at the top stays there.

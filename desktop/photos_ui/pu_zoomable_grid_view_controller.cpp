@@ -48,6 +48,7 @@ bridge::Owned<bridge::UIViewController> PUZoomableGridViewController::make(ZoomL
       {.title = description.title,
        .list = [level] { return host().library ? listOfLibrary(*host().library, level) : nullptr; },
        .columns = description.columns,
+       .hasLargeTitle = true,
        .hasHeaders = true,
        .allowsSelecting = level == ZoomLevel::moments,
        .startsAtEnd = true});

@@ -108,7 +108,8 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   bridge::UIView dequeueCell(bridge::NSString identifier, bridge::NSIndexPath path);
   bridge::UIView dequeueSupplementary(bridge::NSString kind, bridge::NSString identifier,
                                       bridge::NSIndexPath path);
-  bridge::UIView dequeue(const std::string& key, bridge::NSString identifier, Class fallback);
+  bridge::UIView dequeue(const std::string& key, bridge::NSString identifier, Class fallback,
+                         CGRect frame);
   bridge::NSArray visibleCells() const;
   bridge::NSArray visibleItems() const;
   bridge::NSArray visibleViews(const std::string& kind) const;

@@ -21,9 +21,9 @@ std::string supplementaryKey(bridge::NSString kind, bridge::NSString identifier)
 }
 
 bridge::Owned<bridge::UIView> makeReusable(Class aClass, bridge::NSString identifier,
-                                           const std::string& key) {
+                                           const std::string& key, CGRect frame) {
   const auto made = bridge::Owned<bridge::Object>::adopt(
-      bridge::send<bridge::Object, "initWithFrame:">(bridge::send<id, "alloc">(aClass), CGRect{}));
+      bridge::send<bridge::Object, "initWithFrame:">(bridge::send<id, "alloc">(aClass), frame));
   const auto view = bridge::as<handles::UICollectionReusableView>(made.get());
   if (view) UICollectionReusableView::of(view).setIdentity(identifier, key);
   return bridge::Owned<bridge::UIView>::retain(view);
@@ -135,7 +135,7 @@ bridge::Owned<bridge::UIView> UICollectionView::viewFromSource(const Element& el
       asked<bridge::Object, "collectionView:cellForItemAtIndexPath:">(_dataSource, self(), path);
   const auto cell = bridge::as<handles::UICollectionViewCell>(answer.value_or(bridge::Object()));
   if (cell) return bridge::Owned<bridge::UIView>::retain(cell);
-  return makeReusable(UICollectionViewCell::classObject(), {}, {});
+  return makeReusable(UICollectionViewCell::classObject(), {}, {}, {});
 }
 
 void UICollectionView::recycle(const Element& element, bridge::UIView view) {
@@ -161,26 +161,30 @@ void UICollectionView::registerSupplementaryClass(Class aClass, bridge::NSString
   _pool.registerClass(supplementaryKey(kind, identifier), aClass);
 }
 
-bridge::UIView UICollectionView::dequeueCell(bridge::NSString identifier, bridge::NSIndexPath) {
-  return dequeue(identifier.utf8(), identifier, UICollectionViewCell::classObject());
+// A new cell is made where it will stand: there are classes that arrange themselves only once.
+bridge::UIView UICollectionView::dequeueCell(bridge::NSString identifier,
+                                             bridge::NSIndexPath path) {
+  return dequeue(identifier.utf8(), identifier, UICollectionViewCell::classObject(),
+                 attributesForItem(path).frame());
 }
 
 bridge::UIView UICollectionView::dequeueSupplementary(bridge::NSString kind,
                                                       bridge::NSString identifier,
-                                                      bridge::NSIndexPath) {
+                                                      bridge::NSIndexPath path) {
   return dequeue(supplementaryKey(kind, identifier), identifier,
-                 UICollectionReusableView::classObject());
+                 UICollectionReusableView::classObject(),
+                 attributesForSupplementary(kind, path).frame());
 }
 
 // Where no class is registered, what comes is of the class that all of them are below.
 bridge::UIView UICollectionView::dequeue(const std::string& key, bridge::NSString identifier,
-                                         Class fallback) {
+                                         Class fallback, CGRect frame) {
   if (auto waiting = _pool.take(key)) {
     handles::UICollectionReusableView(waiting.get().get()).prepareForReuse();
     return waiting.autorelease();
   }
   const Class registered = _pool.classFor(key);
-  return makeReusable(registered ? registered : fallback, identifier, key).autorelease();
+  return makeReusable(registered ? registered : fallback, identifier, key, frame).autorelease();
 }
 
 handles::UICollectionViewCell UICollectionView::cellForItem(bridge::NSIndexPath path) const {

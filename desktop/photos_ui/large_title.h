@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+//
+// Which screens have their title in large letters below the bar.
+#pragma once
+
+#include "bridge/uikit.h"
+
+namespace desktop::photos_ui {
+
+void useLargeTitle(bridge::UIViewController controller, bool isLarge);
+
+}  // namespace desktop::photos_ui
