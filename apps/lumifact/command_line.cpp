@@ -112,6 +112,10 @@ void addParseOptions(CLI::App& command, Options& options) {
   addText(command, "--plist", options.propertyList);
 }
 
+void addBrowseOptions(CLI::App& command, Options& options) {
+  addWords(command, options.words);
+}
+
 void addSettingsOptions(CLI::App& command, Options& options) {
   addWords(command, options.words);
   command.add_flag("--unset", options.unset);
@@ -139,6 +143,10 @@ std::string checkParse(Options& options) {
   }
   options.parseKind = options.words[0] == "image" ? ParseKind::image : ParseKind::video;
   return {};
+}
+
+std::string checkBrowse(Options& options) {
+  return options.words.size() > 1 ? "takes one FOLDER" : "";
 }
 
 std::string checkSettings(Options& options) {
@@ -184,6 +192,7 @@ constexpr CommandRow rows[] = {
     {"size", addFiles, checkFiles, runSize},
     {"map-link", addMapLinkOptions, checkMapLink, runMapLink},
     {"parse", addParseOptions, checkParse, runParse},
+    {"browse", addBrowseOptions, checkBrowse, runBrowse},
     {"settings", addSettingsOptions, checkSettings, runSettings},
 };
 

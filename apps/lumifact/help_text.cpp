@@ -19,6 +19,7 @@ Commands:
   map-link     the link that opens a file's place in a map service
   properties   the metadata as it was read, as JSON
   parse        reports of metadata given as JSON or as a property list
+  browse       open a folder in the photo application, with the extension
   settings     show or change the settings
 
 'lumifact COMMAND --help' tells more about a command.
@@ -171,6 +172,11 @@ Options:
 
 Example:
   echo '{"PixelWidth": 4032, "Orientation": 6}' | lumifact parse image
+)"},
+    {"browse", Sections::general, R"(Usage: lumifact browse [OPTIONS] [FOLDER]
+
+Opens the folder, or the pictures folder, in the photo application, with the
+extension loaded: open a photo and press the info button, or I, for its report.
 )"},
     {"settings", Sections::settingsAndGeneral, R"(Usage: lumifact settings
        lumifact settings get KEY

@@ -41,7 +41,7 @@ struct Options {
   std::optional<model::Location> location;       // map-link
   ParseKind parseKind = ParseKind::image;        // parse
   std::optional<std::string> propertyList;       // parse
-  std::vector<std::string> words;                // parse and settings, as they stand
+  std::vector<std::string> words;                // parse, browse and settings, as they stand
   bool unset = false;                            // settings
   SettingsAction action = SettingsAction::list;  // settings
   std::string key;                               // settings

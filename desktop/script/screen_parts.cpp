@@ -4,6 +4,7 @@
 #include "desktop/script/node_parts.h"
 #include "desktop/script/tree_dump.h"
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_bar_button_item.h"
 #include "desktop/uikit/ui_color.h"
 #include "desktop/uikit/ui_menu_controller.h"
 
@@ -47,8 +48,8 @@ Json barItem(bridge::Object item) {
                {"title", textOrNull(send<bridge::NSString, "title">(item))},
                {"width", send<CGFloat, "width">(item)},
                {"tag", send<NSInteger, "tag">(item)}};
-  const NSInteger system = send<NSInteger, "systemItem">(item);
-  json["systemItem"] = system < 0 ? Json() : Json(system);
+  const auto system = uikit::UIBarButtonItem::of(item).systemItem();
+  json["systemItem"] = system ? Json(*system) : Json();
   if (const auto view = send<bridge::UIView, "customView">(item)) json["view"] = dumpView(view);
   return json;
 }

@@ -17,6 +17,7 @@ void runCaption(const Options& options, Console& console);
 void runSize(const Options& options, Console& console);
 void runMapLink(const Options& options, Console& console);
 void runParse(const Options& options, Console& console);
+void runBrowse(const Options& options, Console& console);
 void runSettings(const Options& options, Console& console);
 
 }  // namespace lumifact::tool

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/environment.h"
+
+namespace lumifact::tool {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// How many folders above the tool's the root of its tree is looked for: an installed tool lies in
+// "bin", one of the build tree deeper.
+constexpr int longestWayUp = 4;
+
+// The first of the places that exists, below a folder at or above the tool's own; empty where
+// there is none.
+std::string findAbove(std::initializer_list<const char*> places) {
+  std::error_code error;
+  fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
+  for (int step = 0; step <= longestWayUp && !folder.empty(); ++step) {
+    for (const char* place : places)
+      if (fs::exists(folder / place, error)) return folder / place;
+    if (!folder.has_relative_path()) break;
+    folder = folder.parent_path();
+  }
+  return {};
+}
+
+std::string photoApplication() {
+  return findAbove({"photohost", "bin/photohost", "apps/photohost/photohost"});
+}
+
+std::string extensionFolder() {
+  return findAbove({"extensions/lumifact.so", LUMIFACT_EXTENSION_DIR "/lumifact.so"});
+}
+
+std::vector<std::string> argumentsOf(const Options& options, const std::string& application) {
+  std::vector<std::string> arguments = {
+      application, "--extensions", fs::path(extensionFolder()).parent_path(), "--root",
+      rootOf(options).folder()};
+  if (!options.words.empty())
+    arguments.insert(arguments.end(), {"--library", options.words.front()});
+  return arguments;
+}
+
+// The application follows the same customs as the tool would.
+void exportCustoms(const Options& options) {
+  if (options.locale) ::setenv("LC_ALL", options.locale->c_str(), 1);
+  if (options.timeZone) ::setenv("TZ", options.timeZone->c_str(), 1);
+}
+
+}  // namespace
+
+// The tool becomes the application, and comes back only where that fails.
+void runBrowse(const Options& options, Console& console) {
+  const std::string application = photoApplication();
+  if (application.empty()) return console.fail("photohost", "the photo application is missing");
+  if (extensionFolder().empty()) return console.fail("lumifact.so", "the extension is missing");
+  exportCustoms(options);
+  std::vector<std::string> arguments = argumentsOf(options, application);
+  std::vector<char*> pointers;
+  for (std::string& argument : arguments) pointers.push_back(argument.data());
+  pointers.push_back(nullptr);
+  console.flush();
+  ::execv(application.c_str(), pointers.data());
+  console.fail(application, std::generic_category().message(errno));
+}
+
+}  // namespace lumifact::tool

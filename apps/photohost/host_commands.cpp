@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "apps/photohost/host_commands.h"
+
+#include <cmath>
+
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/uikit/stage.h"
+
+namespace photohost {
+namespace {
+
+using namespace desktop;
+using script::ScriptRunner;
+using script::Word;
+using uikit::stage;
+using Arguments = ScriptRunner::Arguments;
+using Outcome = ScriptRunner::Outcome;
+
+model::Result<long> itemNumber(const Word& word) {
+  const auto number = script::numberOf(word);
+  if (!number) return number.error();
+  if (*number < 0 || *number != std::floor(*number) || *number > 1e9)
+    return model::Error{"'" + word.text + "' is not the number of an item"};
+  return static_cast<long>(*number);
+}
+
+// The number in "item N".
+model::Result<long> itemOf(Arguments words) {
+  if (words.size() != 2 || words[0].text != "item") return model::Error{"an item is 'item N'"};
+  return itemNumber(words[1]);
+}
+
+Outcome settled(Outcome outcome) {
+  if (!outcome) script::settle();
+  return outcome;
+}
+
+Outcome open(Arguments words) {
+  script::settle();
+  if (words.size() == 1 && words[0].text == "photos") return settled(photos_ui::openPhotos());
+  if (words.size() == 1 && words[0].text == "albums") return settled(photos_ui::openAlbums());
+  if (words.size() == 2 && words[0].text == "album")
+    return settled(photos_ui::openAlbum(words[1].text));
+  const auto item = itemOf(words);
+  if (item) return settled(photos_ui::openItem(*item));
+  return model::Error{"open takes photos, albums, album NAME or item N"};
+}
+
+Outcome peek(Arguments words) {
+  script::settle();
+  const auto item = itemOf(words);
+  return item ? settled(photos_ui::peekItem(*item)) : item.error();
+}
+
+Outcome zoomLevel(Arguments words) {
+  script::settle();
+  if (words.size() != 1) return model::Error{"zoom-level takes a name"};
+  return settled(photos_ui::setZoomLevel(words[0].text));
+}
+
+Outcome back(Arguments) {
+  script::settle();
+  return settled(photos_ui::goBack());
+}
+
+Outcome select(Arguments words) {
+  script::settle();
+  const auto item = itemOf(words);
+  return item ? photos_ui::selectItem(*item) : item.error();
+}
+
+// A finger that swipes over cells to select them.
+CGPoint swipeAt;
+
+Outcome swipeBegin(Arguments words) {
+  if (words.size() != 1) return model::Error{"a swipe begins at the number of an item"};
+  const auto item = itemNumber(words[0]);
+  if (!item) return item.error();
+  const auto place = photos_ui::placeOfItem(*item);
+  if (!place) return place.error();
+  swipeAt = *place;
+  stage().touches.down(swipeAt);
+  // Far enough sideways for a swipe, not for another item.
+  constexpr CGFloat slop = 12;
+  swipeAt.x += slop;
+  stage().touches.move(swipeAt);
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome swipeMove(Arguments words) {
+  if (words.size() != 1) return model::Error{"a swipe moves to the number of an item"};
+  const auto item = itemNumber(words[0]);
+  if (!item) return item.error();
+  const auto place = photos_ui::placeOfItem(*item);
+  if (!place) return place.error();
+  swipeAt = *place;
+  stage().touches.move(swipeAt);
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome swipeEnd(Arguments) {
+  stage().touches.up(swipeAt);
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome swipeCancel(Arguments) {
+  stage().touches.cancel();
+  stage().advance(0);
+  return std::nullopt;
+}
+
+Outcome swipeSelect(Arguments words) {
+  script::settle();
+  if (words.size() != 2) return model::Error{"swipe-select takes the numbers of two items"};
+  if (auto failed = swipeBegin(words.first(1))) return failed;
+  auto failed = swipeMove(words.last(1));
+  swipeEnd({});
+  return failed;
+}
+
+// "tap item N" as the tap at the item's place.
+void addItemTarget(ScriptRunner& runner, const std::string& name) {
+  const ScriptRunner::Command touch = runner.command(name);
+  runner.add(name, [touch](Arguments words) -> Outcome {
+    const auto item = itemOf(words);
+    if (!item) return touch(words);
+    script::settle();
+    const auto place = photos_ui::placeOfItem(*item);
+    if (!place) return place.error();
+    const Word point[] = {{std::to_string(place->x), false}, {std::to_string(place->y), false}};
+    return touch(point);
+  });
+}
+
+}  // namespace
+
+void addHostCommands(ScriptRunner& runner) {
+  runner.add("open", open);
+  runner.add("peek", peek);
+  runner.add("zoom-level", zoomLevel);
+  runner.add("back", back);
+  runner.add("select", select);
+  runner.add("swipe-select", swipeSelect);
+  runner.add("swipe-begin", swipeBegin);
+  runner.add("swipe-move", swipeMove);
+  runner.add("swipe-end", swipeEnd);
+  runner.add("swipe-cancel", swipeCancel);
+  addItemTarget(runner, "tap");
+  addItemTarget(runner, "long-press");
+}
+
+}  // namespace photohost

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "apps/photohost/keys.h"
+
+#include "bridge/uikit.h"
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/one_up.h"
+#include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_button.h"
+#include "desktop/uikit/ui_responder.h"
+#include "desktop/uikit/ui_view.h"
+
+namespace photohost {
+namespace {
+
+using namespace desktop;
+using photos_ui::OneUpAction;
+
+struct OneUpKey {
+  int key;
+  Qt::KeyboardModifiers modifiers;
+  OneUpAction action;
+};
+constexpr OneUpKey oneUpKeys[] = {
+    {Qt::Key_Right, Qt::NoModifier, OneUpAction::next},
+    {Qt::Key_Left, Qt::NoModifier, OneUpAction::previous},
+    {Qt::Key_Home, Qt::NoModifier, OneUpAction::first},
+    {Qt::Key_End, Qt::NoModifier, OneUpAction::last},
+    {Qt::Key_Plus, Qt::NoModifier, OneUpAction::zoomIn},
+    {Qt::Key_Equal, Qt::NoModifier, OneUpAction::zoomIn},
+    {Qt::Key_Plus, Qt::ControlModifier, OneUpAction::zoomIn},
+    {Qt::Key_Equal, Qt::ControlModifier, OneUpAction::zoomIn},
+    {Qt::Key_Minus, Qt::NoModifier, OneUpAction::zoomOut},
+    {Qt::Key_Minus, Qt::ControlModifier, OneUpAction::zoomOut},
+    {Qt::Key_0, Qt::ControlModifier, OneUpAction::fit},
+    {Qt::Key_1, Qt::ControlModifier, OneUpAction::actualSize},
+    {Qt::Key_Space, Qt::NoModifier, OneUpAction::play},
+};
+
+constexpr Qt::KeyboardModifiers meaningful =
+    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+bool is(const QKeyEvent& event, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  return event.key() == key && (event.modifiers() & meaningful) == modifiers;
+}
+
+// Lists, grids and texts scroll by what the keys say, in points.
+bool scrollScreen(CGFloat distance) {
+  const CGSize screen = uikit::stage().screenSize;
+  uikit::stage().touches.scroll({screen.width / 2, screen.height / 2}, {0, distance});
+  return true;
+}
+
+bool scrollByKey(const QKeyEvent& event) {
+  constexpr CGFloat line = 60;
+  constexpr CGFloat everything = 1e9;
+  const CGFloat page = uikit::stage().screenSize.height * 0.8;
+  switch (event.key()) {
+    case Qt::Key_Down:
+      return scrollScreen(line);
+    case Qt::Key_Up:
+      return scrollScreen(-line);
+    case Qt::Key_PageDown:
+      return scrollScreen(page);
+    case Qt::Key_PageUp:
+      return scrollScreen(-page);
+    case Qt::Key_Home:
+      return scrollScreen(-everything);
+    case Qt::Key_End:
+      return scrollScreen(everything);
+    default:
+      return false;
+  }
+}
+
+bool toggleFullScreen(QWindow& window) {
+  const bool isFull = window.visibility() == QWindow::FullScreen;
+  isFull ? window.showNormal() : window.showFullScreen();
+  return true;
+}
+
+bool leaveFullScreenOrGoBack(QWindow& window) {
+  if (window.visibility() == QWindow::FullScreen) return toggleFullScreen(window);
+  return !photos_ui::goBack();
+}
+
+bool copySelection() {
+  const bridge::UIResponder responder = uikit::UIResponder::firstResponder();
+  if (!bridge::respondsTo<"copy:">(responder)) return false;
+  bridge::send<void, "copy:">(responder, bridge::Object());
+  return true;
+}
+
+bool isInfoButton(bridge::UIView view) {
+  if (!bridge::isKindOf(view, uikit::UIButton::classObject())) return false;
+  const auto type = uikit::UIButton::of(view).type();
+  return type >= uikit::UIButton::detailDisclosure && type <= uikit::UIButton::infoDark &&
+         bridge::send<bool, "isEnabled">(view);
+}
+
+// Presses the first such button below a view that can be seen; whether there was one.
+bool pressInfoButtonIn(bridge::UIView view) {
+  const uikit::UIView& state = uikit::UIView::of(view);
+  if (state.isHidden()) return false;
+  if (isInfoButton(view)) {
+    bridge::send<void, "sendActionsForControlEvents:">(view, NSUInteger{bridge::touchUpInside});
+    return true;
+  }
+  const auto children = state.subviews();
+  for (const auto& child : children)
+    if (pressInfoButtonIn(child.get())) return true;
+  return false;
+}
+
+bridge::UIView navigationBarOnShow() {
+  const auto navigation = bridge::send<bridge::UINavigationController, "navigationController">(
+      photos_ui::oneUpOnShow());
+  return navigation.navigationBar();
+}
+
+}  // namespace
+
+bool pressInfoButton() {
+  const bridge::UIView bar = navigationBarOnShow();
+  return bar && pressInfoButtonIn(bar);
+}
+
+bool pressKey(const QKeyEvent& event, QWindow& window) {
+  if (is(event, Qt::Key_F11)) return toggleFullScreen(window);
+  if (is(event, Qt::Key_Escape)) return leaveFullScreenOrGoBack(window);
+  if (is(event, Qt::Key_C, Qt::ControlModifier)) return copySelection();
+  if (is(event, Qt::Key_Q, Qt::ControlModifier)) return window.close();
+  if (is(event, Qt::Key_I) || is(event, Qt::Key_Return, Qt::AltModifier) ||
+      is(event, Qt::Key_Enter, Qt::AltModifier))
+    return pressInfoButton();
+  for (const OneUpKey& row : oneUpKeys)
+    if (is(event, row.key, row.modifiers) &&
+        photos_ui::performOneUpAction(photos_ui::oneUpOnShow(), row.action))
+      return true;
+  return scrollByKey(event);
+}
+
+}  // namespace photohost

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+//
+// The desktop photo application: shows a folder of photos and videos, in a window or, without a
+// display, as a script says.
+#include <csignal>
+#include <iostream>
+#include <string_view>
+
+#include "apps/photohost/options.h"
+#include "apps/photohost/photo_application.h"
+#include "desktop/pictures/serve_decoder.h"
+
+namespace {
+
+constexpr int usageStatus = 2;
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  std::signal(SIGPIPE, SIG_IGN);
+  if (count > 1 && std::string_view(arguments[1]) == photohost::decoderArgument)
+    return desktop::pictures::serveDecoder(desktop::pictures::decoderSocket);
+  const photohost::CommandLine line =
+      photohost::readCommandLine({arguments + 1, arguments + count});
+  if (!line.usageError.empty()) {
+    std::cerr << "photohost: " << line.usageError << "\nTry 'photohost --help'.\n";
+    return usageStatus;
+  }
+  std::cout << line.text;
+  if (!line.text.empty()) return 0;
+  return photohost::PhotoApplication(count, arguments, line.options).run();
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "apps/photohost/main_loop.h"
+
+#include "apps/photohost/keys.h"
+
+namespace photohost {
+
+MainLoop::MainLoop(std::function<void()> turn) {
+  _window.setTitle("Photos");
+  _window.turn = std::move(turn);
+  _window.keyPressed = [this](const QKeyEvent& event) { return pressKey(event, _window); };
+}
+
+void MainLoop::watch(int descriptor) {
+  if (descriptor < 0) return;
+  _notifiers.push_back(std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read));
+  QObject::connect(_notifiers.back().get(), &QSocketNotifier::activated, &_window,
+                   [this] { _window.wake(); });
+}
+
+int MainLoop::run(QGuiApplication& application) {
+  _window.show();
+  return application.exec();
+}
+
+}  // namespace photohost

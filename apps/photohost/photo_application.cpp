@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "apps/photohost/photo_application.h"
+
+#include <iostream>
+
+#include "apps/photohost/host_commands.h"
+#include "apps/photohost/main_loop.h"
+#include "apps/photohost/outside.h"
+#include "bridge/foundation.h"
+#include "desktop/foundation_runtime/foundation_runtime.h"
+#include "desktop/loader/extension_loader.h"
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/photos_host.h"
+#include "desktop/runtime/darwin_notifications.h"
+#include "desktop/runtime/debug_log.h"
+#include "desktop/runtime/notification_core.h"
+#include "desktop/script/script_runner.h"
+#include "desktop/script/system_commands.h"
+#include "desktop/uikit/geometry.h"
+#include "desktop/uikit/handles.h"
+#include "desktop/uikit/stage.h"
+#include "desktop/uikit/uikit.h"
+
+namespace photohost {
+namespace {
+
+using namespace desktop;
+using uikit::stage;
+
+constexpr std::chrono::seconds longestWait{10};  // for pictures, in scripts
+
+foundation::DeviceRoot rootOf(const Options& options) {
+  return options.root.empty() ? foundation::DeviceRoot::ofUser()
+                              : foundation::DeviceRoot(options.root);
+}
+
+render::Display displayOf(const Options& options) {
+  return options.isHeadless ? render::Display::none : render::Display::real;
+}
+
+void complain(const std::string& text) {
+  std::cerr << "photohost: " << text << "\n";
+}
+
+}  // namespace
+
+// Foundation is corrected and the platform's classes are there before anything is made of them;
+// extensions come last, when all that they may hook is in place.
+PhotoApplication::PhotoApplication(int& argumentCount, char** arguments, const Options& options)
+    : _options(options),
+      _root(rootOf(options)),
+      _renderer(argumentCount, arguments, displayOf(options)),
+      _pictures({.command = {"/proc/self/exe", decoderArgument}}) {
+  foundation::correctFoundation({.root = _root, .bundleIdentifier = options.bundleIdentifier});
+  runtime::openDarwinNotifications(runtime::notificationFolder(_root.folder()));
+  runtime::setDebugLogSink(
+      [](const runtime::DebugLogLine& line) { stage().log.push_back(line.message()); });
+  uikit::registerUIKit();
+  photos_ui::registerPhotosUI();
+  stage().screenSize = options.size;
+  stage().scale = options.scale;
+  loadExtensions();
+  openLibrary();
+}
+
+PhotoApplication::~PhotoApplication() {
+  uikit::resetStage();
+  photos_ui::host() = {};
+}
+
+void PhotoApplication::loadExtensions() {
+  if (_options.extensions.empty()) return;
+  loader::loadExtensions(
+      _options.extensions, _options.bundleIdentifier,
+      [](const std::string& path, const std::string& reason) { complain(path + ": " + reason); });
+}
+
+void PhotoApplication::openLibrary() {
+  const std::string folder = _options.library.empty() ? userPictureFolder() : _options.library;
+  auto library = photos::PhotoLibrary::open(folder, _root);
+  if (library) {
+    _library = *std::move(library);
+    _library->onChange(
+        [](const photos::LibraryChange& change) { photos_ui::libraryChanged(change); });
+  } else {
+    photos_ui::host().libraryProblem = folder + ": " + library.error().reason;
+    complain(photos_ui::host().libraryProblem);
+  }
+  photos_ui::host().library = _library.get();
+  photos_ui::host().pictures = &_pictures;
+}
+
+void PhotoApplication::showWindow() {
+  const bridge::AutoreleasePool pool;
+  const auto window =
+      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(stage().screenSize));
+  window->setRootViewController(photos_ui::makeRootController().get());
+  window->makeKeyAndVisible();
+}
+
+void PhotoApplication::deliver() {
+  if (_library) _library->deliverChanges();
+  _pictures.deliverFinished();
+  runtime::deliverDarwinNotifications();
+}
+
+void PhotoApplication::deliverAll() {
+  if (_library) _library->waitAndDeliver();
+  runtime::deliverDarwinNotifications();
+  stage().prepareFrame();
+  _pictures.waitUntilIdle(longestWait);
+  stage().prepareFrame();
+}
+
+int PhotoApplication::run() {
+  showWindow();
+  return _options.isHeadless ? runScript() : runWindow();
+}
+
+int PhotoApplication::runScript() {
+  stage().outside = recordingOutside();
+  script::ScriptRunner runner;
+  script::addTouchCommands(runner);
+  script::addScreenCommands(runner);
+  script::addSystemCommands(runner, _root);
+  addHostCommands(runner);
+  runner.turn = [this] { deliverAll(); };
+  if (_options.script.empty()) return 0;
+  const auto failed = runner.runFile(_options.script);
+  if (failed) complain(failed->reason);
+  return failed ? 1 : 0;
+}
+
+int PhotoApplication::runWindow() {
+  stage().outside = desktopOutside();
+  MainLoop loop([this] { deliver(); });
+  loop.watch(_pictures.wakeDescriptor());
+  if (_library) loop.watch(_library->wakeDescriptor());
+  loop.watch(runtime::darwinNotificationDescriptor());
+  return loop.run(_renderer.application());
+}
+
+}  // namespace photohost
