@@ -74,9 +74,9 @@ void UIAlertController::viewWillAppear(bool animated) {
     return UIAlertAction::of(action.get()).style() == UIAlertAction::cancel;
   };
   if (shown.size() == 2)
-    std::ranges::stable_partition(shown, isCancel);
+    std::stable_partition(shown.begin(), shown.end(), isCancel);
   else
-    std::ranges::stable_partition(shown, std::not_fn(isCancel));
+    std::stable_partition(shown.begin(), shown.end(), std::not_fn(isCancel));
   AlertView::of(self().view().get())
       .show(
           {.title = title(),

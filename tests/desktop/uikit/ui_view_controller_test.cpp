@@ -233,6 +233,44 @@ TEST_F(UIViewControllerTest, AViewsCommandsGoOnToItsControllerAndItsPresenter) {
   EXPECT_EQ(next(b.get()), a.get());
 }
 
+TEST_F(UIViewControllerTest, AScreenOfAStackDismissesWhatItShowsAndThenTheStack) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  const auto stack = bridge::UINavigationController::withRoot(b);
+  a->present(stack, atOnce, {});
+  const auto alert = bridge::UIAlertController::make(bridge::NSString::make("Title"), {},
+                                                     bridge::UIAlertController::alert);
+  b->present(alert, atOnce, {});
+  EXPECT_EQ(presentedBy(b), alert);
+  EXPECT_EQ((bridge::send<bridge::UIViewController, "presentingViewController">(b.get())), a.get());
+  b->dismiss(animated, {});
+  wait(0.5);
+  EXPECT_FALSE(presentedBy(b));
+  EXPECT_EQ(presentedBy(a), stack.get());
+  b->dismiss(animated, {});
+  wait(0.5);
+  EXPECT_FALSE(presentedBy(a));
+  EXPECT_TRUE(UIView::of(a->view().get()).window());
+}
+
+TEST_F(UIViewControllerTest, ADoneButtonOnTheBarDismisses) {
+  const auto a = showRoot(ProbeController::make("A"));
+  const auto b = ProbeController::make("B");
+  ProbeController::of(b.get()).onPress = [&b] { b->dismiss(animated, {}); };
+  const auto done = bridge::UIBarButtonItem::withTitle(bridge::NSString::make("Dismiss"),
+                                                       bridge::UIBarButtonItem::done, b.get(),
+                                                       bridge::selector<"press:">());
+  b->navigationItem().setLeftBarButtonItems(bridge::NSArray::of(done.get()));
+  a->present(bridge::UINavigationController::withRoot(b), animated, {});
+  wait(0.5);
+  takeCalls();
+  tap("Dismiss");
+  tap("Dismiss");
+  wait(0.5);
+  EXPECT_THAT(takeCalls(), ElementsAre("B pressed", "B willDisappear", "A willAppear",
+                                       "A didAppear", "B didDisappear"));
+}
+
 TEST_F(UIViewControllerTest, EveryScreenFillsAWindowThatTurns) {
   const auto a = showRoot(ProbeController::make("A"));
   const auto b = ProbeController::make("B");
