@@ -111,12 +111,15 @@ void UITabBarController::select(bridge::UIViewController controller) {
         .setSelectedItem(bridge::send<bridge::NSObject, "tabBarItem">(controller));
   if (before.get() == controller || !me.viewIfLoaded()) return;
   const bool isShown = me.appearance() == UIViewController::Appearance::shown;
+  const bool isComing = me.appearance() == UIViewController::Appearance::appearing;
+  const bool isSeen = isShown || isComing;
   UIMenuController::shared().hide();
   if (controller) controller.view();
-  if (isShown && before) UIViewController::of(before.get()).beginAppearance(false, false);
-  if (isShown && controller) UIViewController::of(controller.get()).beginAppearance(true, false);
+  if (isSeen && before) UIViewController::of(before.get()).beginAppearance(false, false);
+  if (isSeen && controller) UIViewController::of(controller.get()).beginAppearance(true, false);
   showSelected();
-  if (isShown && before) UIViewController::of(before.get()).endAppearance();
+  if (isSeen && before) UIViewController::of(before.get()).endAppearance();
+  // With all that is coming, the new one is told that it has come.
   if (isShown && controller) UIViewController::of(controller.get()).endAppearance();
 }
 
