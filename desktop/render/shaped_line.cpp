@@ -71,7 +71,7 @@ ShapedLine shaped(const uikit::FontFace& face, std::u16string_view line) {
   layout.beginLayout();
   const QTextLine only = layout.createLine();
   layout.endLayout();
-  made.width = only.naturalTextWidth() * face.size / designSize;
+  made.width = only.horizontalAdvance() * face.size / designSize;
   const double baseline = only.y() + only.ascent();
   for (const QGlyphRun& run : layout.glyphRuns())
     made.runs.append(scaled(run, face.size, baseline));

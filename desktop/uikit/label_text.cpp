@@ -37,6 +37,7 @@ std::u16string truncated(std::u16string_view line, const FontFace& face, double 
                          LineBreakMode mode) {
   constexpr double tolerance = 0.01;  // points
   const auto fits = [&](std::u16string_view text) {
+    while (text.ends_with(u' ')) text.remove_suffix(1);
     return textEngine().width(face, text) <= width + tolerance;
   };
   const bool isTooLong = line.size() > longestLine;
@@ -55,6 +56,7 @@ double sizeFitting(std::u16string_view line, const FontFace& face, double width,
   constexpr int tries = 4;  // letters do not shrink quite evenly
   FontFace shrunk = face;
   line = line.substr(0, longestLine);
+  while (line.ends_with(u' ')) line.remove_suffix(1);
   for (int attempt = 0; attempt < tries; ++attempt) {
     const double needed = textEngine().width(shrunk, line);
     if (!(needed > width)) return shrunk.size;

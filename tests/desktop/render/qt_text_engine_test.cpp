@@ -192,6 +192,18 @@ TEST_F(QtTextEngineTest, ACaretNeverStandsWithinAPair) {
   for (double x = 0; x < 60; x += 0.5) EXPECT_NE(engine->indexAt(system13, text, x), 2u) << x;
 }
 
+TEST_F(QtTextEngineTest, WhatReachesOverALettersAdvanceIsNotCounted) {
+  for (const double size : {13.0, 34.0})
+    for (char16_t letter = u'!'; letter <= u'~'; ++letter) {
+      const std::u16string text = {u'a', letter};
+      const FontFace face{.size = size};
+      const double width = engine->width(face, text);
+      EXPECT_NEAR(engine->positionOf(face, text, 2), width, 1e-6) << static_cast<char>(letter);
+      EXPECT_NEAR(engine->breakLines(face, text, {.width = 1000})[0].width, width, 1e-6)
+          << static_cast<char>(letter);
+    }
+}
+
 TEST_F(QtTextEngineTest, RightToLeftTextBeginsAtItsRight) {
   const std::u16string text = u"\u05E9\u05DC\u05D5\u05DD";
   EXPECT_NEAR(engine->positionOf(system13, text, 0), engine->width(system13, text), 0.01);

@@ -71,6 +71,13 @@ TEST_F(UILabelTest, TextThatIsTooLongIsCut) {
   EXPECT_EQ(texts(), Texts{u"a text that is too long"});
 }
 
+TEST_F(UILabelTest, BlanksAtTheEndNeedNoRoom) {
+  show(u"ten letter    ");
+  EXPECT_EQ(texts(), Texts{u"ten letter    "});
+  label->setAdjustsFontSizeToFitWidth(true);
+  EXPECT_EQ(line().face.size, 10);
+}
+
 TEST_F(UILabelTest, CuttingNeverSplitsACharacter) {
   show(u"\U0001F4F7\U0001F4F7\U0001F4F7\U0001F4F7\U0001F4F7\U0001F4F7\U0001F4F7");
   for (const LineBreakMode mode :
