@@ -4,12 +4,10 @@
 // hooks in place.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "bridge/photos.h"
-#include "tests/lumifact/details/fake_asset.h"
 
 namespace lumifact::host {
 

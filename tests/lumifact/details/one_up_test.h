@@ -6,7 +6,6 @@
 #include "lumifact/details/one_up_state.h"
 #include "lumifact/loader/current_settings.h"
 #include "tests/desktop/uikit/stage_test.h"
-#include "tests/lumifact/details/fake_media.h"
 #include "tests/lumifact/details/one_up_host.h"
 #include "tests/lumifact/views/foundation_test.h"
 
@@ -17,7 +16,6 @@ class OneUpTest : public desktop::uikit::StageTest {
   OneUpTest() {
     useThePhonesFoundation();
     host::installOneUpHost();
-    host::fakeMedia() = {};
     host::oneUpAnswers() = {};
     oneUpState() = {};
     settings = {};
@@ -34,9 +32,6 @@ class OneUpTest : public desktop::uikit::StageTest {
     window().setRootViewController(navigation);
     controller->view();
     desktop::uikit::stage().prepareFrame();
-  }
-  void show(const host::AssetFacts& facts) {
-    host::oneUpAnswers().asset = bridge::Owned<bridge::Object>::retain(host::makeAsset(facts));
   }
   bridge::NSArray rightItems() const { return controller->navigationItem().rightBarButtonItems(); }
 

@@ -5,6 +5,8 @@
 
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_view_controller.h"
+#include "tests/lumifact/details/fake_asset.h"
+#include "tests/lumifact/details/fake_media.h"
 #include "tests/lumifact/details/one_up_test.h"
 #include "tests/lumifact/views/shown_views.h"
 
@@ -35,11 +37,15 @@ const std::string header =
 class ViewDetailsTest : public OneUpTest {
  protected:
   ViewDetailsTest() {
+    fakeMedia() = {};
     openPhoto();
     host::makeTilingLayout();
     show(photo);
   }
 
+  static void show(const AssetFacts& facts) {
+    oneUpAnswers().asset = Owned<Object>::retain(host::makeAsset(facts));
+  }
   // Asked for by a bar button item.
   void ask() {
     const auto button = bridge::makeNew<bridge::UIBarButtonItem>();
