@@ -135,6 +135,7 @@ void UICollectionView::setBackgroundView(bridge::UIView view) {
 
 void UICollectionView::layoutBecameInvalid() {
   _isUnprepared = true;
+  ++_generation;
   UIView::of(self()).setNeedsLayout();
 }
 

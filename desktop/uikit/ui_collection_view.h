@@ -94,7 +94,6 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
 
   // Views come and go.
   void layoutSubviews();
-  bool isStale() const;
   void placeViews();
   static void place(bridge::UIView view, handles::UICollectionViewLayoutAttributes attributes);
   void show(const Element& element, handles::UICollectionViewLayoutAttributes attributes);
@@ -151,6 +150,7 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   bool _isUncounted = true;
   bool _isCounting = false;
   bool _isUnprepared = true;
+  unsigned long _generation = 0;  // of counts and layout: what is asked meanwhile may change both
   CGRect _preparedBounds;
   Views _views;
   ReusePool _pool;

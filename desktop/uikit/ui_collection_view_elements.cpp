@@ -56,13 +56,10 @@ void UICollectionView::layoutSubviews() {
   _pool.settle(self());
 }
 
-bool UICollectionView::isStale() const {
-  return _isUncounted || _isUnprepared;
-}
-
 // What is asked of data source and delegate on the way may change everything: the pass then ends,
 // and the next one begins anew.
 void UICollectionView::placeViews() {
+  const auto generation = _generation;
   const auto wanted = attributesIn(UIView::of(self()).bounds());
   std::vector<Element> leaving;
   for (const auto& [element, view] : _views)
@@ -70,7 +67,7 @@ void UICollectionView::placeViews() {
   for (const Element& element : leaving)
     if (const auto node = _views.extract(element)) recycle(element, node.mapped());
   for (const auto& [element, attributes] : wanted) {
-    if (isStale()) return;
+    if (_generation != generation) return;
     const auto shown = _views.find(element);
     if (shown == _views.end()) {
       show(element, attributes);
@@ -87,8 +84,9 @@ void UICollectionView::place(bridge::UIView view, Attributes attributes) {
 
 void UICollectionView::show(const Element& element, Attributes attributes) {
   const bridge::AutoreleasePool pool;
+  const auto generation = _generation;
   const auto view = viewFromSource(element);
-  if (!view || isStale()) return;
+  if (!view || _generation != generation) return;
   std::erase_if(_views, [&](const auto& shown) { return shown.second.get() == view.get(); });
   _views[element] = view;
   _pool.shown(view);

@@ -144,6 +144,7 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   TableGeometry _geometry;
   bool _isStale = true;  // counts and heights
   bool _isMeasuring = false;
+  unsigned long _generation = 0;  // of the measures: what is asked meanwhile may change them
   CGFloat _measuredWidth = 0;
   std::map<ItemPath, bridge::Owned<bridge::UITableViewCell>> _cells;
   Titles _headers;

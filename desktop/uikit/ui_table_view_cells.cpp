@@ -74,6 +74,7 @@ void UITableView::placeEdgeViews() {
 // What is asked of data source and delegate on the way may change everything: the pass then ends,
 // and the next one begins anew.
 void UITableView::placeCells() {
+  const auto generation = _generation;
   const std::vector<ItemPath> wanted = _geometry.rowsIn(inSight(UIView::of(self())));
   std::vector<ItemPath> leaving;
   for (const auto& [path, cell] : _cells)
@@ -81,7 +82,7 @@ void UITableView::placeCells() {
   for (const ItemPath path : leaving)
     if (const auto node = _cells.extract(path)) recycle(node.mapped(), path);
   for (const ItemPath path : wanted) {
-    if (_isStale) return;
+    if (_generation != generation) return;
     const auto shown = _cells.find(path);
     if (shown == _cells.end()) {
       showRow(path);
@@ -93,8 +94,9 @@ void UITableView::placeCells() {
 
 void UITableView::showRow(ItemPath path) {
   const bridge::AutoreleasePool pool;
+  const auto generation = _generation;
   const auto cell = cellFromSource(path);
-  if (_isStale) return;
+  if (_generation != generation) return;
   std::erase_if(_cells, [&](const auto& shown) { return shown.second.get() == cell.get(); });
   _cells[path] = cell;
   _pool.shown(cell);
@@ -174,7 +176,7 @@ void UITableView::styleCell(bridge::UITableViewCell cell, ItemPath path) const {
 }
 
 void UITableView::placeTitles() {
-  if (_isStale) return;
+  const auto generation = _generation;
   const auto [first, end] = _geometry.sectionsIn(inSight(UIView::of(self())));
   for (auto* titles : {&_headers, &_footers}) {
     std::erase_if(*titles, [first = first, end = end](const auto& title) {
@@ -183,7 +185,7 @@ void UITableView::placeTitles() {
       return isOut;
     });
   }
-  for (NSInteger section = first; section < end && !_isStale; ++section) {
+  for (NSInteger section = first; section < end && _generation == generation; ++section) {
     placeTitle(_headers, section, Place::header, headerBand(section));
     placeTitle(_footers, section, Place::footer, _geometry.footer(section));
   }
@@ -203,8 +205,9 @@ Band UITableView::headerBand(NSInteger section) const {
 void UITableView::placeTitle(Titles& titles, NSInteger section, Place place, Band band) {
   if (!(band.height > 0)) return;
   if (titles.find(section) == titles.end()) {
+    const auto generation = _generation;
     const bridge::UIView view = titleView(section, place);
-    if (!view || _isStale) return;
+    if (!view || _generation != generation) return;
     titles[section] = bridge::Owned<bridge::UIView>::retain(view);
     stage().animator.withoutAnimation([&] { view.setFrame(across(band)); });
     self().addSubview(view);

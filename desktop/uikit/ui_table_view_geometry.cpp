@@ -117,6 +117,7 @@ bridge::NSString UITableView::titleOf(NSInteger section, Place place) const {
 
 void UITableView::remeasure() {
   _isStale = true;
+  ++_generation;
   UIView::of(self()).setNeedsLayout();
 }
 

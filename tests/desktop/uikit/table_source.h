@@ -61,7 +61,10 @@ class TableSource : public bridge::Bound<TableSource, bridge::NSObject> {
   }
 
   bridge::Object cell(bridge::UITableView table, bridge::NSIndexPath path) {
-    if (reloadsMeanwhile) bridge::send<void, "reloadData">(table);
+    if (reloadsMeanwhile) {
+      bridge::send<void, "reloadData">(table);
+      bridge::send<NSInteger, "numberOfSections">(table);
+    }
     if (answer == Answer::nothing) return {};
     if (answer == Answer::text) return bridge::NSString::make("no cell");
     if (answer == Answer::always) {
