@@ -3,6 +3,7 @@
 // Fingers that do anything at all, over views that come and go meanwhile.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <random>
 
 #include "desktop/uikit/ui_control.h"
@@ -144,10 +145,13 @@ class TouchSequencesTest : public TouchTest {
 };
 
 TEST_F(TouchSequencesTest, EndWell) {
-  const auto seed = std::random_device()();
-  RecordProperty("seed", std::to_string(seed));
+  // TOUCH_SEED=n repeats a run.
+  const char* given = std::getenv("TOUCH_SEED");
+  const unsigned seed =
+      given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
   std::printf("seed %u\n", seed);
   random.seed(seed);
+  bridge::UIApplication::sharedApplication();  // once made, it stays
   const long before = bridge::liveBoundObjects();
   for (std::size_t sequence = 0; sequence < sequences; ++sequence) {
     const bridge::AutoreleasePool pool;
