@@ -176,6 +176,18 @@ TEST_F(PopUpTest, ZoomsOutWhenATouchOnTheBackdropEnds) {
   EXPECT_FALSE(overlay());
 }
 
+TEST_F(PopUpTest, StaysUnseenWhereItsLeavingIsCutShort) {
+  const UIView view = show("message");
+  settle();
+  stage().touches.down({5, 30});
+  stage().touches.up({5, 30});
+  stage().advance(0.125);
+  stage().animator.stop(view);
+  settle();
+  EXPECT_EQ(overlay(), view);
+  EXPECT_EQ(look(view).shown().alpha, 0.0);
+}
+
 TEST_F(PopUpTest, ATouchThatWandersStillEndsIt) {
   show("message");
   settle();
