@@ -77,9 +77,8 @@ void MenuOverlay::arrange(CGRect target) {
   const CGFloat left = std::max(edge, std::min(mid - width / 2, room.width - edge - width));
   const CGFloat top = stage().statusBarHeight;
   _pointsDown = target.origin.y - height >= top || bottom(target) + height > room.height;
-  const CGFloat y =
-      _pointsDown ? std::clamp(target.origin.y - height, top, std::max(top, room.height - height))
-                  : bottom(target);
+  const CGFloat y = std::clamp(_pointsDown ? target.origin.y - height : bottom(target), top,
+                               std::max(top, room.height - height));
   _bubble = {{left, y}, {width, height}};
   const CGFloat reach = cornerRadius + arrowHalfWidth;
   _arrow = std::max(left + reach, std::min(mid, right(_bubble) - reach));

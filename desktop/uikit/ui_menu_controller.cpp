@@ -74,6 +74,7 @@ void UIMenuController::show(std::vector<MenuCommand> commands, CGRect targetOnSc
   const bridge::UIView window =
       stage().windows.empty() ? bridge::UIView() : stage().windows.back().get();
   if (commands.empty() || !window) return;
+  if (!isFinite(targetOnScreen)) targetOnScreen = {};
   const CGRect target =
       bridge::send<CGRect, "convertRect:fromView:">(window, targetOnScreen, bridge::UIView());
   _overlay = MenuOverlay::show(window, std::move(commands), std::move(hidden), target);

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "bridge/class_builder.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
@@ -92,6 +94,16 @@ TEST_F(UIMenuControllerTest, StandsAboveOrBelowItsTargetInsideTheScreen) {
               menu().menuFrame());
   }
   EXPECT_EQ(hidden, 4);
+}
+
+TEST_F(UIMenuControllerTest, StaysOnTheScreenWhateverItsTarget) {
+  for (const CGRect target : {CGRect{{NAN, 0}, {10, 10}}, CGRect{{0, INFINITY}, {1, 1}},
+                              CGRect{{-1e300, -1e300}, {1, 1}}, CGRect{{1e9, 1e9}, {-5, -5}}}) {
+    show(target);
+    const CGRect frame = menu().menuFrame();
+    EXPECT_EQ(intersection(frame, rectOfSize(stage().screenSize)), frame)
+        << testing::PrintToString(numbers(target));
+  }
 }
 
 TEST_F(UIMenuControllerTest, TheFrameIsKeptForWhoeverAsksAfterwards) {
