@@ -64,7 +64,8 @@ function(add_room_test_headers)
 endfunction()
 
 # room_test(NAME SOURCES a_test.cpp ... DEPENDS lib ... [LABELS l ...])
-# One GoogleTest program; every TEST in it becomes a ctest test of its own.
+# One GoogleTest program; every TEST in it becomes a ctest test of its own. Under the sanitizers a
+# program is one test, as its start and its search for leaks take longer than most tests.
 function(room_test name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;DEPENDS;LABELS" ${ARGN})
   add_executable(${name} ${ROOM_SOURCES})
@@ -75,5 +76,10 @@ function(room_test name)
   target_link_libraries(${name} PRIVATE
     room_test_flags ${ROOM_DEPENDS} GTest::gmock GTest::gtest_main)
   target_precompile_headers(${name} REUSE_FROM room_test_headers)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS "${ROOM_LABELS}")
+  if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ROOM_LABELS}")
+  else()
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS "${ROOM_LABELS}")
+  endif()
 endfunction()

@@ -57,7 +57,9 @@ TEST_F(UIFontTest, IsNamedByFamilyAndWeight) {
             "Inter-SemiBold");
   EXPECT_EQ(nameOf(send<bridge::UIFont, "systemFontOfSize:weight:">(font, 17.0, 0.4)),
             "Inter-Bold");
-  EXPECT_EQ(nameOf(send<bridge::UIFont, "systemFontOfSize:weight:">(font, 17.0, NAN)), "Inter");
+  EXPECT_EQ(nameOf(send<bridge::UIFont, "systemFontOfSize:weight:">(font, 17.0,
+                                                                    static_cast<double>(NAN))),
+            "Inter");
   EXPECT_EQ(nameOf(named("CourierNewPSMT")), "Courier");
   EXPECT_EQ(nameOf(named("Courier-Bold")), "Courier-Bold");
 }
