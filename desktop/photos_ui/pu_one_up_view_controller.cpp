@@ -156,14 +156,14 @@ void PUOneUpViewController::moved(std::size_t index) {
 
 void PUOneUpViewController::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
-  if (isPresentedForPreview()) return;
-  send<void, "setToolbarHidden:animated:">(
-      bridge::UIViewController(self().get()).navigationController(), false, animated);
-  PUOneUpBarsController::of(_bars.get()).update();
+  if (!isPresentedForPreview()) PUOneUpBarsController::of(_bars.get()).update();
 }
 
 void PUOneUpViewController::viewDidAppear(bool animated) {
   super<void, "viewDidAppear:">(animated);
+  if (isPresentedForPreview()) return;
+  send<void, "setToolbarHidden:animated:">(
+      bridge::UIViewController(self().get()).navigationController(), !_areBarsShown, animated);
   PUOneUpBarsController::of(_bars.get()).update();
 }
 

@@ -108,25 +108,36 @@ bool PUPhotosGridViewController::shouldBegin(bridge::UIGestureRecognizer recogni
   return std::abs(way.x) >= std::abs(way.y);
 }
 
+std::optional<std::size_t> PUPhotosGridViewController::indexAt(CGPoint point) const {
+  const auto path = uikit::itemPathOf(_collectionView->indexPathForItemAt(point));
+  return path ? _list->indexOf(*path) : std::nullopt;
+}
+
+// A swipe is recognised when the finger has moved already: it began where that came down.
+void PUPhotosGridViewController::beginSwipe(bridge::UIGestureRecognizer recognizer) {
+  const uikit::handles::UIPanGestureRecognizer pan(recognizer.get());
+  const CGPoint way = pan.translationIn(_collectionView.get());
+  const CGPoint now = recognizer.locationIn(_collectionView.get());
+  const auto first = indexAt({now.x - way.x, now.y - way.y});
+  if (!first) return;
+  const bool wasSelected = selection().contains(*_list->pathOf(*first));
+  _swipe = Swipe{*first, *first, !wasSelected, {}};
+  for (const ItemPath each : selection())
+    if (const auto selected = _list->indexOf(each)) _swipe->before.insert(*selected);
+}
+
+// The title tells how many there are once the finger has moved on.
 void PUPhotosGridViewController::handleSwipeSelection(bridge::UIGestureRecognizer recognizer) {
   using Recognizer = bridge::UIGestureRecognizer;
   const Recognizer::State state = recognizer.state();
-  const auto path = uikit::itemPathOf(
-      _collectionView->indexPathForItemAt(recognizer.locationIn(_collectionView.get())));
-  const auto index = path ? _list->indexOf(*path) : std::nullopt;
-  if (state == Recognizer::began && index) {
-    _swipe = Swipe{*index, *index, !selection().contains(*path), {}};
-    for (const ItemPath each : selection())
-      if (const auto selected = _list->indexOf(each)) _swipe->before.insert(*selected);
-    select(*index, _swipe->selects);
-  }
+  if (state == Recognizer::began) beginSwipe(recognizer);
   if (!_swipe) return;
-  if (state == Recognizer::changed && index) swipeTo(*index);
-  if (state == Recognizer::ended) {
-    if (index) swipeTo(*index);
-    _swipe.reset();
+  if (state == Recognizer::cancelled) {
+    undoSwipe();
+  } else if (const auto index = indexAt(recognizer.locationIn(_collectionView.get()))) {
+    swipeTo(*index);
   }
-  if (state == Recognizer::cancelled) undoSwipe();
+  if (state == Recognizer::ended) _swipe.reset();
   if (state != Recognizer::began) updateTitle();
 }
 

@@ -110,6 +110,8 @@ class PUPhotosGridViewController
   void select(std::size_t index, bool isSelected);
   bool shouldBegin(bridge::UIGestureRecognizer recognizer) const;
   void handleSwipeSelection(bridge::UIGestureRecognizer recognizer);
+  void beginSwipe(bridge::UIGestureRecognizer recognizer);
+  std::optional<std::size_t> indexAt(CGPoint point) const;
   void swipeTo(std::size_t index);
   void undoSwipe();
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr CGFloat edge = 5;       // points
 constexpr CGFloat fontSize = 12;  // points
+constexpr CGFloat cameraWidth = 14;
 
 std::string twoDigits(long number) {
   return (number < 10 ? "0" : "") + std::to_string(number);
@@ -71,6 +72,8 @@ void VideoBadge::layoutSubviews() {
   const CGSize room = self().bounds().size;
   const CGFloat width = bridge::send<CGSize, "sizeThatFits:">(_label.get(), CGSize{}).width;
   _label->setFrame({{room.width - edge - width, 0}, {width, room.height}});
+  const bool isCramped = width + cameraWidth + 3 * edge > room.width;
+  bridge::send<void, "setHidden:">(_label.get(), isCramped);
 }
 
 void VideoBadge::drawContent(uikit::Canvas* canvas) const {

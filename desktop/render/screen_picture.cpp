@@ -13,12 +13,16 @@
 namespace desktop::render {
 namespace {
 
-QImage blankScreen(double scale) {
+QSize screenPixels(double scale) {
   const CGSize size = uikit::stage().screenSize;
   const auto pixels = [scale](double points) {
     return std::max(1, static_cast<int>(std::ceil(points * scale)));
   };
-  QImage image(pixels(size.width), pixels(size.height), QImage::Format_ARGB32_Premultiplied);
+  return {pixels(size.width), pixels(size.height)};
+}
+
+QImage blankScreen(double scale) {
+  QImage image(screenPixels(scale), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::black);
   return image;
 }
@@ -44,9 +48,8 @@ void paintScreen(QImage& image, double scale, CGRect inside, ShadowCache& shadow
 std::vector<CGRect> ScreenPicture::update(double scale) {
   const CGRect screen = uikit::rectOfSize(uikit::stage().screenSize);
   std::vector<CGRect> damage = uikit::stage().damage.take();
-  const QImage blank = blankScreen(scale);
-  if (_image.size() != blank.size() || _scale != scale) {
-    _image = blank;
+  if (_image.size() != screenPixels(scale) || _scale != scale) {
+    _image = blankScreen(scale);
     _scale = scale;
     damage = {screen};
   }

@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+#include "bridge/runtime/fields.h"
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/photos_host.h"
+#include "desktop/photos_ui/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/selection_title.h"
+#include "desktop/photos_ui/video_badge.h"
+#include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_collection_view.h"
+#include "desktop/uikit/ui_scroll_view.h"
+#include "tests/desktop/photos_ui/library_screen.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using uikit::stage;
+
+class GridTest : public LibraryScreenTest {
+ protected:
+  // Photos "00.jpg" and so on, in an album.
+  void openAlbumOf(int count, const std::string& album = "Album") {
+    for (int index = 0; index < count; ++index) addPhoto(album, index);
+    open();
+    ASSERT_FALSE(openAlbum(album));
+    settle();
+  }
+  void addPhoto(const std::string& album, int index) const {
+    folder.photo(album + "/" + (index < 10 ? "0" : "") + std::to_string(index) + ".jpg",
+                 index * aDay);
+  }
+  static void beginSelecting() {
+    bridge::send<void, "setEditing:animated:">(top(), true, false);
+    settle();
+  }
+  static CGRect frameOf(long item) {
+    return grid().layout().frameOfItem(*grid().list()->pathOf(static_cast<std::size_t>(item)));
+  }
+};
+
+TEST_F(GridTest, GroupsMomentsByDayWithTheNewestInSight) {
+  for (int day = 0; day < 30; ++day) folder.photo(std::to_string(day) + ".jpg", day * aDay);
+  open();
+  EXPECT_EQ(title(), "Moments");
+  EXPECT_EQ(grid().list()->sections().size(), 30U);
+  EXPECT_THAT(texts(), Contains("Jan 30, 1970"));
+  EXPECT_THAT(texts(), Not(Contains("Jan 1, 1970")));
+}
+
+TEST_F(GridTest, ShowsFourColumnsOneApart) {
+  openAlbumOf(6);
+  EXPECT_EQ(frameOf(0).size.width, 93);
+  EXPECT_EQ(frameOf(1).origin.x, 94);
+  EXPECT_EQ(frameOf(3).origin.x, 282);
+  EXPECT_EQ(frameOf(4).origin.x, 0);
+  EXPECT_EQ(frameOf(4).origin.y, 94);
+}
+
+TEST_F(GridTest, ShowsMoreColumnsInAWiderView) {
+  openAlbumOf(10);
+  stage().resize({667, 375});
+  settle();
+  EXPECT_EQ(frameOf(6).origin.y, 0);
+  EXPECT_EQ(frameOf(7).origin.y, frameOf(0).size.height + 1);
+}
+
+TEST_F(GridTest, MakesCellsAsLargeAsTheyWillBe) {
+  openAlbumOf(2);
+  const auto& views = uikit::UICollectionView::of(grid().collectionView()).views();
+  const auto cell = views.at({{}, {0, 1}});
+  EXPECT_EQ(cell->bounds().size.width, 93);
+}
+
+TEST_F(GridTest, CountsThePhotosOfAnAlbumBelowThem) {
+  openAlbumOf(3);
+  EXPECT_THAT(texts(), Contains("3 Photos"));
+}
+
+TEST_F(GridTest, OpensAPhotoByATap) {
+  openAlbumOf(3);
+  tap(placeOf(1));
+  EXPECT_TRUE(oneUpOnShow());
+}
+
+TEST_F(GridTest, AnswersTheAssetOfAPlace) {
+  openAlbumOf(2);
+  const bridge::AutoreleasePool pool;
+  const bridge::PUPhotosGridViewController controller(top().get());
+  EXPECT_EQ(controller.assetAt(uikit::indexPathOf({0, 1})).uuid().utf8(),
+            grid().list()->at(1)->uuid);
+  EXPECT_FALSE(controller.assetAt(uikit::indexPathOf({0, 2})));
+  EXPECT_FALSE(controller.assetAt({}));
+}
+
+TEST_F(GridTest, SelectsByTapsAndCountsInTheTitle) {
+  openAlbumOf(4);
+  beginSelecting();
+  EXPECT_EQ(title(), "Select Items");
+  tap(placeOf(2));
+  EXPECT_EQ(title(), "1 Photo Selected");
+  tap(placeOf(0));
+  EXPECT_THAT(selected(), ElementsAre("Album/00.jpg", "Album/02.jpg"));
+  tap(placeOf(2));
+  EXPECT_EQ(title(), "1 Photo Selected");
+  bridge::send<void, "setEditing:animated:">(top(), false, false);
+  EXPECT_EQ(title(), "Album");
+  EXPECT_THAT(selected(), IsEmpty());
+}
+
+TEST_F(GridTest, SelectsWhatAFingerSwipesOver) {
+  openAlbumOf(12);
+  beginSelecting();
+  stage().touches.down(placeOf(1));
+  for (const long over : {2, 3, 7, 6}) {
+    stage().touches.move(placeOf(over));
+    settle(0.02);
+  }
+  EXPECT_EQ(title(), "6 Photos Selected") << "while the finger is down";
+  stage().touches.up(placeOf(6));
+  settle();
+  EXPECT_THAT(selected(), ElementsAre("Album/01.jpg", "Album/02.jpg", "Album/03.jpg",
+                                      "Album/04.jpg", "Album/05.jpg", "Album/06.jpg"));
+}
+
+TEST_F(GridTest, DeselectsWhatASwipeThatBeginsOnASelectedItemGoesOver) {
+  openAlbumOf(4);
+  beginSelecting();
+  for (const long each : {0, 1, 2}) tap(placeOf(each));
+  stage().touches.down(placeOf(1));
+  stage().touches.move(placeOf(3));
+  settle(0.02);
+  stage().touches.up(placeOf(3));
+  settle();
+  EXPECT_THAT(selected(), ElementsAre("Album/00.jpg"));
+}
+
+TEST_F(GridTest, UndoesASwipeThatIsCancelled) {
+  openAlbumOf(8);
+  beginSelecting();
+  tap(placeOf(2));
+  stage().touches.down(placeOf(0));
+  stage().touches.move(placeOf(3));
+  settle(0.02);
+  stage().touches.cancel();
+  settle();
+  EXPECT_THAT(selected(), ElementsAre("Album/02.jpg"));
+  EXPECT_EQ(title(), "1 Photo Selected");
+}
+
+TEST_F(GridTest, DoesNotSwipeOutsideSelectMode) {
+  openAlbumOf(4);
+  stage().touches.down(placeOf(0));
+  settle(0.3);
+  stage().touches.move(placeOf(3));
+  settle(0.02);
+  stage().touches.up(placeOf(3));
+  settle();
+  EXPECT_THAT(selected(), IsEmpty());
+  EXPECT_EQ(title(), "Album");
+}
+
+TEST_F(GridTest, KeepsTheSelectionWhenFilesComeAndGo) {
+  openAlbumOf(6);
+  beginSelecting();
+  tap(placeOf(1));
+  tap(placeOf(4));
+  std::remove((folder.path() + "/Album/01.jpg").c_str());
+  folder.photo("Album/new.jpg", 0.5 * aDay);
+  deliver();
+  EXPECT_THAT(selected(), ElementsAre("Album/04.jpg"));
+  EXPECT_EQ(title(), "1 Photo Selected");
+}
+
+TEST_F(GridTest, KeepsItsPlaceWhenFilesComeAbove) {
+  openAlbumOf(90);
+  const auto& scroll = uikit::UIScrollView::of(grid().collectionView());
+  bridge::send<void, "setContentOffset:">(grid().collectionView(), CGPoint{0, 500});
+  settle();
+  const CGFloat before = frameOf(40).origin.y - scroll.contentOffset().y;
+  for (int index = 0; index < 8; ++index)
+    folder.photo("Album/new" + std::to_string(index) + ".jpg", -aDay);
+  deliver();
+  EXPECT_EQ(frameOf(48).origin.y - scroll.contentOffset().y, before);
+}
+
+TEST_F(GridTest, FollowsTheNewestWhereTheyAreInSight) {
+  for (int day = 0; day < 30; ++day) folder.photo(std::to_string(day) + ".jpg", day * aDay);
+  open();
+  folder.photo("new.jpg", 40 * aDay);
+  deliver();
+  EXPECT_THAT(texts(), Contains("Feb 10, 1970"));
+}
+
+TEST_F(GridTest, EmptiesAnAlbumThatIsGone) {
+  openAlbumOf(1);
+  std::remove((folder.path() + "/Album/00.jpg").c_str());
+  deliver();
+  EXPECT_TRUE(grid().list()->isEmpty());
+  EXPECT_THAT(texts(), Contains("No Photos or Videos"));
+}
+
+TEST_F(GridTest, SaysThatALibraryIsEmpty) {
+  open();
+  EXPECT_THAT(texts(), Contains("No Photos or Videos"));
+  EXPECT_THAT(texts(), Contains(HasSubstr(folder.path())));
+}
+
+TEST_F(GridTest, SaysWhyALibraryIsNotOpen) {
+  const bridge::AutoreleasePool pool;
+  host().libraryProblem = "/nowhere: No such file or directory";
+  const auto window =
+      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(stage().screenSize));
+  window->setRootViewController(makeRootController().get());
+  window->makeKeyAndVisible();
+  settle();
+  EXPECT_THAT(texts(), Contains("Cannot Open Library"));
+  EXPECT_THAT(texts(), Contains("/nowhere: No such file or directory"));
+}
+
+TEST_F(GridTest, EndsEachSharedAlbumWithACellForAdding) {
+  folder.write("Trip/.shared", "");
+  openAlbumOf(2, "Trip");
+  const bridge::AutoreleasePool pool;
+  const auto view = grid().collectionView();
+  EXPECT_EQ(view.numberOfItemsInSection(0), 3);
+  EXPECT_FALSE(bridge::PUPhotosGridViewController(top().get()).assetAt(uikit::indexPathOf({0, 2})));
+  const CGPoint last = placeOf(1);
+  tap({last.x + 94, last.y});
+  EXPECT_FALSE(oneUpOnShow());
+  EXPECT_THAT(texts(), Contains("Add to This Album"));
+}
+
+TEST_F(GridTest, MarksVideosAndLeavesTheMarkWhereOthersPutIt) {
+  folder.write("Album/clip.mov", "x");
+  open();
+  ASSERT_FALSE(openAlbum("Album"));
+  settle();
+  const bridge::AutoreleasePool pool;
+  const auto& views = uikit::UICollectionView::of(grid().collectionView()).views();
+  const auto& cell = PUPhotosGridCell::of(views.at({{}, {0, 0}}).get());
+  const auto helper = cell.photoContentView().contentHelper();
+  const bridge::UIView badge(bridge::objectField(helper, "__badgeView").get());
+  ASSERT_TRUE(badge);
+  EXPECT_EQ(badge.frame().origin.y, 93 - VideoBadge::height);
+  EXPECT_FALSE(bridge::objectField(helper, "_badgeView"));
+  badge.setFrame({{0, 10}, {20, 20}});
+  bridge::send<void, "layoutSubviewsOfContentView">(helper);
+  EXPECT_EQ(badge.frame().origin.y, 10);
+}
+
+TEST_F(GridTest, NamesRawPhotosInABanner) {
+  folder.photo("Album/shot.dng");
+  open();
+  ASSERT_FALSE(openAlbum("Album"));
+  settle();
+  EXPECT_THAT(texts(), Contains("RAW"));
+}
+
+TEST(DurationText, CountsWholeSecondsAndHours) {
+  const std::pair<double, const char*> texts[] = {
+      {0, "0:01"},    {0.4, "0:01"},     {9.2, "0:09"},        {59.6, "1:00"},
+      {754, "12:34"}, {3723, "1:02:03"}, {1e300, "100:00:00"},
+  };
+  for (const auto& [seconds, text] : texts) EXPECT_EQ(durationText(seconds), text) << seconds;
+}
+
+TEST(SelectionTitle, TellsPhotosFromVideos) {
+  using photos::MediaKind;
+  const auto make = [](MediaKind kind) {
+    return std::make_shared<photos::LibraryItem>(photos::LibraryItem{.kind = kind});
+  };
+  const auto photo = make(MediaKind::image);
+  const auto video = make(MediaKind::video);
+  const std::vector<photos::ItemPointer> none;
+  const std::vector<photos::ItemPointer> both = {photo, video};
+  const std::vector<photos::ItemPointer> videos = {video, video};
+  const std::vector<photos::ItemPointer> many(1234, photo);
+  EXPECT_EQ(selectionTitle(none), "Select Items");
+  EXPECT_EQ(selectionTitle(both), "2 Items Selected");
+  EXPECT_EQ(selectionTitle(videos), "2 Videos Selected");
+  EXPECT_EQ(countText(none), "");
+  EXPECT_EQ(countText(both), "1 Photo, 1 Video");
+  EXPECT_EQ(countText(many), "1,234 Photos");
+}
+
+}  // namespace
+}  // namespace desktop::photos_ui
