@@ -5,6 +5,7 @@
 
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_view_controller.h"
+#include "tests/lumifact/details/class_look_ups.h"
 #include "tests/lumifact/details/fake_asset.h"
 #include "tests/lumifact/details/fake_media.h"
 #include "tests/lumifact/details/one_up_test.h"
@@ -245,6 +246,15 @@ TEST_F(ViewDetailsTest, AnItemThatIsNotShownIsAnError) {
   oneUpAnswers().hasIndexPath = false;
   ask();
   EXPECT_EQ(alertText(), "Erorr:|Could not find indexPath");
+}
+
+TEST_F(ViewDetailsTest, TheClassOfAssetsIsLookedUpOnceAndKept) {
+  ask();
+  const int lookUps = host::lookUpsOf("PHAsset");
+  EXPECT_GT(lookUps, 0);
+  openPhoto();
+  ask();
+  EXPECT_EQ(host::lookUpsOf("PHAsset"), lookUps);
 }
 
 TEST_F(ViewDetailsTest, AnItemWithoutAReferenceIsAnError) {
