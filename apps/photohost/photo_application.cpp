@@ -7,6 +7,7 @@
 #include "apps/photohost/main_loop.h"
 #include "apps/photohost/outside.h"
 #include "bridge/foundation.h"
+#include "desktop/avfoundation_runtime/avfoundation_runtime.h"
 #include "desktop/foundation_runtime/foundation_runtime.h"
 #include "desktop/loader/extension_loader.h"
 #include "desktop/photos_ui/navigation.h"
@@ -57,8 +58,10 @@ PhotoApplication::PhotoApplication(int& argumentCount, char** arguments, const O
       [](const runtime::DebugLogLine& line) { stage().log.push_back(line.message()); });
   uikit::registerUIKit();
   photos_ui::registerPhotosUI();
+  avfoundation::registerAVFoundation();
   stage().screenSize = options.size;
   stage().scale = options.scale;
+  stage().statusBar = {.isShown = true};
   loadExtensions();
   openLibrary();
 }

@@ -220,6 +220,10 @@ Outcome goBack() {
     UIViewController last = tabs();
     while (const auto next = bridge::send<UIViewController, "presentedViewController">(last))
       last = next;
+    // A page that was reached from the presented one leads back to it.
+    if (bridge::isKindOf(last, bridge::UINavigationController::classObject()) &&
+        bridge::send<UIViewController, "popViewControllerAnimated:">(last, true))
+      return std::nullopt;
     last.dismiss(UIViewController::animated, {});
     return std::nullopt;
   }

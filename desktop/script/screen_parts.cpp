@@ -4,6 +4,7 @@
 #include "desktop/script/node_parts.h"
 #include "desktop/script/tree_dump.h"
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_activity_view_controller.h"
 #include "desktop/uikit/ui_bar_button_item.h"
 #include "desktop/uikit/ui_color.h"
 #include "desktop/uikit/ui_menu_controller.h"
@@ -85,7 +86,7 @@ Json alert(bridge::UIViewController controller) {
 
 Json sheet(bridge::UIViewController controller) {
   Json items = Json::array();
-  const auto all = send<bridge::NSArray, "activityItems">(controller);
+  const bridge::NSArray all = uikit::UIActivityViewController::of(controller).items();
   for (NSUInteger index = 0; index < all.count(); ++index)
     items.push_back(bridge::NSObject(all.at(index).get()).description().utf8());
   return {{"items", items}};

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+//
+// The application by itself, and with libraries that are not as they should be.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/apps/photohost/host_run.h"
+
+namespace photohost {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+TEST(Application, WithoutTheExtensionThereIsNothingOfIt) {
+  Host host;
+  host.withoutExtensions();
+  host.run(
+      "open item 1\nwait 1\nlong-press 187 333\nwait 1\ndump photo.json\n"
+      "back\nwait 1\nlong-press item 1\nwait 1\ndump grid.json\n");
+  for (const char* name : {"photo", "grid"}) {
+    const Json screen = host.dumped(name);
+    EXPECT_EQ(customButtons(screen), 0);
+    EXPECT_EQ(screen["presentation"].size(), 1U);
+    for (const char* word : {"umifact", "LXView", "LFP"})
+      EXPECT_EQ(screen.dump().find(word), std::string::npos) << name << " " << word;
+  }
+}
+
+TEST(Application, ShowsPhotosAlbumsAndOneByOne) {
+  Host host;
+  host.run(
+      "dump photos.json\nopen albums\nwait 1\nexpect \"All Photos\"\nexpect \"City\"\n"
+      "open album City\nwait 1\ndump album.json\nopen item 0\nwait 1\ndump photo.json\n"
+      "back\nwait 1\nexpect \"City\"\n");
+  EXPECT_FALSE(nodesOfClass(host.dumped("photos"), "PUPhotosGridCell").empty());
+  EXPECT_EQ(nodesOfClass(host.dumped("album"), "PUPhotosGridCell").size(), 6U);
+  EXPECT_EQ(nodesOfClass(host.dumped("photo"), "PUTilingView").size(), 1U);
+}
+
+TEST(Application, TakesItsScreenshotAtTheScale) {
+  Host host;
+  EXPECT_EQ(host.tryToRun("screenshot screen.png\n", "--scale 1").status, 0);
+  std::ifstream file(host.file("screen.png"), std::ios::binary);
+  std::string head(24, '\0');
+  file.read(head.data(), 24);
+  EXPECT_EQ(head.substr(16, 8), std::string("\0\0\x01\x77\0\0\x02\x9B", 8)) << "375 x 667";
+}
+
+TEST(Application, AScriptEndsAtItsFirstError) {
+  Host host;
+  const HostResult result = host.tryToRun("expect \"no such text\"\nscreenshot late.png\n");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.messages, HasSubstr("script:1: \"no such text\" is not on screen"));
+  EXPECT_FALSE(fs::exists(host.file("late.png")));
+}
+
+TEST(Application, ALibraryThatIsMissingIsTold) {
+  Host host;
+  host.library("/does/not/exist");
+  const HostResult result = host.tryToRun("dump screen.json\nopen albums\nwait 1\n");
+  EXPECT_EQ(result.status, 0) << result.messages;
+  EXPECT_THAT(result.messages, HasSubstr("/does/not/exist: No such file or directory"));
+  EXPECT_THAT(host.dumped("screen").dump(), HasSubstr("No such file or directory"));
+}
+
+TEST(Application, AnEmptyLibraryIsUsable) {
+  Host host;
+  fs::create_directory(host.file("empty"));
+  host.library(host.file("empty"));
+  host.run("dump screen.json\nopen albums\nwait 1\nopen photos\nwait 1\n");
+  EXPECT_NE(host.tryToRun("open item 0\n").status, 0);
+}
+
+TEST(Application, BrokenFilesAreShownAsPlaceholders) {
+  Host host;
+  const std::string folder = host.file("broken");
+  fs::create_directory(folder);
+  for (int number = 0; number < 300; ++number)
+    std::ofstream(folder + "/" + std::to_string(number) + (number % 2 ? ".jpg" : ".heic"))
+        << "this is no picture " << number;
+  std::ofstream(folder + "/bad \xFF name.jpg") << "nor this";
+  fs::create_directory_symlink(folder, folder + "/loop");
+  host.library(folder);
+  host.run(
+      "dump grid.json\nscroll -3000\nwait 1\nopen item 3\nwait 1\ndump photo.json\n"
+      "screenshot photo.png\n");
+  EXPECT_FALSE(nodesOfClass(host.dumped("grid"), "PUPhotosGridCell").empty());
+}
+
+TEST(Application, WrongUsageIsTold) {
+  Host host;
+  for (const char* options : {"--size 10x10", "--size wide", "--scale 9", "--nonsense"})
+    EXPECT_EQ(host.tryToRun("", options).status, 2) << options;
+}
+
+}  // namespace
+}  // namespace photohost
