@@ -132,7 +132,8 @@ void AlertView::addButton(bridge::UIAlertAction action, bool isSemibold) {
       .fontSize = _isSheet ? sheetButtonSize : titleSize,
       .isSemibold = isSemibold,
       .color = state.style() == UIAlertAction::destructive ? destructiveColor : colors::tint};
-  const auto button = ActionControl::make(look, [this, action] { _choose(action); });
+  const auto kept = Owned<bridge::UIAlertAction>::retain(action);
+  const auto button = ActionControl::make(look, [this, kept] { _choose(kept); });
   bridge::send<void, "setEnabled:">(button.get(), state.isEnabled());
   const bool standsAlone = _isSheet && state.style() == UIAlertAction::cancel;
   (standsAlone ? _cancelBox : _box)->addSubview(button);

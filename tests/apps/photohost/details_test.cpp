@@ -174,6 +174,16 @@ TEST(Details, ARowIsSharedThroughItsEditMenu) {
             Json::array({"FilePath = 100APPLE/IMG_0001.JPG"}));
 }
 
+TEST(Details, TheShareSheetCanBeCancelledAndComeAgain) {
+  Host host;
+  host.run(setting("viewType 2") + "open item 1\nwait 1\n" + pressInfo +
+           "long-press \"FilePath\"\nwait 0.5\nmenu \"Copy\"\nwait 1\ntap \"Cancel\"\nwait 1\n"
+           "dump page.json\nlong-press \"FileSize\"\nwait 0.5\nmenu \"Copy\"\nwait 1\n"
+           "tap \"Copy\"\nwait 1\ndump again.json\n");
+  EXPECT_TRUE(host.dumped("page")["sheet"].is_null());
+  EXPECT_TRUE(host.dumped("again")["sheet"].is_null());
+}
+
 TEST(Details, AnEntryWithEntriesOpensAPageOfItsOwn) {
   Host host;
   host.library(cameraRoll(host)).size(375, 2'000);
