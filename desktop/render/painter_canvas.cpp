@@ -197,7 +197,8 @@ void PainterCanvas::gradient(CGRect rect, std::span<const uikit::Color> colors, 
   painter().fillPath(roundedRect(rect, cornerRadius), gradient);
 }
 
-// Pixels that stand on pixels are copied, which takes a fraction of the time of scaling them.
+// Pixels that stand on pixels are copied, which takes a fraction of the time of scaling them; with
+// the hint to scale smoothly Qt goes the long way even then.
 void PainterCanvas::image(const uikit::SharedBitmap& bitmap, CGRect rect) {
   if (!bitmap || bitmap->width <= 0 || bitmap->height <= 0) return;
   const QTransform shown = painter().worldTransform();
@@ -206,7 +207,9 @@ void PainterCanvas::image(const uikit::SharedBitmap& bitmap, CGRect rect) {
                           shown.m22() > 0 && place.size() == QSize(bitmap->width, bitmap->height);
   if (!isUnscaled) return painter().drawImage(toQt(rect), toQt(bitmap));
   painter().resetTransform();
+  painter().setRenderHint(QPainter::SmoothPixmapTransform, false);
   painter().drawImage(place.topLeft(), toQt(bitmap));
+  painter().setRenderHint(QPainter::SmoothPixmapTransform);
   painter().setWorldTransform(shown);
 }
 
