@@ -74,7 +74,8 @@ bool readGrid(HeifMeta& meta, SourceReader& file, std::uint32_t item, HeifTileLa
     if (reference.type == fourCharCode("dimg") && reference.from == item)
       layout.items.push_back(reference.to);
   }
-  return layout.items.size() == static_cast<std::size_t>(layout.rows * layout.columns);
+  return layout.items.size() ==
+         static_cast<std::size_t>(layout.rows) * static_cast<std::size_t>(layout.columns);
 }
 
 // Whether all tiles are HEVC pictures with the same properties, none of which turns or crops it.
@@ -111,23 +112,28 @@ bool isWithinLimits(const HeifTileLayout& layout) {
          band <= std::int64_t{limits.decodedMegabytes} << 20;
 }
 
+// Finds the tiles of an item. False where it is of another kind.
+bool readTiles(HeifMeta& meta, SourceReader& file, const imageio::HeifItem& item,
+               HeifTileLayout& layout) {
+  if (item.type == fourCharCode("hvc1")) {
+    layout.items = {item.id};
+    layout.size = extentOf(meta, file, item.id);
+    return true;
+  }
+  return item.type == fourCharCode("grid") && readGrid(meta, file, item.id, layout) &&
+         areAlike(meta, layout);
+}
+
 }  // namespace
 
 std::optional<HeifTileLayout> readHeifTileLayout(HeifMeta& meta, SourceReader& file) {
   const auto primary = meta.primaryItem();
   const imageio::HeifItem* item = primary ? meta.item(*primary) : nullptr;
-  if (item == nullptr) return std::nullopt;
   HeifTileLayout layout;
-  if (item->type == fourCharCode("hvc1")) {
-    layout.items = {*primary};
-    layout.size = extentOf(meta, file, *primary);
-  } else if (item->type != fourCharCode("grid") || !readGrid(meta, file, *primary, layout)) {
-    return std::nullopt;
-  }
+  if (item == nullptr || !readTiles(meta, file, *item, layout)) return std::nullopt;
   const auto orientation = orientationOf(meta, file, *primary);
   if (!orientation) return std::nullopt;
   layout.orientation = *orientation;
-  if (layout.items.front() != *primary && !areAlike(meta, layout)) return std::nullopt;
   layout.tile = extentOf(meta, file, layout.items.front());
   if (!isWithinLimits(layout)) return std::nullopt;
   const auto box = meta.property(layout.items.front(), fourCharCode("hvcC"));

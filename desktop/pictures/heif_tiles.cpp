@@ -67,9 +67,10 @@ class BandDecoder {
 std::vector<Coded> codedBand(imageio::HeifMeta& meta, SourceReader& file,
                              const HeifTileLayout& layout, int band) {
   std::vector<Coded> tiles;
-  for (int column = 0; column < layout.columns; ++column) {
-    auto pieces =
-        meta.bytesOf(layout.items[static_cast<std::size_t>(band * layout.columns + column)]);
+  const auto columns = static_cast<std::size_t>(layout.columns);
+  const std::size_t first = static_cast<std::size_t>(band) * columns;
+  for (const std::uint32_t item : std::span(layout.items).subspan(first, columns)) {
+    auto pieces = meta.bytesOf(item);
     const auto bytes = pieces.all(file);
     if (!bytes) return {};
     tiles.emplace_back(bytes->bytes().begin(), bytes->bytes().end());

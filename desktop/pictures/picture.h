@@ -30,6 +30,7 @@ struct Request {
   int maxHeight = 0;  // above 0
   Fit fit = Fit::fit;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm of clang-tidy 14.
   auto operator<=>(const Request&) const = default;
 };
 

@@ -20,6 +20,7 @@ struct PictureKey {
   std::int64_t size = 0;              // bytes
   Request request;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm of clang-tidy 14.
   auto operator<=>(const PictureKey&) const = default;
 
   // The file as it is now; time and size are 0 where the system does not tell.

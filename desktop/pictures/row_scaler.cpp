@@ -108,8 +108,9 @@ void RowScaler::finishRow() {
     const float share = 1 / (static_cast<float>(column.weight) * rowWeight);
     std::uint32_t value = 0;
     for (std::size_t channel = 0; channel < channels; ++channel) {
-      const float mean = *sum++ * share;
-      value |= std::min(255u, static_cast<std::uint32_t>(mean + 0.5F)) << (8 * channel);
+      // Cut off, half a level more is rounded: means are not negative.
+      const float mean = *sum++ * share + 0.5F;
+      value |= std::min(255u, static_cast<std::uint32_t>(mean)) << (8 * channel);
     }
     *pixel++ = value;
   }

@@ -25,7 +25,8 @@ PixelSize targetSize(PixelSize image, const Request& request) {
   const bool fills = request.fit == Request::Fit::fill;
   double factor = std::min(1.0, fills ? std::max(across, down) : std::min(across, down));
   const double area = factor * image.width * factor * image.height;
-  const double largestArea = static_cast<double>(limits.pictureBytes / sizeof(std::uint32_t));
+  constexpr std::size_t largestCount = limits.pictureBytes / sizeof(std::uint32_t);
+  const auto largestArea = static_cast<double>(largestCount);
   if (area > largestArea) factor *= std::sqrt(largestArea / area) * 0.999;  // whatever is rounded
   return scaled(image, factor);
 }

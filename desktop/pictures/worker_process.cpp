@@ -66,6 +66,7 @@ std::optional<model::Error> WorkerProcess::start(const std::vector<std::string>&
   auto ends = socketPair();
   if (!ends) return model::Error{std::strerror(errno)};
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
   const SpawnSettings settings(ends->second.number());

@@ -83,8 +83,8 @@ std::optional<Picture> pictureOf(const AVFrame& frame, const AVStream& stream,
   const PixelSize size = shownSize(frame, stream);
   if (size.isEmpty()) return std::nullopt;
   auto picture = scaledTo(orientation.turned(targetSize(orientation.turned(size), request)), frame);
-  if (picture) *picture = orientation.upright(*std::move(picture));
-  return picture;
+  if (!picture) return std::nullopt;
+  return orientation.upright(*std::move(picture));
 }
 
 bool convertTile(const AVFrame& frame, std::uint32_t* pixels, std::ptrdiff_t stride,
