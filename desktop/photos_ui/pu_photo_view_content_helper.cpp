@@ -18,7 +18,8 @@ namespace {
 
 constexpr const char* badgeField = "__badgeView";
 constexpr const char* bannerField = "_textBannerView";
-constexpr CGFloat bannerMargin = 4;  // points
+constexpr CGFloat bannerMargin = 4;      // points
+constexpr CGFloat leastBannerRoom = 60;  // points; in less it would hide the photo
 
 int pixels(CGFloat points) {
   constexpr double most = 8192;
@@ -194,6 +195,7 @@ void PUPhotoViewContentHelper::layoutSubviewsOfContentView() {
   badge.setFrame({{0, room.height - VideoBadge::height}, {room.width, VideoBadge::height}});
   const bridge::UIView banner(bridge::objectField(self(), bannerField).get());
   const CGSize size = bridge::send<CGSize, "sizeThatFits:">(banner, room);
+  bridge::send<void, "setHidden:">(banner, room.width < leastBannerRoom);
   banner.setFrame({{bannerMargin, room.height - size.height - bannerMargin}, size});
 }
 

@@ -72,6 +72,31 @@ TEST_F(GridTest, ShowsMoreColumnsInAWiderView) {
   EXPECT_EQ(frameOf(7).origin.y, frameOf(0).size.height + 1);
 }
 
+// What an extension puts in place of the layout's own size.
+CGSize largerItems(id, SEL, NSInteger) {
+  return {186.5, 186.5};
+}
+
+TEST_F(GridTest, ShowsAsManyColumnsAsTheSizesLeaveRoomFor) {
+  openAlbumOf(5);
+  const SEL selector = bridge::selector<"layoutItemSizeForColumn:">();
+  const Class aClass = PUSectionedGridLayout::classObject();
+  const Method method = class_getInstanceMethod(aClass, selector);
+  const IMP before = method_setImplementation(method, reinterpret_cast<IMP>(&largerItems));
+  const bridge::AutoreleasePool pool;
+  const bridge::PUPhotosAlbumViewController album(top().get());
+  album.mainGridLayout().invalidateLayout();
+  album.updateLayoutMetrics();
+  settle();
+  EXPECT_EQ(frameOf(1).origin.x, 187.5);
+  EXPECT_EQ(frameOf(2).origin.y, 187.5);
+  EXPECT_EQ(album.mainGridLayout().columnsPerRow(), 4);
+  method_setImplementation(method, before);
+  album.mainGridLayout().invalidateLayout();
+  settle();
+  EXPECT_EQ(frameOf(4).origin.y, 94);
+}
+
 TEST_F(GridTest, MakesCellsAsLargeAsTheyWillBe) {
   openAlbumOf(2);
   const auto& views = uikit::UICollectionView::of(grid().collectionView()).views();

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+//
+// Thumbnails through real worker processes, of which this program is one too; names of files tell
+// the decoder what to do.
+#include <gmock/gmock.h>
+
+#include <string_view>
+
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/photos_host.h"
+#include "desktop/photos_ui/pu_photos_grid_cell.h"
+#include "desktop/pictures/serve_decoder.h"
+#include "desktop/uikit/ui_collection_view.h"
+#include "desktop/uikit/ui_image.h"
+#include "tests/desktop/photos_ui/library_screen.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+using State = PUPhotoViewContentHelper::State;
+
+constexpr char decoderArgument[] = "--decode-pictures";
+
+// A picture twice as wide as high that covers what was asked for.
+model::Result<pictures::Picture> decode(const std::string& path, const pictures::Request& request) {
+  if (path.find("broken") != std::string::npos) return model::Error{"cut short"};
+  const int height = request.maxHeight;
+  return pictures::Picture{
+      2 * height, height,
+      std::vector<std::uint32_t>(static_cast<std::size_t>(2 * height * height), 0xff336699)};
+}
+
+class ThumbnailTest : public LibraryScreenTest {
+ protected:
+  void openAlbum() {
+    host().pictures = &_pictures;
+    open();
+    ASSERT_FALSE(photos_ui::openAlbum("Album"));
+    settle();
+  }
+  void waitForPictures() {
+    ASSERT_TRUE(_pictures.waitUntilIdle(std::chrono::seconds(20)));
+    settle();
+  }
+  static PUPhotosGridCell* cell(NSInteger item) {
+    const auto& views = uikit::UICollectionView::of(grid().collectionView()).views();
+    const auto found = views.find({{}, {0, item}});
+    return found == views.end() ? nullptr : &PUPhotosGridCell::of(found->second.get());
+  }
+  static uikit::handles::UIImageView imageView(NSInteger item) {
+    const auto photo = cell(item)->photoContentView();
+    return bridge::as<uikit::handles::UIImageView>(photo.subviews().at(0));
+  }
+  pictures::PictureLoader& loader() { return _pictures; }
+
+ private:
+  pictures::PictureLoader _pictures{{.command = {"/proc/self/exe", decoderArgument}}};
+};
+
+TEST_F(ThumbnailTest, FillsTheCellUnscaledAndInItsMiddle) {
+  folder.photo("Album/a.jpg");
+  openAlbum();
+  EXPECT_EQ(cell(0)->content().state(), State::loading);
+  waitForPictures();
+  EXPECT_EQ(cell(0)->content().state(), State::shown);
+  const CGRect frame = imageView(0).frame();
+  EXPECT_EQ(frame.size.width, 186);
+  EXPECT_EQ(frame.size.height, 93);
+  EXPECT_EQ(frame.origin.x, -46.5);
+  EXPECT_EQ(uikit::UIImage::bitmapOf(imageView(0).image())->height, 186);
+}
+
+TEST_F(ThumbnailTest, NotesWhatCannotBeShown) {
+  folder.photo("Album/broken.jpg");
+  openAlbum();
+  waitForPictures();
+  EXPECT_EQ(cell(0)->content().state(), State::failed);
+  EXPECT_EQ(library->problems().at(folder.file("Album/broken.jpg")), "cut short");
+}
+
+TEST_F(ThumbnailTest, AsksForNoMoreThanIsInSight) {
+  for (int index = 0; index < 200; ++index)
+    folder.photo("Album/" + std::to_string(1000 + index) + ".jpg", index);
+  openAlbum();
+  waitForPictures();
+  EXPECT_TRUE(cell(20));
+  EXPECT_FALSE(cell(100));
+  const auto& list = *grid().list();
+  const pictures::Request request{186, 186, pictures::Request::Fit::fill};
+  EXPECT_TRUE(loader().find(list.at(20)->path, request));
+  EXPECT_FALSE(loader().find(list.at(100)->path, request));
+}
+
+TEST_F(ThumbnailTest, DropsWhatIsScrolledAwayBeforeItCame) {
+  for (int index = 0; index < 2'000; ++index)
+    folder.photo("Album/" + std::to_string(10'000 + index) + ".jpg", index);
+  openAlbum();
+  for (int y = 0; y < 20'000; y += 700) {
+    bridge::send<void, "setContentOffset:">(grid().collectionView(),
+                                            CGPoint{0, static_cast<CGFloat>(y)});
+    settle(0.016);
+  }
+  waitForPictures();
+  const pictures::Request request{186, 186, pictures::Request::Fit::fill};
+  int decoded = 0;
+  for (const auto& item : grid().list()->items())
+    decoded += loader().find(item->path, request) ? 1 : 0;
+  EXPECT_LT(decoded, 200);
+  EXPECT_GE(decoded, 28) << "what is in sight at the end";
+}
+
+TEST_F(ThumbnailTest, ShowsAChangedFileAnew) {
+  folder.photo("Album/a.jpg");
+  openAlbum();
+  waitForPictures();
+  folder.photo("Album/a.jpg", 2'000'000);
+  deliver();
+  EXPECT_EQ(cell(0)->content().state(), State::loading);
+  waitForPictures();
+  EXPECT_EQ(cell(0)->content().state(), State::shown);
+}
+
+}  // namespace
+}  // namespace desktop::photos_ui
+
+int main(int argc, char** argv) {
+  using namespace desktop;
+  if (argc > 1 && std::string_view(argv[1]) == photos_ui::decoderArgument)
+    return pictures::serveDecoder(pictures::decoderSocket, photos_ui::decode);
+  testing::InitGoogleMock(&argc, argv);
+  return RUN_ALL_TESTS();
+}
