@@ -108,6 +108,9 @@ void UITextView::setAttributedText(bridge::NSAttributedString text) {
   _string = bridge::Owned<NSString>::adopt(
       bridge::send<NSString, "copy">(string ? string : NSString::make("")));
   AttributedText attributed = AttributedText::of(text, standardFace);
+  // Paragraphs without an alignment of their own stand as the view says.
+  for (TextRun& run : attributed.runs)
+    if (run.style.alignment == TextAlignment::natural) run.style.alignment = alignment();
   if (!attributed.text.empty()) _look = attributed.runs[0];
   show(std::move(attributed));
   select(std::nullopt);

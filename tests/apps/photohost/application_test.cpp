@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 
@@ -28,6 +30,22 @@ TEST(Application, WithoutTheExtensionThereIsNothingOfIt) {
     for (const char* word : {"umifact", "LXView", "LFP"})
       EXPECT_EQ(screen.dump().find(word), std::string::npos) << name << " " << word;
   }
+}
+
+// The platform and its host know of no extension, not even by name.
+TEST(Application, ItsSourcesDoNotNameTheExtension) {
+  int files = 0;
+  for (const char* room : {"desktop", "apps/photohost"})
+    for (const auto& entry : fs::recursive_directory_iterator(std::string(SOURCE_FOLDER) + room)) {
+      if (!entry.is_regular_file()) continue;
+      ++files;
+      std::string text = desktop::photos::contentsOf(entry.path());
+      std::ranges::transform(text, text.begin(),
+                             [](unsigned char letter) { return std::tolower(letter); });
+      for (const char* word : {"lumifact", "lf742", "korvu", "lxview", "lfpresenter"})
+        EXPECT_EQ(text.find(word), std::string::npos) << entry.path() << " " << word;
+    }
+  EXPECT_GT(files, 100);
 }
 
 TEST(Application, ShowsPhotosAlbumsAndOneByOne) {
