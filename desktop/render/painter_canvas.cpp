@@ -90,20 +90,26 @@ PainterCanvas::PainterCanvas(QImage& image, double scale, CGRect inside, ShadowC
   applyTransform();
 }
 
+PainterCanvas::Group::Group(QSize size, QPoint where, double opacity)
+    : image(size, QImage::Format_ARGB32_Premultiplied), origin(where), alpha(opacity) {
+  image.fill(Qt::transparent);
+  painter.begin(&image);
+}
+
 PainterCanvas::~PainterCanvas() {
   while (!_saved.empty()) restore();
   while (!_groups.empty()) paintGroup();
 }
 
 QPainter& PainterCanvas::painter() {
-  return _groups.empty() ? _painter : *_groups.back().painter;
+  return _groups.empty() ? _painter : _groups.back()->painter;
 }
 
 void PainterCanvas::applyTransform() {
   QTransform shown = _now.toPixels;
   if (!_groups.empty())
-    for (const Group& group : _groups)
-      shown *= QTransform::fromTranslate(-group.origin.x(), -group.origin.y());
+    for (const auto& group : _groups)
+      shown *= QTransform::fromTranslate(-group->origin.x(), -group->origin.y());
   painter().setWorldTransform(shown);
 }
 
@@ -137,25 +143,21 @@ void PainterCanvas::clip(CGRect rect, CGFloat cornerRadius) {
 void PainterCanvas::beginGroup(double alpha, CGRect) {
   const QRect seen = _now.clip.toAlignedRect();
   QPoint origin = seen.topLeft();
-  for (const Group& group : _groups) origin -= group.origin;
-  Group group{QImage(seen.size().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied), origin,
-              alpha, nullptr};
-  group.image.fill(Qt::transparent);
-  _groups.push_back(std::move(group));
-  _groups.back().painter = std::make_unique<QPainter>(&_groups.back().image);
+  for (const auto& group : _groups) origin -= group->origin;
+  _groups.push_back(std::make_unique<Group>(seen.size().expandedTo({1, 1}), origin, alpha));
   prepare(painter());
   applyTransform();
 }
 
 void PainterCanvas::paintGroup() {
-  const Group group = std::move(_groups.back());
+  const std::unique_ptr<Group> group = std::move(_groups.back());
   _groups.pop_back();
-  group.painter->end();
+  group->painter.end();
   QPainter& below = painter();
   below.save();
   below.resetTransform();
-  below.setOpacity(group.alpha);
-  below.drawImage(group.origin, group.image);
+  below.setOpacity(group->alpha);
+  below.drawImage(group->origin, group->image);
   below.restore();
 }
 

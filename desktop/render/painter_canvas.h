@@ -39,10 +39,11 @@ class PainterCanvas : public uikit::Canvas {
  private:
   // A picture that is painted apart and put down as a whole.
   struct Group {
+    Group(QSize size, QPoint where, double opacity);
     QImage image;
     QPoint origin;  // where it goes, in pixels of what is below
     double alpha;
-    std::unique_ptr<QPainter> painter;
+    QPainter painter;
   };
   struct Level {
     QRectF clip;             // around what can be seen, in pixels of the whole image
@@ -59,7 +60,7 @@ class PainterCanvas : public uikit::Canvas {
   ShadowCache& _shadows;
   Level _now;
   std::vector<Level> _saved;
-  std::vector<Group> _groups;
+  std::vector<std::unique_ptr<Group>> _groups;  // a painter needs its image to stay where it is
 };
 
 }  // namespace desktop::render
