@@ -32,6 +32,15 @@ bool isWithin(CGSize size, CGSize room) {
   return size.width <= room.width + 1 && size.height <= room.height + 1;
 }
 
+// Where a point lies in a rectangle, in shares of its size; and the other way round.
+CGPoint shareOf(CGPoint point, CGRect rect) {
+  return {(point.x - rect.origin.x) / rect.size.width,
+          (point.y - rect.origin.y) / rect.size.height};
+}
+CGPoint pointAt(CGPoint share, CGRect rect) {
+  return {rect.origin.x + share.x * rect.size.width, rect.origin.y + share.y * rect.size.height};
+}
+
 CGSize times(CGSize size, CGFloat factor) {
   return {size.width * factor, size.height * factor};
 }
@@ -39,11 +48,13 @@ CGSize times(CGSize size, CGFloat factor) {
 }  // namespace
 
 Class PUOneUpPhotoView::classObject() {
-  static const Class made = bridge::ClassBuilder<PUOneUpPhotoView>("PUOneUpPhotoView")
-                                .method<"layoutSubviews", &PUOneUpPhotoView::layoutSubviews>()
-                                .method<"handleDoubleTap:", &PUOneUpPhotoView::handleDoubleTap>()
-                                .method<"playTouched:", &PUOneUpPhotoView::playTouched>()
-                                .build();
+  static const Class made =
+      bridge::ClassBuilder<PUOneUpPhotoView>("PUOneUpPhotoView")
+          .method<"layoutSubviews", &PUOneUpPhotoView::layoutSubviews>()
+          .method<"gestureRecognizerShouldBegin:", &PUOneUpPhotoView::shouldBegin>()
+          .method<"handleDoubleTap:", &PUOneUpPhotoView::handleDoubleTap>()
+          .method<"playTouched:", &PUOneUpPhotoView::playTouched>()
+          .build();
   return made;
 }
 
@@ -124,7 +135,7 @@ void PUOneUpPhotoView::layoutSubviews() {
   _zoom = 1;
   send<void, "setContentOffset:">(self(), CGPoint{});
   arrange();
-  load(times(room(), uikit::stage().scale), pictures::Priority::visible);
+  if (_pictureSize.width > 0) loadForRoom();
 }
 
 // The photo stands in the middle of the room, or of all that it covers.
@@ -140,7 +151,8 @@ void PUOneUpPhotoView::arrange() {
   if (_playButton) UIView::of(_playButton.get()).setCenter(mid);
   if (_failure) {
     const CGSize size = send<CGSize, "sizeThatFits:">(_failure.get(), room());
-    _failure->setFrame({{0, mid.y - size.height / 2}, {room().width, size.height}});
+    const CGFloat y = _playButton ? mid.y + playSide : mid.y - size.height / 2;
+    _failure->setFrame({{0, y}, {room().width, size.height}});
   }
 }
 
@@ -154,6 +166,10 @@ void PUOneUpPhotoView::load(CGSize pixels, pictures::Priority priority) {
   _ticket = host().pictures->request(
       _item->path, {side(pixels.width), side(pixels.height), pictures::Request::Fit::fit}, priority,
       [this](const pictures::Outcome& outcome) { show(outcome); });
+}
+
+void PUOneUpPhotoView::loadForRoom() {
+  load(times(room(), uikit::stage().scale), pictures::Priority::visible);
 }
 
 // A closer look has more pixels.
@@ -175,7 +191,7 @@ void PUOneUpPhotoView::show(const pictures::Outcome& outcome) {
                   static_cast<CGFloat>(outcome.picture->height)};
   _imageView->setImage(imageOf(outcome.picture));
   arrange();
-  if (_laidOut.width > 0) load(times(room(), uikit::stage().scale), pictures::Priority::visible);
+  if (_laidOut.width > 0) loadForRoom();
 }
 
 void PUOneUpPhotoView::showFailure(const std::string& reason) {
@@ -196,12 +212,12 @@ void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
   const CGFloat next = std::clamp(zoom, 1.0, greatestZoom());
   if (next == _zoom || fittedSize().width <= 0) return;
   const CGPoint offset = self().contentOffset();
-  const CGFloat factor = next / _zoom;
-  const CGPoint wanted = {(offset.x + at.x) * factor - at.x, (offset.y + at.y) * factor - at.y};
-  const auto change = [this, next, wanted] {
+  const CGPoint place = shareOf({offset.x + at.x, offset.y + at.y}, _imageView->frame());
+  const auto change = [this, next, place, at] {
     _zoom = next;
     arrange();
-    self().setContentOffset(UIScrollView::of(self()).clamped(wanted));
+    const CGPoint now = pointAt(place, _imageView->frame());
+    self().setContentOffset(UIScrollView::of(self()).clamped(now - at));
   };
   const auto kept = bridge::Owned<bridge::UIView>::retain(self());
   if (animated)
@@ -210,6 +226,19 @@ void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
   else
     change();
   loadForZoom();
+}
+
+// At its left and right edges a finger that goes on outwards turns the page.
+bool PUOneUpPhotoView::shouldBegin(bridge::UIGestureRecognizer recognizer) {
+  const auto pan = send<uikit::handles::UIPanGestureRecognizer, "panGestureRecognizer">(self());
+  if (recognizer != pan) return true;
+  const CGPoint moved = pan.translationIn({});
+  const CGPoint speed = pan.velocityIn({});
+  const CGPoint way = {moved.x + speed.x, moved.y + speed.y};
+  if (std::abs(way.x) <= std::abs(way.y)) return true;
+  const CGPoint offset = self().contentOffset();
+  const CGPoint next = {offset.x - std::copysign(1, way.x), offset.y};
+  return UIScrollView::of(self()).clamped(next).x == next.x;
 }
 
 void PUOneUpPhotoView::handleDoubleTap(bridge::UIGestureRecognizer recognizer) {

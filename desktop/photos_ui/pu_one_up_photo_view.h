@@ -32,6 +32,7 @@ class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::
 
  private:
   void layoutSubviews();
+  bool shouldBegin(bridge::UIGestureRecognizer recognizer);
   void handleDoubleTap(bridge::UIGestureRecognizer recognizer);
   void playTouched(bridge::NSObject sender);
 
@@ -39,6 +40,7 @@ class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::
   void addPlayButton();
   // Asks for a picture of the photo as large as the box, in pixels.
   void load(CGSize pixels, pictures::Priority priority);
+  void loadForRoom();
   void loadForZoom();
   void show(const pictures::Outcome& outcome);
   void showFailure(const std::string& reason);

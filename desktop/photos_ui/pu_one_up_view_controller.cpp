@@ -2,6 +2,7 @@
 #include "desktop/photos_ui/pu_one_up_view_controller.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_runtime/ph_asset.h"
@@ -11,11 +12,14 @@
 #include "desktop/photos_ui/pu_one_up_bars_controller.h"
 #include "desktop/photos_ui/pu_one_up_photo_view.h"
 #include "desktop/photos_ui/pu_one_up_tiling_layout.h"
+#include "desktop/uikit/stage.h"
 #include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/ui_navigation_controller.h"
 
 namespace desktop::photos_ui {
 namespace {
 
+using bridge::Owned;
 using bridge::send;
 using uikit::UIView;
 using uikit::handles::makeRecognizer;
@@ -24,6 +28,7 @@ using uikit::handles::UITapGestureRecognizer;
 constexpr NSInteger overFullScreen = 5;  // UIModalPresentationOverFullScreen
 constexpr CGFloat cardMargin = 16;       // points, around a preview
 constexpr CGFloat cardRadius = 12;       // points
+constexpr CGFloat leastCardHeight = 96;  // points
 constexpr double barsTime = 0.25;        // seconds
 constexpr CGFloat zoomStep = 1.5;
 
@@ -52,6 +57,7 @@ Class PUOneUpViewController::classObject() {
 }
 
 PUOneUpViewController::~PUOneUpViewController() {
+  if (_tilingView) pages().pageChanged = nullptr;
   bridge::setObjectField(self(), "_tilingView", {});
 }
 
@@ -121,13 +127,24 @@ bridge::Owned<bridge::UIView> PUOneUpViewController::makeTilingView() {
   return tiling;
 }
 
-// A preview is a card in the middle of what it was called from.
+// As high as the photo is at a width; a square where its shape is not known.
+CGFloat PUOneUpViewController::cardHeight(CGFloat width) const {
+  if (!host().library || !currentItem()) return width;
+  const auto& facts = host().library->facts(*currentItem());
+  if (!facts || (*facts)->pixelWidth == 0 || (*facts)->pixelHeight == 0) return width;
+  return width * static_cast<CGFloat>((*facts)->pixelHeight) /
+         static_cast<CGFloat>((*facts)->pixelWidth);
+}
+
+// A preview is a card in the middle of what it was called from, as large as there is room.
 CGRect PUOneUpViewController::cardFrame() const {
   const CGRect all = me().bounds();
   if (!isPresentedForPreview()) return all;
   const CGFloat width = all.size.width - 2 * cardMargin;
-  const CGFloat height = std::min(width * 1.2, all.size.height - 8 * cardMargin);
-  return {{cardMargin, (all.size.height - height) / 2}, {width, height}};
+  const CGFloat height = std::max(cardHeight(width), leastCardHeight);
+  const CGFloat factor = std::min(1.0, (all.size.height - 4 * cardMargin) / height);
+  const CGSize size = {width * factor, height * factor};
+  return {{(all.size.width - size.width) / 2, (all.size.height - size.height) / 2}, size};
 }
 
 void PUOneUpViewController::viewWillLayoutSubviews() {
@@ -142,15 +159,20 @@ void PUOneUpViewController::setTilingView(bridge::UIView view) {
 
 void PUOneUpViewController::showItems(std::size_t index) {
   pages().pageChanged = [this](std::size_t page) { moved(page); };
+  pages().pageHidden = [](bridge::UIView page) { PUOneUpPhotoView::of(page).zoomTo(1, {}, false); };
   pages().setPages(_items->size(), index, [items = _items](std::size_t page) {
     return PUOneUpPhotoView::make(items->at(page));
   });
-  moved(index);
+  setCurrent(index);
+}
+
+void PUOneUpViewController::setCurrent(std::size_t index) {
+  _index = index;
+  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items->pathOf(index));
 }
 
 void PUOneUpViewController::moved(std::size_t index) {
-  _index = index;
-  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items->pathOf(index));
+  setCurrent(index);
   PUOneUpBarsController::of(_bars.get()).update();
 }
 
@@ -203,6 +225,7 @@ bool PUOneUpViewController::shouldReceiveTouch(bridge::UIGestureRecognizer,
 void PUOneUpViewController::showBars(bool shown, bool animated) {
   if (shown == _areBarsShown) return;
   _areBarsShown = shown;
+  showStatusBar(shown);
   const bridge::UIViewController controller(self().get());
   const auto navigation = controller.navigationController();
   send<void, "setNavigationBarHidden:animated:">(navigation, !shown, animated);
@@ -215,9 +238,18 @@ void PUOneUpViewController::showBars(bool shown, bool animated) {
   PUOneUpBarsController::of(_bars.get()).update();
 }
 
+void PUOneUpViewController::showStatusBar(bool shown) {
+  bool& isShown = uikit::stage().statusBar.isShown;
+  if (shown)
+    isShown = _hasStatusBar;
+  else
+    _hasStatusBar = std::exchange(isShown, false);
+}
+
 bool PUOneUpViewController::page(std::size_t index) {
-  if (index >= _items->size() || index == _index) return false;
-  pages().show(index, index + 1 == _index || index == _index + 1);
+  const std::size_t from = pages().goal();
+  if (index >= _items->size() || index == from) return false;
+  pages().show(index, index + 1 == from || index == from + 1);
   return true;
 }
 
@@ -248,9 +280,9 @@ bool PUOneUpViewController::perform(OneUpAction action) {
   if (!_tilingView || _items->isEmpty()) return false;
   switch (action) {
     case OneUpAction::next:
-      return page(_index + 1);
+      return page(pages().goal() + 1);
     case OneUpAction::previous:
-      return _index > 0 && page(_index - 1);
+      return pages().goal() > 0 && page(pages().goal() - 1);
     case OneUpAction::first:
       return page(0);
     case OneUpAction::last:
@@ -276,16 +308,21 @@ void PUOneUpViewController::libraryChanged(const photos::LibraryChange&) {
   const auto place = items->placeAfterChange(*_items, _index);
   _items = items;
   showItems(place.value_or(0));
+  PUOneUpBarsController::of(_bars.get()).update();
   if (!place) leave();
 }
 
+// Whatever was opened from here goes too.
 void PUOneUpViewController::leave() {
   const bridge::UIViewController controller(self().get());
-  if (isPresentedForPreview())
-    controller.dismiss(bridge::UIViewController::animated, {});
-  else
-    send<bridge::UIViewController, "popViewControllerAnimated:">(controller.navigationController(),
-                                                                 true);
+  if (isPresentedForPreview()) return controller.dismiss(bridge::UIViewController::animated, {});
+  const auto navigation = controller.navigationController();
+  if (!navigation) return;
+  const auto stack = uikit::UINavigationController::of(navigation).stack();
+  const auto place = std::ranges::find(stack, controller, &Owned<bridge::UIViewController>::get);
+  if (place != stack.begin() && place != stack.end())
+    send<bridge::NSArray, "popToViewController:animated:">(navigation, std::prev(place)->get(),
+                                                           true);
 }
 
 }  // namespace desktop::photos_ui

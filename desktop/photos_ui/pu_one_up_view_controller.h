@@ -26,6 +26,10 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   // Null where nothing is left to show.
   photos::ItemPointer currentItem() const;
   std::size_t currentIndex() const { return _index; }
+  // What extensions ask which item is on show.
+  bridge::PUOneUpTilingLayout layout() const {
+    return bridge::PUOneUpTilingLayout(_layout.get().get());
+  }
   bool perform(OneUpAction action);
 
  private:
@@ -49,9 +53,12 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   CGRect cardFrame() const;
   void viewWillLayoutSubviews();
   PUTilingView& pages() const { return PUTilingView::of(_tilingView.get()); }
+  CGFloat cardHeight(CGFloat width) const;
   void showItems(std::size_t index);
+  void setCurrent(std::size_t index);
   void moved(std::size_t index);
   void showBars(bool shown, bool animated);
+  void showStatusBar(bool shown);
   bool page(std::size_t index);
   bool zoom(OneUpAction action);
   void leave();
@@ -63,6 +70,7 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   bridge::Owned<bridge::NSObject> _bars;
   bridge::Owned<bridge::UIView> _tilingView;
   bool _areBarsShown = true;
+  bool _hasStatusBar = false;  // while the bars are hidden: whether it comes back with them
 };
 
 }  // namespace desktop::photos_ui

@@ -20,6 +20,7 @@ void PUTilingView::setPages(std::size_t count, std::size_t first, MakePage makeP
   _pages.clear();
   _count = count;
   _current = count == 0 ? 0 : std::min(first, count - 1);
+  _goal.reset();
   _makePage = std::move(makePage);
   _laidOut = {};
   uikit::UIView::of(self()).setNeedsLayout();
@@ -37,6 +38,7 @@ CGRect PUTilingView::frameOf(std::size_t index) const {
 
 void PUTilingView::show(std::size_t index, bool animated) {
   if (index >= _count) return;
+  _goal = index;
   bridge::send<void, "setContentOffset:animated:">(self(), frameOf(index).origin, animated);
   uikit::UIView::of(self()).setNeedsLayout();
 }
@@ -47,12 +49,29 @@ void PUTilingView::layoutSubviews() {
   const CGSize size = uikit::UIView::of(self()).bounds().size;
   if (size != _laidOut) {
     _laidOut = size;
+    _goal.reset();
     self().setContentSize({static_cast<CGFloat>(_count) * size.width, size.height});
     self().setContentOffset(frameOf(_current).origin);
   } else {
+    updateGoal();
     follow();
   }
   arrange();
+  tellHidden();
+}
+
+void PUTilingView::tellHidden() const {
+  if (!pageHidden) return;
+  const CGFloat left = self().contentOffset().x;
+  for (const auto& [index, page] : _pages)
+    if (std::abs(frameOf(index).origin.x - left) >= pageWidth()) pageHidden(page.get());
+}
+
+// A finger may have taken over.
+void PUTilingView::updateGoal() {
+  if (!_goal) return;
+  const bool isThere = self().contentOffset() == frameOf(*_goal).origin;
+  if (isThere || uikit::UIScrollView::of(self()).isTracking()) _goal.reset();
 }
 
 // The page that takes the most room is the one on show.
@@ -66,6 +85,7 @@ void PUTilingView::follow() {
   if (pageChanged) pageChanged(index);
 }
 
+// The page on show is made first, as its picture is wanted first.
 void PUTilingView::arrange() {
   if (_count == 0 || !_makePage) return;
   const std::size_t first = _current == 0 ? 0 : _current - 1;
@@ -75,14 +95,18 @@ void PUTilingView::arrange() {
     entry.second->removeFromSuperview();
     return true;
   });
-  for (std::size_t index = first; index <= last; ++index) {
-    Page& page = _pages[index];
-    if (!page) {
-      page = _makePage(index);
-      self().addSubview(page);
-    }
-    page->setFrame(frameOf(index));
+  placePage(_current);
+  for (const std::size_t index : {last, first})
+    if (index != _current) placePage(index);
+}
+
+void PUTilingView::placePage(std::size_t index) {
+  Page& page = _pages[index];
+  if (!page) {
+    page = _makePage(index);
+    self().addSubview(page);
   }
+  page->setFrame(frameOf(index));
 }
 
 }  // namespace desktop::photos_ui

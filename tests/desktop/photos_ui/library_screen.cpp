@@ -24,7 +24,8 @@ long registeredObjects() {
   uikit::registerUIKit();
   registerPhotosUI();
   uikit::resetStage();
-  uikit::UIMenuController::shared();  // made once, and kept
+  uikit::UIMenuController::shared();  // made once, and kept, as the application is
+  bridge::UIApplication::sharedApplication();
   return bridge::liveBoundObjects();
 }
 

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+//
+// The order in which a single photo comes up, as an extension that hooks its classes sees it.
+#include <gmock/gmock.h>
+
+#include "bridge/hook.h"
+#include "tests/desktop/photos_ui/one_up_screen.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+using bridge::replaced;
+using bridge::Stock;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<std::string>& calls() {
+  static auto& kept = *new std::vector<std::string>;
+  return kept;
+}
+
+void note(SEL command) {
+  calls().emplace_back(sel_getName(command));
+}
+
+constinit Stock<id(id, SEL)> stockInit;
+constinit Stock<void(id, SEL)> stockViewDidLoad;
+constinit Stock<void(id, SEL, id)> stockSetTilingView;
+constinit Stock<void(id, SEL, BOOL)> stockViewWillAppear;
+constinit Stock<void(id, SEL, BOOL)> stockViewWillDisappear;
+constinit Stock<void(id, SEL)> stockUpdateBars;
+
+id Layout_init(id self, SEL command) {
+  note(command);
+  return stockInit(self, command);
+}
+void OneUp_viewDidLoad(id self, SEL command) {
+  note(command);
+  stockViewDidLoad(self, command);
+}
+void OneUp_setTilingView(id self, SEL command, id view) {
+  stockSetTilingView(self, command, view);
+  note(command);
+  EXPECT_EQ(bridge::objectField(bridge::Object(self), "_tilingView"), bridge::Object(view));
+}
+void OneUp_viewWillAppear(id self, SEL command, BOOL animated) {
+  note(command);
+  stockViewWillAppear(self, command, animated);
+}
+void OneUp_viewWillDisappear(id self, SEL command, BOOL animated) {
+  note(command);
+  stockViewWillDisappear(self, command, animated);
+}
+void Bars_updateBars(id self, SEL command) {
+  note(command);
+  stockUpdateBars(self, command);
+}
+
+constinit const bridge::HookRow rows[] = {
+    replaced<"PUOneUpTilingLayout", "init", &Layout_init, stockInit>,
+    replaced<"PUOneUpViewController", "viewDidLoad", &OneUp_viewDidLoad, stockViewDidLoad>,
+    replaced<"PUOneUpViewController", "_setTilingView:", &OneUp_setTilingView, stockSetTilingView>,
+    replaced<"PUOneUpViewController", "viewWillAppear:", &OneUp_viewWillAppear,
+             stockViewWillAppear>,
+    replaced<"PUOneUpViewController", "viewWillDisappear:", &OneUp_viewWillDisappear,
+             stockViewWillDisappear>,
+    replaced<"PUOneUpBarsController", "updateBars", &Bars_updateBars, stockUpdateBars>,
+};
+
+class OneUpOrderTest : public OneUpTest {
+ protected:
+  OneUpOrderTest() {
+    static const bool isHooked = (bridge::applyHooks(rows), true);
+    EXPECT_TRUE(isHooked);
+    addPictures(3);
+    open();
+    calls().clear();
+  }
+  // What was called since the last time.
+  static std::vector<std::string> callsSince() { return std::exchange(calls(), {}); }
+};
+
+TEST_F(OneUpOrderTest, MakesTheLayoutBeforeTheViewAndTheBarsLast) {
+  show(1);
+  auto all = callsSince();
+  ASSERT_GE(all.size(), 5U);
+  all.resize(5);
+  EXPECT_THAT(
+      all, ElementsAre("init", "viewDidLoad", "_setTilingView:", "viewWillAppear:", "updateBars"));
+}
+
+TEST_F(OneUpOrderTest, UpdatesTheBarsWithEachPageAndWhenTheyComeAndGo) {
+  show(1);
+  callsSince();
+  act(OneUpAction::next);
+  EXPECT_THAT(callsSince(), ElementsAre("updateBars"));
+  tap(screenMiddle);
+  EXPECT_THAT(callsSince(), ElementsAre("updateBars"));
+  tap(screenMiddle);
+  EXPECT_THAT(callsSince(), ElementsAre("updateBars"));
+  settle(5);
+  EXPECT_THAT(callsSince(), IsEmpty());
+}
+
+TEST_F(OneUpOrderTest, ComesUpAgainWithEachOpening) {
+  show(1);
+  callsSince();
+  bridge::send<id, "popViewControllerAnimated:">(navigation().self(), true);
+  settle();
+  EXPECT_THAT(callsSince(), ElementsAre("viewWillDisappear:"));
+  show(0);
+  EXPECT_EQ(callsSince().at(1), "viewDidLoad");
+}
+
+TEST_F(OneUpOrderTest, TellsExtensionsThatAPreviewIsOne) {
+  peek(1);
+  EXPECT_TRUE((bridge::send<bool, "isPresentedForPreview">(oneUp().self())));
+  const auto all = callsSince();
+  EXPECT_THAT(all, ElementsAre("init", "viewDidLoad", "_setTilingView:", "viewWillAppear:"));
+}
+
+}  // namespace
+}  // namespace desktop::photos_ui

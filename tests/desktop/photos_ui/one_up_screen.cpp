@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "tests/desktop/photos_ui/one_up_screen.h"
+
+#include <cstdio>
+
+#include "bridge/runtime/fields.h"
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/photos_host.h"
+#include "desktop/uikit/stage.h"
+
+namespace desktop::photos_ui {
+
+using uikit::stage;
+
+namespace {
+
+void append(std::string& bytes, std::uint32_t number, int count) {
+  for (int index = 0; index < count; ++index)
+    bytes.push_back(static_cast<char>(number >> (8 * index) & 0xFF));
+}
+
+// A Windows bitmap of 24 bits a pixel.
+std::string greyBitmap(int width, int height) {
+  const auto size = static_cast<std::uint32_t>((width * 3 + 3) / 4 * 4 * height);
+  std::string bytes = "BM";
+  for (const std::uint32_t number : {54 + size, 0U, 54U, 40U}) append(bytes, number, 4);
+  append(bytes, static_cast<std::uint32_t>(width), 4);
+  append(bytes, static_cast<std::uint32_t>(height), 4);
+  append(bytes, 1, 2);
+  append(bytes, 24, 2);
+  for (const std::uint32_t number : {0U, size, 2835U, 2835U, 0U, 0U}) append(bytes, number, 4);
+  return bytes + std::string(size, '\x80');
+}
+
+}  // namespace
+
+OneUpTest::OneUpTest() : _loader({.command = {"/proc/self/exe", "--decode-pictures"}}) {
+  host().pictures = &_loader;
+}
+
+OneUpTest::~OneUpTest() {
+  uikit::resetStage();
+  host().pictures = nullptr;
+}
+
+void OneUpTest::addPicture(const std::string& name, int day, int width, int height) const {
+  const std::string path = folder.write("Album/" + name, greyBitmap(width, height));
+  photos::setFileDate(path, day * aDay);
+}
+
+void OneUpTest::addPictures(int count) const {
+  for (int index = 0; index < count; ++index) addPicture(std::to_string(index) + ".bmp", index);
+}
+
+void OneUpTest::show(long item) {
+  const bridge::AutoreleasePool pool;
+  if (!library) open();
+  ASSERT_FALSE(openAlbum("Album"));
+  ASSERT_FALSE(openItem(item));
+  deliverPictures();
+}
+
+void OneUpTest::peek(long item) {
+  const bridge::AutoreleasePool pool;
+  if (!library) open();
+  ASSERT_FALSE(openAlbum("Album"));
+  ASSERT_FALSE(peekItem(item));
+  deliverPictures();
+}
+
+void OneUpTest::deliverPictures() {
+  const bridge::AutoreleasePool pool;
+  settle();
+  EXPECT_TRUE(_loader.waitUntilIdle(std::chrono::seconds(30)));
+  settle();
+}
+
+void OneUpTest::removeFile(const std::string& name) {
+  std::remove(folder.file("Album/" + name).c_str());
+  deliver();
+}
+
+PUOneUpViewController& OneUpTest::oneUp() {
+  return PUOneUpViewController::of(oneUpOnShow());
+}
+
+bool OneUpTest::isOneUpOnShow() {
+  const bridge::AutoreleasePool pool;
+  return static_cast<bool>(oneUpOnShow());
+}
+
+uikit::UINavigationController& OneUpTest::navigation() {
+  return uikit::UINavigationController::of(top().navigationController());
+}
+
+PUTilingView& OneUpTest::tilingView() {
+  return PUTilingView::of(bridge::objectField(oneUpOnShow(), "_tilingView"));
+}
+
+std::vector<std::string> OneUpTest::pages() {
+  const bridge::AutoreleasePool pool;
+  std::vector<std::string> names;
+  for (const auto& view : uikit::UIView::of(tilingView().self()).subviews())
+    names.push_back(nameOf(PUOneUpPhotoView::of(view.get()).item()));
+  return names;
+}
+
+PUOneUpPhotoView& OneUpTest::currentPhoto() {
+  return PUOneUpPhotoView::of(tilingView().currentPage());
+}
+
+CGRect OneUpTest::pictureFrame() {
+  const bridge::AutoreleasePool pool;
+  const auto& view = uikit::UIView::of(currentPhoto().self());
+  const auto& picture = uikit::UIView::of(view.subviews().at(0).get());
+  const CGSize size = picture.bounds().size;
+  return {uikit::apply(picture.toScreen(), CGPoint{}), size};
+}
+
+std::string OneUpTest::nameOf(const photos::ItemPointer& item) {
+  return item ? item->path.substr(item->path.rfind('/') + 1) : "";
+}
+
+bool OneUpTest::act(OneUpAction action) {
+  const bridge::AutoreleasePool pool;
+  const bool isDone = performOneUpAction(oneUpOnShow(), action);
+  settle();
+  return isDone;
+}
+
+void OneUpTest::drag(CGPoint from, CGPoint to) {
+  constexpr int steps = 10;
+  const bridge::AutoreleasePool pool;
+  stage().touches.down(from);
+  for (int step = 1; step <= steps; ++step) {
+    const CGFloat share = static_cast<CGFloat>(step) / steps;
+    settle(0.02);
+    stage().touches.move({from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share});
+  }
+  settle(0.3);
+  stage().touches.up(to);
+  settle();
+}
+
+void OneUpTest::doubleTap(CGPoint point) {
+  const bridge::AutoreleasePool pool;
+  for (int tapped = 0; tapped < 2; ++tapped) {
+    stage().touches.down(point);
+    settle(0.05);
+    stage().touches.up(point);
+    settle(0.1);
+  }
+  settle();
+}
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/one_up.h"
+
+#include <gmock/gmock.h>
+
+#include "desktop/photos_runtime/ph_asset.h"
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/photos_host.h"
+#include "desktop/uikit/color.h"
+#include "desktop/uikit/stage.h"
+#include "tests/desktop/photos_ui/one_up_screen.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+using uikit::stage;
+
+// The item that extensions are told is on show.
+std::string assetOnShow(const PUOneUpViewController& oneUp, const photos::LibraryFolder& folder,
+                        bridge::Object layout) {
+  const bridge::AutoreleasePool pool;
+  const auto path = bridge::send<bridge::NSIndexPath, "indexPathOfCurrentItem">(layout);
+  const auto reference =
+      bridge::send<bridge::PUAssetReference, "_assetReferenceAtIndexPath:layout:">(oneUp.self(),
+                                                                                   path, layout);
+  const auto asset = bridge::send<bridge::Object, "asset">(reference);
+  return asset ? folder.below(photos::PHAsset::itemOf(asset)->path) : "";
+}
+
+TEST_F(OneUpTest, TurnsPagesByDraggingAndStopsAtTheEnds) {
+  addPictures(3);
+  show(0);
+  drag({300, 300}, {60, 300});
+  EXPECT_EQ(currentName(), "1.bmp");
+  drag({300, 300}, {60, 300});
+  EXPECT_EQ(currentName(), "2.bmp");
+  drag({300, 300}, {60, 300});
+  EXPECT_EQ(currentName(), "2.bmp");
+  drag({60, 300}, {300, 300});
+  EXPECT_EQ(currentName(), "1.bmp");
+  drag({200, 300}, {150, 300});
+  EXPECT_EQ(currentName(), "1.bmp") << "too short a way";
+}
+
+TEST_F(OneUpTest, TurnsPagesByKeys) {
+  addPictures(5);
+  show(1);
+  EXPECT_TRUE(act(OneUpAction::next));
+  EXPECT_EQ(currentName(), "2.bmp");
+  EXPECT_TRUE(act(OneUpAction::previous));
+  EXPECT_TRUE(act(OneUpAction::previous));
+  EXPECT_EQ(currentName(), "0.bmp");
+  EXPECT_FALSE(act(OneUpAction::previous));
+  EXPECT_TRUE(act(OneUpAction::last));
+  EXPECT_EQ(currentName(), "4.bmp");
+  EXPECT_FALSE(act(OneUpAction::next));
+  EXPECT_TRUE(act(OneUpAction::first));
+  EXPECT_EQ(currentName(), "0.bmp");
+  EXPECT_FALSE(act(OneUpAction::play)) << "a photo does not play";
+  EXPECT_FALSE(performOneUpAction({}, OneUpAction::next));
+}
+
+TEST_F(OneUpTest, TurnsPagesAsQuicklyAsKeysRepeat) {
+  addPictures(9);
+  show(0);
+  for (int press = 0; press < 4; ++press) {
+    EXPECT_TRUE(performOneUpAction(oneUpOnShow(), OneUpAction::next)) << press;
+    settle(0.05);
+  }
+  settle();
+  EXPECT_EQ(currentName(), "4.bmp");
+}
+
+TEST_F(OneUpTest, KeepsOnlyThePageOnShowAndItsNeighbours) {
+  addPictures(6);
+  show(0);
+  EXPECT_THAT(pages(), UnorderedElementsAre("0.bmp", "1.bmp"));
+  act(OneUpAction::next);
+  act(OneUpAction::next);
+  EXPECT_THAT(pages(), UnorderedElementsAre("1.bmp", "2.bmp", "3.bmp"));
+  act(OneUpAction::last);
+  EXPECT_THAT(pages(), UnorderedElementsAre("4.bmp", "5.bmp"));
+}
+
+TEST_F(OneUpTest, SaysWhichItemIsOnShow) {
+  const bridge::AutoreleasePool pool;
+  addPictures(3);
+  show(1);
+  const auto& layout = oneUp().layout();
+  EXPECT_EQ(assetOnShow(oneUp(), folder, layout), "Album/1.bmp");
+  act(OneUpAction::next);
+  EXPECT_EQ(assetOnShow(oneUp(), folder, layout), "Album/2.bmp");
+  EXPECT_FALSE((bridge::send<id, "_assetReferenceAtIndexPath:layout:">(
+      oneUp().self(), uikit::indexPathOf({0, 3}), layout)));
+  EXPECT_FALSE(
+      (bridge::send<id, "_assetReferenceAtIndexPath:layout:">(oneUp().self(), id{}, id{})));
+  const auto fresh = bridge::makeNew<bridge::PUOneUpTilingLayout>();
+  EXPECT_FALSE(fresh->indexPathOfCurrentItem()) << "nothing is shown by it";
+}
+
+TEST_F(OneUpTest, ShowsTheDateOfTheItem) {
+  addPictures(2);
+  show(0);
+  EXPECT_EQ(title(), "Jan 1, 1970");
+  act(OneUpAction::next);
+  EXPECT_EQ(title(), "Jan 2, 1970");
+}
+
+TEST_F(OneUpTest, KeepsItsPageWhenTheScreenIsTurned) {
+  addPictures(4);
+  show(2);
+  stage().resize({667, 375});
+  deliverPictures();
+  EXPECT_EQ(currentName(), "2.bmp");
+  EXPECT_EQ(pictureFrame(), (CGRect{{83.5, 0}, {500, 375}}));
+  stage().resize({375, 667});
+  deliverPictures();
+  EXPECT_EQ(currentName(), "2.bmp");
+  EXPECT_EQ(pictureFrame(), (CGRect{{0, 192.875}, {375, 281.25}}));
+}
+
+TEST_F(OneUpTest, HidesAndShowsBarsByTaps) {
+  stage().statusBar.isShown = true;
+  addPictures(2);
+  show(0);
+  const auto background = [] {
+    const bridge::AutoreleasePool pool;
+    return uikit::UIView::of(top().view()).backgroundColor();
+  };
+  const auto& bars = navigation();
+  EXPECT_FALSE(bars.isNavigationBarHidden());
+  EXPECT_FALSE(bars.isToolbarHidden());
+  EXPECT_EQ(background(), uikit::colors::white);
+  tap(screenMiddle);
+  EXPECT_TRUE(bars.isNavigationBarHidden());
+  EXPECT_TRUE(bars.isToolbarHidden());
+  EXPECT_FALSE(stage().statusBar.isShown);
+  EXPECT_EQ(background(), uikit::colors::black);
+  tap(screenMiddle);
+  EXPECT_FALSE(bars.isNavigationBarHidden());
+  EXPECT_FALSE(bars.isToolbarHidden());
+  EXPECT_TRUE(stage().statusBar.isShown);
+  EXPECT_EQ(background(), uikit::colors::white);
+}
+
+TEST_F(OneUpTest, LeavesBarsAsTheyWere) {
+  stage().statusBar.isShown = true;
+  addPictures(2);
+  show(0);
+  tap(screenMiddle);
+  ASSERT_FALSE(goBack());
+  settle();
+  EXPECT_FALSE(isOneUpOnShow());
+  EXPECT_FALSE(navigation().isNavigationBarHidden());
+  EXPECT_TRUE(navigation().isToolbarHidden());
+  EXPECT_TRUE(stage().statusBar.isShown);
+  EXPECT_EQ(title(), "Album");
+}
+
+TEST_F(OneUpTest, KeepsThePictureInPlaceWhenBarsGo) {
+  addPictures(2);
+  show(0);
+  const CGRect before = pictureFrame();
+  tap(screenMiddle);
+  EXPECT_EQ(pictureFrame(), before);
+}
+
+TEST_F(OneUpTest, SaysWhyAPhotoCannotBeShown) {
+  folder.broken("Album/broken.jpg");
+  addPicture("fine.bmp", 40);
+  show(0);
+  EXPECT_THAT(texts(), Contains(HasSubstr("broken.jpg\ncannot be shown: ")));
+  EXPECT_EQ(library->problems().size(), 1U);
+  act(OneUpAction::next);
+  EXPECT_EQ(pictureFrame().size.width, 375);
+}
+
+TEST_F(OneUpTest, PlaysVideosOutside) {
+  const std::string path = folder.broken("Album/my clip.mov");
+  show(0);
+  tap(screenMiddle);
+  ASSERT_EQ(stage().opened.size(), 1U);
+  EXPECT_THAT(stage().opened[0], HasSubstr("file://"));
+  EXPECT_THAT(stage().opened[0], HasSubstr("/Album/my%20clip.mov"));
+  EXPECT_FALSE(navigation().isNavigationBarHidden()) << "the button takes the tap";
+  EXPECT_TRUE(act(OneUpAction::play));
+  EXPECT_EQ(stage().opened.size(), 2U);
+}
+
+TEST_F(OneUpTest, PreviewsACardWithoutBarsThatATapBesideCloses) {
+  addPictures(3);
+  peek(1);
+  ASSERT_TRUE(isOneUpOnShow());
+  EXPECT_EQ(currentName(), "1.bmp");
+  EXPECT_EQ(pictureFrame(), (CGRect{{16, 204.875}, {343, 257.25}}));
+  EXPECT_TRUE(navigation().isToolbarHidden());
+  tap(screenMiddle);
+  EXPECT_TRUE(isOneUpOnShow()) << "a tap on the card";
+  drag({300, 333}, {60, 333});
+  EXPECT_EQ(currentName(), "1.bmp") << "a card is not paged";
+  tap({187, 100});
+  EXPECT_FALSE(isOneUpOnShow());
+  EXPECT_EQ(title(), "Album");
+}
+
+TEST_F(OneUpTest, KeepsPreviewsOfAnyShapeOnTheScreen) {
+  addPicture("tall.bmp", 0, 10, 400);
+  addPicture("wide.bmp", 1, 400, 10);
+  for (const long item : {0, 1}) {
+    peek(item);
+    const CGRect card = uikit::UIView::of(tilingView().self()).frame();
+    EXPECT_GE(card.origin.x, 16) << item;
+    EXPECT_GE(card.origin.y, 16) << item;
+    EXPECT_GE(card.size.height, 96) << item;
+    EXPECT_LE(card.origin.y + card.size.height, 651) << item;
+    ASSERT_FALSE(goBack());
+    settle();
+  }
+}
+
+TEST_F(OneUpTest, GoesToTheNeighbourOfAFileThatIsGone) {
+  addPictures(4);
+  show(1);
+  removeFile("1.bmp");
+  EXPECT_EQ(currentName(), "2.bmp");
+  EXPECT_EQ(title(), "Jan 3, 1970");
+  removeFile("0.bmp");
+  EXPECT_EQ(currentName(), "2.bmp");
+  EXPECT_THAT(pages(), UnorderedElementsAre("2.bmp", "3.bmp"));
+  act(OneUpAction::next);
+  removeFile("3.bmp");
+  EXPECT_EQ(currentName(), "2.bmp");
+}
+
+TEST_F(OneUpTest, LeavesWhenTheLastFileIsGone) {
+  addPictures(1);
+  show(0);
+  removeFile("0.bmp");
+  EXPECT_FALSE(isOneUpOnShow());
+  EXPECT_TRUE(navigation().isToolbarHidden());
+}
+
+TEST_F(OneUpTest, LeavesWithAllThatWasOpenedFromIt) {
+  addPictures(1);
+  show(0);
+  const auto page = bridge::makeNew<bridge::UIViewController>();
+  top().navigationController().push(page, bridge::UIViewController::animated);
+  settle();
+  removeFile("0.bmp");
+  EXPECT_EQ(title(), "Album");
+}
+
+TEST_F(OneUpTest, ClosesThePreviewOfAFileThatIsGone) {
+  addPictures(1);
+  peek(0);
+  removeFile("0.bmp");
+  EXPECT_FALSE(isOneUpOnShow());
+}
+
+TEST_F(OneUpTest, LeavesNothingBehind) {
+  addPictures(4);
+  open();
+  ASSERT_FALSE(openAlbum("Album"));
+  long before = 0;
+  for (int turn = 0; turn < 3; ++turn) {
+    std::optional<bridge::AutoreleasePool> pool{std::in_place};
+    ASSERT_FALSE(openItem(turn));
+    settle();
+    act(OneUpAction::next);
+    tap(screenMiddle);
+    act(OneUpAction::zoomIn);
+    ASSERT_FALSE(goBack());
+    settle();
+    ASSERT_FALSE(peekItem(turn));
+    deliverPictures();
+    ASSERT_FALSE(goBack());
+    settle();
+    pool.reset();
+    if (turn == 0) before = bridge::liveBoundObjects();
+    EXPECT_EQ(bridge::liveBoundObjects(), before) << turn;
+  }
+}
+
+TEST_F(OneUpTest, WantsNoPicturesOnceItIsLeft) {
+  addPictures(4);
+  open();
+  ASSERT_FALSE(openAlbum("Album"));
+  deliverPictures();
+  std::optional<bridge::AutoreleasePool> pool{std::in_place};
+  ASSERT_FALSE(openItem(1));
+  EXPECT_FALSE(host().pictures->waitUntilIdle(std::chrono::milliseconds(0)));
+  ASSERT_FALSE(goBack());
+  settle();
+  pool.reset();
+  EXPECT_TRUE(host().pictures->waitUntilIdle(std::chrono::milliseconds(0)));
+}
+
+TEST_F(OneUpTest, SharesThePathOfTheItem) {
+  const bridge::AutoreleasePool pool;
+  addPictures(2);
+  show(1);
+  tap({20, 645});
+  const auto sheet = bridge::send<bridge::UIViewController, "presentedViewController">(top());
+  EXPECT_TRUE(bridge::isKindOf(sheet, bridge::UIActivityViewController::classObject()));
+}
+
+}  // namespace
+}  // namespace desktop::photos_ui
