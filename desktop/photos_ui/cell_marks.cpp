@@ -11,8 +11,9 @@
 namespace desktop::photos_ui {
 namespace {
 
-using uikit::operator+;
-using uikit::operator-;
+constexpr CGPoint moved(CGPoint from, CGFloat right, CGFloat down) {
+  return {from.x + right, from.y + down};
+}
 
 using uikit::Path;
 namespace colors = uikit::colors;
@@ -26,9 +27,9 @@ void drawTick(uikit::Canvas& canvas, CGRect bounds) {
   canvas.stroke(Path::ellipse(uikit::inset(circle, 0.75, 0.75)), 1.5, colors::white);
   const CGPoint middle = uikit::middle(circle);
   Path tick;
-  tick.moveTo(middle + CGPoint{-4.5, 0.5})
-      .lineTo(middle + CGPoint{-1.5, 3.5})
-      .lineTo(middle + CGPoint{4.5, -3.5});
+  tick.moveTo(moved(middle, -4.5, 0.5))
+      .lineTo(moved(middle, -1.5, 3.5))
+      .lineTo(moved(middle, 4.5, -3.5));
   canvas.stroke(tick, 2, colors::white);
 }
 
@@ -36,8 +37,8 @@ void drawPlus(uikit::Canvas& canvas, CGRect bounds) {
   const CGFloat arm = std::min({bounds.size.width, bounds.size.height, 80.0}) / 5;
   const CGPoint middle = uikit::middle(bounds);
   Path plus;
-  plus.moveTo(middle + CGPoint{-arm, 0}).lineTo(middle + CGPoint{arm, 0});
-  plus.moveTo(middle + CGPoint{0, -arm}).lineTo(middle + CGPoint{0, arm});
+  plus.moveTo(moved(middle, -arm, 0)).lineTo(moved(middle, arm, 0));
+  plus.moveTo(moved(middle, 0, -arm)).lineTo(moved(middle, 0, arm));
   canvas.fill(bounds, colors::groupedBackground, 0);
   canvas.stroke(plus, 2, colors::secondaryText);
 }

@@ -38,7 +38,9 @@ std::optional<std::size_t> ItemList::findDated(const photos::LibraryItem& item) 
   };
   const auto dated =
       std::ranges::equal_range(_items, item.modificationDate.secondsSince1970, {}, dateOf);
-  const auto found = std::ranges::find(dated, item.uuid, &photos::LibraryItem::uuid);
+  const auto found = std::find_if(dated.begin(), dated.end(), [&](const photos::ItemPointer& each) {
+    return each->uuid == item.uuid;
+  });
   if (found == dated.end()) return {};
   return static_cast<std::size_t>(found - _items.begin());
 }

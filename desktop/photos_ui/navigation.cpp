@@ -191,7 +191,7 @@ Outcome openAlbum(std::string_view title) {
   const auto found = std::ranges::find(albums, title, &photos::Album::title);
   if (found == albums.end()) return model::Error{"there is no album '" + std::string(title) + "'"};
   const auto controller = makeAlbumController(*found);
-  if (const auto failed = openAlbums()) return failed;
+  if (auto failed = openAlbums()) return failed;
   navigation().push(controller, UIViewController::immediately);
   prepare();
   return std::nullopt;
@@ -260,8 +260,7 @@ Outcome selectItem(long index) {
 UIViewController oneUpOnShow() {
   if (!tabs()) return {};
   const UIViewController over = presented();
-  if (isOneUp(over)) return over;
-  const UIViewController shown = top();
+  const UIViewController shown = over ? over : top();
   return isOneUp(shown) ? shown : UIViewController();
 }
 

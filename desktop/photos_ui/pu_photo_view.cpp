@@ -11,8 +11,9 @@
 namespace desktop::photos_ui {
 namespace {
 
-using uikit::operator+;
-using uikit::operator-;
+constexpr CGPoint moved(CGPoint from, CGFloat right, CGFloat down) {
+  return {from.x + right, from.y + down};
+}
 
 constexpr uikit::Color paper = uikit::Color::bytes(235, 235, 240);
 constexpr uikit::Color ink = uikit::Color::bytes(174, 174, 180);
@@ -21,15 +22,15 @@ constexpr uikit::Color ink = uikit::Color::bytes(174, 174, 180);
 void drawBrokenPicture(uikit::Canvas& canvas, CGRect room) {
   const CGFloat side = std::min({room.size.width, room.size.height, 72.0}) / 2;
   const CGFloat width = std::max(side / 16, 0.75);
-  const CGRect frame{uikit::middle(room) - CGPoint{side / 2, side * 0.4}, {side, side * 0.8}};
+  const CGRect frame{moved(uikit::middle(room), -side / 2, -side * 0.4), {side, side * 0.8}};
   canvas.stroke(uikit::Path::roundedRect(frame, side / 8), width, ink);
   const CGPoint low{frame.origin.x + side * 0.12, uikit::bottom(frame) - side * 0.14};
   uikit::Path hills;
   hills.moveTo(low)
-      .lineTo(low + CGPoint{side * 0.24, -side * 0.3})
-      .lineTo(low + CGPoint{side * 0.42, -side * 0.1})
-      .lineTo(low + CGPoint{side * 0.54, -side * 0.22})
-      .lineTo(low + CGPoint{side * 0.76, 0});
+      .lineTo(moved(low, side * 0.24, -side * 0.3))
+      .lineTo(moved(low, side * 0.42, -side * 0.1))
+      .lineTo(moved(low, side * 0.54, -side * 0.22))
+      .lineTo(moved(low, side * 0.76, 0));
   canvas.stroke(hills, width, ink);
   uikit::Path line;
   line.moveTo({frame.origin.x - side * 0.08, uikit::bottom(frame) + side * 0.08})

@@ -126,10 +126,11 @@ void PUSectionedGridLayout::prepareLayout() {
   CGFloat y = 0;
   for (NSInteger index = 0; index < sections; ++index) {
     const NSInteger count = collection.numberOfItemsInSection(index);
-    const auto rows = static_cast<CGFloat>((count + across - 1) / across);
+    const NSInteger rows = (count + across - 1) / across;
     Section section{.top = y, .itemsTop = y + _headerHeight, .bottom = 0, .count = count};
     section.bottom = section.itemsTop +
-                     std::max(0.0, rows * (_rowHeight + _interItemSpacing) - _interItemSpacing);
+                     std::max(0.0, static_cast<CGFloat>(rows) * (_rowHeight + _interItemSpacing) -
+                                       _interItemSpacing);
     y = section.bottom + (_headerHeight > 0 ? gapBetweenSections : _interItemSpacing);
     _sections.push_back(section);
   }
@@ -143,9 +144,10 @@ CGRect PUSectionedGridLayout::frameOfItem(uikit::ItemPath path) const {
   if (path.item < 0 || path.item >= section.count) return {};
   const auto across = static_cast<NSInteger>(_columns.size());
   const Column& column = _columns[static_cast<std::size_t>(path.item % across)];
-  const auto row = static_cast<CGFloat>(path.item / across);
-  return {{column.x, section.itemsTop + row * (_rowHeight + _interItemSpacing)},
-          {column.width, _rowHeight}};
+  const NSInteger row = path.item / across;
+  return {
+      {column.x, section.itemsTop + static_cast<CGFloat>(row) * (_rowHeight + _interItemSpacing)},
+      {column.width, _rowHeight}};
 }
 
 CGRect PUSectionedGridLayout::headerFrame(const Section& section) const {
@@ -183,7 +185,8 @@ void PUSectionedGridLayout::addItems(bridge::NSMutableArray all, NSInteger index
   const CGFloat step = _rowHeight + _interItemSpacing;
   const CGFloat firstRow = std::floor((rect.origin.y - section.itemsTop) / step);
   const CGFloat lastRow = std::floor((uikit::bottom(rect) - section.itemsTop) / step);
-  const auto rows = static_cast<CGFloat>(section.count / across + 1);
+  const NSInteger fullRows = section.count / across;
+  const CGFloat rows = static_cast<CGFloat>(fullRows) + 1;
   const auto first = static_cast<NSInteger>(std::clamp(firstRow, 0.0, rows)) * across;
   const auto end = static_cast<NSInteger>(std::clamp(lastRow + 1, 0.0, rows)) * across;
   for (NSInteger item = first; item < std::min(end, section.count); ++item)
