@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "apps/photohost/keys.h"
 
+#include <algorithm>
+
 #include "bridge/uikit.h"
 #include "desktop/photos_ui/navigation.h"
 #include "desktop/photos_ui/one_up.h"
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_bar_button_item.h"
 #include "desktop/uikit/ui_button.h"
+#include "desktop/uikit/ui_navigation_item.h"
 #include "desktop/uikit/ui_responder.h"
 #include "desktop/uikit/ui_view.h"
 
@@ -94,34 +98,27 @@ bool isInfoButton(bridge::UIView view) {
   if (!bridge::isKindOf(view, uikit::UIButton::classObject())) return false;
   const auto type = uikit::UIButton::of(view).type();
   return type >= uikit::UIButton::detailDisclosure && type <= uikit::UIButton::infoDark &&
-         bridge::send<bool, "isEnabled">(view);
+         bridge::send<bool, "isEnabled">(view) && !uikit::UIView::of(view).isHidden();
 }
 
-// Presses the first such button below a view that can be seen; whether there was one.
-bool pressInfoButtonIn(bridge::UIView view) {
-  const uikit::UIView& state = uikit::UIView::of(view);
-  if (state.isHidden()) return false;
-  if (isInfoButton(view)) {
-    bridge::send<void, "sendActionsForControlEvents:">(view, NSUInteger{bridge::touchUpInside});
-    return true;
-  }
-  const auto children = state.subviews();
-  for (const auto& child : children)
-    if (pressInfoButtonIn(child.get())) return true;
-  return false;
-}
-
-bridge::UIView navigationBarOnShow() {
-  const auto navigation = bridge::send<bridge::UINavigationController, "navigationController">(
-      photos_ui::oneUpOnShow());
-  return navigation.navigationBar();
+bool pressInfoButtonOf(const uikit::UINavigationItem::Items& items) {
+  const auto found = std::ranges::find_if(items, [](const auto& item) {
+    const auto& state = uikit::UIBarButtonItem::of(item.get());
+    return state.isEnabled() && isInfoButton(state.customView());
+  });
+  if (found == items.end()) return false;
+  const auto button = uikit::UIBarButtonItem::of(found->get()).customView();
+  bridge::send<void, "sendActionsForControlEvents:">(button, NSUInteger{bridge::touchUpInside});
+  return true;
 }
 
 }  // namespace
 
 bool pressInfoButton() {
-  const bridge::UIView bar = navigationBarOnShow();
-  return bar && pressInfoButtonIn(bar);
+  const bridge::UIViewController shown = photos_ui::oneUpOnShow();
+  if (!shown || !shown.navigationController()) return false;
+  const auto& items = uikit::UINavigationItem::of(shown.navigationItem());
+  return pressInfoButtonOf(items.leftItems()) || pressInfoButtonOf(items.rightItems());
 }
 
 bool pressKey(const QKeyEvent& event, QWindow& window) {

@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+//
+// What keys do to the application's screens.
+#include "apps/photohost/keys.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+
+#include "bridge/class_builder.h"
+#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/pu_one_up_photo_view.h"
+#include "desktop/photos_ui/pu_one_up_view_controller.h"
+#include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_button.h"
+#include "desktop/uikit/ui_collection_view.h"
+#include "desktop/uikit/ui_scroll_view.h"
+#include "tests/desktop/photos_ui/library_screen.h"
+
+namespace photohost {
+namespace {
+
+using namespace desktop;
+using bridge::UIButton;
+using photos_ui::PUOneUpViewController;
+
+// Something that counts how often it is pressed.
+class Presses : public bridge::Bound<Presses, bridge::NSObject> {
+ public:
+  using Bound::Bound;
+  static Class classObject() {
+    static const Class made = bridge::ClassBuilder<Presses>("KeysTestPresses")
+                                  .method<"pressed:", &Presses::pressed>()
+                                  .build();
+    return made;
+  }
+  int count = 0;
+
+ private:
+  void pressed(bridge::NSObject) { ++count; }
+};
+
+bridge::Owned<bridge::NSObject> makePresses() {
+  return bridge::Owned<bridge::NSObject>::adopt(
+      bridge::send<bridge::NSObject, "new">(Presses::classObject()));
+}
+
+class KeysTest : public photos_ui::LibraryScreenTest {
+ protected:
+  KeysTest() {
+    for (int index = 0; index < 60; ++index)
+      folder.broken("Album/" + std::string(index < 10 ? "0" : "") + std::to_string(index) + ".jpg",
+                    index * photos_ui::aDay);
+    open();
+    EXPECT_FALSE(photos_ui::openAlbum("Album"));
+    settle();
+  }
+  void showPhoto(long item) {
+    const bridge::AutoreleasePool pool;
+    ASSERT_FALSE(photos_ui::openItem(item));
+    settle();
+  }
+  bool press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    const bridge::AutoreleasePool pool;
+    const bool isUsed = pressKey(QKeyEvent(QEvent::KeyPress, key, modifiers), _window);
+    settle();
+    return isUsed;
+  }
+  static std::size_t index() {
+    return PUOneUpViewController::of(photos_ui::oneUpOnShow()).currentIndex();
+  }
+  static CGFloat scrolled() {
+    return uikit::UIScrollView::of(grid().collectionView()).contentOffset().y;
+  }
+  // Another bar item of the single photo, on the right.
+  static void addItem(bridge::UIBarButtonItem item) {
+    const auto items = bridge::makeNew<bridge::NSMutableArray>();
+    const auto known = top().navigationItem().rightBarButtonItems();
+    for (NSUInteger place = 0; place < known.count(); ++place) items->add(known.at(place));
+    items->add(item);
+    top().navigationItem().setRightBarButtonItems(items.get());
+    settle();
+  }
+  static bridge::Owned<UIButton> addButton(uikit::UIButton::Type type, Presses& target) {
+    const bridge::AutoreleasePool pool;
+    auto button = bridge::Owned<UIButton>::retain(
+        bridge::send<UIButton, "buttonWithType:">(UIButton::classObject(), NSInteger{type}));
+    button->addTarget(target.self(), bridge::selector<"pressed:">(), bridge::touchUpInside);
+    addItem(bridge::UIBarButtonItem::withCustomView(button.get()).get());
+    return button;
+  }
+
+ private:
+  QWindow _window;
+};
+
+TEST_F(KeysTest, ArrowsHomeAndEndTurnPages) {
+  showPhoto(5);
+  EXPECT_TRUE(press(Qt::Key_Right));
+  EXPECT_EQ(index(), 6U);
+  EXPECT_TRUE(press(Qt::Key_Left));
+  EXPECT_TRUE(press(Qt::Key_Left));
+  EXPECT_EQ(index(), 4U);
+  EXPECT_TRUE(press(Qt::Key_End));
+  EXPECT_EQ(index(), 59U);
+  EXPECT_TRUE(press(Qt::Key_Home));
+  EXPECT_EQ(index(), 0U);
+}
+
+TEST_F(KeysTest, ArrowsAndPagesScrollAGrid) {
+  press(Qt::Key_Home);
+  const CGFloat start = scrolled();
+  EXPECT_TRUE(press(Qt::Key_Down));
+  EXPECT_EQ(scrolled(), start + 60);
+  EXPECT_TRUE(press(Qt::Key_Up));
+  EXPECT_EQ(scrolled(), start);
+  EXPECT_TRUE(press(Qt::Key_PageDown));
+  EXPECT_GT(scrolled(), start + 300);
+  EXPECT_TRUE(press(Qt::Key_PageUp));
+  EXPECT_EQ(scrolled(), start);
+  EXPECT_TRUE(press(Qt::Key_End));
+  EXPECT_GT(scrolled(), start + 600);
+  EXPECT_FALSE(press(Qt::Key_Right));
+}
+
+TEST_F(KeysTest, EscapeGoesBackStepByStep) {
+  showPhoto(0);
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(title(), "Album");
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(title(), "Albums");
+  EXPECT_FALSE(press(Qt::Key_Escape));
+}
+
+TEST_F(KeysTest, SpaceOpensAVideoOutside) {
+  folder.broken("Album/zz.mov", 99 * photos_ui::aDay);
+  deliver();
+  showPhoto(60);
+  EXPECT_TRUE(press(Qt::Key_Space));
+  EXPECT_EQ(uikit::stage().opened.size(), 1U);
+}
+
+TEST_F(KeysTest, IAndAltReturnPressTheInfoButton) {
+  showPhoto(0);
+  const auto presses = makePresses();
+  Presses& target = Presses::of(presses.get());
+  EXPECT_FALSE(press(Qt::Key_I)) << "there is none";
+  addButton(uikit::UIButton::infoLight, target);
+  EXPECT_TRUE(press(Qt::Key_I));
+  EXPECT_TRUE(press(Qt::Key_Return, Qt::AltModifier));
+  EXPECT_TRUE(press(Qt::Key_Enter, Qt::AltModifier | Qt::KeypadModifier));
+  EXPECT_EQ(target.count, 3);
+  EXPECT_FALSE(press(Qt::Key_I, Qt::ControlModifier));
+  EXPECT_FALSE(press(Qt::Key_Return));
+  EXPECT_EQ(target.count, 3);
+}
+
+TEST_F(KeysTest, ThreeKindsOfButtonsAreInfoButtons) {
+  using Button = uikit::UIButton;
+  showPhoto(0);
+  const auto presses = makePresses();
+  Presses& target = Presses::of(presses.get());
+  const std::pair<Button::Type, bool> kinds[] = {
+      {Button::custom, false},   {Button::system, false},  {Button::detailDisclosure, true},
+      {Button::infoLight, true}, {Button::infoDark, true}, {Button::contactAdd, false},
+  };
+  for (const auto& [type, isPressed] : kinds) {
+    target.count = 0;
+    const auto button = addButton(type, target);
+    EXPECT_EQ(press(Qt::Key_I), isPressed) << type;
+    EXPECT_EQ(target.count, isPressed ? 1 : 0) << type;
+    top().navigationItem().setRightBarButtonItems({});
+  }
+}
+
+TEST_F(KeysTest, TheFirstInfoButtonThatIsEnabledIsPressed) {
+  showPhoto(0);
+  const auto first = makePresses();
+  const auto second = makePresses();
+  const auto disabled = addButton(uikit::UIButton::infoLight, Presses::of(first.get()));
+  bridge::send<void, "setEnabled:">(disabled.get(), false);
+  addButton(uikit::UIButton::infoLight, Presses::of(second.get()));
+  EXPECT_TRUE(press(Qt::Key_I));
+  EXPECT_EQ(Presses::of(first.get()).count, 0);
+  EXPECT_EQ(Presses::of(second.get()).count, 1);
+  bridge::send<void, "setEnabled:">(disabled.get(), true);
+  EXPECT_TRUE(press(Qt::Key_I));
+  EXPECT_EQ(Presses::of(first.get()).count, 1);
+  EXPECT_EQ(Presses::of(second.get()).count, 1);
+}
+
+TEST_F(KeysTest, APhotoBelowAnotherPageHearsNoKeys) {
+  showPhoto(3);
+  const auto presses = makePresses();
+  addButton(uikit::UIButton::infoLight, Presses::of(presses.get()));
+  const auto shown = PUOneUpViewController::of(photos_ui::oneUpOnShow()).self();
+  bridge::UIViewController(shown.get())
+      .present(bridge::makeNew<bridge::UIViewController>(), bridge::UIViewController::immediately,
+               {});
+  settle();
+  EXPECT_FALSE(press(Qt::Key_I));
+  EXPECT_FALSE(press(Qt::Key_Right));
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(index(), 3U);
+  EXPECT_TRUE(press(Qt::Key_I));
+  EXPECT_EQ(Presses::of(presses.get()).count, 1);
+}
+
+}  // namespace
+}  // namespace photohost
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
