@@ -95,8 +95,15 @@ void PUSectionedGridLayout::setFooterHeight(CGFloat height) {
   invalidate();
 }
 
-CGSize PUSectionedGridLayout::layoutItemSizeForColumn(NSInteger) const {
-  return _itemSize;
+// Pixels that are left over in a full row go to its first columns.
+CGSize PUSectionedGridLayout::layoutItemSizeForColumn(NSInteger column) const {
+  const auto collection = uikit::UICollectionViewLayout::of(self()).collectionView();
+  const CGFloat scale = uikit::stage().scale;
+  const auto columns = static_cast<CGFloat>(_columnsPerRow);
+  const CGFloat row = columns * (_itemSize.width + _interItemSpacing) - _interItemSpacing;
+  const CGFloat leftOver = std::floor((collection.bounds().size.width - row) * scale);
+  const bool getsOne = leftOver < columns && static_cast<CGFloat>(column) < leftOver;
+  return {_itemSize.width + (getsOne ? 1 / scale : 0), _itemSize.height};
 }
 
 // As many columns as the width has room for, of those that there may be: at least one.

@@ -69,6 +69,7 @@ TEST_F(GridTest, ShowsMoreColumnsInAWiderView) {
   stage().resize({667, 375});
   settle();
   EXPECT_EQ(frameOf(6).origin.y, 0);
+  EXPECT_EQ(uikit::right(frameOf(6)), 667) << "what is left over is shared out";
   EXPECT_EQ(frameOf(7).origin.y, frameOf(0).size.height + 1);
 }
 
