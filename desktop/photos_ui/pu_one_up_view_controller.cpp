@@ -97,7 +97,9 @@ void PUOneUpViewController::viewDidLoad() {
   const auto tiling = makeTilingView();
   me().addSubview(tiling);
   send<void, "_setTilingView:">(self(), tiling.get());
-  showItems(_index);
+  pages().pageChanged = [this](std::size_t page) { moved(page); };
+  pages().pageHidden = [](bridge::UIView page) { PUOneUpPhotoView::of(page).zoomTo(1, {}, false); };
+  showItems(_items, _index);
   if (!isPreview) return;
   const auto beside =
       makeRecognizer<UITapGestureRecognizer>(self(), bridge::selector<"handleTapBeside:">());
@@ -157,13 +159,17 @@ void PUOneUpViewController::setTilingView(bridge::UIView view) {
   bridge::setObjectField(self(), "_tilingView", view);
 }
 
-void PUOneUpViewController::showItems(std::size_t index) {
-  pages().pageChanged = [this](std::size_t page) { moved(page); };
-  pages().pageHidden = [](bridge::UIView page) { PUOneUpPhotoView::of(page).zoomTo(1, {}, false); };
-  pages().setPages(_items->size(), index, [items = _items](std::size_t page) {
+void PUOneUpViewController::showItems(ItemListPointer items, std::size_t index) {
+  const photos::ItemPointer before = currentItem();
+  const auto makePage = [items](std::size_t page) {
     return PUOneUpPhotoView::make(items->at(page));
-  });
+  };
+  _items = std::move(items);
   setCurrent(index);
+  if (before && currentItem() == before)
+    pages().replaceOtherPages(_items->size(), index, makePage);
+  else
+    pages().setPages(_items->size(), index, makePage);
 }
 
 void PUOneUpViewController::setCurrent(std::size_t index) {
@@ -306,8 +312,7 @@ void PUOneUpViewController::libraryChanged(const photos::LibraryChange&) {
   if (left == _items->items()) return;
   const auto items = std::make_shared<const ItemList>(std::move(left));
   const auto place = items->placeAfterChange(*_items, _index);
-  _items = items;
-  showItems(place.value_or(0));
+  showItems(items, place.value_or(0));
   PUOneUpBarsController::of(_bars.get()).update();
   if (!place) leave();
 }

@@ -54,7 +54,7 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   void viewWillLayoutSubviews();
   PUTilingView& pages() const { return PUTilingView::of(_tilingView.get()); }
   CGFloat cardHeight(CGFloat width) const;
-  void showItems(std::size_t index);
+  void showItems(ItemListPointer items, std::size_t index);
   void setCurrent(std::size_t index);
   void moved(std::size_t index);
   void showBars(bool shown, bool animated);

@@ -26,6 +26,14 @@ void PUTilingView::setPages(std::size_t count, std::size_t first, MakePage makeP
   uikit::UIView::of(self()).setNeedsLayout();
 }
 
+void PUTilingView::replaceOtherPages(std::size_t count, std::size_t current, MakePage makePage) {
+  auto kept = _pages.extract(_current);
+  setPages(count, current, std::move(makePage));
+  if (kept.empty()) return;
+  kept.key() = current;
+  _pages.insert(std::move(kept));
+}
+
 bridge::UIView PUTilingView::currentPage() const {
   const auto found = _pages.find(_current);
   return found == _pages.end() ? bridge::UIView() : found->second.get();

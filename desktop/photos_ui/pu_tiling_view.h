@@ -28,6 +28,8 @@ class PUTilingView : public bridge::Bound<PUTilingView, uikit::handles::UIScroll
 
   // Shows pages of a new kind, from a given one on. REQUIRES: first < count, or no pages.
   void setPages(std::size_t count, std::size_t first, MakePage makePage);
+  // The same where the page on show stays what it is, at another place.
+  void replaceOtherPages(std::size_t count, std::size_t current, MakePage makePage);
   void show(std::size_t index, bool animated);
   std::size_t current() const { return _current; }
   // The page that it is on the way to, or at.

@@ -8,6 +8,7 @@
 #include "desktop/photos_ui/photos_host.h"
 #include "desktop/uikit/color.h"
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_activity_view_controller.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 
 namespace desktop::photos_ui {
@@ -237,6 +238,42 @@ TEST_F(OneUpTest, GoesToTheNeighbourOfAFileThatIsGone) {
   EXPECT_EQ(currentName(), "2.bmp");
 }
 
+TEST_F(OneUpTest, KeepsTheLookAtAPhotoWhenAnotherFileIsGone) {
+  addPictures(4);
+  show(2);
+  act(OneUpAction::zoomIn);
+  const CGRect before = pictureFrame();
+  removeFile("0.bmp");
+  EXPECT_EQ(currentName(), "2.bmp");
+  EXPECT_EQ(pictureFrame(), before);
+  EXPECT_THAT(pages(), UnorderedElementsAre("1.bmp", "2.bmp", "3.bmp"));
+}
+
+TEST_F(OneUpTest, TakesAFileThatGoesWhileAFingerTurnsThePage) {
+  addPictures(4);
+  show(1);
+  stage().touches.down({300, 300});
+  stage().touches.move({200, 300});
+  settle(0.1);
+  removeFile("1.bmp");
+  stage().touches.move({100, 300});
+  settle(0.1);
+  stage().touches.up({100, 300});
+  deliverPictures();
+  EXPECT_THAT((std::vector<std::string>{"2.bmp", "3.bmp"}), Contains(currentName()));
+  EXPECT_EQ(pictureFrame(), (CGRect{{0, 192.875}, {375, 281.25}}));
+}
+
+TEST_F(OneUpTest, KeepsToPagesWhenTheScreenIsTurnedOnTheWay) {
+  addPictures(4);
+  show(1);
+  EXPECT_TRUE(performOneUpAction(oneUpOnShow(), OneUpAction::next));
+  settle(0.1);
+  stage().resize({667, 375});
+  deliverPictures();
+  EXPECT_EQ(pictureFrame(), (CGRect{{83.5, 0}, {500, 375}}));
+}
+
 TEST_F(OneUpTest, LeavesWhenTheLastFileIsGone) {
   addPictures(1);
   show(0);
@@ -306,7 +343,8 @@ TEST_F(OneUpTest, SharesThePathOfTheItem) {
   show(1);
   tap({20, 645});
   const auto sheet = bridge::send<bridge::UIViewController, "presentedViewController">(top());
-  EXPECT_TRUE(bridge::isKindOf(sheet, bridge::UIActivityViewController::classObject()));
+  ASSERT_TRUE(bridge::isKindOf(sheet, bridge::UIActivityViewController::classObject()));
+  EXPECT_EQ(uikit::UIActivityViewController::of(sheet).text(), folder.file("Album/1.bmp"));
 }
 
 }  // namespace
