@@ -81,7 +81,7 @@ void TouchSession::deliver(UITouch::Phase phase) {
     _scrolling.cancel();
     giveUpUndecided();
   }
-  _untold.push_back(phase);
+  _untold.push_back({phase, UITouch::of(_touch.get()).location()});
   flush();
 }
 
@@ -104,29 +104,33 @@ bool TouchSession::isHeld(UITouch::Phase phase) const {
 
 bool TouchSession::flush() {
   bool toldAny = false;
-  while (!_untold.empty() && !_isOverForView && !isHeld(_untold.front())) {
-    const UITouch::Phase phase = _untold.front();
+  while (!_untold.empty() && !_isOverForView && !isHeld(_untold.front().phase)) {
+    const Step step = _untold.front();
     _untold.pop_front();
-    tellView(phase);
+    tellView(step);
     toldAny = true;
   }
   if (_isOverForView) _untold.clear();
   return toldAny;
 }
 
-void TouchSession::tellView(UITouch::Phase phase) {
+// What was kept back is told with the finger where it was then.
+void TouchSession::tellView(const Step& step) {
   UITouch& touch = UITouch::of(_touch.get());
-  if (phase == UITouch::began) _viewKnows = true;
-  if (phase == UITouch::ended || phase == UITouch::cancelled) _isOverForView = true;
-  touch.setPhase(phase);
-  tell(touch.view(), phase, UIEvent::of(_event.get()).allTouches(), _event);
+  if (step.phase == UITouch::began) _viewKnows = true;
+  if (step.phase == UITouch::ended || step.phase == UITouch::cancelled) _isOverForView = true;
+  const CGPoint now = touch.location();
+  touch.setLocation(step.at);
+  touch.setPhase(step.phase);
+  tell(touch.view(), step.phase, UIEvent::of(_event.get()).allTouches(), _event);
+  touch.setLocation(now);
 }
 
 void TouchSession::cancelInView() {
   if (_isOverForView) return;
   _untold.clear();
   _isOverForView = true;
-  if (_viewKnows) tellView(UITouch::cancelled);
+  if (_viewKnows) tellView({UITouch::cancelled, UITouch::of(_touch.get()).location()});
 }
 
 void TouchSession::drop(bridge::UIGestureRecognizer recognizer) {

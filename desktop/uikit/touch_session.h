@@ -37,12 +37,17 @@ class TouchSession {
   void holdForScrolling();
   void giveUpUndecided();
   bool isHeld(UITouch::Phase phase) const;
-  void tellView(UITouch::Phase phase);
+  // A step of the touch, and where the finger was on the screen.
+  struct Step {
+    UITouch::Phase phase;
+    CGPoint at;
+  };
+  void tellView(const Step& step);
 
   bridge::Owned<bridge::UITouch> _touch;
   bridge::Owned<bridge::UIEvent> _event;
   TouchDispatcher::Recognizers _recognizers;  // the touched view's first, then those around it
-  std::deque<UITouch::Phase> _untold;         // what the view has not been told yet
+  std::deque<Step> _untold;                   // what the view has not been told yet
   PendingCall _scrolling;                     // waits whether the finger scrolls
   bool _isFingerDown = true;
   bool _viewKnows = false;

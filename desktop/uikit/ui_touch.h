@@ -30,6 +30,8 @@ class UITouch : public bridge::Bound<UITouch, bridge::NSObject> {
   void setPhase(Phase phase) { _phase = phase; }
   // REQUIRES: both coordinates are finite.
   void moveTo(CGPoint point);
+  // Puts it there without a move: for telling what was before.
+  void setLocation(CGPoint point) { _location = point; }
 
  private:
   bridge::UIView window() const { return _window; }

@@ -322,6 +322,19 @@ TEST_F(UICollectionViewTest, AFingerThatScrollsSelectsNothing) {
   EXPECT_THAT(source().events, IsEmpty());
 }
 
+TEST_F(UICollectionViewTest, AQuickFlickToAnotherItemSelectsNeither) {
+  source().itemCount = 100;
+  show();
+  stage().touches.down(middle(layout().frameOf({0, 20})));
+  stage().advance(0.02);
+  const CGPoint end = middle(layout().frameOf({0, 22}));
+  stage().touches.move(end);
+  stage().advance(0.02);
+  stage().touches.up(end);
+  stage().advance(1);
+  EXPECT_THAT(source().events, IsEmpty());
+}
+
 TEST_F(UICollectionViewTest, SelectionByCodeTellsNobody) {
   source().itemCount = 1000;
   show();
