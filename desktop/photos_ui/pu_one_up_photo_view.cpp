@@ -19,7 +19,6 @@ using bridge::NSString;
 using bridge::send;
 using uikit::UIScrollView;
 using uikit::UIView;
-using uikit::operator-;
 
 constexpr CGFloat doubleTapZoom = 2.5;
 constexpr CGFloat leastGreatestZoom = 4;
@@ -217,7 +216,7 @@ void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
     _zoom = next;
     arrange();
     const CGPoint now = pointAt(place, _imageView->frame());
-    self().setContentOffset(UIScrollView::of(self()).clamped(now - at));
+    self().setContentOffset(UIScrollView::of(self()).clamped({now.x - at.x, now.y - at.y}));
   };
   const auto kept = bridge::Owned<bridge::UIView>::retain(self());
   if (animated)
@@ -243,7 +242,8 @@ bool PUOneUpPhotoView::shouldBegin(bridge::UIGestureRecognizer recognizer) {
 
 void PUOneUpPhotoView::handleDoubleTap(bridge::UIGestureRecognizer recognizer) {
   const CGPoint offset = self().contentOffset();
-  const CGPoint at = recognizer.locationIn(self()) - offset;
+  const CGPoint place = recognizer.locationIn(self());
+  const CGPoint at = {place.x - offset.x, place.y - offset.y};
   zoomTo(_zoom > 1 ? 1 : doubleTapZoom, at, true);
 }
 
