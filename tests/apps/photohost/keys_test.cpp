@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
 //
-// What keys do to the application's screens.
+// What keys do to the application's screens. The program is also the process that decodes its
+// pictures.
 #include "apps/photohost/keys.h"
 
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <string_view>
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/navigation.h"
 #include "desktop/photos_ui/pu_one_up_photo_view.h"
 #include "desktop/photos_ui/pu_one_up_view_controller.h"
+#include "desktop/pictures/serve_decoder.h"
 #include "desktop/uikit/stage.h"
 #include "desktop/uikit/ui_button.h"
 #include "desktop/uikit/ui_collection_view.h"
 #include "desktop/uikit/ui_scroll_view.h"
-#include "tests/desktop/photos_ui/library_screen.h"
+#include "tests/desktop/photos_ui/one_up_screen.h"
 
 namespace photohost {
 namespace {
@@ -45,12 +48,13 @@ bridge::Owned<bridge::NSObject> makePresses() {
       bridge::send<bridge::NSObject, "new">(Presses::classObject()));
 }
 
-class KeysTest : public photos_ui::LibraryScreenTest {
+class KeysTest : public photos_ui::OneUpTest {
  protected:
   KeysTest() {
     for (int index = 0; index < 60; ++index)
       folder.broken("Album/" + std::string(index < 10 ? "0" : "") + std::to_string(index) + ".jpg",
                     index * photos_ui::aDay);
+    addPicture("picture.bmp", 60, 1500, 1000);
     open();
     EXPECT_FALSE(photos_ui::openAlbum("Album"));
     settle();
@@ -66,6 +70,7 @@ class KeysTest : public photos_ui::LibraryScreenTest {
     settle();
     return isUsed;
   }
+  bool isFullScreen() const { return _window.visibility() == QWindow::FullScreen; }
   static std::size_t index() {
     return PUOneUpViewController::of(photos_ui::oneUpOnShow()).currentIndex();
   }
@@ -102,7 +107,7 @@ TEST_F(KeysTest, ArrowsHomeAndEndTurnPages) {
   EXPECT_TRUE(press(Qt::Key_Left));
   EXPECT_EQ(index(), 4U);
   EXPECT_TRUE(press(Qt::Key_End));
-  EXPECT_EQ(index(), 59U);
+  EXPECT_EQ(index(), 60U);
   EXPECT_TRUE(press(Qt::Key_Home));
   EXPECT_EQ(index(), 0U);
 }
@@ -132,10 +137,40 @@ TEST_F(KeysTest, EscapeGoesBackStepByStep) {
   EXPECT_FALSE(press(Qt::Key_Escape));
 }
 
+TEST_F(KeysTest, PlusMinusAndNumbersZoom) {
+  show(60);
+  const struct {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    CGFloat zoom;
+  } presses[] = {
+      {Qt::Key_Plus, Qt::NoModifier, 1.5},       {Qt::Key_Minus, Qt::ControlModifier, 1},
+      {Qt::Key_Equal, Qt::ControlModifier, 1.5}, {Qt::Key_Plus, Qt::ShiftModifier, 2.25},
+      {Qt::Key_Minus, Qt::NoModifier, 1.5},      {Qt::Key_1, Qt::ControlModifier, 2},
+      {Qt::Key_0, Qt::ControlModifier, 1},
+  };
+  for (const auto& [key, modifiers, zoom] : presses) {
+    EXPECT_TRUE(press(key, modifiers));
+    EXPECT_NEAR(currentPhoto().zoom(), zoom, 1e-9) << key << " " << modifiers;
+  }
+}
+
+TEST_F(KeysTest, EscapeLeavesTheFullScreenFirst) {
+  showPhoto(0);
+  EXPECT_TRUE(press(Qt::Key_F11));
+  EXPECT_TRUE(isFullScreen());
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_FALSE(isFullScreen());
+  EXPECT_TRUE(isOneUpOnShow());
+  press(Qt::Key_F11);
+  press(Qt::Key_F11);
+  EXPECT_FALSE(isFullScreen());
+}
+
 TEST_F(KeysTest, SpaceOpensAVideoOutside) {
   folder.broken("Album/zz.mov", 99 * photos_ui::aDay);
   deliver();
-  showPhoto(60);
+  showPhoto(61);
   EXPECT_TRUE(press(Qt::Key_Space));
   EXPECT_EQ(uikit::stage().opened.size(), 1U);
 }
@@ -210,6 +245,9 @@ TEST_F(KeysTest, APhotoBelowAnotherPageHearsNoKeys) {
 }  // namespace photohost
 
 int main(int argc, char** argv) {
+  using namespace desktop::pictures;
+  if (argc > 1 && std::string_view(argv[1]) == "--decode-pictures")
+    return serveDecoder(decoderSocket);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);
