@@ -30,7 +30,6 @@ constexpr CGFloat cardMargin = 16;       // points, around a preview
 constexpr CGFloat cardRadius = 12;       // points
 constexpr CGFloat leastCardHeight = 96;  // points
 constexpr double barsTime = 0.25;        // seconds
-constexpr CGFloat zoomStep = 1.5;
 
 }  // namespace
 
@@ -250,57 +249,6 @@ void PUOneUpViewController::showStatusBar(bool shown) {
     isShown = _hasStatusBar;
   else
     _hasStatusBar = std::exchange(isShown, false);
-}
-
-bool PUOneUpViewController::page(std::size_t index) {
-  const std::size_t from = pages().goal();
-  if (index >= _items->size() || index == from) return false;
-  pages().show(index, index + 1 == from || index == from + 1);
-  return true;
-}
-
-bool PUOneUpViewController::zoom(OneUpAction action) {
-  const bridge::UIView shown = pages().currentPage();
-  if (!shown) return false;
-  PUOneUpPhotoView& photo = PUOneUpPhotoView::of(shown);
-  const CGSize size = UIView::of(shown).bounds().size;
-  const CGPoint mid = {size.width / 2, size.height / 2};
-  switch (action) {
-    case OneUpAction::zoomIn:
-      photo.zoomTo(photo.zoom() * zoomStep, mid, true);
-      break;
-    case OneUpAction::zoomOut:
-      photo.zoomTo(photo.zoom() / zoomStep, mid, true);
-      break;
-    case OneUpAction::fit:
-      photo.zoomTo(1, mid, true);
-      break;
-    default:
-      photo.zoomTo(photo.actualSizeZoom(), mid, true);
-      break;
-  }
-  return true;
-}
-
-bool PUOneUpViewController::perform(OneUpAction action) {
-  if (!_tilingView || _items->isEmpty()) return false;
-  switch (action) {
-    case OneUpAction::next:
-      return page(pages().goal() + 1);
-    case OneUpAction::previous:
-      return pages().goal() > 0 && page(pages().goal() - 1);
-    case OneUpAction::first:
-      return page(0);
-    case OneUpAction::last:
-      return page(_items->size() - 1);
-    case OneUpAction::play: {
-      const bool isVideo = currentItem() && currentItem()->isVideo();
-      if (isVideo) send<void, "playTouched:">(pages().currentPage(), bridge::NSObject());
-      return isVideo;
-    }
-    default:
-      return zoom(action);
-  }
 }
 
 // What is shown stays on show where its file is still there; otherwise what comes next is.
