@@ -21,7 +21,6 @@ namespace {
 
 using bridge::Owned;
 using bridge::send;
-using uikit::UIView;
 using uikit::handles::makeRecognizer;
 using uikit::handles::UITapGestureRecognizer;
 
