@@ -2,12 +2,14 @@
 #include "apps/photohost/main_loop.h"
 
 #include "apps/photohost/keys.h"
+#include "desktop/photos_ui/navigation.h"
 
 namespace photohost {
 
 MainLoop::MainLoop(std::function<void()> turn) {
   _window.setTitle("Photos");
   _window.turn = std::move(turn);
+  _window.middlePressed = [](CGPoint at) { desktop::photos_ui::peekAt(at); };
   _window.keyPressed = [this](const QKeyEvent& event) { return pressKey(event, _window); };
 }
 

@@ -214,6 +214,17 @@ Outcome peekItem(long index) {
   return std::nullopt;
 }
 
+Outcome peekAt(CGPoint onScreen) {
+  const PUPhotosGridViewController* const grid = presented() ? nullptr : currentGrid();
+  if (!grid || top() != UIViewController(grid->self().get()))
+    return model::Error{"no grid is on show"};
+  const bridge::UICollectionView view = grid->collectionView();
+  const CGPoint inGrid = uikit::apply(uikit::inverse(uikit::UIView::of(view).toScreen()), onScreen);
+  const auto path = uikit::itemPathOf(view.indexPathForItemAt(inGrid));
+  const auto index = path ? grid->list()->indexOf(*path) : std::nullopt;
+  return index ? peekItem(static_cast<long>(*index)) : model::Error{"there is no photo"};
+}
+
 Outcome goBack() {
   if (!tabs()) return model::Error{"nothing is on show"};
   if (presented()) {

@@ -29,6 +29,8 @@ Outcome openAlbum(std::string_view title);
 Outcome openItem(long index);
 // The same as a preview: a light touch that looks without opening.
 Outcome peekItem(long index);
+// The same for the item of the grid on show that is at a point of the screen.
+Outcome peekAt(CGPoint onScreen);
 // "moments", "collections" or "years".
 Outcome setZoomLevel(std::string_view name);
 // One step back: the preview, the presented page, the single photo, the album.

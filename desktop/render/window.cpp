@@ -111,6 +111,7 @@ void Window::mousePressEvent(QMouseEvent* event) {
   takeTurn();
   const CGPoint at = pointOf(event->position());
   if (event->button() == Qt::RightButton) pressLong(at);
+  if (event->button() == Qt::MiddleButton && middlePressed) middlePressed(at);
   if (event->button() == Qt::LeftButton) stage().touches.down(at);
   wake();
 }

@@ -18,6 +18,8 @@ class Window : public QWindow {
  public:
   // Keys are the application's: whether it used this one.
   std::function<bool(const QKeyEvent&)> keyPressed;
+  // The middle button at a point of the screen; may be unset.
+  std::function<void(CGPoint)> middlePressed;
   // Called once a turn of the main loop, before the frame is prepared.
   std::function<void()> turn;
 

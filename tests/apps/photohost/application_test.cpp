@@ -97,7 +97,7 @@ TEST(Application, BrokenFilesAreShownAsPlaceholders) {
   Host host;
   const std::string folder = host.file("broken");
   fs::create_directory(folder);
-  for (int number = 0; number < 300; ++number)
+  for (int number = 0; number < 10'000; ++number)
     std::ofstream(folder + "/" + std::to_string(number) + (number % 2 ? ".jpg" : ".heic"))
         << "this is no picture " << number;
   std::ofstream(folder + "/bad \xFF name.jpg") << "nor this";

@@ -100,6 +100,21 @@ TEST_F(NavigationTest, OpensItemsOfTheGridOnShow) {
   EXPECT_EQ(title(), "City");
 }
 
+TEST_F(NavigationTest, PeeksAtTheItemUnderAPoint) {
+  openSample();
+  EXPECT_FALSE(openAlbum("City"));
+  settle();
+  const auto place = placeOfItem(2);
+  ASSERT_TRUE(place);
+  EXPECT_TRUE(peekAt({-10, -10})) << "nothing is there";
+  EXPECT_FALSE(peekAt(*place));
+  settle();
+  EXPECT_TRUE(peekAt(*place)) << "a preview is on show already";
+  EXPECT_FALSE(goBack());
+  settle();
+  EXPECT_EQ(title(), "City");
+}
+
 TEST_F(NavigationTest, OpensItemsOfTheMomentsFromTheListOfAlbums) {
   openSample();
   ASSERT_FALSE(openAlbums());

@@ -10,6 +10,7 @@
 #include "desktop/uikit/geometry.h"
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/stage.h"
+#include "desktop/uikit/ui_menu_controller.h"
 #include "desktop/uikit/uikit.h"
 
 namespace desktop::uikit {
@@ -18,12 +19,20 @@ class StageTest : public testing::Test {
  protected:
   StageTest() {
     registerUIKit();
+    makeWhatThereIsOneOf();
     resetStage();
     const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(stage().screenSize));
     made->makeKeyAndVisible();
     stage().prepareFrame();
   }
   ~StageTest() override { resetStage(); }
+
+  // These stay for the life of the process: whoever counts objects finds them there already.
+  static void makeWhatThereIsOneOf() {
+    bridge::UIApplication::sharedApplication();
+    bridge::UIScreen::mainScreen();
+    UIMenuController::sharedMenuController();
+  }
 
   static handles::UIWindow window() { return handles::UIWindow(stage().windows.at(0)->get()); }
 
