@@ -61,7 +61,8 @@ CGContext* alive(CGContextRef context) {
 
 // How much of the stretch from place to place + 1 lies between the ends.
 double covered(int place, double from, double to) {
-  return std::clamp(std::min(to, place + 1.0) - std::max(from, static_cast<double>(place)), 0.0, 1.0);
+  return std::clamp(std::min(to, place + 1.0) - std::max(from, static_cast<double>(place)), 0.0,
+                    1.0);
 }
 
 // The colour over a pixel, both multiplied by their alpha.

@@ -133,7 +133,7 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
   EdgeInsets _safeArea;
   EdgeInsets _adjustedInset;
   NSInteger _adjustmentBehavior = 0;  // automatic
-  bridge::NSObject _delegate;  // borrowed
+  bridge::NSObject _delegate;         // borrowed
   bridge::Owned<handles::UIPanGestureRecognizer> _pan;
   CGPoint _dragStart;  // the content offset there
   std::optional<Motion> _motion;

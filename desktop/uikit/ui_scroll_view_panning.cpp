@@ -38,7 +38,8 @@ CGPoint onPixels(CGPoint point) {
 }  // namespace
 
 bool UIScrollView::canDragAcross() const {
-  const bool isWider = _contentSize.width + _adjustedInset.left + _adjustedInset.right > room().width;
+  const bool isWider =
+      _contentSize.width + _adjustedInset.left + _adjustedInset.right > room().width;
   return _isScrollEnabled && (isWider || (_bounces && _alwaysBounceHorizontal));
 }
 

@@ -42,9 +42,9 @@ std::string extensionFolder() {
 }
 
 std::vector<std::string> argumentsOf(const Options& options, const std::string& application) {
-  std::vector<std::string> arguments = {
-      application, "--extensions", fs::path(extensionFolder()).parent_path(), "--root",
-      rootOf(options).folder()};
+  std::vector<std::string> arguments = {application, "--extensions",
+                                        fs::path(extensionFolder()).parent_path(), "--root",
+                                        rootOf(options).folder()};
   if (!options.words.empty())
     arguments.insert(arguments.end(), {"--library", options.words.front()});
   return arguments;

@@ -11,7 +11,7 @@ namespace lumifact::tool {
 namespace {
 
 constexpr const char* commands[] = {"report", "properties", "table", "quick-info", "caption",
-                                    "size",   "map-link",   "parse", "browse", "settings"};
+                                    "size",   "map-link",   "parse", "browse",     "settings"};
 
 // Every option with an argument that it takes; the command that it belongs to, or all.
 struct OptionCase {

@@ -27,9 +27,9 @@ TEST(Start, MapsNoLibraryThatOnlySomeRunsNeed) {
 
 TEST(Start, WithoutTheModuleOfLocalesTextsAreAmerican) {
   const SampleFolder samples;
-  const ToolResult result = runShell("cp \"$TOOL\" " + samples.path() + "/alone && " +
-                                     samples.path() + "/alone report --locale de_DE " +
-                                     samples.plain);
+  const ToolResult result =
+      runShell("cp \"$TOOL\" " + samples.path() + "/alone && " + samples.path() +
+               "/alone report --locale de_DE " + samples.plain);
   EXPECT_EQ(result.status, 0) << result.messages;
   EXPECT_EQ(result.output, runTool({"report", samples.plain}).output);
 }
