@@ -19,14 +19,14 @@ namespace fs = std::filesystem;
 // "bin", one of the build tree deeper.
 constexpr int longestWayUp = 4;
 
-// The first of the places that exists, below a folder at or above the tool's own; empty where
-// there is none.
+// The first of the places where there is a file, below a folder at or above the tool's own; empty
+// where there is none.
 std::string findAbove(std::initializer_list<const char*> places) {
   std::error_code error;
   fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
   for (int step = 0; step <= longestWayUp && !folder.empty(); ++step) {
     for (const char* place : places)
-      if (fs::exists(folder / place, error)) return folder / place;
+      if (fs::is_regular_file(folder / place, error)) return folder / place;
     if (!folder.has_relative_path()) break;
     folder = folder.parent_path();
   }

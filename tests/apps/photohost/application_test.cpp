@@ -109,6 +109,10 @@ TEST(Application, BrokenFilesAreShownAsPlaceholders) {
   EXPECT_FALSE(nodesOfClass(host.dumped("grid"), "PUPhotosGridCell").empty());
 }
 
+TEST(Application, TheToolStartsIt) {
+  EXPECT_TRUE(toolBrowses(sampleLibrary()));
+}
+
 TEST(Application, WrongUsageIsTold) {
   Host host;
   for (const char* options : {"--size 10x10", "--size wide", "--scale 9", "--nonsense"})

@@ -85,6 +85,17 @@ std::string toolOutput(const std::string& arguments) {
   return contentsOf(folder.file("output"));
 }
 
+bool toolBrowses(const std::string& folder) {
+  const desktop::photos::TemporaryFolder home;
+  const std::string command = plainEnvironment(home.path()) +
+                              "QT_QPA_PLATFORM=offscreen timeout 3 " + inQuotes(TOOL_PATH) +
+                              " browse --root root " + inQuotes(folder) + " >output 2>&1";
+  const int status = std::system(command.c_str());
+  constexpr int ranOutOfTime = 124;  // what timeout says of it
+  EXPECT_EQ(contentsOf(home.file("output")), "");
+  return WIFEXITED(status) && WEXITSTATUS(status) == ranOutOfTime;
+}
+
 std::vector<Json> nodesOfClass(const Json& screen, const std::string& className) {
   std::vector<Json> found;
   visit(screen["view"], [&](const Json& node) {

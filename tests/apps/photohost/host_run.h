@@ -53,6 +53,10 @@ std::string sampleLibrary();
 // What the command-line tool prints.
 std::string toolOutput(const std::string& arguments);
 
+// Starts the application through the tool, on a display that shows nothing, and ends it after some
+// seconds; whether it was running until then.
+bool toolBrowses(const std::string& folder);
+
 // Every node of a dumped tree for which a test holds.
 std::vector<Json> nodesOfClass(const Json& screen, const std::string& className);
 // The texts of all nodes that have one.
