@@ -35,10 +35,18 @@ std::vector<bridge::UIViewController> presentationChain() {
   return chain;
 }
 
+// What a container shows: the tab that is chosen, the top of a stack; nil for any other controller.
+bridge::UIViewController shownIn(bridge::UIViewController controller) {
+  if (isA(controller, "UITabBarController"))
+    return send<bridge::UIViewController, "selectedViewController">(controller);
+  if (isA(controller, "UINavigationController"))
+    return send<bridge::UIViewController, "topViewController">(controller);
+  return {};
+}
+
 // The navigation controller that shows in a controller: itself, or that of the tab on show.
 bridge::UINavigationController navigationIn(bridge::UIViewController controller) {
-  if (isA(controller, "UITabBarController"))
-    controller = send<bridge::UIViewController, "selectedViewController">(controller);
+  if (isA(controller, "UITabBarController")) controller = shownIn(controller);
   if (isA(controller, "UINavigationController"))
     return bridge::UINavigationController(controller.get());
   return {};
@@ -103,7 +111,8 @@ void addControllers(Json& screen) {
   screen["presentation"] = Json::array();
   screen["navigation"] = screen["alert"] = screen["sheet"] = Json();
   for (const bridge::UIViewController controller : presentationChain()) {
-    screen["presentation"].push_back(classNameOf(controller));
+    for (auto shown = controller; shown; shown = shownIn(shown))
+      screen["presentation"].push_back(classNameOf(shown));
     if (const auto found = navigationIn(controller)) screen["navigation"] = navigation(found);
     if (isA(controller, "UIAlertController")) screen["alert"] = alert(controller);
     if (isA(controller, "UIActivityViewController")) screen["sheet"] = sheet(controller);

@@ -11,8 +11,9 @@
 namespace desktop::script {
 
 // The screen as one JSON object: screen, presentation, navigation, alert, sheet, menu, opened, log
-// and view, the tree of the front-most window's views. Lengths are in points; what is animated is
-// told as it is shown now. Always valid UTF-8.
+// and view, the tree of the rear-most window's views. Lengths are in points; what is animated is
+// told as it is shown now. The presentation names every controller from the window's to the
+// top-most, each container before what it shows. Always valid UTF-8.
 std::string dumpScreen();
 
 // One view and everything in it.

@@ -35,11 +35,16 @@ std::string cameraRoll(const Host& host) {
   return folder;
 }
 
+bool showsReport(const Json& screen) {
+  const Json top = screen["presentation"].back();
+  return top == "LFPresenter" || top == "LumifactViewController";
+}
+
 TEST(Details, TheInfoButtonShowsTheTextReport) {
   Host host;
   host.run(setting("viewType 1") + "open item 1\nwait 1\n" + pressInfo + "dump page.json\n");
   const Json page = host.dumped("page");
-  EXPECT_EQ(page["presentation"], (Json{"UITabBarController", "UINavigationController"}));
+  EXPECT_EQ(page["presentation"].back(), "LFPresenter");
   ASSERT_EQ(nodesOfClass(page, "UITextView").size(), 1U);
   EXPECT_EQ(page["navigation"]["left"][0]["title"], "Dismiss");
   EXPECT_EQ(page["navigation"]["right"][0]["title"], "Select All");
@@ -92,14 +97,14 @@ TEST(Details, WithoutTheButtonTheLongPressStillWorks) {
   host.run(setting("useNavigationButton false") + setting("useLongPressPhoto true") +
            "open item 1\nwait 1\ndump photo.json\n" + pressPhoto() + "dump page.json\n");
   EXPECT_EQ(customButtons(host.dumped("photo")), 0);
-  EXPECT_EQ(host.dumped("page")["presentation"].size(), 2U);
+  EXPECT_TRUE(showsReport(host.dumped("page")));
 }
 
 TEST(Details, WithoutTheLongPressNothingComesOfOne) {
   Host host;
   host.run("open item 1\nwait 1\n" + setting("useLongPressPhoto false") + pressPhoto() +
            "dump page.json\n");
-  EXPECT_EQ(host.dumped("page")["presentation"].size(), 1U);
+  EXPECT_FALSE(showsReport(host.dumped("page")));
 }
 
 TEST(Details, TheButtonIsThereOnceHoweverManyPhotosAreSeen) {
@@ -131,8 +136,8 @@ TEST(Details, ThePageDismissesAndComesAgain) {
   Host host;
   host.run(std::string("open item 1\nwait 1\n") + pressInfo + "tap \"Dismiss\"\nwait 1\n" +
            "dump photo.json\n" + pressInfo + "dump page.json\n");
-  EXPECT_EQ(host.dumped("photo")["presentation"].size(), 1U);
-  EXPECT_EQ(host.dumped("page")["presentation"].size(), 2U);
+  EXPECT_FALSE(showsReport(host.dumped("photo")));
+  EXPECT_TRUE(showsReport(host.dumped("page")));
 }
 
 TEST(Details, ThePlaceOpensInTheMapService) {
