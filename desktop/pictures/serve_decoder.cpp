@@ -13,6 +13,7 @@
 #include "desktop/pictures/decode_picture.h"
 #include "desktop/pictures/decoder_messages.h"
 #include "desktop/pictures/limits.h"
+#include "desktop/pictures/sanitizer.h"
 
 namespace desktop::pictures {
 
@@ -26,10 +27,7 @@ void setLimit(__rlimit_resource resource, std::size_t amount) {
 void confine() {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   setLimit(RLIMIT_CORE, 0);
-  // The sanitizers take terabytes of address space for themselves.
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-  setLimit(RLIMIT_AS, limits.workerAddressSpace);
-#endif
+  if (!needsAllAddresses) setLimit(RLIMIT_AS, limits.workerAddressSpace);
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }
 
