@@ -3,6 +3,7 @@
 //   gallery VIEW                          shows a view in a window
 //   gallery VIEW --picture FILE [--scale N]  writes its picture; no display is needed
 #include <CLI/CLI.hpp>
+#include <exception>
 #include <iostream>
 
 #include "apps/gallery/scenes.h"
@@ -23,16 +24,14 @@ int fail(const std::string& reason) {
   return 1;
 }
 
-int showWindow(render::Renderer& renderer) {
+int showWindow() {
   render::Window window;
   window.setTitle("Gallery");
   window.show();
-  return renderer.application().exec();
+  return QGuiApplication::exec();
 }
 
-}  // namespace
-
-int main(int count, char** arguments) {
+int run(int count, char** arguments) {
   CLI::App app("Shows the views of the extension on sample data", "gallery");
   std::string view;
   std::string picture;
@@ -49,7 +48,17 @@ int main(int count, char** arguments) {
   uikit::registerUIKit();
   uikit::stage().scale = scale;
   if (const auto failed = gallery::showScene(view)) return fail(failed->reason);
-  if (picture.empty()) return showWindow(renderer);
+  if (picture.empty()) return showWindow();
   const auto failed = render::writeScreenshot(picture, scale);
   return failed ? fail(picture + ": " + failed->reason) : 0;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  try {
+    return run(count, arguments);
+  } catch (const std::exception& exception) {
+    return fail(exception.what());
+  }
 }

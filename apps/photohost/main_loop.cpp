@@ -20,9 +20,9 @@ void MainLoop::watch(int descriptor) {
                    [this] { _window.wake(); });
 }
 
-int MainLoop::run(QGuiApplication& application) {
+int MainLoop::run() {
   _window.show();
-  return application.exec();
+  return QGuiApplication::exec();
 }
 
 }  // namespace photohost

@@ -21,7 +21,7 @@ class MainLoop {
   // Takes a turn whenever the descriptor is readable; -1 is never.
   void watch(int descriptor);
   // Shows the window and runs until it is closed; the exit status.
-  int run(QGuiApplication& application);
+  int run();
 
  private:
   desktop::render::Window _window;

@@ -140,7 +140,7 @@ int PhotoApplication::runWindow() {
   loop.watch(_pictures.wakeDescriptor());
   if (_library) loop.watch(_library->wakeDescriptor());
   loop.watch(runtime::darwinNotificationDescriptor());
-  return loop.run(_renderer.application());
+  return loop.run();
 }
 
 }  // namespace photohost

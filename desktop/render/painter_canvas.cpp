@@ -59,7 +59,7 @@ QImage toQt(const uikit::SharedBitmap& bitmap) {
   auto* const kept = new uikit::SharedBitmap(bitmap);
   return QImage(
       reinterpret_cast<const uchar*>(bitmap->pixels.data()), bitmap->width, bitmap->height,
-      bitmap->width * 4, QImage::Format_ARGB32_Premultiplied,
+      qsizetype{bitmap->width} * 4, QImage::Format_ARGB32_Premultiplied,
       [](void* pointer) { delete static_cast<uikit::SharedBitmap*>(pointer); }, kept);
 }
 
@@ -97,7 +97,7 @@ PainterCanvas::Group::Group(QSize size, QPoint where, double opacity)
 }
 
 PainterCanvas::~PainterCanvas() {
-  while (!_saved.empty()) restore();
+  while (!_saved.empty()) PainterCanvas::restore();
   while (!_groups.empty()) paintGroup();
 }
 

@@ -17,8 +17,6 @@ class Renderer {
   Renderer(int& argumentCount, char** arguments, Display display);
   ~Renderer();
 
-  QGuiApplication& application() { return _application; }
-
  private:
   // Chosen before the application is made.
   struct Platform {

@@ -27,7 +27,7 @@ ScriptRunner::Outcome ScriptRunner::runLine(std::string_view line) {
   const Command found = command(words->front().text);
   if (!found) return model::Error{"unknown command '" + words->front().text + "'"};
   if (turn) turn();
-  const Outcome outcome = found(Arguments(*words).subspan(1));
+  Outcome outcome = found(Arguments(*words).subspan(1));
   if (turn) turn();
   return outcome;
 }

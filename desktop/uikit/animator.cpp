@@ -135,10 +135,7 @@ ViewAppearance Animator::shown(bridge::UIView view, const ViewAppearance& own) c
                    group.duration > 0 ? (now - group.start) / group.duration : now >= group.start);
     forEachProperty([&](auto property) {
       if (part.from.*property == part.to.*property) return;
-      if constexpr (std::is_same_v<decltype(property), CGFloat ViewAppearance::*>)
-        seen.*property = between(part.from.*property, part.to.*property, p);
-      else
-        seen.*property = between(part.from.*property, part.to.*property, p);
+      seen.*property = between(part.from.*property, part.to.*property, p);
     });
   }
   return seen;

@@ -36,6 +36,7 @@ class Scheduler {
   struct Due {
     Seconds time;
     Timer timer;
+    // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm of clang-tidy 14.
     auto operator<=>(const Due&) const = default;
   };
 

@@ -66,6 +66,7 @@ void runBrowse(const Options& options, Console& console) {
   exportCustoms(options);
   std::vector<std::string> arguments = argumentsOf(options, application);
   std::vector<char*> pointers;
+  pointers.reserve(arguments.size() + 1);
   for (std::string& argument : arguments) pointers.push_back(argument.data());
   pointers.push_back(nullptr);
   console.flush();
