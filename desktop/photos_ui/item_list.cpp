@@ -36,12 +36,12 @@ std::optional<std::size_t> ItemList::findDated(const photos::LibraryItem& item) 
   const auto dateOf = [](const photos::ItemPointer& each) {
     return each->modificationDate.secondsSince1970;
   };
-  const auto dated =
-      std::ranges::equal_range(_items, item.modificationDate.secondsSince1970, {}, dateOf);
-  const auto found = std::find_if(dated.begin(), dated.end(), [&](const photos::ItemPointer& each) {
-    return each->uuid == item.uuid;
-  });
-  if (found == dated.end()) return {};
+  const double date = item.modificationDate.secondsSince1970;
+  const auto first = std::ranges::lower_bound(_items, date, {}, dateOf);
+  const auto last = std::ranges::upper_bound(_items, date, {}, dateOf);
+  const auto found = std::find_if(
+      first, last, [&](const photos::ItemPointer& each) { return each->uuid == item.uuid; });
+  if (found == last) return {};
   return static_cast<std::size_t>(found - _items.begin());
 }
 
