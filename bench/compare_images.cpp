@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "bench/compare.h"
-#include "desktop/imageio/image_source.h"
-#include "desktop/io/byte_source.h"
+#include "io/byte_source.h"
+#include "media/image/image_source.h"
 #include "model/conversions.h"
 #include "model/description.h"
 #include "model/number_text.h"
@@ -127,9 +127,9 @@ void compareFile(const std::string& file, const model::Dictionary& ours,
 
 void compareImages(const std::vector<std::string>& files, Tally& tally) {
   for (const std::string& file : files) {
-    auto source = desktop::FileSource::open(file);
+    auto source = io::FileSource::open(file);
     if (!source) continue;
-    const auto ours = desktop::imageio::copyProperties(**source);
+    const auto ours = media::image::copyProperties(**source);
     if (!ours || !*ours) continue;
     const auto said = outputOf({"exiftool", "-n", "-j", "-G1", file});
     const model::Value json = parseJson(said.value_or(""));

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "bench/compare.h"
-#include "desktop/avfoundation/media_source.h"
-#include "desktop/io/byte_source.h"
+#include "io/byte_source.h"
+#include "media/movie/media_source.h"
 #include "model/description.h"
 #include "model/number_text.h"
 
@@ -82,9 +82,9 @@ void compareFile(const std::string& file, const model::MediaAsset& asset,
 
 void compareVideos(const std::vector<std::string>& files, Tally& tally) {
   for (const std::string& file : files) {
-    auto source = desktop::FileSource::open(file);
+    auto source = io::FileSource::open(file);
     if (!source) continue;
-    const auto ours = desktop::avfoundation::copyAsset(**source);
+    const auto ours = media::movie::copyAsset(**source);
     if (!ours || !*ours) continue;
     const auto said = outputOf({"mediainfo", "--Output=JSON", file});
     const model::Value json = parseJson(said.value_or(""));

@@ -11,8 +11,8 @@
 
 #include "bridge/class_builder.h"
 #include "bridge/foundation.h"
-#include "desktop/foundation_runtime/foundation_runtime.h"
-#include "desktop/uikit/uikit.h"
+#include "desktop/faces/foundation/foundation_runtime.h"
+#include "desktop/uikit/application/uikit.h"
 
 namespace {
 
@@ -40,8 +40,8 @@ class Cell : public Bound<Cell, NSObject> {
 // What a host does before it maps extensions.
 void prepareHost() {
   static const bool prepared = [] {
-    desktop::foundation::correctFoundation(
-        {desktop::foundation::DeviceRoot("/nonexistent"), "com.apple.mobileslideshow"});
+    desktop::faces::correctFoundation(
+        {foundation::DeviceRoot("/nonexistent"), "com.apple.mobileslideshow"});
     desktop::uikit::registerUIKit();
     const AutoreleasePool pool;
     benchmark::DoNotOptimize(NSBundle::mainBundle().bundleIdentifier());

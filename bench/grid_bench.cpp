@@ -14,14 +14,14 @@
 #include <string_view>
 
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/photos_ui/photos_host.h"
-#include "desktop/photos_ui/pu_photos_grid_view_controller.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/pictures/serve_decoder.h"
 #include "desktop/render/renderer.h"
 #include "desktop/render/screen_picture.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/uikit.h"
 
 namespace {
 
@@ -50,13 +50,13 @@ class PictureFiles {
   PictureFiles(const PictureFiles&) = delete;
   PictureFiles& operator=(const PictureFiles&) = delete;
 
-  std::vector<photos::ItemPointer> items() const {
-    std::vector<photos::ItemPointer> all;
+  std::vector<library::ItemPointer> items() const {
+    std::vector<library::ItemPointer> all;
     for (std::size_t index = 0; index < itemCount; ++index)
-      all.push_back(std::make_shared<photos::LibraryItem>(
-          photos::LibraryItem{.path = fileAt(static_cast<int>(index % fileCount)),
-                              .uuid = std::to_string(index),
-                              .modificationDate = {static_cast<double>(index)}}));
+      all.push_back(std::make_shared<library::LibraryItem>(
+          library::LibraryItem{.path = fileAt(static_cast<int>(index % fileCount)),
+                               .uuid = std::to_string(index),
+                               .modificationDate = {static_cast<double>(index)}}));
     return all;
   }
 
@@ -66,9 +66,9 @@ class PictureFiles {
   std::string _path;
 };
 
-photos_ui::ItemListPointer listOf(std::vector<photos::ItemPointer> items, bool hasSections) {
+photos_ui::ItemListPointer listOf(std::vector<library::ItemPointer> items, bool hasSections) {
   if (!hasSections) return std::make_shared<photos_ui::ItemList>(std::move(items));
-  std::vector<photos::Section> sections;
+  std::vector<library::Section> sections;
   for (std::size_t first = 0; first < items.size(); first += sectionLength)
     sections.push_back({.title = "Day " + std::to_string(sections.size()),
                         .first = first,

@@ -12,12 +12,12 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "desktop/photos/photo_library.h"
-#include "desktop/photos/sections.h"
+#include "desktop/library/photo_library.h"
+#include "desktop/library/sections.h"
 
 namespace {
 
-using namespace desktop::photos;
+using namespace desktop::library;
 
 // Made once, gone at the end.
 class ManyFiles {
@@ -39,7 +39,7 @@ class ManyFiles {
   const std::string& path() const { return _path; }
 
   std::unique_ptr<PhotoLibrary> open() const {
-    return *PhotoLibrary::open(_path, desktop::foundation::DeviceRoot("/nowhere"));
+    return *PhotoLibrary::open(_path, foundation::DeviceRoot("/nowhere"));
   }
 
  private:
@@ -107,8 +107,7 @@ void moments(benchmark::State& state) {
         LibraryItem{.path = "/a.jpg", .modificationDate = {hour * 3600.0}}));
   }
   while (state.KeepRunning()) {
-    benchmark::DoNotOptimize(
-        makeSections(items, ZoomLevel::moments, desktop::foundation::Locale()));
+    benchmark::DoNotOptimize(makeSections(items, ZoomLevel::moments, foundation::Locale()));
   }
 }
 BENCHMARK(moments)->Unit(benchmark::kMillisecond);

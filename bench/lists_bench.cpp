@@ -5,11 +5,11 @@
 // 16.7 ms in all.
 #include <benchmark/benchmark.h>
 
-#include "desktop/uikit/canvas.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/uikit.h"
-#include "desktop/uikit/view_painter.h"
+#include "desktop/uikit/views/view_painter.h"
 #include "tests/desktop/uikit/collection_source.h"
 #include "tests/desktop/uikit/table_source.h"
 

@@ -9,11 +9,11 @@
 #include "bridge/uikit.h"
 #include "desktop/render/renderer.h"
 #include "desktop/render/screen_picture.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_scroll_view.h"
-#include "desktop/uikit/uikit.h"
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
+#include "desktop/uikit/text/utf16.h"
 
 namespace {
 

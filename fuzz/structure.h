@@ -8,12 +8,12 @@
 #include <span>
 #include <vector>
 
-#include "desktop/io/byte_view.h"
+#include "io/byte_view.h"
 
 namespace fuzz {
 
-using desktop::ByteOrder;
-using desktop::ByteView;
+using io::ByteOrder;
+using io::ByteView;
 
 // A number in the file that says how many or where.
 struct Field {

@@ -8,12 +8,12 @@
 
 #include "apps/gallery/scenes.h"
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/foundation_runtime/foundation_runtime.h"
+#include "desktop/faces/foundation/foundation_runtime.h"
 #include "desktop/render/renderer.h"
 #include "desktop/render/screen_picture.h"
 #include "desktop/render/window.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/uikit.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/uikit.h"
 
 namespace {
 
@@ -44,7 +44,7 @@ int run(int count, char** arguments) {
   const bridge::AutoreleasePool pool;
   render::Renderer renderer(count, arguments,
                             picture.empty() ? render::Display::real : render::Display::none);
-  foundation::correctFoundation({});
+  faces::correctFoundation({});
   uikit::registerUIKit();
   uikit::stage().scale = scale;
   if (const auto failed = gallery::showScene(view)) return fail(failed->reason);

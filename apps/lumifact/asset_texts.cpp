@@ -3,9 +3,9 @@
 
 #include <utility>
 
-#include "desktop/foundation/byte_count.h"
-#include "desktop/foundation/date_text.h"
-#include "desktop/photos/paths.h"
+#include "foundation/byte_count.h"
+#include "foundation/date_text.h"
+#include "foundation/paths.h"
 #include "lumifact/assets/file_names.h"
 #include "lumifact/details/file_facts.h"
 #include "lumifact/details/map_link.h"
@@ -16,16 +16,14 @@ namespace lumifact::tool {
 
 namespace {
 
-using desktop::photos::AssetFacts;
+using media::facts::AssetFacts;
 
 std::string dateText(model::Date date, const Environment& environment) {
-  return desktop::foundation::dateText(date, desktop::foundation::DateStyle::mediumDate,
-                                       environment.dates);
+  return foundation::dateText(date, foundation::DateStyle::mediumDate, environment.dates);
 }
 
 std::string sizeText(const AssetFacts& facts, const Environment& environment) {
-  return desktop::foundation::byteCountText(static_cast<std::int64_t>(facts.fileSize),
-                                            environment.numbers);
+  return foundation::byteCountText(static_cast<std::int64_t>(facts.fileSize), environment.numbers);
 }
 
 FileFacts fileFactsOf(const AssetFacts& facts, const Environment& environment) {
@@ -63,7 +61,7 @@ model::Dictionary summaryRecordOf(const AssetFacts& facts, const Environment& en
 
 std::string quickInfoOf(const AssetFacts& facts, QuickInfoForm form,
                         const Environment& environment) {
-  const QuickInfo info{.path = shownPath(desktop::photos::fileUrlText(facts.path)),
+  const QuickInfo info{.path = shownPath(foundation::fileUrlText(facts.path)),
                        .dateText = dateText(facts.creationDate, environment),
                        .sizeText = sizeText(facts, environment),
                        .pixelWidth = facts.pixelWidth,

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "apps/lumifact/environment.h"
-#include "desktop/photos/asset_facts.h"
 #include "lumifact/grid/quick_info_text.h"
+#include "media/facts/asset_facts.h"
 #include "model/value.h"
 
 namespace lumifact::tool {
@@ -23,17 +23,17 @@ struct AssetReport {
 };
 
 // Makes the report; the facts' properties become its table.
-AssetReport reportOf(desktop::photos::AssetFacts facts, const Environment& environment);
+AssetReport reportOf(media::facts::AssetFacts facts, const Environment& environment);
 
 // The file's facts as rows above the table.
-model::Dictionary summaryRecordOf(const desktop::photos::AssetFacts& facts,
+model::Dictionary summaryRecordOf(const media::facts::AssetFacts& facts,
                                   const Environment& environment);
 
-std::string quickInfoOf(const desktop::photos::AssetFacts& facts, QuickInfoForm form,
+std::string quickInfoOf(const media::facts::AssetFacts& facts, QuickInfoForm form,
                         const Environment& environment);
 
 // The caption under a thumbnailInfoDisplay value; empty where that sets none.
-std::string captionOf(const desktop::photos::AssetFacts& facts, std::int32_t display,
+std::string captionOf(const media::facts::AssetFacts& facts, std::int32_t display,
                       const Environment& environment);
 
 }  // namespace lumifact::tool

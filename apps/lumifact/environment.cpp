@@ -4,16 +4,16 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "desktop/foundation/collation.h"
-#include "desktop/foundation/property_list.h"
-#include "desktop/photos/paths.h"
+#include "foundation/collation.h"
+#include "foundation/paths.h"
+#include "foundation/property_list.h"
 
 namespace lumifact::tool {
 
 namespace {
 
-using desktop::foundation::DeviceRoot;
-using desktop::foundation::Locale;
+using foundation::DeviceRoot;
+using foundation::Locale;
 
 Locale localeOf(const Options& options, Reader reader, const char* category) {
   if (options.locale) return Locale(*options.locale);
@@ -24,7 +24,7 @@ Locale localeOf(const Options& options, Reader reader, const char* category) {
 
 DeviceRoot rootOf(const Options& options) {
   if (!options.root) return DeviceRoot::ofUser();
-  return DeviceRoot(desktop::photos::absolutePath(*options.root));
+  return DeviceRoot(foundation::absolutePath(*options.root));
 }
 
 std::string settingsFileOf(const Options& options) {
@@ -32,7 +32,7 @@ std::string settingsFileOf(const Options& options) {
 }
 
 Settings settingsOf(const Options& options) {
-  const auto list = desktop::foundation::readPropertyList(settingsFileOf(options));
+  const auto list = foundation::readPropertyList(settingsFileOf(options));
   Settings settings = settingsFromFile(list ? list->root.asDictionary() : nullptr);
   settings.mapType = options.mapType.value_or(settings.mapType);
   settings.mapZoomLevel = options.mapZoomLevel.value_or(settings.mapZoomLevel);
@@ -49,7 +49,7 @@ Environment environmentOf(const Options& options, Reader reader) {
           .settings = settingsOf(options),
           .dates = localeOf(options, reader, "LC_TIME"),
           .numbers = localeOf(options, reader, "LC_NUMERIC"),
-          .keyOrder = desktop::foundation::keyComparison(localeOf(options, reader, "LC_COLLATE"))};
+          .keyOrder = foundation::keyComparison(localeOf(options, reader, "LC_COLLATE"))};
 }
 
 }  // namespace lumifact::tool

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "apps/lumifact/options.h"
-#include "desktop/foundation/device_root.h"
-#include "desktop/foundation/locale.h"
+#include "foundation/device_root.h"
+#include "foundation/locale.h"
 #include "lumifact/loader/settings.h"
 #include "model/key_order.h"
 
@@ -18,10 +18,10 @@ namespace lumifact::tool {
 enum class Reader { person, program };
 
 struct Environment {
-  desktop::foundation::DeviceRoot root;
+  foundation::DeviceRoot root;
   Settings settings;
-  desktop::foundation::Locale dates;
-  desktop::foundation::Locale numbers;
+  foundation::Locale dates;
+  foundation::Locale numbers;
   model::KeyComparison keyOrder;
 };
 
@@ -30,7 +30,7 @@ struct Environment {
 Environment environmentOf(const Options& options, Reader reader);
 
 // The root of the device, and where the settings file lies.
-desktop::foundation::DeviceRoot rootOf(const Options& options);
+foundation::DeviceRoot rootOf(const Options& options);
 std::string settingsFileOf(const Options& options);
 
 // The settings of the file with the options' own choices put over them. A missing or unreadable

@@ -70,8 +70,8 @@ std::optional<FileItem> FileList::nextInFolders() {
     }
     const auto entry = std::move(folder.entries.back());
     folder.entries.pop_back();
-    std::string path = desktop::photos::pathInFolder(folder.path, entry.name);
-    if (entry.kind == desktop::photos::FolderEntryKind::file) {
+    std::string path = foundation::pathInFolder(folder.path, entry.name);
+    if (entry.kind == foundation::FolderEntryKind::file) {
       return FileItem{std::move(path), std::nullopt};
     }
     if (auto error = enter(path)) return FileItem{std::move(path), std::move(error)};
@@ -81,7 +81,7 @@ std::optional<FileItem> FileList::nextInFolders() {
 
 // Starts to walk a folder.
 std::optional<model::Error> FileList::enter(const std::string& path) {
-  auto entries = desktop::photos::readFolder(path);
+  auto entries = foundation::readFolder(path);
   if (!entries) return entries.error();
   std::ranges::reverse(*entries);
   _folders.push_back({.path = path, .entries = *std::move(entries)});

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "apps/lumifact/line_reader.h"
-#include "desktop/photos/folder_entries.h"
+#include "foundation/folder_entries.h"
 #include "model/result.h"
 
 namespace lumifact::tool {
@@ -49,7 +49,7 @@ class FileList {
   // A folder being walked; its entries stand in reverse, so that the next is the last.
   struct Folder {
     std::string path;
-    std::vector<desktop::photos::FolderEntry> entries;
+    std::vector<foundation::FolderEntry> entries;
   };
 
   std::optional<FileItem> nextInFolders();

@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-#include "desktop/foundation/base64.h"
+#include "foundation/base64.h"
 #include "model/civil_time.h"
 #include "model/number_text.h"
 
@@ -57,7 +57,7 @@ model::Result<model::Value> markedValue(std::string_view key, model::Value value
   }
   const std::string text = value.asString() == nullptr ? "?" : *value.asString();
   if (key == "$data")
-    return valueOr(desktop::foundation::dataFromBase64(text), "\"$data\" holds no base64 text");
+    return valueOr(foundation::dataFromBase64(text), "\"$data\" holds no base64 text");
   if (key == "$date") {
     return valueOr(dateFromIsoText(text), "\"$date\" holds no ISO 8601 date in UTC");
   }

@@ -5,7 +5,7 @@
 #include "apps/lumifact/json.h"
 #include "apps/lumifact/json_marks.h"
 #include "apps/lumifact/terminal_text.h"
-#include "desktop/foundation/base64.h"
+#include "foundation/base64.h"
 #include "model/number_text.h"
 #include "model/utf8.h"
 
@@ -67,7 +67,7 @@ void appendReal(std::string& text, double real) {
 
 void appendData(std::string& text, const model::Data& data) {
   text += R"({"$data":")";
-  text += desktop::foundation::base64Text(data);
+  text += foundation::base64Text(data);
   text += "\"}";
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/table_text.h"
 
-#include "desktop/foundation/date_text.h"
+#include "foundation/date_text.h"
 #include "model/description.h"
 #include "model/utf8.h"
 
@@ -15,7 +15,7 @@ constexpr std::size_t hiddenCharacters = 8;
 
 class TableWriter {
  public:
-  TableWriter(const model::KeyComparison& keyOrder, const desktop::foundation::Locale& dates)
+  TableWriter(const model::KeyComparison& keyOrder, const foundation::Locale& dates)
       : _keyOrder(keyOrder), _dates(dates) {}
 
   void appendDictionary(const model::Dictionary& dictionary, std::size_t depth) {
@@ -57,8 +57,7 @@ class TableWriter {
 
   std::string shownValue(const model::Value& value) const {
     if (const model::Date* date = value.asDate()) {
-      return desktop::foundation::dateText(*date, desktop::foundation::DateStyle::shortDate,
-                                           _dates);
+      return foundation::dateText(*date, foundation::DateStyle::shortDate, _dates);
     }
     if (const model::Data* data = value.asData()) {
       std::string text(data->begin(), data->end());
@@ -68,15 +67,14 @@ class TableWriter {
   }
 
   const model::KeyComparison& _keyOrder;
-  const desktop::foundation::Locale& _dates;
+  const foundation::Locale& _dates;
   std::string _text;
 };
 
 }  // namespace
 
 std::string tableText(const model::Dictionary& summaryRecord, const model::Dictionary& table,
-                      const model::KeyComparison& keyOrder,
-                      const desktop::foundation::Locale& dates) {
+                      const model::KeyComparison& keyOrder, const foundation::Locale& dates) {
   TableWriter writer(keyOrder, dates);
   writer.appendDictionary(summaryRecord, 0);
   writer.appendDictionary(table, 0);

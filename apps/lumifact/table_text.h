@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "desktop/foundation/locale.h"
+#include "foundation/locale.h"
 #include "model/key_order.h"
 #include "model/value.h"
 
@@ -14,7 +14,6 @@ namespace lumifact::tool {
 // A row a line, "title = value"; what a container holds follows, two blanks deeper. Elements of
 // arrays have no title and stand behind "-". Dates are in the short style.
 std::string tableText(const model::Dictionary& summaryRecord, const model::Dictionary& table,
-                      const model::KeyComparison& keyOrder,
-                      const desktop::foundation::Locale& dates);
+                      const model::KeyComparison& keyOrder, const foundation::Locale& dates);
 
 }  // namespace lumifact::tool

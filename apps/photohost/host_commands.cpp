@@ -3,8 +3,8 @@
 
 #include <cmath>
 
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/uikit/stage.h"
+#include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/uikit/application/stage.h"
 
 namespace photohost {
 namespace {

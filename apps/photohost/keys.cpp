@@ -4,14 +4,14 @@
 #include <algorithm>
 
 #include "bridge/uikit.h"
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/one_up.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_bar_button_item.h"
-#include "desktop/uikit/ui_button.h"
-#include "desktop/uikit/ui_navigation_item.h"
-#include "desktop/uikit/ui_responder.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/bars/ui_bar_button_item.h"
+#include "desktop/uikit/bars/ui_navigation_item.h"
+#include "desktop/uikit/controls/ui_button.h"
+#include "desktop/uikit/views/ui_responder.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace photohost {
 namespace {

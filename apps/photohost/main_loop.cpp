@@ -2,7 +2,7 @@
 #include "apps/photohost/main_loop.h"
 
 #include "apps/photohost/keys.h"
-#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/navigation/navigation.h"
 
 namespace photohost {
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "desktop/uikit/stage.h"
+#include "desktop/uikit/application/stage.h"
 
 namespace photohost {
 

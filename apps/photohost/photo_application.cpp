@@ -7,20 +7,20 @@
 #include "apps/photohost/main_loop.h"
 #include "apps/photohost/outside.h"
 #include "bridge/foundation.h"
-#include "desktop/avfoundation_runtime/avfoundation_runtime.h"
-#include "desktop/foundation_runtime/foundation_runtime.h"
+#include "desktop/faces/foundation/foundation_runtime.h"
+#include "desktop/faces/movie/avfoundation_runtime.h"
 #include "desktop/loader/extension_loader.h"
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/photos_host.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/runtime/darwin_notifications.h"
 #include "desktop/runtime/debug_log.h"
-#include "desktop/runtime/notification_core.h"
 #include "desktop/script/script_runner.h"
 #include "desktop/script/system_commands.h"
-#include "desktop/uikit/geometry.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/uikit.h"
+#include "foundation/notification_core.h"
 
 namespace photohost {
 namespace {
@@ -52,13 +52,13 @@ PhotoApplication::PhotoApplication(int& argumentCount, char** arguments, const O
       _root(rootOf(options)),
       _renderer(argumentCount, arguments, displayOf(options)),
       _pictures({.command = {"/proc/self/exe", decoderArgument}}) {
-  foundation::correctFoundation({.root = _root, .bundleIdentifier = options.bundleIdentifier});
-  runtime::openDarwinNotifications(runtime::notificationFolder(_root.folder()));
+  faces::correctFoundation({.root = _root, .bundleIdentifier = options.bundleIdentifier});
+  runtime::openDarwinNotifications(foundation::notificationFolder(_root.folder()));
   runtime::setDebugLogSink(
       [](const runtime::DebugLogLine& line) { stage().log.push_back(line.message()); });
   uikit::registerUIKit();
   photos_ui::registerPhotosUI();
-  avfoundation::registerAVFoundation();
+  faces::registerAVFoundation();
   stage().screenSize = options.size;
   stage().scale = options.scale;
   stage().statusBar = {.isShown = true};
@@ -80,11 +80,11 @@ void PhotoApplication::loadExtensions() {
 
 void PhotoApplication::openLibrary() {
   const std::string folder = _options.library.empty() ? userPictureFolder() : _options.library;
-  auto library = photos::PhotoLibrary::open(folder, _root);
+  auto library = library::PhotoLibrary::open(folder, _root);
   if (library) {
     _library = *std::move(library);
     _library->onChange(
-        [](const photos::LibraryChange& change) { photos_ui::libraryChanged(change); });
+        [](const library::LibraryChange& change) { photos_ui::libraryChanged(change); });
   } else {
     photos_ui::host().libraryProblem = folder + ": " + library.error().reason;
     complain(photos_ui::host().libraryProblem);

@@ -7,10 +7,10 @@
 
 #include "apps/photohost/options.h"
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/foundation/device_root.h"
-#include "desktop/photos/photo_library.h"
+#include "desktop/library/photo_library.h"
 #include "desktop/pictures/picture_loader.h"
 #include "desktop/render/renderer.h"
+#include "foundation/device_root.h"
 
 namespace photohost {
 
@@ -39,10 +39,10 @@ class PhotoApplication {
 
   const bridge::AutoreleasePool _pool;
   const Options _options;
-  const desktop::foundation::DeviceRoot _root;
+  const foundation::DeviceRoot _root;
   desktop::render::Renderer _renderer;
   desktop::pictures::PictureLoader _pictures;
-  std::unique_ptr<desktop::photos::PhotoLibrary> _library;  // null where it cannot be opened
+  std::unique_ptr<desktop::library::PhotoLibrary> _library;  // null where it cannot be opened
 };
 
 }  // namespace photohost

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "desktop/foundation/property_list.h"
+#include "foundation/property_list.h"
 
 namespace desktop::loader {
 

@@ -1,27 +1,27 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_runtime/photos_runtime.h"
-#include "desktop/photos_ui/album_cell.h"
-#include "desktop/photos_ui/cell_marks.h"
-#include "desktop/photos_ui/grid_titles.h"
-#include "desktop/photos_ui/message_view.h"
-#include "desktop/photos_ui/photos_host.h"
-#include "desktop/photos_ui/problem_list.h"
-#include "desktop/photos_ui/pu_album_list_view_controller.h"
-#include "desktop/photos_ui/pu_cloud_shared_album_view_controller.h"
-#include "desktop/photos_ui/pu_one_up_bars_controller.h"
-#include "desktop/photos_ui/pu_one_up_photo_view.h"
-#include "desktop/photos_ui/pu_one_up_tiling_layout.h"
-#include "desktop/photos_ui/pu_one_up_view_controller.h"
-#include "desktop/photos_ui/pu_photo_view.h"
-#include "desktop/photos_ui/pu_photos_album_view_controller.h"
-#include "desktop/photos_ui/pu_photos_grid_cell.h"
-#include "desktop/photos_ui/pu_photos_grid_view_controller.h"
-#include "desktop/photos_ui/pu_photos_panorama_view_controller.h"
-#include "desktop/photos_ui/pu_sectioned_grid_layout.h"
-#include "desktop/photos_ui/pu_tiling_view.h"
-#include "desktop/photos_ui/pu_zoomable_grid_view_controller.h"
-#include "desktop/photos_ui/text_banner.h"
-#include "desktop/photos_ui/video_badge.h"
+#include "desktop/faces/photos/photos_runtime.h"
+#include "desktop/photos_ui/albums/album_cell.h"
+#include "desktop/photos_ui/albums/problem_list.h"
+#include "desktop/photos_ui/albums/pu_album_list_view_controller.h"
+#include "desktop/photos_ui/base/message_view.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/grid/cell_marks.h"
+#include "desktop/photos_ui/grid/grid_titles.h"
+#include "desktop/photos_ui/grid/pu_cloud_shared_album_view_controller.h"
+#include "desktop/photos_ui/grid/pu_photo_view.h"
+#include "desktop/photos_ui/grid/pu_photos_album_view_controller.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
+#include "desktop/photos_ui/grid/pu_photos_panorama_view_controller.h"
+#include "desktop/photos_ui/grid/pu_sectioned_grid_layout.h"
+#include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
+#include "desktop/photos_ui/grid/text_banner.h"
+#include "desktop/photos_ui/grid/video_badge.h"
+#include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
+#include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
+#include "desktop/photos_ui/one_up/pu_one_up_tiling_layout.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
+#include "desktop/photos_ui/one_up/pu_tiling_view.h"
 
 namespace desktop::photos_ui {
 namespace {
@@ -66,7 +66,7 @@ PhotosHost& host() {
 }
 
 void registerPhotosUI() {
-  photos::registerPhotos();
+  faces::registerPhotos();
   for (const auto& classObject : classes) classObject();
 }
 

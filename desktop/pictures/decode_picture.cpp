@@ -6,14 +6,14 @@
 #include <exception>
 #include <string_view>
 
-#include "desktop/avfoundation/other_containers.h"
-#include "desktop/imageio/image_type.h"
-#include "desktop/io/byte_source.h"
 #include "desktop/pictures/ffmpeg_frames.h"
 #include "desktop/pictures/heif_decoder.h"
 #include "desktop/pictures/jpeg_decoder.h"
 #include "desktop/pictures/qt_decoder.h"
 #include "desktop/pictures/raw_decoder.h"
+#include "io/byte_source.h"
+#include "media/image/image_type.h"
+#include "media/movie/other_containers.h"
 
 namespace desktop::pictures {
 
@@ -22,7 +22,7 @@ namespace {
 // A file that is being decoded.
 struct File {
   const std::string& path;
-  ByteSource& source;
+  io::ByteSource& source;
   const Request& request;
 };
 using Decode = model::Result<Picture> (*)(const File& file);
@@ -84,11 +84,11 @@ model::Result<Picture> decodeFile(const File& file) {
   const auto count = file.source.readAt(0, head);
   if (!count) return count.error();
   if (*count == 0) return model::Error{"empty file"};
-  const ByteView bytes(std::span<const std::uint8_t>(head).first(*count));
-  const auto type = imageio::uniformTypeIdentifier(bytes, file.path);
+  const io::ByteView bytes(std::span<const std::uint8_t>(head).first(*count));
+  const auto type = media::image::uniformTypeIdentifier(bytes, file.path);
   const auto* kind = std::ranges::find(kinds, type, &Kind::type);
   if (kind != std::end(kinds)) return kind->decode(file);
-  const auto isVideo = avfoundation::isOtherContainer(file.source);
+  const auto isVideo = media::movie::isOtherContainer(file.source);
   if (isVideo && *isVideo) return asVideo(file);
   return model::Error{"not a picture or video"};
 }
@@ -97,7 +97,7 @@ model::Result<Picture> decodeFile(const File& file) {
 
 model::Result<Picture> decodePicture(const std::string& path, const Request& request) {
   if (request.maxWidth <= 0 || request.maxHeight <= 0) return model::Error{"no size asked for"};
-  const auto source = FileSource::open(path);
+  const auto source = io::FileSource::open(path);
   if (!source) return source.error();
   try {
     return decodeFile({path, **source, request});

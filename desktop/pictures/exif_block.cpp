@@ -1,35 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/pictures/exif_block.h"
 
-#include "desktop/imageio/tiff_ifd.h"
+#include "media/image/ifd/tiff_ifd.h"
 
 namespace desktop::pictures {
 
 namespace {
 
-using imageio::Ifd;
-using imageio::TiffStructure;
+using media::image::Ifd;
+using media::image::TiffStructure;
 
 constexpr std::uint16_t orientationTag = 0x0112;
 constexpr std::uint16_t thumbnailOffset = 0x0201;  // JPEGInterchangeFormat
 constexpr std::uint16_t thumbnailLength = 0x0202;
 
 std::uint64_t numberOf(TiffStructure& structure, const Ifd& ifd, std::uint16_t tag) {
-  const imageio::IfdEntry* entry = ifd.find(tag);
+  const media::image::IfdEntry* entry = ifd.find(tag);
   const auto field = entry ? structure.field(*entry) : std::nullopt;
   const std::int64_t number = field ? field->integer(0).value_or(0) : 0;
   return number > 0 ? static_cast<std::uint64_t>(number) : 0;
 }
 
 // The offset of the IFD that follows the one at `offset`. TIFF 6.0, section 2.
-std::uint64_t nextIfd(ByteView block, std::uint64_t offset, ByteOrder order) {
+std::uint64_t nextIfd(io::ByteView block, std::uint64_t offset, io::ByteOrder order) {
   const std::uint64_t count = block.u16(offset, order).value_or(0);
   return block.u32(offset + 2 + count * 12, order).value_or(0);
 }
 
 }  // namespace
 
-ExifBlock readExifBlock(ByteView block) {
+ExifBlock readExifBlock(io::ByteView block) {
   ExifBlock result;
   auto structure = TiffStructure::open(block);
   const auto first = structure ? structure->readIfd(structure->firstIfd()) : std::nullopt;

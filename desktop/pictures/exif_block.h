@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "desktop/io/byte_view.h"
 #include "desktop/pictures/orientation.h"
+#include "io/byte_view.h"
 
 namespace desktop::pictures {
 
@@ -17,6 +17,6 @@ struct ExifBlock {
 };
 
 // Reads the TIFF structure of an Exif block. What is missing or damaged keeps its default.
-ExifBlock readExifBlock(ByteView block);
+ExifBlock readExifBlock(io::ByteView block);
 
 }  // namespace desktop::pictures

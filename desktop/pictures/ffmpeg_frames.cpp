@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/pictures/ffmpeg_frames.h"
 
-#include "desktop/io/on_demand_module.h"
+#include "io/on_demand_module.h"
 
 namespace desktop::pictures {
 
-model::Result<Picture> decodeVideoFrame(const std::string& name, ByteSource& source,
+model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
                                         const Request& request) {
   static const auto decode = reinterpret_cast<DecodeFrameWithFfmpeg>(
-      functionOfModule(ffmpegFramesModule, ffmpegFramesFunction));
+      io::functionOfModule(ffmpegFramesModule, ffmpegFramesFunction));
   if (decode == nullptr) return model::Error{"no reader for videos is installed"};
   Picture picture;
   if (decode(name.c_str(), &source, &request, &picture) != 0)

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "desktop/io/byte_source.h"
 #include "desktop/pictures/picture.h"
+#include "io/byte_source.h"
 #include "model/result.h"
 
 namespace desktop::pictures {
@@ -16,14 +16,14 @@ namespace desktop::pictures {
 // `name` is a hint to the kind of the file; it is not opened. Fails where FFmpeg knows nothing of
 // the file, takes too long, or, like the module, is not installed. REQUIRES: the request is not
 // empty.
-model::Result<Picture> decodeVideoFrame(const std::string& name, ByteSource& source,
+model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
                                         const Request& request);
 
 // The module's function, under its C name. Fills the picture and returns 0, or returns another
 // number and leaves it as it is.
 extern "C" {
-using DecodeFrameWithFfmpeg = int (*)(const char* name, ByteSource* source, const Request* request,
-                                      Picture* picture);
+using DecodeFrameWithFfmpeg = int (*)(const char* name, io::ByteSource* source,
+                                      const Request* request, Picture* picture);
 }
 inline constexpr char ffmpegFramesModule[] = "desktop_ffmpeg_frames.so";
 inline constexpr char ffmpegFramesFunction[] = "desktopDecodeFrameWithFfmpeg";

@@ -35,7 +35,7 @@ using Handle = Owned<heif_image_handle>;
 
 // A source as libheif reads it.
 struct Input {
-  ByteSource& source;
+  io::ByteSource& source;
   std::uint64_t position = 0;
 };
 
@@ -142,7 +142,8 @@ model::Result<Picture> decode(const Handle& handle, PixelSize target) {
   return scaledTo(target, image.get(), heif_image_handle_is_premultiplied_alpha(handle.get()) != 0);
 }
 
-model::Result<Picture> decodeWhole(ByteSource& source, const Handle& primary, PixelSize target) {
+model::Result<Picture> decodeWhole(io::ByteSource& source, const Handle& primary,
+                                   PixelSize target) {
   if (heif_image_handle_has_alpha_channel(primary.get()) == 0) {
     if (auto picture = decodeHeifTiles(source, sizeOf(primary), target)) return *std::move(picture);
   }
@@ -166,7 +167,7 @@ void convertColours(const Handle& primary, Picture& picture) {
 
 }  // namespace
 
-model::Result<Picture> decodeHeif(ByteSource& source, const Request& request) {
+model::Result<Picture> decodeHeif(io::ByteSource& source, const Request& request) {
   Input input{source};
   const Owned<heif_context> context(heif_context_alloc());
   heif_context_set_max_decoding_threads(context.get(), limits.decoderThreads);

@@ -3,13 +3,13 @@
 // HEIF and AVIF files with libheif: by a thumbnail item where one is large enough, else whole.
 #pragma once
 
-#include "desktop/io/byte_source.h"
 #include "desktop/pictures/picture.h"
+#include "io/byte_source.h"
 #include "model/result.h"
 
 namespace desktop::pictures {
 
 // REQUIRES: the request is not empty.
-model::Result<Picture> decodeHeif(ByteSource& source, const Request& request);
+model::Result<Picture> decodeHeif(io::ByteSource& source, const Request& request);
 
 }  // namespace desktop::pictures

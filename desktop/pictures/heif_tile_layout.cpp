@@ -4,19 +4,19 @@
 #include <algorithm>
 #include <string_view>
 
-#include "desktop/imageio/heif_transform.h"
 #include "desktop/pictures/limits.h"
+#include "media/image/heif/heif_transform.h"
 
 namespace desktop::pictures {
 
 namespace {
 
-using imageio::HeifMeta;
-using imageio::HeifTransform;
+using media::image::HeifMeta;
+using media::image::HeifTransform;
 using model::fourCharCode;
 
 // Properties that leave the pixels where and as they are.
-bool isHarmless(const IsoBox& property) {
+bool isHarmless(const io::IsoBox& property) {
   constexpr model::FourCharCode types[] = {
       fourCharCode("ispe"), fourCharCode("colr"), fourCharCode("pixi"), fourCharCode("hvcC"),
       fourCharCode("pasp"), fourCharCode("clli"), fourCharCode("mdcv"), fourCharCode("auxC"),
@@ -24,15 +24,16 @@ bool isHarmless(const IsoBox& property) {
   return std::ranges::find(types, property.type) != std::end(types);
 }
 
-std::optional<Orientation> orientationOf(HeifMeta& meta, SourceReader& file, std::uint32_t item) {
+std::optional<Orientation> orientationOf(HeifMeta& meta, io::SourceReader& file,
+                                         std::uint32_t item) {
   HeifTransform transform;
-  for (const IsoBox& property : meta.propertiesOf(item)) {
+  for (const io::IsoBox& property : meta.propertiesOf(item)) {
     const bool isTurn = property.is("irot");
     if (!isTurn && !property.is("imir")) {
       if (!isHarmless(property)) return std::nullopt;
       continue;
     }
-    const auto bytes = boxBytes(file, property, 16);
+    const auto bytes = io::boxBytes(file, property, 16);
     const auto code = bytes ? bytes->u8(0) : std::nullopt;
     if (!code) return std::nullopt;
     if (isTurn) {
@@ -50,15 +51,15 @@ int sideOf(std::optional<std::uint32_t> length) {
 }
 
 // ISO/IEC 23008-12, 6.5.3.
-PixelSize extentOf(HeifMeta& meta, SourceReader& file, std::uint32_t item) {
+PixelSize extentOf(HeifMeta& meta, io::SourceReader& file, std::uint32_t item) {
   const auto box = meta.property(item, fourCharCode("ispe"));
-  const auto bytes = box ? boxBytes(file, *box, 64) : std::nullopt;
+  const auto bytes = box ? io::boxBytes(file, *box, 64) : std::nullopt;
   if (!bytes) return {};
-  return {sideOf(bytes->u32(4, ByteOrder::big)), sideOf(bytes->u32(8, ByteOrder::big))};
+  return {sideOf(bytes->u32(4, io::ByteOrder::big)), sideOf(bytes->u32(8, io::ByteOrder::big))};
 }
 
 // Reads what the grid's own bytes say. False where they are damaged.
-bool readGrid(HeifMeta& meta, SourceReader& file, std::uint32_t item, HeifTileLayout& layout) {
+bool readGrid(HeifMeta& meta, io::SourceReader& file, std::uint32_t item, HeifTileLayout& layout) {
   auto pieces = meta.bytesOf(item);
   const auto bytes = pieces.all(file);
   if (!bytes || bytes->size() < 8) return false;
@@ -66,8 +67,8 @@ bool readGrid(HeifMeta& meta, SourceReader& file, std::uint32_t item, HeifTileLa
   layout.rows = *bytes->u8(2) + 1;
   layout.columns = *bytes->u8(3) + 1;
   const auto side = [&](std::uint64_t index) {
-    if (isWide) return sideOf(bytes->u32(4 + 4 * index, ByteOrder::big));
-    return sideOf(bytes->u16(4 + 2 * index, ByteOrder::big));
+    if (isWide) return sideOf(bytes->u32(4 + 4 * index, io::ByteOrder::big));
+    return sideOf(bytes->u16(4 + 2 * index, io::ByteOrder::big));
   };
   layout.size = {side(0), side(1)};
   for (const auto& reference : meta.references()) {
@@ -82,7 +83,7 @@ bool readGrid(HeifMeta& meta, SourceReader& file, std::uint32_t item, HeifTileLa
 bool areAlike(HeifMeta& meta, const HeifTileLayout& layout) {
   const auto propertiesOf = [&](std::uint32_t item) {
     std::vector<std::uint64_t> places;
-    for (const IsoBox& property : meta.propertiesOf(item)) {
+    for (const io::IsoBox& property : meta.propertiesOf(item)) {
       if (property.is("ispe") || property.is("hvcC")) places.push_back(property.offset);
       if (!isHarmless(property)) places.push_back(~property.offset);  // like no other's
     }
@@ -90,7 +91,7 @@ bool areAlike(HeifMeta& meta, const HeifTileLayout& layout) {
   };
   const auto first = propertiesOf(layout.items.front());
   return std::ranges::all_of(layout.items, [&](std::uint32_t item) {
-    const imageio::HeifItem* tile = meta.item(item);
+    const media::image::HeifItem* tile = meta.item(item);
     return tile != nullptr && tile->type == fourCharCode("hvc1") && propertiesOf(item) == first;
   });
 }
@@ -113,7 +114,7 @@ bool isWithinLimits(const HeifTileLayout& layout) {
 }
 
 // Finds the tiles of an item. False where it is of another kind.
-bool readTiles(HeifMeta& meta, SourceReader& file, const imageio::HeifItem& item,
+bool readTiles(HeifMeta& meta, io::SourceReader& file, const media::image::HeifItem& item,
                HeifTileLayout& layout) {
   if (item.type == fourCharCode("hvc1")) {
     layout.items = {item.id};
@@ -126,9 +127,9 @@ bool readTiles(HeifMeta& meta, SourceReader& file, const imageio::HeifItem& item
 
 }  // namespace
 
-std::optional<HeifTileLayout> readHeifTileLayout(HeifMeta& meta, SourceReader& file) {
+std::optional<HeifTileLayout> readHeifTileLayout(HeifMeta& meta, io::SourceReader& file) {
   const auto primary = meta.primaryItem();
-  const imageio::HeifItem* item = primary ? meta.item(*primary) : nullptr;
+  const media::image::HeifItem* item = primary ? meta.item(*primary) : nullptr;
   HeifTileLayout layout;
   if (item == nullptr || !readTiles(meta, file, *item, layout)) return std::nullopt;
   const auto orientation = orientationOf(meta, file, *primary);
@@ -137,7 +138,8 @@ std::optional<HeifTileLayout> readHeifTileLayout(HeifMeta& meta, SourceReader& f
   layout.tile = extentOf(meta, file, layout.items.front());
   if (!isWithinLimits(layout)) return std::nullopt;
   const auto box = meta.property(layout.items.front(), fourCharCode("hvcC"));
-  const auto configuration = box ? boxBytes(file, *box, limits.configurationBytes) : std::nullopt;
+  const auto configuration =
+      box ? io::boxBytes(file, *box, limits.configurationBytes) : std::nullopt;
   if (!configuration) return std::nullopt;
   layout.configuration.assign(configuration->bytes().begin(), configuration->bytes().end());
   return layout;

@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-#include "desktop/imageio/heif_meta.h"
 #include "desktop/pictures/orientation.h"
+#include "media/image/heif/heif_meta.h"
 
 namespace desktop::pictures {
 
@@ -24,6 +24,7 @@ struct HeifTileLayout {
 
 // The layout of the primary picture; none where it is no grid of equal HEVC tiles that covers it,
 // nor one HEVC picture, or has properties that change it in other ways than turning.
-std::optional<HeifTileLayout> readHeifTileLayout(imageio::HeifMeta& meta, SourceReader& file);
+std::optional<HeifTileLayout> readHeifTileLayout(media::image::HeifMeta& meta,
+                                                 io::SourceReader& file);
 
 }  // namespace desktop::pictures

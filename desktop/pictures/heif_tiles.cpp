@@ -6,11 +6,11 @@
 #include <thread>
 #include <vector>
 
-#include "desktop/imageio/heif_meta.h"
 #include "desktop/pictures/heif_tile_layout.h"
 #include "desktop/pictures/limits.h"
 #include "desktop/pictures/row_scaler.h"
 #include "desktop/pictures/tile_decoder.h"
+#include "media/image/heif/heif_meta.h"
 
 namespace desktop::pictures {
 
@@ -64,7 +64,7 @@ class BandDecoder {
 };
 
 // The coded tiles of a band; empty where some cannot be read.
-std::vector<Coded> codedBand(imageio::HeifMeta& meta, SourceReader& file,
+std::vector<Coded> codedBand(media::image::HeifMeta& meta, io::SourceReader& file,
                              const HeifTileLayout& layout, int band) {
   std::vector<Coded> tiles;
   const auto columns = static_cast<std::size_t>(layout.columns);
@@ -80,9 +80,10 @@ std::vector<Coded> codedBand(imageio::HeifMeta& meta, SourceReader& file,
 
 }  // namespace
 
-std::optional<Picture> decodeHeifTiles(ByteSource& source, PixelSize upright, PixelSize target) {
-  SourceReader file(source);
-  auto meta = imageio::HeifMeta::read(file);
+std::optional<Picture> decodeHeifTiles(io::ByteSource& source, PixelSize upright,
+                                       PixelSize target) {
+  io::SourceReader file(source);
+  auto meta = media::image::HeifMeta::read(file);
   const auto layout = meta ? readHeifTileLayout(*meta, file) : std::nullopt;
   if (!layout || layout->orientation.turned(layout->size) != upright) return std::nullopt;
   RowScaler scaler(layout->size, layout->orientation.turned(target));

@@ -7,15 +7,15 @@
 
 #include <optional>
 
-#include "desktop/io/byte_source.h"
 #include "desktop/pictures/picture.h"
 #include "desktop/pictures/target_size.h"
+#include "io/byte_source.h"
 
 namespace desktop::pictures {
 
 // The primary picture, upright, in its own colours, at the target size. None where it is of a kind
 // that this does not know (other codecs, crops, overlays, ...), is damaged, or no decoder for tiles
 // is installed. `upright` is the picture's size as shown. REQUIRES: it has no alpha.
-std::optional<Picture> decodeHeifTiles(ByteSource& source, PixelSize upright, PixelSize target);
+std::optional<Picture> decodeHeifTiles(io::ByteSource& source, PixelSize upright, PixelSize target);
 
 }  // namespace desktop::pictures

@@ -5,12 +5,12 @@
 #include <string_view>
 #include <utility>
 
-#include "desktop/imageio/jpeg_segments.h"
 #include "desktop/pictures/colours.h"
 #include "desktop/pictures/exif_block.h"
 #include "desktop/pictures/jpeg_stream.h"
 #include "desktop/pictures/limits.h"
 #include "desktop/pictures/row_scaler.h"
+#include "media/image/jpeg/jpeg_segments.h"
 
 namespace desktop::pictures {
 
@@ -18,11 +18,11 @@ namespace {
 
 using namespace std::string_view_literals;
 
-ExifBlock exifOf(ByteSource& source) {
+ExifBlock exifOf(io::ByteSource& source) {
   constexpr std::uint8_t app1 = 0xE1;
   constexpr auto signature = "Exif\0"sv;  // a padding byte follows
-  SourceReader file(source);
-  imageio::JpegSegmentWalk walk(file);
+  io::SourceReader file(source);
+  media::image::JpegSegmentWalk walk(file);
   while (const auto segment = walk.next()) {
     if (segment->marker != app1 || segment->payload.size() > limits.exifBytes) continue;
     const auto bytes = file.view(segment->payload.begin, segment->payload.size());
@@ -44,7 +44,7 @@ std::optional<Picture> scaledTo(PixelSize target, JpegStream& stream) {
 std::optional<Picture> thumbnailAs(PixelSize target, PixelSize image,
                                    std::vector<std::uint8_t> thumbnail) {
   if (thumbnail.empty()) return std::nullopt;
-  MemorySource source(std::move(thumbnail));
+  io::MemorySource source(std::move(thumbnail));
   JpegStream stream(source);
   if (!stream.readHeader() || !covers(stream.size(), target)) return std::nullopt;
   if (!hasSameAspect(stream.size(), image)) return std::nullopt;
@@ -53,7 +53,7 @@ std::optional<Picture> thumbnailAs(PixelSize target, PixelSize image,
 
 }  // namespace
 
-model::Result<Picture> decodeJpeg(ByteSource& source, const Request& request,
+model::Result<Picture> decodeJpeg(io::ByteSource& source, const Request& request,
                                   std::optional<Orientation> orientation) {
   JpegStream stream(source);
   if (!stream.readHeader()) return stream.error();

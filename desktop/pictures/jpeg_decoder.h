@@ -6,15 +6,15 @@
 
 #include <optional>
 
-#include "desktop/io/byte_source.h"
 #include "desktop/pictures/orientation.h"
+#include "io/byte_source.h"
 #include "model/result.h"
 
 namespace desktop::pictures {
 
 // The orientation is that of the Exif block, unless one is given. Where the file is cut off, the
 // rest of the picture is gray. Errors: libjpeg's messages. REQUIRES: the request is not empty.
-model::Result<Picture> decodeJpeg(ByteSource& source, const Request& request,
+model::Result<Picture> decodeJpeg(io::ByteSource& source, const Request& request,
                                   std::optional<Orientation> orientation = std::nullopt);
 
 }  // namespace desktop::pictures

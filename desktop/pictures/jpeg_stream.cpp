@@ -27,7 +27,7 @@ bool JpegStream::guarded(Function function) {
   return true;
 }
 
-JpegStream::JpegStream(ByteSource& source) {
+JpegStream::JpegStream(io::ByteSource& source) {
   _info.err = jpeg_std_error(&_errors);
   _info.client_data = this;
   _errors.error_exit = fail;

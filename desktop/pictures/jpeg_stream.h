@@ -15,8 +15,8 @@
 #include <string>
 #include <vector>
 
-#include "desktop/io/byte_source.h"
 #include "desktop/pictures/target_size.h"
+#include "io/byte_source.h"
 #include "model/result.h"
 
 namespace desktop::pictures {
@@ -24,7 +24,7 @@ namespace desktop::pictures {
 class JpegStream {
  public:
   // REQUIRES: the source outlives the stream.
-  explicit JpegStream(ByteSource& source);
+  explicit JpegStream(io::ByteSource& source);
   ~JpegStream();
   JpegStream(const JpegStream&) = delete;
   JpegStream& operator=(const JpegStream&) = delete;
@@ -49,7 +49,7 @@ class JpegStream {
 
  private:
   struct Source : jpeg_source_mgr {
-    ByteSource* bytes;
+    io::ByteSource* bytes;
     std::uint64_t offset;
     std::vector<JOCTET> buffer;
   };

@@ -10,11 +10,11 @@
 #include <span>
 #include <string>
 
-#include "desktop/imageio/image_source.h"
 #include "desktop/pictures/colours.h"
 #include "desktop/pictures/limits.h"
 #include "desktop/pictures/orientation.h"
 #include "desktop/pictures/row_scaler.h"
+#include "media/image/image_source.h"
 
 namespace desktop::pictures {
 
@@ -23,7 +23,7 @@ namespace {
 // A byte source as Qt reads it.
 class SourceDevice : public QIODevice {
  public:
-  explicit SourceDevice(ByteSource& source) : _source(source) { open(ReadOnly | Unbuffered); }
+  explicit SourceDevice(io::ByteSource& source) : _source(source) { open(ReadOnly | Unbuffered); }
 
   qint64 size() const override { return static_cast<qint64>(_source.size()); }
 
@@ -36,12 +36,12 @@ class SourceDevice : public QIODevice {
   qint64 writeData(const char*, qint64) override { return -1; }
 
  private:
-  ByteSource& _source;
+  io::ByteSource& _source;
 };
 
 // As the metadata have it: of these formats Qt knows the orientation of TIFF only.
-Orientation orientationOf(ByteSource& source) {
-  const auto properties = imageio::copyProperties(source);
+Orientation orientationOf(io::ByteSource& source) {
+  const auto properties = media::image::copyProperties(source);
   if (!properties || !*properties) return {};
   const model::Value* value = model::find(**properties, "Orientation");
   return value != nullptr && value->asInteger() ? Orientation(*value->asInteger()) : Orientation();
@@ -70,7 +70,7 @@ Picture scaledTo(PixelSize target, const QImage& image) {
 
 }  // namespace
 
-model::Result<Picture> decodeWithQt(const char* format, ByteSource& source,
+model::Result<Picture> decodeWithQt(const char* format, io::ByteSource& source,
                                     const Request& request) {
   SourceDevice device(source);
   QImageReader reader(&device, format);

@@ -4,19 +4,19 @@
 #include <algorithm>
 #include <vector>
 
-#include "desktop/avfoundation/range_source.h"
-#include "desktop/imageio/tiff_ifd.h"
 #include "desktop/pictures/jpeg_decoder.h"
 #include "desktop/pictures/jpeg_stream.h"
 #include "desktop/pictures/orientation.h"
 #include "desktop/pictures/qt_decoder.h"
+#include "media/image/ifd/tiff_ifd.h"
+#include "media/movie/boxes/range_source.h"
 
 namespace desktop::pictures {
 
 namespace {
 
-using imageio::Ifd;
-using imageio::TiffStructure;
+using media::image::Ifd;
+using media::image::TiffStructure;
 
 // Tags: TIFF 6.0, TIFF/EP.
 constexpr std::uint16_t orientationTag = 0x0112;
@@ -27,12 +27,12 @@ constexpr std::uint16_t jpegOffset = 0x0201;
 constexpr std::uint16_t jpegLength = 0x0202;
 
 struct Preview {
-  ByteRange range;  // of a JPEG file inside the file
+  io::ByteRange range;  // of a JPEG file inside the file
   PixelSize size;
 };
 
 std::vector<std::uint64_t> numbersOf(TiffStructure& structure, const Ifd& ifd, std::uint16_t tag) {
-  const imageio::IfdEntry* entry = ifd.find(tag);
+  const media::image::IfdEntry* entry = ifd.find(tag);
   const auto field = entry ? structure.field(*entry) : std::nullopt;
   std::vector<std::uint64_t> numbers;
   for (std::size_t index = 0; field && index < field->count; ++index) {
@@ -44,16 +44,16 @@ std::vector<std::uint64_t> numbersOf(TiffStructure& structure, const Ifd& ifd, s
 
 // Takes a run of the file where it is a JPEG that libjpeg knows; sensor data may be JPEG of a kind
 // that it does not.
-void takePreview(ByteSource& file, std::uint64_t offset, std::uint64_t length,
+void takePreview(io::ByteSource& file, std::uint64_t offset, std::uint64_t length,
                  std::vector<Preview>& previews) {
   if (offset > file.size() || length > file.size() - offset) return;
-  const ByteRange range{offset, offset + length};
-  avfoundation::RangeSource source(file, range);
+  const io::ByteRange range{offset, offset + length};
+  media::movie::RangeSource source(file, range);
   JpegStream stream(source);
   if (stream.readHeader()) previews.push_back({range, stream.size()});
 }
 
-void takePreviews(ByteSource& file, TiffStructure& structure, const Ifd& ifd,
+void takePreviews(io::ByteSource& file, TiffStructure& structure, const Ifd& ifd,
                   std::vector<Preview>& previews) {
   constexpr std::pair<std::uint16_t, std::uint16_t> runs[] = {{jpegOffset, jpegLength},
                                                               {stripOffsets, stripByteCounts}};
@@ -66,7 +66,7 @@ void takePreviews(ByteSource& file, TiffStructure& structure, const Ifd& ifd,
 }
 
 // Those of the first IFD and of the ones below it.
-std::vector<Preview> previewsOf(ByteSource& file, TiffStructure& structure, const Ifd& first) {
+std::vector<Preview> previewsOf(io::ByteSource& file, TiffStructure& structure, const Ifd& first) {
   std::vector<Preview> previews;
   takePreviews(file, structure, first, previews);
   for (const std::uint64_t offset : numbersOf(structure, first, subIfds)) {
@@ -79,8 +79,8 @@ std::vector<Preview> previewsOf(ByteSource& file, TiffStructure& structure, cons
 
 }  // namespace
 
-model::Result<Picture> decodeRaw(ByteSource& source, const Request& request) {
-  SourceReader reader(source);
+model::Result<Picture> decodeRaw(io::ByteSource& source, const Request& request) {
+  io::SourceReader reader(source);
   auto structure = TiffStructure::open(reader);
   const auto first = structure ? structure->readIfd(structure->firstIfd()) : std::nullopt;
   if (!first) return model::Error{"truncated TIFF"};
@@ -93,7 +93,7 @@ model::Result<Picture> decodeRaw(ByteSource& source, const Request& request) {
   const auto best = std::ranges::find_if(previews, [&](const Preview& preview) {
     return covers(preview.size, target) && hasSameAspect(preview.size, largest);
   });
-  avfoundation::RangeSource jpeg(source, best->range);
+  media::movie::RangeSource jpeg(source, best->range);
   return decodeJpeg(jpeg, request, orientation);
 }
 

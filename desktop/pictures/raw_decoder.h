@@ -4,13 +4,13 @@
 // they carry; sensor data are not developed.
 #pragma once
 
-#include "desktop/io/byte_source.h"
 #include "desktop/pictures/picture.h"
+#include "io/byte_source.h"
 #include "model/result.h"
 
 namespace desktop::pictures {
 
 // The picture is at most as large as the largest preview. REQUIRES: the request is not empty.
-model::Result<Picture> decodeRaw(ByteSource& source, const Request& request);
+model::Result<Picture> decodeRaw(io::ByteSource& source, const Request& request);
 
 }  // namespace desktop::pictures

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/pictures/tile_decoder.h"
 
-#include "desktop/io/on_demand_module.h"
 #include "desktop/pictures/ffmpeg_frames.h"
+#include "io/on_demand_module.h"
 
 namespace desktop::pictures {
 
 std::unique_ptr<TileDecoder> makeTileDecoder(const TileFormat& format) {
   static const auto make = reinterpret_cast<MakeTileDecoderWithFfmpeg>(
-      functionOfModule(ffmpegFramesModule, ffmpegTilesFunction));
+      io::functionOfModule(ffmpegFramesModule, ffmpegTilesFunction));
   return std::unique_ptr<TileDecoder>(make == nullptr ? nullptr : make(&format));
 }
 

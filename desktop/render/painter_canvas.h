@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "desktop/render/soft_shadow.h"
-#include "desktop/uikit/canvas.h"
+#include "desktop/uikit/graphics/canvas.h"
 
 namespace desktop::render {
 

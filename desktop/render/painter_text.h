@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <string_view>
 
-#include "desktop/uikit/text_engine.h"
+#include "desktop/uikit/graphics/text_engine.h"
 
 namespace desktop::render {
 

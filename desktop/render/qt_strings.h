@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/text/utf16.h"
 
 namespace desktop::render {
 

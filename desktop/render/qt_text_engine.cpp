@@ -12,8 +12,8 @@
 #include "desktop/render/qt_fonts.h"
 #include "desktop/render/qt_strings.h"
 #include "desktop/render/shaped_line.h"
-#include "desktop/uikit/text_direction.h"
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/text/text_direction.h"
+#include "desktop/uikit/text/utf16.h"
 
 namespace desktop::render {
 namespace {

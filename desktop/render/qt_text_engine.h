@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "desktop/uikit/text_engine.h"
+#include "desktop/uikit/graphics/text_engine.h"
 
 namespace desktop::render {
 

@@ -7,8 +7,8 @@
 
 #include "bridge/runtime/autorelease_pool.h"
 #include "desktop/render/painter_canvas.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/view_painter.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/views/view_painter.h"
 
 namespace desktop::render {
 namespace {

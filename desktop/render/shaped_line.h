@@ -8,7 +8,7 @@
 #include <memory>
 #include <string_view>
 
-#include "desktop/uikit/text_engine.h"
+#include "desktop/uikit/graphics/text_engine.h"
 
 namespace desktop::render {
 

@@ -9,7 +9,7 @@
 #include <QPainterPath>
 #include <list>
 
-#include "desktop/uikit/path.h"
+#include "desktop/uikit/graphics/path.h"
 
 namespace desktop::render {
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/uikit/stage.h"
+#include "desktop/uikit/application/stage.h"
 
 namespace desktop::render {
 namespace {

@@ -4,14 +4,14 @@
 #include <memory>
 
 #include "bridge/runtime.h"
-#include "desktop/runtime/notification_core.h"
+#include "foundation/notification_core.h"
 
 namespace desktop::runtime {
 namespace {
 
 struct DarwinCentre {
   std::string folder;
-  std::unique_ptr<NotificationCentre> core;
+  std::unique_ptr<foundation::NotificationCentre> core;
   std::vector<DarwinObserver> observers;
 };
 
@@ -51,7 +51,7 @@ void listen(const DarwinObserver& observer) {
 
 void openDarwinNotifications(const std::string& folder) {
   centre().folder = folder;
-  centre().core = std::make_unique<NotificationCentre>(folder);
+  centre().core = std::make_unique<foundation::NotificationCentre>(folder);
   for (const DarwinObserver& observer : centre().observers) listen(observer);
 }
 
@@ -86,6 +86,6 @@ void CFNotificationCenterAddObserver(CFNotificationCenterRef, const void* observ
 void CFNotificationCenterPostNotification(CFNotificationCenterRef, CFStringRef name, const void*,
                                           CFDictionaryRef, unsigned char) {
   if (!centre().core || !name) return;
-  const auto posted = postNotification(centre().folder, textOf(name));
+  const auto posted = foundation::postNotification(centre().folder, textOf(name));
   static_cast<void>(static_cast<bool>(posted));  // the platform's function reports nothing either
 }

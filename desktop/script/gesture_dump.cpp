@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/script/node_parts.h"
-#include "desktop/uikit/ui_gesture_recognizer.h"
+#include "desktop/uikit/touch/ui_gesture_recognizer.h"
 
 namespace desktop::script {
 

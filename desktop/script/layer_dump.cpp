@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/script/node_parts.h"
-#include "desktop/uikit/ca_gradient_layer.h"
-#include "desktop/uikit/ca_layer.h"
-#include "desktop/uikit/ui_bezier_path.h"
-#include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/graphics/ui_bezier_path.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/views/ca_gradient_layer.h"
+#include "desktop/uikit/views/ca_layer.h"
 
 namespace desktop::script {
 namespace {

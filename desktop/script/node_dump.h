@@ -6,7 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "bridge/geometry.h"
-#include "desktop/uikit/color.h"
+#include "desktop/uikit/graphics/color.h"
 
 namespace desktop::script {
 

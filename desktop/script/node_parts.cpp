@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/script/node_parts.h"
 
-#include "desktop/uikit/ui_color.h"
-#include "desktop/uikit/ui_table_view_cell.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/lists/ui_table_view_cell.h"
 
 namespace desktop::script {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "bridge/uikit.h"
 #include "desktop/script/node_dump.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::script {
 

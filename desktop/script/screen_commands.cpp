@@ -8,7 +8,7 @@
 #include "desktop/script/screen_text.h"
 #include "desktop/script/script_runner.h"
 #include "desktop/script/tree_dump.h"
-#include "desktop/uikit/stage.h"
+#include "desktop/uikit/application/stage.h"
 
 namespace desktop::script {
 namespace {

@@ -3,11 +3,11 @@
 
 #include "desktop/script/node_parts.h"
 #include "desktop/script/tree_dump.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_activity_view_controller.h"
-#include "desktop/uikit/ui_bar_button_item.h"
-#include "desktop/uikit/ui_color.h"
-#include "desktop/uikit/ui_menu_controller.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/bars/ui_bar_button_item.h"
+#include "desktop/uikit/controllers/ui_activity_view_controller.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
 
 namespace desktop::script {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::script {
 namespace {

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/uikit/stage.h"
+#include "desktop/uikit/application/stage.h"
 
 namespace desktop::script {
 

@@ -3,9 +3,9 @@
 
 #include <charconv>
 
-#include "desktop/foundation/property_list_edit.h"
 #include "desktop/runtime/darwin_notifications.h"
-#include "desktop/runtime/notification_core.h"
+#include "foundation/notification_core.h"
+#include "foundation/property_list_edit.h"
 
 namespace desktop::script {
 namespace {
@@ -41,7 +41,7 @@ Outcome preference(const foundation::DeviceRoot& root, Arguments words) {
 Outcome notify(const foundation::DeviceRoot& root, Arguments words) {
   if (words.size() != 1) return model::Error{"notify takes a name"};
   const auto posted =
-      runtime::postNotification(runtime::notificationFolder(root.folder()), words[0].text);
+      foundation::postNotification(foundation::notificationFolder(root.folder()), words[0].text);
   if (!posted) return posted.error();
   runtime::deliverDarwinNotifications();
   return std::nullopt;

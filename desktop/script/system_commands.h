@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/foundation/device_root.h"
 #include "desktop/script/script_runner.h"
+#include "foundation/device_root.h"
 
 namespace desktop::script {
 

@@ -5,9 +5,9 @@
 
 #include "desktop/script/screen_text.h"
 #include "desktop/script/script_runner.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_menu_controller.h"
-#include "desktop/uikit/ui_responder.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/views/ui_responder.h"
 
 namespace desktop::script {
 namespace {

@@ -4,8 +4,8 @@
 #include "desktop/script/node_dump.h"
 #include "desktop/script/node_parts.h"
 #include "desktop/script/screen_parts.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::script {
 namespace {

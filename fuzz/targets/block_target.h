@@ -5,17 +5,17 @@
 
 #include <cstdint>
 
-#include "desktop/io/byte_view.h"
+#include "io/byte_view.h"
 #include "model/description.h"
 
 namespace fuzz {
 
-using BlockReader = void (*)(desktop::ByteView, model::Dictionary&);
+using BlockReader = void (*)(io::ByteView, model::Dictionary&);
 
 // Reads the bytes as the block and walks all that came out of it.
 inline int runBlock(const std::uint8_t* data, std::size_t size, BlockReader read) {
   model::Dictionary properties;
-  read(desktop::ByteView({data, size}), properties);
+  read(io::ByteView({data, size}), properties);
   static_cast<void>(model::description(properties));
   return 0;
 }

@@ -6,18 +6,18 @@
 #include <cstdint>
 #include <optional>
 
-#include "desktop/io/source_reader.h"
+#include "io/source_reader.h"
 #include "model/description.h"
 #include "model/result.h"
 
 namespace fuzz {
 
-using ContainerReader = std::optional<model::Error> (*)(desktop::SourceReader&, model::Dictionary&);
+using ContainerReader = std::optional<model::Error> (*)(io::SourceReader&, model::Dictionary&);
 
 // Reads the bytes as the container and walks all that came out of it.
 inline int runContainer(const std::uint8_t* data, std::size_t size, ContainerReader read) {
-  desktop::MemorySource source({data, data + size});
-  desktop::SourceReader file(source);
+  io::MemorySource source({data, data + size});
+  io::SourceReader file(source);
   model::Dictionary properties;
   static_cast<void>(read(file, properties));
   static_cast<void>(model::description(properties));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/imageio/heif_container.h"
 #include "fuzz/targets/container_target.h"
+#include "media/image/heif/heif_container.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  return fuzz::runContainer(data, size, desktop::imageio::readHeifFile);
+  return fuzz::runContainer(data, size, media::image::readHeifFile);
 }

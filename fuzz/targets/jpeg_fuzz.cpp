@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/imageio/jpeg_container.h"
 #include "fuzz/targets/container_target.h"
+#include "media/image/jpeg/jpeg_container.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  return fuzz::runContainer(data, size, desktop::imageio::readJpegFile);
+  return fuzz::runContainer(data, size, media::image::readJpegFile);
 }

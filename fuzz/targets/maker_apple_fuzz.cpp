@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/imageio/maker_apple.h"
 #include "fuzz/targets/block_target.h"
+#include "media/image/maker/maker_apple.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  return fuzz::runBlock(data, size, desktop::imageio::readAppleMakerNote);
+  return fuzz::runBlock(data, size, media::image::readAppleMakerNote);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/imageio/png_container.h"
 #include "fuzz/targets/container_target.h"
+#include "media/image/png/png_container.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  return fuzz::runContainer(data, size, desktop::imageio::readPngFile);
+  return fuzz::runContainer(data, size, media::image::readPngFile);
 }

@@ -4,18 +4,18 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "desktop/foundation/property_list.h"
+#include "foundation/property_list.h"
 #include "model/description.h"
 
-using namespace desktop::foundation;
+using namespace foundation;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const auto list = parsePropertyList(desktop::ByteView({data, size}));
+  const auto list = parsePropertyList(io::ByteView({data, size}));
   if (!list) return 0;
   const auto written = serializePropertyList(list->root, PropertyListFormat::binary);
   if (!written) return 0;
   const auto* bytes = reinterpret_cast<const std::uint8_t*>(written->data());
-  const auto again = parsePropertyList(desktop::ByteView({bytes, written->size()}));
+  const auto again = parsePropertyList(io::ByteView({bytes, written->size()}));
   if (again && model::description(again->root) != model::description(list->root)) std::abort();
   return 0;
 }

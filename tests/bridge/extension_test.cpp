@@ -13,7 +13,7 @@
 #include "desktop/loader/extension_loader.h"
 #include "desktop/runtime/darwin_notifications.h"
 #include "desktop/runtime/debug_log.h"
-#include "desktop/runtime/notification_core.h"
+#include "foundation/notification_core.h"
 #include "tests/bridge/victims.h"
 
 namespace bridge {
@@ -38,7 +38,7 @@ class ExtensionTest : public testing::Test {
     root() = mkdtemp(pattern.data());
     std::filesystem::copy_file(HOOKING_EXTENSION, root() + "/Hooking.so");
     std::ofstream(root() + "/Hooking.plist") << filter;
-    desktop::runtime::openDarwinNotifications(desktop::runtime::notificationFolder(root()));
+    desktop::runtime::openDarwinNotifications(foundation::notificationFolder(root()));
     const auto loaded = desktop::loader::loadExtensions(
         root(), "com.example.host",
         [](const std::string& path, const std::string& reason) { FAIL() << path << reason; });
@@ -82,8 +82,8 @@ TEST_F(ExtensionTest, BlocksAreCopiedByThePlatformsFunctionsForAllLibraries) {
 
 TEST_F(ExtensionTest, HearsNotificationsInTheHostsLoop) {
   const int before = send<int, "notified">(thing);
-  ASSERT_TRUE(desktop::runtime::postNotification(desktop::runtime::notificationFolder(root()),
-                                                 "com.example/changed"));
+  ASSERT_TRUE(
+      foundation::postNotification(foundation::notificationFolder(root()), "com.example/changed"));
   EXPECT_EQ((send<int, "notified">(thing)), before);
   EXPECT_EQ(desktop::runtime::deliverDarwinNotifications(), 1);
   EXPECT_EQ((send<int, "notified">(thing)), before + 1);

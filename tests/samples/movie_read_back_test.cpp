@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "desktop/avfoundation/media_source.h"
+#include "media/movie/media_source.h"
 #include "samples/library/items.h"
 #include "samples/movies/movie_metadata.h"
 #include "tests/samples/sample_files.h"
@@ -19,12 +19,12 @@ using model::Track;
 
 // The asset of a file; `bytesRead`, if given, receives how many bytes it took.
 MediaAsset assetOf(const Movie& movie, std::uint64_t* bytesRead = nullptr) {
-  const auto source = desktop::FileSource::open(libraryPath(movie.path));
+  const auto source = io::FileSource::open(libraryPath(movie.path));
   if (!source) {
     ADD_FAILURE() << source.error().reason;
     return {};
   }
-  const auto asset = desktop::avfoundation::copyAsset(**source);
+  const auto asset = media::movie::copyAsset(**source);
   if (bytesRead != nullptr) *bytesRead = (*source)->bytesRead();
   if (asset && *asset) return **asset;
   ADD_FAILURE() << (asset ? "no movie" : asset.error().reason);

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <string>
 
-#include "desktop/imageio/image_source.h"
+#include "media/image/image_source.h"
 #include "samples/library/items.h"
 #include "samples/metadata/date_text.h"
 #include "tests/samples/sample_files.h"
@@ -19,12 +19,12 @@ using model::Dictionary;
 using model::Value;
 
 Dictionary propertiesOf(const char* path) {
-  const auto source = desktop::FileSource::open(libraryPath(path));
+  const auto source = io::FileSource::open(libraryPath(path));
   if (!source) {
     ADD_FAILURE() << path << ": " << source.error().reason;
     return {};
   }
-  const auto properties = desktop::imageio::copyProperties(**source);
+  const auto properties = media::image::copyProperties(**source);
   if (properties && *properties) return **properties;
   ADD_FAILURE() << path << ": " << (properties ? "no image" : properties.error().reason);
   return {};

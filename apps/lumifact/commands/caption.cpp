@@ -9,7 +9,7 @@ void runCaption(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   const std::int32_t display = options.display.value_or(environment.settings.thumbnailInfoDisplay);
   const auto work = [&](const std::string& path) -> model::Result<std::string> {
-    const auto facts = desktop::photos::readAssetFacts(path, environment.root);
+    const auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     return captionOf(*facts, display, environment) + "\n";
   };

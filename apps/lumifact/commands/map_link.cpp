@@ -17,7 +17,7 @@ void printLink(const std::string& link, Console& console) {
 }
 
 model::Result<std::string> linkOfFile(const std::string& path, const Environment& environment) {
-  auto facts = desktop::photos::readAssetFacts(path, environment.root);
+  auto facts = media::facts::readAssetFacts(path, environment.root);
   if (!facts) return facts.error();
   const AssetReport report = reportOf(*std::move(facts), environment);
   if (!report.mapLink) return model::Error{"no location"};

@@ -5,7 +5,7 @@
 
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/line_reader.h"
-#include "desktop/foundation/property_list.h"
+#include "foundation/property_list.h"
 
 namespace lumifact::tool {
 
@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t longestLine = 16 << 20;  // bytes
 
 void parsePropertyList(const Options& options, Console& console) {
-  auto list = desktop::foundation::readPropertyList(*options.propertyList);
+  auto list = foundation::readPropertyList(*options.propertyList);
   if (!list) return console.fail(*options.propertyList, list.error().reason);
   const auto answer = parseAnswer(options.parseKind, std::move(list->root));
   if (!answer) return console.fail(*options.propertyList, answer.error().reason);

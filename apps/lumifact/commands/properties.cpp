@@ -4,14 +4,14 @@
 #include "apps/lumifact/file_scan.h"
 #include "apps/lumifact/json.h"
 #include "apps/lumifact/media_asset_json.h"
-#include "desktop/photos/asset_facts.h"
+#include "media/facts/asset_facts.h"
 
 namespace lumifact::tool {
 
 void runProperties(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::program);
   const auto work = [&](const std::string& path) -> model::Result<std::string> {
-    const auto facts = desktop::photos::readAssetFacts(path, environment.root);
+    const auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     std::string json = "{\"path\":";
     appendJsonString(json, path);

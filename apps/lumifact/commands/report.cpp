@@ -36,7 +36,7 @@ std::string jsonLine(const std::string& path, const AssetReport& report) {
 }
 
 // As the text presenter shows it: the header followed directly by the report.
-std::string message(desktop::photos::AssetFacts facts, const Environment& environment,
+std::string message(media::facts::AssetFacts facts, const Environment& environment,
                     bool isForTerminal) {
   if (isForTerminal) facts.path = terminalSafe(facts.path, Keep::nothing);
   const AssetReport report = reportOf(std::move(facts), environment);
@@ -50,7 +50,7 @@ void runReport(const Options& options, Console& console) {
   const Environment environment =
       environmentOf(options, options.json ? Reader::program : Reader::person);
   const auto work = [&](const std::string& path) -> model::Result<std::string> {
-    auto facts = desktop::photos::readAssetFacts(path, environment.root);
+    auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     if (options.json) return jsonLine(path, reportOf(*std::move(facts), environment));
     return message(*std::move(facts), environment, console.resultsAreOnTerminal());

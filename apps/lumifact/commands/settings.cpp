@@ -2,15 +2,15 @@
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/environment.h"
 #include "apps/lumifact/setting_text.h"
-#include "desktop/foundation/property_list_edit.h"
-#include "desktop/runtime/notification_core.h"
+#include "foundation/notification_core.h"
+#include "foundation/property_list_edit.h"
 #include "model/description.h"
 
 namespace lumifact::tool {
 
 namespace {
 
-using desktop::foundation::AfterEdit;
+using foundation::AfterEdit;
 
 // The value in effect, as it is shown.
 std::string shownValue(const Settings& settings, std::string_view key) {
@@ -27,7 +27,7 @@ void list(const Options& options, Console& console) {
 
 // Has the hosts of this device root read their settings file anew.
 void announceChange(const Options& options, const std::string& file, Console& console) {
-  using namespace desktop::runtime;
+  using namespace foundation;
   const auto posted =
       postNotification(notificationFolder(rootOf(options).folder()), settingsChangedNotification);
   if (!posted) console.fail(file, "written, but not announced: " + posted.error().reason);
@@ -36,7 +36,7 @@ void announceChange(const Options& options, const std::string& file, Console& co
 void edit(const Options& options, Console& console, AfterEdit after,
           const std::function<void(model::Dictionary&)>& change) {
   const std::string file = settingsFileOf(options);
-  if (const auto error = desktop::foundation::editPropertyListFile(file, change, after))
+  if (const auto error = foundation::editPropertyListFile(file, change, after))
     return console.fail(file, error->reason);
   announceChange(options, file, console);
 }

@@ -14,8 +14,8 @@
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/environment.h"
 #include "apps/lumifact/file_scan.h"
-#include "desktop/foundation/byte_count.h"
-#include "desktop/photos/paths.h"
+#include "foundation/byte_count.h"
+#include "foundation/paths.h"
 #include "lumifact/grid/selection_title.h"
 #include "model/number_text.h"
 
@@ -56,7 +56,7 @@ void runSize(const Options& options, Console& console) {
   std::unordered_set<Item, ItemHash> selected;
   std::vector<std::optional<std::int64_t>> sizes;
   while (const auto item = files.next()) {
-    const std::string path = desktop::photos::absolutePath(item->path);
+    const std::string path = foundation::absolutePath(item->path);
     Item known{.nameHash = std::hash<std::string>()(path)};
     auto size = fileSize(environment.root.onDisk(path), known);
     if (!selected.insert(known).second) continue;
@@ -66,7 +66,7 @@ void runSize(const Options& options, Console& console) {
   }
   const std::string count = model::integerText(static_cast<std::int64_t>(sizes.size()));
   const auto sizeText = [&](std::int64_t bytes) {
-    return desktop::foundation::byteCountText(bytes, environment.numbers);
+    return foundation::byteCountText(bytes, environment.numbers);
   };
   console.write(selectionTitle(count + " Items Selected", selectionSize(sizes), sizeText) + "\n");
 }

@@ -12,7 +12,7 @@ void runTable(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   const bool isForTerminal = console.resultsAreOnTerminal();
   const auto work = [&](const std::string& path) -> model::Result<std::string> {
-    auto facts = desktop::photos::readAssetFacts(path, environment.root);
+    auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     if (!facts->properties) return model::Error{"a video has no table (report shows its text)"};
     if (isForTerminal) facts->path = terminalSafe(facts->path, Keep::nothing);

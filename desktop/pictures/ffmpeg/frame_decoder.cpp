@@ -23,7 +23,7 @@ Codec openCodec(const AVStream& stream) {
 
 }  // namespace
 
-Frame firstFrame(avfoundation::Demuxer& demuxer, const AVStream& stream) {
+Frame firstFrame(media::movie::Demuxer& demuxer, const AVStream& stream) {
   const Codec codec = openCodec(stream);
   const Packet packet(av_packet_alloc());
   Frame frame(av_frame_alloc());

@@ -9,7 +9,7 @@ extern "C" {
 
 #include <memory>
 
-#include "desktop/avfoundation/ffmpeg/demuxer.h"
+#include "media/movie/ffmpeg/demuxer.h"
 
 namespace desktop::pictures {
 
@@ -23,6 +23,6 @@ using Packet = std::unique_ptr<AVPacket, FreeCodec>;
 using Frame = std::unique_ptr<AVFrame, FreeCodec>;
 
 // Null where there is none within the limits.
-Frame firstFrame(avfoundation::Demuxer& demuxer, const AVStream& stream);
+Frame firstFrame(media::movie::Demuxer& demuxer, const AVStream& stream);
 
 }  // namespace desktop::pictures

@@ -12,8 +12,8 @@ namespace desktop::pictures {
 
 namespace {
 
-bool decode(const char* name, ByteSource& source, const Request& request, Picture& picture) {
-  const auto demuxer = avfoundation::Demuxer::open(
+bool decode(const char* name, io::ByteSource& source, const Request& request, Picture& picture) {
+  const auto demuxer = media::movie::Demuxer::open(
       name, source,
       {.containers = "mov,matroska,webm,avi,mpeg,mpegts,mpegvideo,flv,asf,ogg,rm,mxf,nut",
        .time = limits.videoTime,
@@ -35,7 +35,7 @@ bool decode(const char* name, ByteSource& source, const Request& request, Pictur
 }  // namespace desktop::pictures
 
 extern "C" __attribute__((visibility("default"))) int desktopDecodeFrameWithFfmpeg(
-    const char* name, desktop::ByteSource* source, const desktop::pictures::Request* request,
+    const char* name, io::ByteSource* source, const desktop::pictures::Request* request,
     desktop::pictures::Picture* picture) {
   try {
     return desktop::pictures::decode(name, *source, *request, *picture) ? 0 : 1;

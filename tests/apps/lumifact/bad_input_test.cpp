@@ -12,7 +12,7 @@
 #include "model/utf8.h"
 #include "tests/apps/lumifact/sample_folder.h"
 #include "tests/apps/lumifact/tool_runner.h"
-#include "tests/desktop/photos/sample_photo.h"
+#include "tests/support/sample_photo.h"
 
 namespace lumifact::tool {
 namespace {
@@ -24,7 +24,7 @@ std::string message(const std::string& path, const std::string& reason) {
 TEST(BadInput, EveryFailureIsNamedAndTheRestIsPrinted) {
   const SampleFolder samples;
   ASSERT_EQ(::mkfifo(samples.file("fifo").c_str(), 0600), 0);
-  const auto jpeg = desktop::photos::sampleJpeg({});
+  const auto jpeg = media::facts::sampleJpeg({});
   const std::string_view bytes(reinterpret_cast<const char*>(jpeg.data()), jpeg.size());
   const std::pair<std::string, std::string> bad[] = {
       {samples.file("missing.jpg"), "No such file or directory"},

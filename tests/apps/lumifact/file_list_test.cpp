@@ -7,12 +7,12 @@
 
 #include <filesystem>
 
-#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace lumifact::tool {
 namespace {
 
-using desktop::photos::TemporaryFolder;
+using support::TemporaryFolder;
 
 using Names = std::vector<std::string>;
 

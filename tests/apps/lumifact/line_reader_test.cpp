@@ -7,12 +7,12 @@
 
 #include <vector>
 
-#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace lumifact::tool {
 namespace {
 
-using desktop::photos::TemporaryFolder;
+using support::TemporaryFolder;
 
 // The lines of a text; one that is too long has "..." behind what is kept of it.
 std::vector<std::string> linesOf(std::string_view text, LineReader::Limits limits) {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "desktop/foundation/property_list.h"
+#include "foundation/property_list.h"
 #include "tests/apps/lumifact/tool_runner.h"
-#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace lumifact::tool {
 namespace {
 
-using desktop::photos::TemporaryFolder;
+using support::TemporaryFolder;
 
 TEST(Parse, AnswersEveryLine) {
   const ToolResult result = runTool(
@@ -56,9 +56,9 @@ TEST(Parse, AnswersBeforeItWaitsForMore) {
 
 TEST(Parse, ReadsAPropertyList) {
   const TemporaryFolder folder;
-  for (const auto format : {desktop::foundation::PropertyListFormat::xml,
-                            desktop::foundation::PropertyListFormat::binary}) {
-    const auto bytes = desktop::foundation::serializePropertyList(
+  for (const auto format :
+       {foundation::PropertyListFormat::xml, foundation::PropertyListFormat::binary}) {
+    const auto bytes = foundation::serializePropertyList(
         model::Dictionary{{"Orientation", 3}, {"Width", 72.5}}, format);
     ASSERT_TRUE(bytes);
     const ToolResult result =

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "apps/lumifact/json.h"
-#include "desktop/foundation/byte_count.h"
+#include "foundation/byte_count.h"
 #include "tests/apps/lumifact/sample_folder.h"
 #include "tests/apps/lumifact/tool_runner.h"
 
@@ -22,8 +22,8 @@ std::string outputOf(const std::vector<std::string>& arguments) {
 }
 
 std::string sizeText(const std::string& path) {
-  return desktop::foundation::byteCountText(
-      static_cast<std::int64_t>(std::filesystem::file_size(path)), desktop::foundation::Locale());
+  return foundation::byteCountText(static_cast<std::int64_t>(std::filesystem::file_size(path)),
+                                   foundation::Locale());
 }
 
 std::string headerOf(const std::string& path, const std::string& height, const std::string& width) {

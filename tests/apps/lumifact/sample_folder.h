@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace lumifact::tool {
 
@@ -29,7 +29,7 @@ class SampleFolder {
   std::string movie;
 
  private:
-  desktop::photos::TemporaryFolder _folder;
+  support::TemporaryFolder _folder;
 };
 
 }  // namespace lumifact::tool

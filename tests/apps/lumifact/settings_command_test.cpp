@@ -3,15 +3,15 @@
 
 #include <filesystem>
 
-#include "desktop/foundation/property_list.h"
+#include "foundation/property_list.h"
 #include "tests/apps/lumifact/tool_runner.h"
-#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace lumifact::tool {
 namespace {
 
-using desktop::photos::contentsOf;
-using desktop::photos::TemporaryFolder;
+using support::contentsOf;
+using support::TemporaryFolder;
 
 constexpr const char* defaults =
     "useNavigationButton = 1\n"
@@ -69,16 +69,15 @@ TEST_F(SettingsCommand, ForcesTheSolidBar) {
 }
 
 TEST_F(SettingsCommand, ResetKeepsWhatOthersWrote) {
-  const auto bytes = desktop::foundation::serializePropertyList(
-      model::Dictionary{{"fontSize", 14}, {"theirs", "x"}},
-      desktop::foundation::PropertyListFormat::binary);
+  const auto bytes = foundation::serializePropertyList(
+      model::Dictionary{{"fontSize", 14}, {"theirs", "x"}}, foundation::PropertyListFormat::binary);
   ASSERT_TRUE(bytes);
   _folder.write("settings.plist", *bytes);
   expectDone({"reset"});
-  const auto list = desktop::foundation::readPropertyList(_file);
+  const auto list = foundation::readPropertyList(_file);
   ASSERT_TRUE(list);
   EXPECT_EQ(list->root, model::Value(model::Dictionary{{"theirs", "x"}}));
-  EXPECT_EQ(list->format, desktop::foundation::PropertyListFormat::binary);
+  EXPECT_EQ(list->format, foundation::PropertyListFormat::binary);
 }
 
 TEST_F(SettingsCommand, RefusesUnknownKeysAndOtherKinds) {

@@ -16,7 +16,7 @@ using model::Dictionary;
 std::string textOf(const Dictionary& record, const Dictionary& table) {
   ::setenv("TZ", "UTC", 1);
   ::tzset();
-  return tableText(record, table, model::compareKeys, desktop::foundation::Locale("en_US"));
+  return tableText(record, table, model::compareKeys, foundation::Locale("en_US"));
 }
 
 TEST(TableText, ShowsSummaryRowsFirstWithoutTheirPrefix) {

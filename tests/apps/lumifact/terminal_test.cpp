@@ -6,7 +6,7 @@
 #include "apps/lumifact/terminal_text.h"
 #include "tests/apps/lumifact/sample_folder.h"
 #include "tests/apps/lumifact/tool_runner.h"
-#include "tests/desktop/photos/sample_photo.h"
+#include "tests/support/sample_photo.h"
 
 namespace lumifact::tool {
 namespace {
@@ -16,7 +16,7 @@ constexpr const char* hostileName = "in/\x1b]0;title\x07\n\x9b.jpg";
 // A photo that tries to command the terminal by its name and by its metadata.
 std::string writeHostilePhoto(const SampleFolder& samples) {
   const auto bytes =
-      desktop::photos::sampleJpeg({.make = "evil\x1b[2J\x7f", .city = "\xe2\x80\xaemoc.elpmaxe"});
+      media::facts::sampleJpeg({.make = "evil\x1b[2J\x7f", .city = "\xe2\x80\xaemoc.elpmaxe"});
   return samples.write(hostileName, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
 }
 

@@ -10,14 +10,14 @@
 #include <cstdlib>
 #include <sstream>
 
-#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace lumifact::tool {
 
 namespace {
 
-using desktop::photos::contentsOf;
-using desktop::photos::TemporaryFolder;
+using support::contentsOf;
+using support::TemporaryFolder;
 
 struct Descriptors {
   int input = -1;

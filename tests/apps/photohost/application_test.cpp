@@ -39,7 +39,7 @@ TEST(Application, ItsSourcesDoNotNameTheExtension) {
     for (const auto& entry : fs::recursive_directory_iterator(std::string(SOURCE_FOLDER) + room)) {
       if (!entry.is_regular_file()) continue;
       ++files;
-      std::string text = desktop::photos::contentsOf(entry.path());
+      std::string text = support::contentsOf(entry.path());
       std::ranges::transform(text, text.begin(),
                              [](unsigned char letter) { return std::tolower(letter); });
       for (const char* word : {"lumifact", "lf742", "korvu", "lxview", "lfpresenter"})

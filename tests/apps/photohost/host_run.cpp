@@ -10,7 +10,7 @@
 namespace photohost {
 namespace {
 
-using desktop::photos::contentsOf;
+using support::contentsOf;
 
 std::string inQuotes(const std::string& text) {
   return "'" + text + "'";
@@ -78,7 +78,7 @@ std::string sampleLibrary() {
 }
 
 std::string toolOutput(const std::string& arguments) {
-  const desktop::photos::TemporaryFolder folder;
+  const support::TemporaryFolder folder;
   const std::string command =
       plainEnvironment(folder.path()) + inQuotes(TOOL_PATH) + " " + arguments + " >output";
   EXPECT_EQ(std::system(command.c_str()), 0) << command;
@@ -86,7 +86,7 @@ std::string toolOutput(const std::string& arguments) {
 }
 
 bool toolBrowses(const std::string& folder) {
-  const desktop::photos::TemporaryFolder home;
+  const support::TemporaryFolder home;
   const std::string command = plainEnvironment(home.path()) +
                               "QT_QPA_PLATFORM=offscreen timeout 3 " + inQuotes(TOOL_PATH) +
                               " browse --root root " + inQuotes(folder) + " >output 2>&1";

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/desktop/photos/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace photohost {
 
@@ -41,7 +41,7 @@ class Host {
   std::string file(const std::string& name) const { return _folder.file(name); }
 
  private:
-  desktop::photos::TemporaryFolder _folder;
+  support::TemporaryFolder _folder;
   std::string _library;
   bool _hasExtensions = true;
   std::string _size;

@@ -10,14 +10,14 @@
 #include <string_view>
 
 #include "bridge/class_builder.h"
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/pu_one_up_photo_view.h"
-#include "desktop/photos_ui/pu_one_up_view_controller.h"
+#include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/pictures/serve_decoder.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_button.h"
-#include "desktop/uikit/ui_collection_view.h"
-#include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/controls/ui_button.h"
+#include "desktop/uikit/lists/ui_collection_view.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 
 namespace photohost {

@@ -9,8 +9,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "desktop/foundation/property_list.h"
 #include "desktop/loader/extension_filter.h"
+#include "foundation/property_list.h"
 
 namespace desktop::loader {
 namespace {

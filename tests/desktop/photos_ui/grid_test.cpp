@@ -4,14 +4,14 @@
 #include <algorithm>
 
 #include "bridge/runtime/fields.h"
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/photos_host.h"
-#include "desktop/photos_ui/pu_photos_grid_cell.h"
-#include "desktop/photos_ui/selection_title.h"
-#include "desktop/photos_ui/video_badge.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_collection_view.h"
-#include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/grid/selection_title.h"
+#include "desktop/photos_ui/grid/video_badge.h"
+#include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/lists/ui_collection_view.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "tests/desktop/photos_ui/library_screen.h"
 
 namespace desktop::photos_ui {
@@ -299,16 +299,16 @@ TEST(DurationText, CountsWholeSecondsAndHours) {
 }
 
 TEST(SelectionTitle, TellsPhotosFromVideos) {
-  using photos::MediaKind;
+  using media::facts::MediaKind;
   const auto make = [](MediaKind kind) {
-    return std::make_shared<photos::LibraryItem>(photos::LibraryItem{.kind = kind});
+    return std::make_shared<library::LibraryItem>(library::LibraryItem{.kind = kind});
   };
   const auto photo = make(MediaKind::image);
   const auto video = make(MediaKind::video);
-  const std::vector<photos::ItemPointer> none;
-  const std::vector<photos::ItemPointer> both = {photo, video};
-  const std::vector<photos::ItemPointer> videos = {video, video};
-  const std::vector<photos::ItemPointer> many(1234, photo);
+  const std::vector<library::ItemPointer> none;
+  const std::vector<library::ItemPointer> both = {photo, video};
+  const std::vector<library::ItemPointer> videos = {video, video};
+  const std::vector<library::ItemPointer> many(1234, photo);
   EXPECT_EQ(selectionTitle(none), "Select Items");
   EXPECT_EQ(selectionTitle(both), "2 Items Selected");
   EXPECT_EQ(selectionTitle(videos), "2 Videos Selected");

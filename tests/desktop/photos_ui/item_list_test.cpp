@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/item_list.h"
+#include "desktop/photos_ui/base/item_list.h"
 
 #include <gtest/gtest.h>
 
 namespace desktop::photos_ui {
 namespace {
 
-using photos::ItemPointer;
+using library::ItemPointer;
 
 ItemPointer item(const std::string& name, double date) {
-  return std::make_shared<photos::LibraryItem>(photos::LibraryItem{
+  return std::make_shared<library::LibraryItem>(library::LibraryItem{
       .path = "/" + name, .uuid = "uuid of " + name, .modificationDate = {date}});
 }
 

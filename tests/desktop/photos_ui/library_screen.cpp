@@ -4,15 +4,15 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "desktop/photos_runtime/ph_asset.h"
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/photos_host.h"
+#include "desktop/faces/photos/ph_asset.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_menu_controller.h"
-#include "desktop/uikit/ui_navigation_controller.h"
-#include "desktop/uikit/ui_view.h"
-#include "desktop/uikit/uikit.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::photos_ui {
 
@@ -53,10 +53,10 @@ LibraryScreenTest::~LibraryScreenTest() {
 
 void LibraryScreenTest::open() {
   const bridge::AutoreleasePool pool;
-  auto opened = photos::PhotoLibrary::open(folder.path(), foundation::DeviceRoot(_root.path()));
+  auto opened = library::PhotoLibrary::open(folder.path(), foundation::DeviceRoot(_root.path()));
   if (opened) {
     library = *std::move(opened);
-    library->onChange([](const photos::LibraryChange& change) { libraryChanged(change); });
+    library->onChange([](const library::LibraryChange& change) { libraryChanged(change); });
     library->waitAndDeliver();
   } else {
     host().libraryProblem = folder.path() + ": " + opened.error().reason;
@@ -122,7 +122,7 @@ std::vector<std::string> LibraryScreenTest::selected() const {
   std::vector<std::string> names;
   const auto assets = bridge::PUPhotosGridViewController(top().get()).selectedAssets();
   for (NSUInteger index = 0; index < assets.count(); ++index)
-    names.push_back(folder.below(photos::PHAsset::itemOf(assets.at(index))->path));
+    names.push_back(folder.below(faces::PHAsset::itemOf(assets.at(index))->path));
   return names;
 }
 

@@ -9,9 +9,9 @@
 #include <optional>
 
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/photos/photo_library.h"
-#include "desktop/photos_ui/pu_photos_grid_view_controller.h"
-#include "tests/desktop/photos/library_folder.h"
+#include "desktop/library/photo_library.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
+#include "tests/support/library_folder.h"
 
 namespace desktop::photos_ui {
 
@@ -40,11 +40,11 @@ class LibraryScreenTest : public testing::Test {
   // The names of the items selected in the grid on show.
   std::vector<std::string> selected() const;
 
-  photos::LibraryFolder folder;
-  std::unique_ptr<photos::PhotoLibrary> library;
+  library::LibraryFolder folder;
+  std::unique_ptr<library::PhotoLibrary> library;
 
  private:
-  photos::TemporaryFolder _root;
+  support::TemporaryFolder _root;
   const long _objectsBefore;
   std::optional<bridge::AutoreleasePool> _pool{std::in_place};
 };

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/navigation.h"
+#include "desktop/photos_ui/navigation/navigation.h"
 
 #include <gmock/gmock.h>
 
-#include "desktop/photos_ui/photos_host.h"
-#include "desktop/photos_ui/pu_zoomable_grid_view_controller.h"
-#include "desktop/uikit/stage.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
+#include "desktop/uikit/application/stage.h"
 #include "tests/desktop/photos_ui/library_screen.h"
 
 namespace desktop::photos_ui {

@@ -4,9 +4,9 @@
 #include <cstdio>
 
 #include "bridge/runtime/fields.h"
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/photos_host.h"
-#include "desktop/uikit/stage.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/uikit/application/stage.h"
 
 namespace desktop::photos_ui {
 
@@ -45,7 +45,7 @@ OneUpTest::~OneUpTest() {
 
 void OneUpTest::addPicture(const std::string& name, int day, int width, int height) const {
   const std::string path = folder.write("Album/" + name, greyBitmap(width, height));
-  photos::setFileDate(path, day * aDay);
+  library::setFileDate(path, day * aDay);
 }
 
 void OneUpTest::addPictures(int count) const {
@@ -117,7 +117,7 @@ CGRect OneUpTest::pictureFrame() {
   return {uikit::apply(picture.toScreen(), CGPoint{}), size};
 }
 
-std::string OneUpTest::nameOf(const photos::ItemPointer& item) {
+std::string OneUpTest::nameOf(const library::ItemPointer& item) {
   return item ? item->path.substr(item->path.rfind('/') + 1) : "";
 }
 

@@ -3,10 +3,10 @@
 // A single photo on the screen, with real pictures: the test program is its own decoder.
 #pragma once
 
-#include "desktop/photos_ui/pu_one_up_photo_view.h"
-#include "desktop/photos_ui/pu_one_up_view_controller.h"
+#include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/pictures/picture_loader.h"
-#include "desktop/uikit/ui_navigation_controller.h"
+#include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "tests/desktop/photos_ui/library_screen.h"
 
 namespace desktop::photos_ui {
@@ -39,7 +39,7 @@ class OneUpTest : public LibraryScreenTest {
   static PUOneUpPhotoView& currentPhoto();
   // Its picture on the screen.
   static CGRect pictureFrame();
-  static std::string nameOf(const photos::ItemPointer& item);
+  static std::string nameOf(const library::ItemPointer& item);
   static std::string currentName() { return nameOf(oneUp().currentItem()); }
   static bool act(OneUpAction action);
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/one_up.h"
+#include "desktop/photos_ui/one_up/one_up.h"
 
 #include <gmock/gmock.h>
 
-#include "desktop/photos_runtime/ph_asset.h"
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/photos_host.h"
-#include "desktop/uikit/color.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_activity_view_controller.h"
+#include "desktop/faces/photos/ph_asset.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/controllers/ui_activity_view_controller.h"
+#include "desktop/uikit/graphics/color.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 
 namespace desktop::photos_ui {
@@ -22,7 +22,7 @@ using testing::UnorderedElementsAre;
 using uikit::stage;
 
 // The item that extensions are told is on show.
-std::string assetOnShow(const PUOneUpViewController& oneUp, const photos::LibraryFolder& folder,
+std::string assetOnShow(const PUOneUpViewController& oneUp, const library::LibraryFolder& folder,
                         bridge::Object layout) {
   const bridge::AutoreleasePool pool;
   const auto path = bridge::send<bridge::NSIndexPath, "indexPathOfCurrentItem">(layout);
@@ -30,7 +30,7 @@ std::string assetOnShow(const PUOneUpViewController& oneUp, const photos::Librar
       bridge::send<bridge::PUAssetReference, "_assetReferenceAtIndexPath:layout:">(oneUp.self(),
                                                                                    path, layout);
   const auto asset = bridge::send<bridge::Object, "asset">(reference);
-  return asset ? folder.below(photos::PHAsset::itemOf(asset)->path) : "";
+  return asset ? folder.below(faces::PHAsset::itemOf(asset)->path) : "";
 }
 
 TEST_F(OneUpTest, TurnsPagesByDraggingAndStopsAtTheEnds) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include "desktop/photos_ui/one_up.h"
-#include "desktop/uikit/stage.h"
+#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/uikit/application/stage.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 
 namespace desktop::photos_ui {

@@ -6,12 +6,12 @@
 
 #include <string_view>
 
-#include "desktop/photos_ui/navigation.h"
-#include "desktop/photos_ui/photos_host.h"
-#include "desktop/photos_ui/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/pictures/serve_decoder.h"
-#include "desktop/uikit/ui_collection_view.h"
-#include "desktop/uikit/ui_image.h"
+#include "desktop/uikit/graphics/ui_image.h"
+#include "desktop/uikit/lists/ui_collection_view.h"
 #include "tests/desktop/photos_ui/library_screen.h"
 
 namespace desktop::photos_ui {

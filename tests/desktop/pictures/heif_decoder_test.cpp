@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <set>
 
-#include "desktop/imageio/heif_meta.h"
+#include "media/image/heif/heif_meta.h"
 #include "samples/formats/heic_file.h"
 #include "samples/metadata/icc_profile.h"
 #include "tests/desktop/pictures/test_files.h"
@@ -20,9 +20,9 @@ using samples::Bytes;
 // Overwrites the coded bytes of all items of a file but its thumbnail, or of the thumbnail only.
 enum class Damage { picture, thumbnail };
 Bytes damaged(const Bytes& file, Damage damage) {
-  MemorySource source(file);
-  SourceReader reader(source);
-  auto meta = imageio::HeifMeta::read(reader);
+  io::MemorySource source(file);
+  io::SourceReader reader(source);
+  auto meta = media::image::HeifMeta::read(reader);
   if (!meta) return {};
   std::set<std::uint32_t> thumbnails;
   for (const auto& reference : meta->references()) {
@@ -43,7 +43,7 @@ Bytes damaged(const Bytes& file, Damage damage) {
 }
 
 std::string shown(const Bytes& bytes, const Request& request) {
-  MemorySource source(bytes);
+  io::MemorySource source(bytes);
   const auto picture = decodeHeif(source, request);
   return picture ? quarters(*picture) : "none";
 }
@@ -74,7 +74,7 @@ TEST(HeifDecoder, TurnsAThumbnailLikeItsPicture) {
     const auto stored = samples::storedForOrientation(upright, orientation);
     const auto file = samples::phoneHeicFile(stored, {.orientation = orientation});
     ASSERT_TRUE(file) << file.error().reason;
-    MemorySource source(*file);
+    io::MemorySource source(*file);
     const auto picture = decodeHeif(source, {120, 120, Request::Fit::fit});
     ASSERT_TRUE(picture) << orientation;
     if (orientation != 3) {
@@ -92,7 +92,7 @@ TEST(HeifDecoder, ConvertsWideGamutToSrgb) {
   const auto file = samples::phoneHeicFile(
       plain, {.profile = samples::iccProfile(samples::ColorSpace::displayP3)});
   ASSERT_TRUE(file) << file.error().reason;
-  MemorySource source(*file);
+  io::MemorySource source(*file);
   const auto picture = decodeHeif(source, {8, 8, Request::Fit::fit});
   ASSERT_TRUE(picture);
   const std::uint32_t pixel = picture->pixels[9];
@@ -105,7 +105,7 @@ TEST(HeifDecoder, FailsWithAReason) {
   for (const Bytes& bytes :
        {Bytes{}, Bytes(100, 0),
         Bytes{0, 0, 0, 16, 'f', 't', 'y', 'p', 'h', 'e', 'i', 'c', 0, 0, 0, 0}}) {
-    MemorySource source(bytes);
+    io::MemorySource source(bytes);
     const auto picture = decodeHeif(source, {8, 8, Request::Fit::fit});
     ASSERT_FALSE(picture);
     EXPECT_NE(picture.error().reason, "");

@@ -38,7 +38,7 @@ TEST_F(HeifTilesTest, PutTheGridOfAPhoneTogether) {
   const auto file = samples::phoneHeicFile(painted, {});
   ASSERT_TRUE(file) << file.error().reason;
   for (const PixelSize target : {PixelSize{1200, 900}, {400, 300}, {41, 31}}) {
-    MemorySource source(*file);
+    io::MemorySource source(*file);
     const auto picture = decodeHeifTiles(source, {1200, 900}, target);
     ASSERT_TRUE(picture) << target.width;
     EXPECT_EQ(picture->width, target.width);
@@ -51,7 +51,7 @@ TEST_F(HeifTilesTest, PutTheGridOfAPhoneTogether) {
 TEST_F(HeifTilesTest, DecodeASinglePicture) {
   const auto file = samples::computerHeicFile(painted, {});
   ASSERT_TRUE(file) << file.error().reason;
-  MemorySource source(*file);
+  io::MemorySource source(*file);
   const auto picture = decodeHeifTiles(source, {1200, 900}, {300, 225});
   ASSERT_TRUE(picture);
   EXPECT_LT(distance(*picture, painted), 3);
@@ -62,7 +62,7 @@ TEST_F(HeifTilesTest, AreTurned) {
     const auto stored = samples::storedForOrientation(painted, orientation);
     const auto file = samples::phoneHeicFile(stored, {.orientation = orientation});
     ASSERT_TRUE(file) << file.error().reason;
-    MemorySource source(*file);
+    io::MemorySource source(*file);
     const auto picture = decodeHeifTiles(source, {1200, 900}, {200, 150});
     ASSERT_TRUE(picture) << orientation;
     EXPECT_LT(distance(*picture, painted), 3) << orientation;
@@ -72,12 +72,12 @@ TEST_F(HeifTilesTest, AreTurned) {
 TEST_F(HeifTilesTest, HandOverWhatTheyDoNotKnow) {
   const auto file = samples::phoneHeicFile(painted, {});
   ASSERT_TRUE(file) << file.error().reason;
-  MemorySource other(*file);
+  io::MemorySource other(*file);
   EXPECT_FALSE(decodeHeifTiles(other, {900, 1200}, {90, 120})) << "of another size";
-  MemorySource jpeg(samples::jpegFile(quartered(16, 16), {}, {}));
+  io::MemorySource jpeg(samples::jpegFile(quartered(16, 16), {}, {}));
   EXPECT_FALSE(decodeHeifTiles(jpeg, {16, 16}, {16, 16}));
   Bytes cut(file->begin(), file->begin() + static_cast<std::ptrdiff_t>(file->size() / 2));
-  MemorySource source(cut);
+  io::MemorySource source(cut);
   EXPECT_FALSE(decodeHeifTiles(source, {1200, 900}, {120, 90})) << "cut off";
 }
 
@@ -88,7 +88,7 @@ TEST_F(HeifTilesTest, TakeDamagedBoxes) {
   for (std::size_t at = 0; at < std::min<std::size_t>(file->size(), 1500); ++at) {
     Bytes damaged = *file;
     damaged[at] = static_cast<std::uint8_t>(damaged[at] + 1 + at % 254);
-    MemorySource source(damaged);
+    io::MemorySource source(damaged);
     const auto picture = decodeHeifTiles(source, {64, 48}, {32, 24});
     if (picture) {
       EXPECT_EQ(picture->pixels.size(), 32U * 24U) << at;

@@ -45,7 +45,7 @@ Bytes thumbnail(int width, int height) {
 }
 
 std::string colourOf(const Bytes& bytes, const Request& request) {
-  MemorySource source(bytes);
+  io::MemorySource source(bytes);
   const auto picture = decodeJpeg(source, request);
   return picture ? colourAt(*picture, 0.5, 0.5) : picture.error().reason;
 }
@@ -61,7 +61,7 @@ TEST(JpegDecoder, UsesAThumbnailThatIsLargeEnough) {
 }
 
 TEST(JpegDecoder, ScalesAThumbnailToTheSizeAskedFor) {
-  MemorySource source(photoWith(1600, 1200, thumbnail(160, 120), 6));
+  io::MemorySource source(photoWith(1600, 1200, thumbnail(160, 120), 6));
   const auto picture = decodeJpeg(source, {90, 90, Request::Fit::fit});
   ASSERT_TRUE(picture);
   EXPECT_EQ(picture->width, 68);
@@ -94,7 +94,7 @@ TEST(JpegDecoder, ReadsNoMoreThanItNeedsForAThumbnail) {
                          {samples::Directory(), samples::thumbnailDirectory(thumbnail(160, 120))});
   const Bytes photo = samples::jpegFile(noise, {}, {{1, samples::exifSegment(block)}});
   ASSERT_GT(photo.size(), 1'000'000U);
-  MemorySource source(photo);
+  io::MemorySource source(photo);
   ASSERT_TRUE(decodeJpeg(source, {100, 100, Request::Fit::fit}));
   EXPECT_LT(source.bytesRead(), 200'000U);
 }
@@ -116,7 +116,8 @@ Bytes withSize(Bytes bytes, unsigned width, unsigned height) {
 TEST(JpegDecoder, ScalesVeryLargeImagesRowByRow) {
   constexpr std::pair<unsigned, unsigned> sizes[] = {{16'384, 4000}, {8064, 6048}, {65'500, 800}};
   for (const auto& [width, height] : sizes) {
-    MemorySource source(withSize(samples::jpegFile(plain(64, 64, blue), {}, {}), width, height));
+    io::MemorySource source(
+        withSize(samples::jpegFile(plain(64, 64, blue), {}, {}), width, height));
     const auto picture = decodeJpeg(source, {300, 300, Request::Fit::fit});
     ASSERT_TRUE(picture) << width;
     EXPECT_EQ(picture->width, 300) << width;
@@ -125,7 +126,7 @@ TEST(JpegDecoder, ScalesVeryLargeImagesRowByRow) {
 }
 
 TEST(JpegDecoder, RefusesWhatTheLibraryWouldHoldWholeInMemory) {
-  MemorySource source(
+  io::MemorySource source(
       withSize(samples::jpegFile(plain(64, 64, blue), {.progressive = true}, {}), 60'000, 60'000));
   const auto picture = decodeJpeg(source, {300, 300, Request::Fit::fit});
   ASSERT_FALSE(picture);
@@ -134,7 +135,7 @@ TEST(JpegDecoder, RefusesWhatTheLibraryWouldHoldWholeInMemory) {
 
 TEST(JpegDecoder, ShowsWhatCameBeforeTheEndOfAFileThatIsCutOff) {
   const Bytes whole = samples::jpegFile(quartered(512, 512), {}, {});
-  MemorySource source(
+  io::MemorySource source(
       Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(whole.size() * 3 / 5)));
   const auto picture = decodeJpeg(source, {512, 512, Request::Fit::fit});
   ASSERT_TRUE(picture);
@@ -142,7 +143,7 @@ TEST(JpegDecoder, ShowsWhatCameBeforeTheEndOfAFileThatIsCutOff) {
 }
 
 TEST(JpegDecoder, SaysThatThereIsNoImage) {
-  MemorySource source(Bytes{0xFF, 0xD8, 0xFF, 0xD9});
+  io::MemorySource source(Bytes{0xFF, 0xD8, 0xFF, 0xD9});
   const auto picture = decodeJpeg(source, {10, 10, Request::Fit::fit});
   ASSERT_FALSE(picture);
   EXPECT_EQ(picture.error().reason, "JPEG datastream contains no image");
@@ -154,7 +155,7 @@ TEST(JpegDecoder, ConvertsWideGamutToSrgb) {
   const Bytes bytes = samples::jpegFile(
       plain(64, 64, wide), {.quality = 100},
       {{2, samples::profileSegment(samples::iccProfile(samples::ColorSpace::displayP3))}});
-  MemorySource source(bytes);
+  io::MemorySource source(bytes);
   const auto picture = decodeJpeg(source, {8, 8, Request::Fit::fit});
   ASSERT_TRUE(picture);
   const std::uint32_t pixel = picture->pixels.front();

@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <map>
 
-#include "desktop/photos/asset_facts.h"
 #include "desktop/pictures/decode_picture.h"
+#include "media/facts/asset_facts.h"
 
 namespace desktop::pictures {
 
@@ -40,7 +40,7 @@ TEST(SampleLibrary, IsDecodedUprightAtEverySize) {
   const auto files = sampleFiles();
   ASSERT_EQ(files.size(), 37U);
   for (const std::string& path : files) {
-    const auto facts = photos::readAssetFacts(path, foundation::DeviceRoot(SAMPLE_LIBRARY));
+    const auto facts = media::facts::readAssetFacts(path, foundation::DeviceRoot(SAMPLE_LIBRARY));
     ASSERT_TRUE(facts) << path;
     const double aspect =
         static_cast<double>(facts->pixelWidth) / static_cast<double>(facts->pixelHeight);

@@ -4,9 +4,9 @@
 #include <random>
 
 #include "desktop/render/qt_text_engine.h"
-#include "desktop/uikit/ui_label.h"
-#include "desktop/uikit/ui_text_view.h"
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/controls/ui_text_view.h"
+#include "desktop/uikit/text/utf16.h"
+#include "desktop/uikit/views/ui_label.h"
 #include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {

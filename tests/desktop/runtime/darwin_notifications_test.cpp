@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bridge/runtime.h"
-#include "desktop/runtime/notification_core.h"
+#include "foundation/notification_core.h"
 
 namespace desktop::runtime {
 namespace {
@@ -48,7 +48,7 @@ TEST_F(DarwinNotificationsTest, ReachObserversAddedBeforeAndAfterOpening) {
   ASSERT_NE(centre, nullptr);
   CFNotificationCenterAddObserver(centre, nullptr, &note, name("com.example/early"), nullptr,
                                   bridge::suspensionBehaviourCoalesce);
-  openDarwinNotifications(notificationFolder(root));
+  openDarwinNotifications(foundation::notificationFolder(root));
   CFNotificationCenterAddObserver(centre, nullptr, &note, name("com.example/late"), nullptr,
                                   bridge::suspensionBehaviourCoalesce);
   ASSERT_GE(darwinNotificationDescriptor(), 0);

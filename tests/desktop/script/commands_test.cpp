@@ -5,11 +5,11 @@
 #include <filesystem>
 
 #include "bridge/class_builder.h"
-#include "desktop/foundation/property_list.h"
 #include "desktop/script/script_runner.h"
 #include "desktop/script/system_commands.h"
-#include "tests/desktop/photos/temporary_folder.h"
+#include "foundation/property_list.h"
 #include "tests/desktop/uikit/stage_test.h"
+#include "tests/support/temporary_folder.h"
 
 namespace desktop::script {
 namespace {
@@ -27,7 +27,7 @@ class CommandsTest : public uikit::StageTest {
     EXPECT_FALSE(failed) << line << ": " << (failed ? failed->reason : "");
   }
 
-  photos::TemporaryFolder folder;
+  support::TemporaryFolder folder;
   foundation::DeviceRoot root;
   ScriptRunner runner;
 };

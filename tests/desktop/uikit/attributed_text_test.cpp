@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/attributed_text.h"
+#include "desktop/uikit/text/attributed_text.h"
 
 #include <cmath>
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/ns_paragraph_style.h"
-#include "desktop/uikit/ui_color.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/text/ns_paragraph_style.h"
 #include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {

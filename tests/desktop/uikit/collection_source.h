@@ -11,10 +11,10 @@
 
 #include "bridge/bound.h"
 #include "bridge/class_builder.h"
-#include "desktop/uikit/ui_collection_view.h"
-#include "desktop/uikit/ui_collection_view_layout.h"
-#include "desktop/uikit/ui_collection_view_layout_attributes.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/lists/ui_collection_view.h"
+#include "desktop/uikit/lists/ui_collection_view_layout.h"
+#include "desktop/uikit/lists/ui_collection_view_layout_attributes.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 

@@ -2,8 +2,8 @@
 #include "tests/desktop/uikit/controller_probes.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/ui_color.h"
-#include "desktop/uikit/ui_label.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/views/ui_label.h"
 
 namespace desktop::uikit {
 namespace {

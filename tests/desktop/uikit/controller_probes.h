@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "bridge/bound.h"
-#include "desktop/uikit/ui_view.h"
-#include "desktop/uikit/ui_view_controller.h"
+#include "desktop/uikit/controllers/ui_view_controller.h"
+#include "desktop/uikit/views/ui_view.h"
 #include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {

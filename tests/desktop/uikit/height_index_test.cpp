@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/height_index.h"
+#include "desktop/uikit/text/height_index.h"
 
 #include <gtest/gtest.h>
 

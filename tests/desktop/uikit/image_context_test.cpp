@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/image_context.h"
+#include "desktop/uikit/graphics/image_context.h"
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -7,9 +7,9 @@
 #include <cmath>
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/ui_color.h"
-#include "desktop/uikit/ui_image.h"
-#include "desktop/uikit/uikit.h"
+#include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/graphics/ui_image.h"
 
 namespace desktop::uikit {
 namespace {

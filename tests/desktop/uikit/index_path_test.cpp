@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/index_path.h"
+#include "desktop/uikit/lists/index_path.h"
 
 #include <gtest/gtest.h>
 
-#include "desktop/uikit/uikit.h"
+#include "desktop/uikit/application/uikit.h"
 
 namespace desktop::uikit {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/missing_messages.h"
+#include "desktop/uikit/base/missing_messages.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "desktop/uikit/canvas.h"
+#include "desktop/uikit/graphics/canvas.h"
 
 namespace desktop::uikit {
 

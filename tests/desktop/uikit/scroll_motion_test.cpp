@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/scroll_motion.h"
+#include "desktop/uikit/scrolling/scroll_motion.h"
 
 #include <gtest/gtest.h>
 

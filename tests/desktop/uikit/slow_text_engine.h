@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "desktop/uikit/text_engine.h"
+#include "desktop/uikit/graphics/text_engine.h"
 
 namespace desktop::uikit {
 

@@ -7,11 +7,11 @@
 #include <gtest/gtest.h>
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/geometry.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/ui_menu_controller.h"
-#include "desktop/uikit/uikit.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
 
 namespace desktop::uikit {
 

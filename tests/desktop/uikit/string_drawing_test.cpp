@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/string_drawing.h"
+#include "desktop/uikit/text/string_drawing.h"
 
 #include <gtest/gtest.h>
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/uikit.h"
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/text/utf16.h"
 
 namespace desktop::uikit {
 namespace {

@@ -10,8 +10,8 @@
 
 #include "bridge/bound.h"
 #include "bridge/class_builder.h"
-#include "desktop/uikit/index_path.h"
-#include "desktop/uikit/ui_table_view.h"
+#include "desktop/uikit/lists/index_path.h"
+#include "desktop/uikit/lists/ui_table_view.h"
 
 namespace desktop::uikit {
 

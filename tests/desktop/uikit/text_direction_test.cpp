@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/text_direction.h"
+#include "desktop/uikit/text/text_direction.h"
 
 #include <gtest/gtest.h>
 

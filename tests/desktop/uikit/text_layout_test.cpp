@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/text_layout.h"
+#include "desktop/uikit/text/text_layout.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

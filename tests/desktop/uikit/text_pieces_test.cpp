@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/text_pieces.h"
+#include "desktop/uikit/text/text_pieces.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

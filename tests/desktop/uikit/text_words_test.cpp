@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/text_words.h"
+#include "desktop/uikit/text/text_words.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/touch_dispatcher.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 
 #include <gmock/gmock.h>
 
 #include <cmath>
 
-#include "desktop/uikit/ui_gesture_recognizer.h"
+#include "desktop/uikit/touch/ui_gesture_recognizer.h"
 #include "tests/desktop/uikit/touch_probes.h"
 
 namespace desktop::uikit {

@@ -2,7 +2,7 @@
 #include "tests/desktop/uikit/touch_probes.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/ui_pan_gesture_recognizer.h"
+#include "desktop/uikit/touch/ui_pan_gesture_recognizer.h"
 
 namespace desktop::uikit {
 

@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <random>
 
-#include "desktop/uikit/ui_control.h"
-#include "desktop/uikit/ui_gesture_recognizer.h"
-#include "desktop/uikit/ui_scroll_view.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/controls/ui_control.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
+#include "desktop/uikit/touch/ui_gesture_recognizer.h"
+#include "desktop/uikit/views/ui_view.h"
 #include "tests/desktop/uikit/touch_probes.h"
 
 namespace desktop::uikit {

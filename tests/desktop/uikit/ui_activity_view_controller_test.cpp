@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_activity_view_controller.h"
+#include "desktop/uikit/controllers/ui_activity_view_controller.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/uikit/ui_popover_presentation_controller.h"
+#include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
 namespace desktop::uikit {

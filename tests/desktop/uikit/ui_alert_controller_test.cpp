@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_alert_controller.h"
+#include "desktop/uikit/controllers/ui_alert_controller.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
 namespace desktop::uikit {

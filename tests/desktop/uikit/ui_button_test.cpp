@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_button.h"
+#include "desktop/uikit/controls/ui_button.h"
 
 #include <gmock/gmock.h>
 
-#include "desktop/uikit/ui_color.h"
-#include "desktop/uikit/ui_control.h"
-#include "desktop/uikit/ui_image.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/controls/ui_control.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/graphics/ui_image.h"
+#include "desktop/uikit/views/ui_view.h"
 #include "tests/desktop/uikit/recording_canvas.h"
 #include "tests/desktop/uikit/touch_probes.h"
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_collection_view.h"
+#include "desktop/uikit/lists/ui_collection_view.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "desktop/uikit/ui_collection_view_cell.h"
+#include "desktop/uikit/lists/ui_collection_view_cell.h"
 #include "tests/desktop/uikit/collection_source.h"
 #include "tests/desktop/uikit/stage_test.h"
 

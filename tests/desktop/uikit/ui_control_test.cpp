@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_control.h"
+#include "desktop/uikit/controls/ui_control.h"
 
 #include <gmock/gmock.h>
 

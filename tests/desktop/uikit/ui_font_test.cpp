@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_font.h"
+#include "desktop/uikit/text/ui_font.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/uikit.h"
+#include "desktop/uikit/application/uikit.h"
 
 namespace desktop::uikit {
 namespace {

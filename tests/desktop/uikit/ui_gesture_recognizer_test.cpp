@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_gesture_recognizer.h"
+#include "desktop/uikit/touch/ui_gesture_recognizer.h"
 
 #include <gmock/gmock.h>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_image_view.h"
+#include "desktop/uikit/views/ui_image_view.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "desktop/uikit/ui_image.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/graphics/ui_image.h"
+#include "desktop/uikit/views/ui_view.h"
 #include "tests/desktop/uikit/recording_canvas.h"
 #include "tests/desktop/uikit/stage_test.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_label.h"
+#include "desktop/uikit/views/ui_label.h"
 
 #include <cmath>
 
-#include "desktop/uikit/ui_color.h"
-#include "desktop/uikit/ui_font.h"
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/text/ui_font.h"
+#include "desktop/uikit/text/utf16.h"
 #include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {

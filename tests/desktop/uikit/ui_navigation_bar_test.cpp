@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_navigation_bar.h"
+#include "desktop/uikit/bars/ui_navigation_bar.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/uikit/bar_button_view.h"
-#include "desktop/uikit/navigation_bar_titles.h"
-#include "desktop/uikit/ui_color.h"
-#include "desktop/uikit/ui_label.h"
+#include "desktop/uikit/bars/bar_button_view.h"
+#include "desktop/uikit/bars/navigation_bar_titles.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/views/ui_label.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
 namespace desktop::uikit {

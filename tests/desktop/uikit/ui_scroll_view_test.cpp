@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_scroll_view.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 #include <gmock/gmock.h>
 
 #include <cmath>
 
-#include "desktop/uikit/ui_control.h"
+#include "desktop/uikit/controls/ui_control.h"
 #include "tests/desktop/uikit/touch_probes.h"
 
 namespace desktop::uikit {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_tab_bar_controller.h"
+#include "desktop/uikit/controllers/ui_tab_bar_controller.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "desktop/uikit/ui_navigation_controller.h"
-#include "desktop/uikit/ui_tab_bar.h"
-#include "desktop/uikit/ui_tab_bar_item.h"
+#include "desktop/uikit/bars/ui_tab_bar.h"
+#include "desktop/uikit/bars/ui_tab_bar_item.h"
+#include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
 namespace desktop::uikit {

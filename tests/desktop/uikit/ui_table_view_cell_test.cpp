@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_table_view_cell.h"
+#include "desktop/uikit/lists/ui_table_view_cell.h"
 
 #include <gtest/gtest.h>
 
-#include "desktop/uikit/table_cell_layout.h"
-#include "desktop/uikit/ui_image.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/graphics/ui_image.h"
+#include "desktop/uikit/lists/table_cell_layout.h"
+#include "desktop/uikit/views/ui_view.h"
 #include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_table_view_controller.h"
+#include "desktop/uikit/controllers/ui_table_view_controller.h"
 
 #include <gtest/gtest.h>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/ui_table_view.h"
-#include "desktop/uikit/ui_table_view_cell.h"
+#include "desktop/uikit/lists/ui_table_view.h"
+#include "desktop/uikit/lists/ui_table_view_cell.h"
 #include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {

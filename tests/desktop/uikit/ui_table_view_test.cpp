@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_table_view.h"
+#include "desktop/uikit/lists/ui_table_view.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,8 +7,8 @@
 #include <cmath>
 #include <limits>
 
-#include "desktop/uikit/ui_menu_controller.h"
-#include "desktop/uikit/ui_table_view_cell.h"
+#include "desktop/uikit/lists/ui_table_view_cell.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "tests/desktop/uikit/stage_test.h"
 #include "tests/desktop/uikit/table_source.h"
 

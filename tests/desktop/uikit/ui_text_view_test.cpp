@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_text_view.h"
+#include "desktop/uikit/controls/ui_text_view.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/ui_menu_controller.h"
-#include "desktop/uikit/ui_responder.h"
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/text/utf16.h"
+#include "desktop/uikit/views/ui_responder.h"
 #include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {

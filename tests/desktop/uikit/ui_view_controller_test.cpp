@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_view_controller.h"
+#include "desktop/uikit/controllers/ui_view_controller.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/views/ui_view.h"
 
 #include <gtest/gtest.h>
 

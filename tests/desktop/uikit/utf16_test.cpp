@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/utf16.h"
+#include "desktop/uikit/text/utf16.h"
 
 #include <gtest/gtest.h>
 

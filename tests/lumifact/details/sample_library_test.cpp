@@ -3,11 +3,11 @@
 // Every file of the sample library, from the disk to the text on the screen, beside what the
 // command-line tool makes of the same file.
 #include "apps/lumifact/asset_texts.h"
-#include "desktop/avfoundation_runtime/avfoundation_runtime.h"
-#include "desktop/foundation/collation.h"
-#include "desktop/photos_runtime/ph_asset.h"
-#include "desktop/photos_runtime/photos_runtime.h"
-#include "desktop/uikit/ui_activity_view_controller.h"
+#include "desktop/faces/movie/avfoundation_runtime.h"
+#include "desktop/faces/photos/ph_asset.h"
+#include "desktop/faces/photos/photos_runtime.h"
+#include "desktop/uikit/controllers/ui_activity_view_controller.h"
+#include "foundation/collation.h"
 #include "model/description.h"
 #include "tests/lumifact/details/one_up_test.h"
 #include "tests/lumifact/views/shown_views.h"
@@ -19,17 +19,17 @@ namespace {
 using bridge::NSString;
 using bridge::send;
 using bridge::UIViewController;
-using desktop::foundation::DeviceRoot;
-using desktop::foundation::Locale;
-using desktop::photos::ItemPointer;
-using desktop::photos::PHAsset;
-using desktop::photos::PhotoLibrary;
+using desktop::faces::PHAsset;
+using desktop::library::ItemPointer;
+using desktop::library::PhotoLibrary;
+using foundation::DeviceRoot;
+using foundation::Locale;
 
 class SampleLibraryTest : public OneUpTest {
  protected:
   SampleLibraryTest() {
-    desktop::avfoundation::registerAVFoundation();
-    desktop::photos::registerPhotos();
+    desktop::faces::registerAVFoundation();
+    desktop::faces::registerPhotos();
     _library = *PhotoLibrary::open(SAMPLE_LIBRARY, _root);
     _library->waitAndDeliver();
     openPhoto();
@@ -66,15 +66,15 @@ class SampleLibraryTest : public OneUpTest {
   }
 
  private:
-  desktop::photos::AssetFacts factsOf(const ItemPointer& item) const {
-    return *desktop::photos::readAssetFacts(item->path, _root);
+  media::facts::AssetFacts factsOf(const ItemPointer& item) const {
+    return *media::facts::readAssetFacts(item->path, _root);
   }
   tool::Environment environment() const {
     return {.root = _root,
             .settings = settings,
             .dates = Locale::ofUser("LC_TIME"),
             .numbers = Locale::ofUser("LC_NUMERIC"),
-            .keyOrder = desktop::foundation::keyComparison(Locale::ofUser("LC_COLLATE"))};
+            .keyOrder = foundation::keyComparison(Locale::ofUser("LC_COLLATE"))};
   }
 
   const DeviceRoot _root{SAMPLE_LIBRARY};

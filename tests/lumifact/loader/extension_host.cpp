@@ -12,10 +12,10 @@
 
 #include "bridge/foundation.h"
 #include "bridge/hook.h"
-#include "desktop/foundation_runtime/foundation_runtime.h"
+#include "desktop/faces/foundation/foundation_runtime.h"
 #include "desktop/runtime/darwin_notifications.h"
 #include "desktop/runtime/method_hooks.h"
-#include "desktop/runtime/notification_core.h"
+#include "foundation/notification_core.h"
 
 namespace lumifact::host {
 namespace {
@@ -113,9 +113,8 @@ Function next(const char* name) {
 ExtensionHost::ExtensionHost(const std::string& bundleIdentifier)
     : _root(std::filesystem::temp_directory_path() / "extension_hostXXXXXX") {
   mkdtemp(_root.data());
-  desktop::foundation::correctFoundation(
-      {desktop::foundation::DeviceRoot(root()), bundleIdentifier});
-  desktop::runtime::openDarwinNotifications(desktop::runtime::notificationFolder(root()));
+  desktop::faces::correctFoundation({foundation::DeviceRoot(root()), bundleIdentifier});
+  desktop::runtime::openDarwinNotifications(foundation::notificationFolder(root()));
   const bridge::AutoreleasePool pool;
   bridge::NSBundle::mainBundle().bundleIdentifier();  // once before: the first time reads much
   watchFoundation();
@@ -152,8 +151,7 @@ std::vector<std::string> ExtensionHost::eventsOf(const std::function<void()>& lo
 
 void ExtensionHost::notify(std::string_view name) const {
   const bridge::AutoreleasePool pool;
-  const auto posted =
-      desktop::runtime::postNotification(desktop::runtime::notificationFolder(root()), name);
+  const auto posted = foundation::postNotification(foundation::notificationFolder(root()), name);
   static_cast<void>(static_cast<bool>(posted));
   desktop::runtime::deliverDarwinNotifications();
 }

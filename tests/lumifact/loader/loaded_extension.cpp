@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "desktop/uikit/uikit.h"
+#include "desktop/uikit/application/uikit.h"
 #include "tests/bridge/victims.h"
 
 namespace lumifact::host {

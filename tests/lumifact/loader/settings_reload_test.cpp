@@ -12,14 +12,14 @@
 #include <string>
 
 #include "bridge/bound.h"
-#include "desktop/foundation/property_list.h"
+#include "foundation/property_list.h"
 #include "tests/lumifact/loader/loaded_extension.h"
 
 namespace lumifact::host {
 namespace {
 
-using desktop::foundation::PropertyListFormat;
-using desktop::foundation::serializePropertyList;
+using foundation::PropertyListFormat;
+using foundation::serializePropertyList;
 
 constexpr char changed[] = "net.korvu.lumifact/preferences";
 

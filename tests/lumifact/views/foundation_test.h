@@ -9,7 +9,7 @@
 
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
-#include "desktop/foundation_runtime/foundation_runtime.h"
+#include "desktop/faces/foundation/foundation_runtime.h"
 
 namespace lumifact {
 
@@ -17,7 +17,7 @@ inline void useThePhonesFoundation() {
   static const bool used = [] {
     setenv("LC_ALL", "en_US.UTF-8", 1);
     setenv("TZ", "Europe/Berlin", 1);
-    desktop::foundation::correctFoundation({});
+    desktop::faces::correctFoundation({});
     return true;
   }();
   static_cast<void>(used);

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "desktop/uikit/ca_layer.h"
-#include "desktop/uikit/ui_image.h"
-#include "desktop/uikit/ui_menu_controller.h"
+#include "desktop/uikit/graphics/ui_image.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/views/ca_layer.h"
 #include "tests/lumifact/views/presented_page.h"
 
 namespace lumifact {

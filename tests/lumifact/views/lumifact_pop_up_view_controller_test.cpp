@@ -3,9 +3,9 @@
 
 #include <cmath>
 
-#include "desktop/uikit/ca_layer.h"
-#include "desktop/uikit/ui_bezier_path.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/graphics/ui_bezier_path.h"
+#include "desktop/uikit/views/ca_layer.h"
+#include "desktop/uikit/views/ui_view.h"
 #include "lumifact/views/lumifact_text_view.h"
 #include "tests/desktop/uikit/stage_test.h"
 #include "tests/lumifact/views/foundation_test.h"

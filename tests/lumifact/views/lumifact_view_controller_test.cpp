@@ -3,8 +3,8 @@
 
 #include <cfloat>
 
-#include "desktop/uikit/ui_menu_controller.h"
-#include "desktop/uikit/ui_popover_presentation_controller.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 #include "model/description.h"
 #include "tests/lumifact/views/presented_page.h"
 #include "tests/lumifact/views/table_driver.h"

@@ -5,9 +5,9 @@
 #pragma once
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/bar_button_view.h"
-#include "desktop/uikit/ui_activity_view_controller.h"
-#include "desktop/uikit/ui_bar_button_item.h"
+#include "desktop/uikit/bars/bar_button_view.h"
+#include "desktop/uikit/bars/ui_bar_button_item.h"
+#include "desktop/uikit/controllers/ui_activity_view_controller.h"
 #include "tests/desktop/uikit/stage_test.h"
 #include "tests/lumifact/views/foundation_test.h"
 #include "tests/lumifact/views/shown_views.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/lumifact/views/shown_views.h"
 
-#include "desktop/uikit/stage.h"
-#include "desktop/uikit/touch_dispatcher.h"
-#include "desktop/uikit/ui_view.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace lumifact {
 

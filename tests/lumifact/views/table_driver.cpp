@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/lumifact/views/table_driver.h"
 
-#include "desktop/uikit/ui_table_view.h"
+#include "desktop/uikit/lists/ui_table_view.h"
 #include "tests/lumifact/views/shown_views.h"
 
 namespace lumifact {

@@ -7,7 +7,7 @@
 #include <random>
 
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/ui_table_view.h"
+#include "desktop/uikit/lists/ui_table_view.h"
 #include "lumifact/views/lumifact_view_controller.h"
 #include "model/description.h"
 #include "tests/lumifact/views/presented_page.h"

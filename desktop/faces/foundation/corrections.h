@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+//
+// The corrections, one function a subject; each replaces methods of Foundation's classes and is
+// called once.
+#pragma once
+
+#include "desktop/faces/foundation/foundation_runtime.h"
+
+namespace desktop::faces {
+
+void correctByteCounts();
+void correctCollections();
+void correctDates();
+void correctFiles();
+void correctLinks();
+void correctNumbers();
+void correctStrings();
+void correctMainBundle();
+
+// What correctFoundation was last given.
+const FoundationOptions& currentOptions();
+
+}  // namespace desktop::faces

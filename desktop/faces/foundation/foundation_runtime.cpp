@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/faces/foundation/foundation_runtime.h"
+
+#include "bridge/runtime.h"
+#include "desktop/faces/foundation/corrections.h"
+
+namespace desktop::faces {
+namespace {
+
+FoundationOptions& keptOptions() {
+  static auto& kept = *new FoundationOptions;
+  return kept;
+}
+
+bool replaceMethods() {
+  const bridge::AutoreleasePool pool;
+  correctByteCounts();
+  correctCollections();
+  correctDates();
+  correctFiles();
+  correctLinks();
+  correctNumbers();
+  correctStrings();
+  correctMainBundle();
+  return true;
+}
+
+}  // namespace
+
+const FoundationOptions& currentOptions() {
+  return keptOptions();
+}
+
+void correctFoundation(const FoundationOptions& options) {
+  keptOptions() = options;
+  static const bool replaced = replaceMethods();
+  static_cast<void>(replaced);
+}
+
+}  // namespace desktop::faces

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/faces/movie/avfoundation_runtime.h"
+
+#include "desktop/faces/movie/av_asset_track.h"
+#include "desktop/faces/movie/av_metadata_item.h"
+#include "desktop/faces/movie/av_url_asset.h"
+
+namespace desktop::faces {
+
+void registerAVFoundation() {
+  AVMetadataItem::classObject();
+  AVAssetTrack::classObject();
+  AVURLAsset::classObject();
+}
+
+}  // namespace desktop::faces

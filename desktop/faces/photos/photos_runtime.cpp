@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/faces/photos/photos_runtime.h"
+
+#include "desktop/faces/photos/cl_location.h"
+#include "desktop/faces/photos/ph_asset.h"
+#include "desktop/faces/photos/pu_asset_reference.h"
+
+namespace desktop::faces {
+
+void registerPhotos() {
+  CLLocation::classObject();
+  PHAsset::classObject();
+  PUAssetReference::classObject();
+}
+
+}  // namespace desktop::faces

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/albums/problem_list.h"
+
+#include "bridge/class_builder.h"
+#include "desktop/photos_ui/base/large_title.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/uikit/lists/ui_table_view_cell.h"
+#include "model/utf8.h"
+
+namespace desktop::photos_ui {
+
+using bridge::NSString;
+using bridge::UITableViewCell;
+
+namespace {
+
+constexpr CGFloat rowHeight = 56;  // points
+
+// Below the library's folder, which all share.
+std::string shown(const std::string& path, const std::string& folder) {
+  const bool isBelow = path.starts_with(folder + "/");
+  return model::replacingInvalidUtf8(isBelow ? path.substr(folder.size() + 1) : path);
+}
+
+}  // namespace
+
+Class ProblemList::classObject() {
+  using Self = ProblemList;
+  static const Class made = bridge::ClassBuilder<Self>("ProblemList")
+                                .method<"viewWillAppear:", &Self::viewWillAppear>()
+                                .method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>()
+                                .method<"tableView:heightForRowAtIndexPath:", &Self::heightForRow>()
+                                .method<"tableView:cellForRowAtIndexPath:", &Self::cellForRow>()
+                                .build();
+  return made;
+}
+
+bridge::Owned<bridge::UIViewController> ProblemList::make() {
+  auto made = bridge::Owned<bridge::UIViewController>::adopt(
+      bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(classObject())));
+  bridge::send<void, "setTitle:">(made.get(), NSString::make("Not Shown"));
+  useLargeTitle(made, false);
+  return made;
+}
+
+void ProblemList::viewWillAppear(bool animated) {
+  super<void, "viewWillAppear:">(animated);
+  refresh();
+}
+
+void ProblemList::libraryChanged(const library::LibraryChange& change) {
+  if (change.areProblemsChanged) refresh();
+}
+
+void ProblemList::refresh() {
+  _problems.clear();
+  if (const library::PhotoLibrary* const library = host().library)
+    for (const auto& [path, reason] : library->problems())
+      _problems.emplace_back(shown(path, library->folder()), reason);
+  bridge::send<void, "reloadData">(self().tableView());
+}
+
+NSInteger ProblemList::numberOfRows(bridge::UITableView, NSInteger) const {
+  return static_cast<NSInteger>(_problems.size());
+}
+
+CGFloat ProblemList::heightForRow(bridge::UITableView, bridge::NSIndexPath) const {
+  return rowHeight;
+}
+
+UITableViewCell ProblemList::cellForRow(bridge::UITableView table, bridge::NSIndexPath path) const {
+  const NSString identifier = NSString::make("problem");
+  UITableViewCell cell = table.dequeueCell(identifier);
+  if (!cell)
+    cell = bridge::Owned<UITableViewCell>::adopt(
+               bridge::send<UITableViewCell, "initWithStyle:reuseIdentifier:">(
+                   bridge::send<id, "alloc">(UITableViewCell::classObject()),
+                   NSInteger{uikit::UITableViewCell::subtitle}, identifier))
+               .autorelease();
+  const auto& [file, reason] = _problems[static_cast<std::size_t>(path.row())];
+  cell.textLabel().setText(NSString::make(file));
+  cell.detailTextLabel().setText(NSString::make(reason));
+  cell.setSelectionStyle(UITableViewCell::noSelection);
+  return cell;
+}
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/base/large_title.h"
+
+#include "desktop/uikit/bars/ui_navigation_item.h"
+
+namespace desktop::photos_ui {
+
+void useLargeTitle(bridge::UIViewController controller, bool isLarge) {
+  using Item = uikit::UINavigationItem;
+  bridge::send<void, "setLargeTitleDisplayMode:">(controller.navigationItem(),
+                                                  NSInteger{isLarge ? Item::always : Item::never});
+}
+
+}  // namespace desktop::photos_ui

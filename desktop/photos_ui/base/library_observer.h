@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+//
+// Who is told when the library changes, for as long as it lives.
+#pragma once
+
+#include "desktop/library/photo_library.h"
+
+namespace desktop::photos_ui {
+
+class LibraryObserver {
+ public:
+  LibraryObserver();
+  virtual ~LibraryObserver();
+  LibraryObserver(const LibraryObserver&) = delete;
+  LibraryObserver& operator=(const LibraryObserver&) = delete;
+
+  virtual void libraryChanged(const library::LibraryChange& change) = 0;
+};
+
+}  // namespace desktop::photos_ui

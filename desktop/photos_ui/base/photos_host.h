@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+//
+// What all controllers of the photo application share.
+#pragma once
+
+#include <string>
+
+#include "desktop/library/photo_library.h"
+#include "desktop/pictures/picture_loader.h"
+
+namespace desktop::photos_ui {
+
+struct PhotosHost {
+  library::PhotoLibrary* library = nullptr;  // null where it could not be opened
+  std::string libraryProblem;                // why it could not be: "FOLDER: reason"
+  pictures::PictureLoader* pictures = nullptr;
+};
+
+// Of this process; set by the application before it shows anything.
+PhotosHost& host();
+
+// Registers the classes of this room, so that they are found by name; once, whatever number of
+// calls. A host does it before it maps extensions.
+void registerPhotosUI();
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/grid/pu_photo_view_content_helper.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "bridge/class_builder.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/grid/text_banner.h"
+#include "desktop/photos_ui/grid/video_badge.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/graphics/ui_image.h"
+#include "desktop/uikit/views/ui_image_view.h"
+#include "desktop/uikit/views/ui_view.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+constexpr const char* badgeField = "__badgeView";
+constexpr const char* bannerField = "_textBannerView";
+constexpr CGFloat bannerMargin = 4;      // points
+constexpr CGFloat leastBannerRoom = 60;  // points; in less it would hide the photo
+
+int pixels(CGFloat points) {
+  constexpr double most = 8192;
+  return static_cast<int>(std::ceil(std::clamp(points * uikit::stage().scale, 1.0, most)));
+}
+
+pictures::Request requestFor(CGSize room) {
+  return {.maxWidth = pixels(room.width),
+          .maxHeight = pixels(room.height),
+          .fit = pictures::Request::Fit::fill};
+}
+
+CGFloat toWholePixel(CGFloat points) {
+  return std::round(points * uikit::stage().scale) / uikit::stage().scale;
+}
+
+double durationOf(const library::LibraryItem& item) {
+  if (!host().library) return 0;
+  const auto& facts = host().library->facts(item);
+  return facts ? (*facts)->duration : 0;
+}
+
+}  // namespace
+
+Class PUPhotoViewContentHelper::classObject() {
+  static const Class made =
+      bridge::ClassBuilder<PUPhotoViewContentHelper>("PUPhotoViewContentHelper")
+          .field(bannerField, "@")
+          .field(badgeField, "@")
+          .method<"contentView", &PUPhotoViewContentHelper::contentView>()
+          .method<"layoutSubviewsOfContentView",
+                  &PUPhotoViewContentHelper::layoutSubviewsOfContentView>()
+          .build();
+  return made;
+}
+
+PUPhotoViewContentHelper::~PUPhotoViewContentHelper() {
+  bridge::setObjectField(self(), bannerField, {});
+  bridge::setObjectField(self(), badgeField, {});
+}
+
+bridge::Owned<bridge::PUPhotoViewContentHelper> PUPhotoViewContentHelper::make(
+    bridge::UIView contentView) {
+  auto made = bridge::Owned<bridge::PUPhotoViewContentHelper>::adopt(
+      bridge::send<bridge::PUPhotoViewContentHelper, "new">(classObject()));
+  PUPhotoViewContentHelper& helper = of(made.get());
+  helper._contentView = contentView;
+  helper._imageView = bridge::makeView<uikit::handles::UIImageView>({});
+  contentView.addSubview(helper._imageView);
+  return made;
+}
+
+void PUPhotoViewContentHelper::show(library::ItemPointer item, CGSize room) {
+  if (item == _item && room.width == _room.width && room.height == _room.height &&
+      (_state == State::shown || _state == State::failed || _ticket.isWaiting()))
+    return;
+  _item = std::move(item);
+  _room = room;
+  _ticket.cancel();
+  showBadge();
+  showBanner();
+  load();
+}
+
+void PUPhotoViewContentHelper::load() {
+  if (!_item || !host().pictures) {
+    showPicture(nullptr);
+    return setState(State::empty);
+  }
+  const pictures::Request request = requestFor(_room);
+  if (const auto known = host().pictures->find(_item->path, request)) {
+    showPicture(known);
+    return setState(State::shown);
+  }
+  showPicture(nullptr);
+  setState(State::loading);
+  _ticket.request(_item->path, request, pictures::Priority::visible,
+                  [this](const pictures::Outcome& outcome) {
+                    if (!outcome.picture) return fail(outcome.reason);
+                    showPicture(outcome.picture);
+                    setState(State::shown);
+                  });
+}
+
+void PUPhotoViewContentHelper::fail(const std::string& reason) {
+  setState(State::failed);
+  if (host().library) host().library->noteProblem(_item->path, reason);
+}
+
+void PUPhotoViewContentHelper::setState(State state) {
+  if (state == _state) return;
+  _state = state;
+  if (_contentView) uikit::UIView::of(_contentView).setNeedsDisplay();
+}
+
+void PUPhotoViewContentHelper::stopLoading() {
+  _ticket.cancel();
+}
+
+void PUPhotoViewContentHelper::viewIsGone() {
+  _ticket.cancel();
+  _contentView = {};
+}
+
+void PUPhotoViewContentHelper::showPicture(const pictures::SharedPicture& picture) {
+  if (picture == _picture) return;
+  _picture = picture;
+  const CGFloat scale = uikit::stage().scale;
+  _imageView->setImage(picture ? uikit::UIImage::make(picture, scale) : bridge::UIImage());
+  _imageView->setFrame(pictureFrame());
+}
+
+// Covers the view, its middle in the middle. A picture that is as large as was asked for stands on
+// whole pixels unscaled: it is painted ten times as fast.
+CGRect PUPhotoViewContentHelper::pictureFrame() const {
+  const CGRect room = _contentView.bounds();
+  if (!_picture || uikit::isEmpty(room)) return room;
+  const CGFloat scale = uikit::stage().scale;
+  const CGSize natural{_picture->width / scale, _picture->height / scale};
+  CGRect frame = uikit::placed(natural, room, uikit::ContentMode::aspectFill);
+  constexpr CGFloat tolerance = 1.5;  // points
+  if (std::abs(frame.size.width - natural.width) < tolerance &&
+      std::abs(frame.size.height - natural.height) < tolerance) {
+    frame.origin.x = toWholePixel(frame.origin.x + (frame.size.width - natural.width) / 2);
+    frame.origin.y = toWholePixel(frame.origin.y + (frame.size.height - natural.height) / 2);
+    frame.size = natural;
+  }
+  return frame;
+}
+
+void PUPhotoViewContentHelper::showBadge() {
+  const bool isVideo = _item && _item->isVideo();
+  auto badge = bridge::UIView(bridge::objectField(self(), badgeField).get());
+  if (!isVideo && !badge) return;
+  if (!isVideo) return setExtra(badgeField, {});
+  if (!badge) {
+    const auto made = bridge::Owned<bridge::UIView>::adopt(
+        bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(VideoBadge::classObject())));
+    setExtra(badgeField, made);
+    badge = made;
+  }
+  VideoBadge::of(badge).setDuration(durationOf(*_item));
+}
+
+void PUPhotoViewContentHelper::showBanner() {
+  const std::string_view text = _item ? bannerTextFor(_item->name()) : std::string_view();
+  if (text.empty()) {
+    if (bridge::objectField(self(), bannerField)) setExtra(bannerField, {});
+    return;
+  }
+  const auto made = bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "init">(
+      bridge::send<id, "alloc">(TextBannerView::classObject())));
+  TextBannerView::of(made.get()).setText(bridge::NSString::make(text));
+  setExtra(bannerField, made);
+}
+
+// The view in a field, in place of the one before.
+void PUPhotoViewContentHelper::setExtra(const char* field, bridge::UIView view) {
+  bridge::UIView(bridge::objectField(self(), field).get()).removeFromSuperview();
+  bridge::setObjectField(self(), field, view);
+  _contentView.addSubview(view);
+  _arrangedSize = {};
+  if (_contentView) uikit::UIView::of(_contentView).setNeedsLayout();
+}
+
+// The mark and the word stay where somebody else moved them until they belong elsewhere.
+void PUPhotoViewContentHelper::layoutSubviewsOfContentView() {
+  const CGSize room = _contentView.bounds().size;
+  _imageView->setFrame(pictureFrame());
+  if (room.width == _arrangedSize.width && room.height == _arrangedSize.height) return;
+  _arrangedSize = room;
+  const bridge::UIView badge(bridge::objectField(self(), badgeField).get());
+  badge.setFrame({{0, room.height - VideoBadge::height}, {room.width, VideoBadge::height}});
+  const bridge::UIView banner(bridge::objectField(self(), bannerField).get());
+  const CGSize size = bridge::send<CGSize, "sizeThatFits:">(banner, room);
+  bridge::send<void, "setHidden:">(banner, room.width < leastBannerRoom);
+  banner.setFrame({{bannerMargin, room.height - size.height - bannerMargin}, size});
+}
+
+}  // namespace desktop::photos_ui

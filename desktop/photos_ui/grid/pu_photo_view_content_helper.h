@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+//
+// PUPhotoViewContentHelper: what a photo view shows of an item: its thumbnail as soon as it is
+// there, a mark where it is a video, a word where it is of a special kind. The mark and the word
+// are in the fields `__badgeView` and `_textBannerView`.
+#pragma once
+
+#include "bridge/bound.h"
+#include "bridge/photos.h"
+#include "desktop/library/library_item.h"
+#include "desktop/photos_ui/grid/picture_ticket.h"
+#include "desktop/uikit/handles.h"
+
+namespace desktop::photos_ui {
+
+class PUPhotoViewContentHelper : public bridge::Bound<PUPhotoViewContentHelper, bridge::NSObject> {
+ public:
+  enum class State { empty, loading, shown, failed };
+
+  using Bound::Bound;
+  ~PUPhotoViewContentHelper();
+  static Class classObject();
+  // For a view, which owns it; +1.
+  static bridge::Owned<bridge::PUPhotoViewContentHelper> make(bridge::UIView contentView);
+
+  // Shows an item, or nothing, in a room of the size in points; the picture covers all of it.
+  void show(library::ItemPointer item, CGSize room);
+  // Nobody sees it at present: what is not there yet is no longer wanted.
+  void stopLoading();
+  // The view is gone; from now on nothing is shown.
+  void viewIsGone();
+  State state() const { return _state; }
+  const library::ItemPointer& item() const { return _item; }
+
+ private:
+  bridge::UIView contentView() const { return _contentView; }
+  void layoutSubviewsOfContentView();
+  void load();
+  void showPicture(const pictures::SharedPicture& picture);
+  void fail(const std::string& reason);
+  void setState(State state);
+  CGRect pictureFrame() const;
+  void showBadge();
+  void showBanner();
+  void setExtra(const char* field, bridge::UIView view);
+
+  bridge::UIView _contentView;  // borrowed
+  bridge::Owned<uikit::handles::UIImageView> _imageView;
+  library::ItemPointer _item;
+  CGSize _room;                      // points
+  pictures::SharedPicture _picture;  // on show
+  PictureTicket _ticket;
+  State _state = State::empty;
+  CGSize _arrangedSize;  // that badge and banner were placed in
+};
+
+}  // namespace desktop::photos_ui

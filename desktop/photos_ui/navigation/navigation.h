@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// Going places in the photo application, as a user would: for scripts, keys and the start. Items
+// are numbered from 0 in the order of what is on screen.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "bridge/uikit.h"
+#include "desktop/library/photo_library.h"
+#include "model/result.h"
+
+namespace desktop::photos_ui {
+
+using Outcome = std::optional<model::Error>;
+
+// The tab bar with Photos and Albums.
+bridge::Owned<bridge::UIViewController> makeRootController();
+
+// What changed in the library reaches the controllers on show.
+void libraryChanged(const library::LibraryChange& change);
+
+Outcome openPhotos();
+Outcome openAlbums();
+// By its title, from wherever the user is.
+Outcome openAlbum(std::string_view title);
+// Shows an item of the grid on screen, or of the moments where none is, by itself.
+Outcome openItem(long index);
+// The same as a preview: a light touch that looks without opening.
+Outcome peekItem(long index);
+// The same for the item of the grid on show that is at a point of the screen.
+Outcome peekAt(CGPoint onScreen);
+// "moments", "collections" or "years".
+Outcome setZoomLevel(std::string_view name);
+// One step back: the preview, the presented page, the single photo, the album.
+Outcome goBack();
+
+// The middle of an item's cell on the screen; the grid is scrolled so that it can be seen.
+model::Result<CGPoint> placeOfItem(long index);
+// Selects an item by touch, in select mode, which is begun where it is not.
+Outcome selectItem(long index);
+
+// The single photo on show, or nil.
+bridge::UIViewController oneUpOnShow();
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/one_up/picture_image.h"
+
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/graphics/ui_image.h"
+
+namespace desktop::photos_ui {
+
+bridge::UIImage imageOf(const pictures::SharedPicture& picture) {
+  return picture ? uikit::UIImage::make(picture, uikit::stage().scale) : bridge::UIImage();
+}
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
+
+#include "bridge/class_builder.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
+#include "foundation/calendar_text.h"
+#include "foundation/local_time.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+using bridge::NSString;
+using bridge::send;
+using bridge::UIBarButtonItem;
+
+std::string titleOf(const library::LibraryItem& item) {
+  return foundation::calendarText(foundation::localTime(item.modificationDate),
+                                  foundation::CalendarUnit::day,
+                                  foundation::Locale::ofUser("LC_TIME"));
+}
+
+}  // namespace
+
+Class PUOneUpBarsController::classObject() {
+  static const Class made = bridge::ClassBuilder<PUOneUpBarsController>("PUOneUpBarsController")
+                                .method<"updateBars", &PUOneUpBarsController::updateBars>()
+                                .method<"shareTouched:", &PUOneUpBarsController::shareTouched>()
+                                .build();
+  return made;
+}
+
+bridge::Owned<bridge::NSObject> PUOneUpBarsController::make(bridge::UIViewController oneUp) {
+  auto made = bridge::Owned<bridge::NSObject>::adopt(send<bridge::NSObject, "new">(classObject()));
+  of(made.get())._oneUp = oneUp;
+  of(made.get()).makeToolbarItems();
+  return made;
+}
+
+void PUOneUpBarsController::makeToolbarItems() {
+  const auto share = UIBarButtonItem::withSystemItem(UIBarButtonItem::action, self(),
+                                                     bridge::selector<"shareTouched:">());
+  send<void, "setToolbarItems:">(_oneUp, bridge::NSArray::of(share.get()));
+}
+
+void PUOneUpBarsController::update() const {
+  send<void, "updateBars">(self());
+}
+
+void PUOneUpBarsController::updateBars() {
+  const library::ItemPointer item = PUOneUpViewController::of(_oneUp).currentItem();
+  _oneUp.navigationItem().setTitle(NSString::make(item ? titleOf(*item) : ""));
+}
+
+// What is shared of a photo is where its file lies.
+void PUOneUpBarsController::shareTouched(bridge::NSObject sender) {
+  const library::ItemPointer item = PUOneUpViewController::of(_oneUp).currentItem();
+  if (!item) return;
+  const auto sheet =
+      bridge::UIActivityViewController::withItems(bridge::NSArray::of(NSString::make(item->path)));
+  sheet->popoverPresentationController().setBarButtonItem(UIBarButtonItem(sender.get()));
+  _oneUp.present(sheet, bridge::UIViewController::animated, {});
+}
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "bridge/class_builder.h"
+#include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/one_up/picture_image.h"
+#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/graphics/path.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "foundation/file_url.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+using bridge::NSString;
+using bridge::send;
+using uikit::UIScrollView;
+using uikit::UIView;
+
+constexpr CGFloat doubleTapZoom = 2.5;
+constexpr CGFloat leastGreatestZoom = 4;
+constexpr CGFloat quickSide = 256;       // pixels, of the picture that comes first
+constexpr CGFloat greatestSide = 8'192;  // pixels, of the closest look
+constexpr CGFloat playSide = 72;         // points
+constexpr double zoomTime = 0.3;
+
+bool isWithin(CGSize size, CGSize room) {
+  return size.width <= room.width + 1 && size.height <= room.height + 1;
+}
+
+// Where a point lies in a rectangle, in shares of its size; and the other way round.
+CGPoint shareOf(CGPoint point, CGRect rect) {
+  return {(point.x - rect.origin.x) / rect.size.width,
+          (point.y - rect.origin.y) / rect.size.height};
+}
+CGPoint pointAt(CGPoint share, CGRect rect) {
+  return {rect.origin.x + share.x * rect.size.width, rect.origin.y + share.y * rect.size.height};
+}
+
+CGSize times(CGSize size, CGFloat factor) {
+  return {size.width * factor, size.height * factor};
+}
+
+}  // namespace
+
+Class PUOneUpPhotoView::classObject() {
+  static const Class made =
+      bridge::ClassBuilder<PUOneUpPhotoView>("PUOneUpPhotoView")
+          .method<"layoutSubviews", &PUOneUpPhotoView::layoutSubviews>()
+          .method<"gestureRecognizerShouldBegin:", &PUOneUpPhotoView::shouldBegin>()
+          .method<"handleDoubleTap:", &PUOneUpPhotoView::handleDoubleTap>()
+          .method<"playTouched:", &PUOneUpPhotoView::playTouched>()
+          .build();
+  return made;
+}
+
+PUOneUpPhotoView::~PUOneUpPhotoView() {
+  if (_ticket && host().pictures) host().pictures->cancel(*_ticket);
+}
+
+bridge::Owned<bridge::UIView> PUOneUpPhotoView::make(library::ItemPointer item) {
+  auto made = bridge::Owned<bridge::UIView>::adopt(send<bridge::UIView, "initWithFrame:">(
+      send<id, "alloc">(classObject()), uikit::rectOfSize(uikit::stage().screenSize)));
+  of(made.get()).prepare(std::move(item));
+  return made;
+}
+
+void PUOneUpPhotoView::prepare(library::ItemPointer item) {
+  _item = std::move(item);
+  UIView& me = UIView::of(self());
+  _imageView = bridge::makeView<uikit::handles::UIImageView>({});
+  me.insertSubview(_imageView, 0);
+  send<void, "setShowsVerticalScrollIndicator:">(self(), false);
+  send<void, "setShowsHorizontalScrollIndicator:">(self(), false);
+  send<void, "setContentInsetAdjustmentBehavior:">(self(), NSInteger{2});
+  const auto tap = uikit::handles::makeRecognizer<uikit::handles::UITapGestureRecognizer>(
+      self(), bridge::selector<"handleDoubleTap:">());
+  tap->setNumberOfTapsRequired(2);
+  self().addGestureRecognizer(tap);
+  if (_item->isVideo()) addPlayButton();
+  load({quickSide, quickSide}, pictures::Priority::visible);
+}
+
+void PUOneUpPhotoView::addPlayButton() {
+  _playButton =
+      bridge::Owned<bridge::UIButton>::retain(bridge::UIButton::withType(bridge::UIButton::custom));
+  _playButton->setFrame({{0, 0}, {playSide, playSide}});
+  _playButton->setBackgroundColor(bridge::UIColor::white(0, 0.45));
+  _playButton->layer().setCornerRadius(playSide / 2);
+  _playButton->setTitle(NSString::make("\u25B6\uFE0E"), bridge::stateNormal);
+  _playButton->setTitleColor(bridge::UIColor::whiteColor(), bridge::stateNormal);
+  _playButton->titleLabel().setFont(bridge::UIFont::systemFont(30));
+  _playButton->addTarget(self(), bridge::selector<"playTouched:">(), bridge::touchUpInside);
+  self().addSubview(_playButton);
+}
+
+CGSize PUOneUpPhotoView::room() const {
+  return UIView::of(self()).bounds().size;
+}
+
+// In points at zoom 1: as large as lies in the room.
+CGSize PUOneUpPhotoView::fittedSize() const {
+  if (_pictureSize.width <= 0 || _pictureSize.height <= 0) return {};
+  const CGSize all = room();
+  const CGFloat factor = std::min(all.width / _pictureSize.width, all.height / _pictureSize.height);
+  return times(_pictureSize, factor);
+}
+
+// Of the photo itself, in pixels as displayed; nothing where that is not known.
+CGSize PUOneUpPhotoView::naturalSize() const {
+  if (!host().library) return {};
+  const auto& facts = host().library->facts(*_item);
+  if (!facts) return {};
+  return {static_cast<CGFloat>((*facts)->pixelWidth), static_cast<CGFloat>((*facts)->pixelHeight)};
+}
+
+CGFloat PUOneUpPhotoView::actualSizeZoom() const {
+  const CGFloat fitted = fittedSize().width * uikit::stage().scale;
+  const CGFloat natural = naturalSize().width;
+  return fitted > 0 && natural > 0 ? natural / fitted : 1;
+}
+
+CGFloat PUOneUpPhotoView::greatestZoom() const {
+  return std::max(leastGreatestZoom, actualSizeZoom() * 2);
+}
+
+void PUOneUpPhotoView::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  if (room() == _laidOut) return;
+  _laidOut = room();
+  _zoom = 1;
+  send<void, "setContentOffset:">(self(), CGPoint{});
+  arrange();
+  if (_pictureSize.width > 0) loadForRoom();
+}
+
+// The photo stands in the middle of the room, or of all that it covers.
+void PUOneUpPhotoView::arrange() {
+  const CGSize shown = times(fittedSize(), _zoom);
+  const CGSize content = {std::max(shown.width, room().width),
+                          std::max(shown.height, room().height)};
+  _imageView->setFrame(
+      {{(content.width - shown.width) / 2, (content.height - shown.height) / 2}, shown});
+  const bool isWhole = _zoom <= 1;
+  self().setContentSize(isWhole ? CGSize{} : content);
+  const CGPoint mid = {content.width / 2, content.height / 2};
+  if (_playButton) UIView::of(_playButton.get()).setCenter(mid);
+  if (_failure) {
+    const CGSize size = send<CGSize, "sizeThatFits:">(_failure.get(), room());
+    const CGFloat y = _playButton ? mid.y + playSide : mid.y - size.height / 2;
+    _failure->setFrame({{0, y}, {room().width, size.height}});
+  }
+}
+
+void PUOneUpPhotoView::load(CGSize pixels, pictures::Priority priority) {
+  if (!host().pictures || isWithin(pixels, _asked)) return;
+  _asked = pixels;
+  if (_ticket) host().pictures->cancel(*_ticket);
+  const auto side = [](CGFloat length) {
+    return static_cast<int>(std::clamp(std::ceil(length), 1.0, greatestSide));
+  };
+  _ticket = host().pictures->request(
+      _item->path, {side(pixels.width), side(pixels.height), pictures::Request::Fit::fit}, priority,
+      [this](const pictures::Outcome& outcome) { show(outcome); });
+}
+
+void PUOneUpPhotoView::loadForRoom() {
+  load(times(room(), uikit::stage().scale), pictures::Priority::visible);
+}
+
+// A closer look has more pixels.
+void PUOneUpPhotoView::loadForZoom() {
+  const CGFloat closest = std::min(_zoom, actualSizeZoom());
+  if (closest > 1.2)
+    load(times(room(), uikit::stage().scale * closest), pictures::Priority::visible);
+}
+
+void PUOneUpPhotoView::show(const pictures::Outcome& outcome) {
+  _ticket.reset();
+  if (!outcome.picture) {
+    if (_pictureSize.width <= 0) showFailure(outcome.reason);
+    return;
+  }
+  if (_failure) _failure->removeFromSuperview();
+  _failure.reset();
+  _pictureSize = {static_cast<CGFloat>(outcome.picture->width),
+                  static_cast<CGFloat>(outcome.picture->height)};
+  _imageView->setImage(imageOf(outcome.picture));
+  arrange();
+  if (_laidOut.width > 0) loadForRoom();
+}
+
+void PUOneUpPhotoView::showFailure(const std::string& reason) {
+  if (host().library) host().library->noteProblem(_item->path, reason);
+  if (!_failure) {
+    _failure = bridge::makeView<bridge::UILabel>({});
+    _failure->setTextAlignment(bridge::alignCenter);
+    _failure->setNumberOfLines(0);
+    _failure->setFont(bridge::UIFont::systemFont(15));
+    _failure->setTextColor(uikit::UIColor::make(uikit::colors::secondaryText));
+    self().addSubview(_failure);
+  }
+  _failure->setText(NSString::make(_item->shownName() + "\ncannot be shown: " + reason));
+  arrange();
+}
+
+void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
+  const CGFloat next = std::clamp(zoom, 1.0, greatestZoom());
+  if (next == _zoom || fittedSize().width <= 0) return;
+  const CGPoint offset = self().contentOffset();
+  const CGPoint place = shareOf({offset.x + at.x, offset.y + at.y}, _imageView->frame());
+  const auto change = [this, next, place, at] {
+    _zoom = next;
+    arrange();
+    const CGPoint now = pointAt(place, _imageView->frame());
+    self().setContentOffset(UIScrollView::of(self()).clamped({now.x - at.x, now.y - at.y}));
+  };
+  const auto kept = bridge::Owned<bridge::UIView>::retain(self());
+  if (animated)
+    uikit::stage().animator.animate(zoomTime, 0, uikit::AnimationCurve::easeInOut, change,
+                                    [kept](bool) {});
+  else
+    change();
+  loadForZoom();
+}
+
+// At its left and right edges a finger that goes on outwards turns the page.
+bool PUOneUpPhotoView::shouldBegin(bridge::UIGestureRecognizer recognizer) {
+  const auto pan = send<uikit::handles::UIPanGestureRecognizer, "panGestureRecognizer">(self());
+  if (recognizer != pan) return true;
+  const CGPoint moved = pan.translationIn({});
+  const CGPoint speed = pan.velocityIn({});
+  const CGPoint way = {moved.x + speed.x, moved.y + speed.y};
+  if (std::abs(way.x) <= std::abs(way.y)) return true;
+  const CGPoint offset = self().contentOffset();
+  const CGPoint next = {offset.x - std::copysign(1, way.x), offset.y};
+  return UIScrollView::of(self()).clamped(next).x == next.x;
+}
+
+void PUOneUpPhotoView::handleDoubleTap(bridge::UIGestureRecognizer recognizer) {
+  const CGPoint offset = self().contentOffset();
+  const CGPoint place = recognizer.locationIn(self());
+  const CGPoint at = {place.x - offset.x, place.y - offset.y};
+  zoomTo(_zoom > 1 ? 1 : doubleTapZoom, at, true);
+}
+
+// The file goes to whatever the user plays videos with.
+void PUOneUpPhotoView::playTouched(bridge::NSObject) {
+  const auto url = send<bridge::NSURL, "fileURLWithPath:">(bridge::NSURL::classObject(),
+                                                           NSString::make(_item->path));
+  bridge::UIApplication::sharedApplication().openURL(url);
+}
+
+}  // namespace desktop::photos_ui

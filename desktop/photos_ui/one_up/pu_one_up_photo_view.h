@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+//
+// PUOneUpPhotoView: one photo, or a video's picture, as large as the page, which can be looked at
+// closer. The picture comes in steps: what is quickly at hand first.
+#pragma once
+
+#include <optional>
+
+#include "bridge/bound.h"
+#include "desktop/library/library_item.h"
+#include "desktop/pictures/picture_loader.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
+
+namespace desktop::photos_ui {
+
+class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::UIScrollView> {
+ public:
+  using Bound::Bound;
+  ~PUOneUpPhotoView();
+  static Class classObject();
+
+  static bridge::Owned<bridge::UIView> make(library::ItemPointer item);
+
+  const library::ItemPointer& item() const { return _item; }
+  // How many times as large as the page it is; 1 shows all of it.
+  CGFloat zoom() const { return _zoom; }
+  // Looks closer, or from further away, at a point of the page; within what makes sense.
+  void zoomTo(CGFloat zoom, CGPoint at, bool animated);
+  // The zoom at which a pixel of the photo is one of the screen.
+  CGFloat actualSizeZoom() const;
+  CGFloat greatestZoom() const;
+
+ private:
+  void layoutSubviews();
+  bool shouldBegin(bridge::UIGestureRecognizer recognizer);
+  void handleDoubleTap(bridge::UIGestureRecognizer recognizer);
+  void playTouched(bridge::NSObject sender);
+
+  void prepare(library::ItemPointer item);
+  void addPlayButton();
+  // Asks for a picture of the photo as large as the box, in pixels.
+  void load(CGSize pixels, pictures::Priority priority);
+  void loadForRoom();
+  void loadForZoom();
+  void show(const pictures::Outcome& outcome);
+  void showFailure(const std::string& reason);
+  void arrange();
+  CGSize fittedSize() const;
+  CGSize room() const;
+  CGSize naturalSize() const;
+
+  library::ItemPointer _item;
+  bridge::Owned<uikit::handles::UIImageView> _imageView;
+  bridge::Owned<bridge::UILabel> _failure;
+  bridge::Owned<bridge::UIButton> _playButton;
+  std::optional<pictures::Ticket> _ticket;
+  CGSize _pictureSize;  // pixels of what is shown
+  CGSize _asked;        // pixels of the box that was asked for last
+  CGSize _laidOut;      // the room at the last layout
+  CGFloat _zoom = 1;
+};
+
+}  // namespace desktop::photos_ui

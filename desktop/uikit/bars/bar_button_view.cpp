@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/bars/bar_button_view.h"
+
+#include <algorithm>
+
+#include "bridge/class_builder.h"
+#include "desktop/uikit/bars/bar_glyphs.h"
+#include "desktop/uikit/bars/ui_bar_button_item.h"
+#include "desktop/uikit/controls/ui_control.h"
+#include "desktop/uikit/graphics/canvas.h"
+#include "desktop/uikit/graphics/encodings.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/graphics/ui_image.h"
+#include "desktop/uikit/text/interface_fonts.h"
+#include "desktop/uikit/views/ui_view.h"
+
+namespace desktop::uikit {
+namespace {
+
+// In points.
+constexpr CGFloat fontSize = 17;
+constexpr CGFloat chevronWidth = 12;
+constexpr CGFloat chevronHeight = 21;
+constexpr CGFloat chevronGap = 6;
+constexpr CGFloat touchMargin = 8;  // taken beside the picture
+constexpr double pressedAlpha = 0.2;
+constexpr Color disabledColor = Color::white(0.6);
+
+bridge::Owned<bridge::UIView> makeView() {
+  return bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "init">(
+      bridge::send<id, "alloc">(BarButtonView::classObject())));
+}
+
+}  // namespace
+
+Class BarButtonView::classObject() {
+  static const Class made = bridge::ClassBuilder<BarButtonView>("_UIButtonBarButton")
+                                .method<"initWithFrame:", &BarButtonView::initWithFrame>()
+                                .method<"layoutSubviews", &BarButtonView::layoutSubviews>()
+                                .method<"sizeThatFits:", &BarButtonView::sizeThatFits>()
+                                .method<"pointInside:withEvent:", &BarButtonView::pointInside>()
+                                .method<"setHighlighted:", &BarButtonView::setHighlighted>()
+                                .method<"accessibilityLabel", &BarButtonView::accessibilityLabel>()
+                                .method<"_press:", &BarButtonView::press>()
+                                .method<"drawContentOn:", &BarButtonView::drawContent>()
+                                .build();
+  return made;
+}
+
+BarButtonView::BarButtonView(id self)
+    : Bound(self), _label(bridge::makeView<bridge::UILabel>({})) {}
+
+bridge::UIView BarButtonView::initWithFrame(CGRect frame) {
+  const auto object = super<bridge::UIView, "initWithFrame:">(frame);
+  self().addTarget(self(), bridge::selector<"_press:">(), bridge::touchUpInside);
+  self().addSubview(_label);
+  return object;
+}
+
+bridge::Owned<bridge::UIView> BarButtonView::make(bridge::UIBarButtonItem item) {
+  auto made = makeView();
+  of(made.get())._item = bridge::Owned<bridge::UIBarButtonItem>::retain(item);
+  of(made.get()).refresh();
+  return made;
+}
+
+bridge::Owned<bridge::UIView> BarButtonView::makeBack(bridge::NSString title,
+                                                      std::function<void()> pressed) {
+  auto made = makeView();
+  BarButtonView& view = of(made.get());
+  view._pressed = std::move(pressed);
+  view._label->setFont(bridge::UIFont::systemFont(fontSize));
+  view.setTitle(title);
+  view.refresh();
+  return made;
+}
+
+void BarButtonView::refresh() {
+  if (_item) {
+    const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
+    _label->setFont(item.style() == UIBarButtonItem::done ? semiboldFont(fontSize)
+                                                          : bridge::UIFont::systemFont(fontSize));
+    setTitle(hasText() ? item.title() : bridge::NSString());
+    bridge::send<void, "setEnabled:">(self(), item.isEnabled());
+  }
+  _label->setTextColor(UIColor::make(color()));
+  UIView::of(self()).setNeedsDisplay();
+}
+
+void BarButtonView::setTitle(bridge::NSString title) {
+  _label->setText(title);
+  UIView::of(self()).setNeedsLayout();
+}
+
+// A picture stands before a title.
+bool BarButtonView::hasText() const {
+  if (!_item) return true;
+  const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
+  return !item.image() && !hasGlyph(item.systemItem().value_or(-1));
+}
+
+CGFloat BarButtonView::textStart() const {
+  return isBack() ? chevronWidth + chevronGap : 0;
+}
+
+Color BarButtonView::color() const {
+  const UIControl& control = UIControl::of(self());
+  const auto own = _item ? UIBarButtonItem::of(_item.get()).tint() : std::nullopt;
+  const Color shown = control.isEnabled() ? own.value_or(UIView::of(self()).tint()) : disabledColor;
+  return control.isHighlighted() ? shown.withAlpha(shown.alpha * pressedAlpha) : shown;
+}
+
+std::string BarButtonView::name() const {
+  if (hasText()) return _label->text().utf8();
+  return std::string(glyphName(UIBarButtonItem::of(_item.get()).systemItem().value_or(-1)));
+}
+
+bridge::NSString BarButtonView::accessibilityLabel() const {
+  return bridge::NSString::make(name());
+}
+
+void BarButtonView::layoutSubviews() {
+  const CGSize size = self().bounds().size;
+  const CGFloat start = textStart();
+  _label->setFrame({{start, 0}, {std::max(0.0, size.width - start), size.height}});
+}
+
+CGSize BarButtonView::sizeThatFits(CGSize size) const {
+  if (hasText()) {
+    const CGSize text = bridge::send<CGSize, "sizeThatFits:">(_label.get(), CGSize{});
+    const bool isBare = _label->text().length() == 0;
+    return {isBare && isBack() ? chevronWidth : textStart() + text.width, size.height};
+  }
+  const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
+  if (!item.image()) return {glyphSize, size.height};
+  return {UIImage::of(item.image().get()).size().width, size.height};
+}
+
+bool BarButtonView::pointInside(CGPoint point, bridge::UIEvent) const {
+  return bridge::contains(inset(self().bounds(), -touchMargin, 0), point);
+}
+
+void BarButtonView::setHighlighted(bool highlighted) {
+  super<void, "setHighlighted:">(highlighted);
+  refresh();
+}
+
+void BarButtonView::press(bridge::Object) {
+  const auto kept = bridge::Owned<bridge::UIControl>::retain(self());
+  if (_item) return UIBarButtonItem::of(_item.get()).press(self());
+  if (const auto pressed = _pressed) pressed();
+}
+
+void BarButtonView::drawContent(Canvas* canvas) const {
+  const CGRect bounds = self().bounds();
+  if (isBack())
+    return drawBackChevron({0, (bounds.size.height - chevronHeight) / 2}, color(), *canvas);
+  if (hasText()) return;
+  const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
+  if (!item.image())
+    return drawGlyph(*item.systemItem(), middle(bounds) - CGPoint{glyphSize / 2, glyphSize / 2},
+                     color(), *canvas);
+  const UIImage& image = UIImage::of(item.image().get());
+  const CGSize size = image.size();
+  canvas->image(image.bitmap(), {middle(bounds) - CGPoint{size.width / 2, size.height / 2}, size});
+}
+
+}  // namespace desktop::uikit

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/base/pending_call.h"
+
+#include <utility>
+
+#include "desktop/uikit/application/stage.h"
+
+namespace desktop::uikit {
+
+void PendingCall::callAfter(Seconds delay, Scheduler::Work work) {
+  cancel();
+  _timer = stage().scheduler.callAfter(delay, [this, work = std::move(work)] {
+    _timer = 0;
+    work();
+  });
+}
+
+// The stage may be another one by now: it does not know the timer then.
+void PendingCall::cancel() {
+  if (_timer != 0) stage().scheduler.cancel(std::exchange(_timer, 0));
+}
+
+}  // namespace desktop::uikit

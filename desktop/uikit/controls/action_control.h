@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+//
+// A control with a title that does something of ours when it is pressed: the buttons of alerts,
+// sheets and menus.
+#pragma once
+
+#include <functional>
+
+#include "bridge/bound.h"
+#include "desktop/uikit/graphics/color.h"
+#include "desktop/uikit/handles.h"
+
+namespace desktop::uikit {
+
+class ActionControl : public bridge::Bound<ActionControl, bridge::UIControl> {
+ public:
+  explicit ActionControl(id self);
+  static Class classObject();
+
+  struct Look {
+    bridge::NSString title;
+    CGFloat fontSize = 17;  // points
+    bool isSemibold = false;
+    Color color = colors::tint;
+    Color pressedBackground = colors::highlight;
+    CGFloat margin = 16;  // points at the left and right of the title
+  };
+  // A new control; +1. The action is kept until the control goes or clearAction is called.
+  static bridge::Owned<bridge::UIControl> make(const Look& look, std::function<void()> action);
+
+  bridge::UILabel label() const { return _label; }
+  void clearAction() { _action = nullptr; }
+
+ private:
+  bridge::UIView initWithFrame(CGRect frame);
+  void layoutSubviews();
+  CGSize sizeThatFits(CGSize size) const;
+  void setHighlighted(bool highlighted);
+  void setEnabled(bool enabled);
+  void pressed(bridge::Object sender);
+
+  bridge::Owned<bridge::UILabel> _label;
+  std::function<void()> _action;
+  Color _color;
+  Color _pressedBackground;
+  CGFloat _margin = 0;
+};
+
+}  // namespace desktop::uikit

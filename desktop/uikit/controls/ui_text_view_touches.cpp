@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+//
+// Selecting by touch: a long press selects a word and, dragged, more; the ends of a selection can
+// be dragged; a tap clears it.
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/uikit/controls/ui_text_view.h"
+#include "desktop/uikit/text/text_words.h"
+
+namespace desktop::uikit {
+namespace {
+
+constexpr CGFloat reach = 20;  // points around an end that take hold of it
+
+// A recogniser of a class, which the view owns; borrowed from it.
+template <bridge::FixedString ClassName, bridge::FixedString Action>
+bridge::UIGestureRecognizer addRecognizer(bridge::UIView view) {
+  using bridge::UIGestureRecognizer;
+  const auto made = bridge::Owned<UIGestureRecognizer>::adopt(
+      bridge::send<UIGestureRecognizer, "initWithTarget:action:">(
+          bridge::send<id, "alloc">(bridge::classNamed<ClassName>()), view,
+          bridge::selector<Action>()));
+  made->setDelegate(view);
+  view.addGestureRecognizer(made);
+  return made;
+}
+
+CGFloat distance(CGPoint point, CGRect caret) {
+  const CGFloat y = std::clamp(point.y, caret.origin.y, bottom(caret));
+  return std::hypot(point.x - caret.origin.x, point.y - y);
+}
+
+bool isOver(bridge::UIGestureRecognizer recognizer) {
+  return recognizer.state() == bridge::UIGestureRecognizer::ended ||
+         recognizer.state() == bridge::UIGestureRecognizer::cancelled;
+}
+
+void hideMenu() {
+  const auto menu = bridge::send<bridge::UIMenuController, "sharedMenuController">(
+      bridge::UIMenuController::classObject());
+  bridge::send<void, "setMenuVisible:animated:">(menu, false, true);
+}
+
+}  // namespace
+
+void UITextView::addGestures() {
+  const bridge::UIView view = me();
+  _press = addRecognizer<"UILongPressGestureRecognizer", "textPressed:">(view);
+  _handle = addRecognizer<"UILongPressGestureRecognizer", "selectionEndDragged:">(view);
+  bridge::send<void, "setMinimumPressDuration:">(_handle, 0.0);
+  _tap = addRecognizer<"UITapGestureRecognizer", "textTapped:">(view);
+}
+
+bool UITextView::wantsTouch(bridge::UIGestureRecognizer recognizer, bridge::UITouch touch) const {
+  if (recognizer == _handle) return hasSelectedText() && isNearEnd(touch.locationIn(me()));
+  if (recognizer == _tap) return _selection.has_value();
+  return _isSelectable;
+}
+
+bool UITextView::isNearEnd(CGPoint point) const {
+  const NSRange range = selectedRange();
+  return distance(point, caretAt(range.location)) <= reach ||
+         distance(point, caretAt(range.location + range.length)) <= reach;
+}
+
+void UITextView::selectBetween(std::size_t from, std::size_t to) {
+  select(NSRange{std::min(from, to), std::max(from, to) - std::min(from, to)});
+}
+
+// The unit below a point, where a caret nearest to it may stand behind the unit.
+std::size_t UITextView::unitAt(CGPoint point) const {
+  const std::size_t index = indexAt(point);
+  return index > 0 && caretAt(index).origin.x > point.x ? index - 1 : index;
+}
+
+void UITextView::pressed(bridge::UIGestureRecognizer recognizer) {
+  const NSRange word = wordAt(_text->text, unitAt(recognizer.locationIn(me())));
+  if (recognizer.state() == bridge::UIGestureRecognizer::began) {
+    hideMenu();
+    _pressed = word;
+    bridge::send<bool, "becomeFirstResponder">(self());
+  }
+  if (recognizer.state() != bridge::UIGestureRecognizer::cancelled)
+    selectBetween(std::min(word.location, _pressed.location),
+                  std::max(word.location + word.length, _pressed.location + _pressed.length));
+  if (isOver(recognizer)) showMenu();
+}
+
+void UITextView::tapped(bridge::UIGestureRecognizer) {
+  hideMenu();
+  select(std::nullopt);
+}
+
+// The end that is dragged goes with the finger, to the other side of the fixed one too; at least
+// one unit stays selected.
+void UITextView::dragged(bridge::UIGestureRecognizer recognizer) {
+  const CGPoint point = recognizer.locationIn(me());
+  if (recognizer.state() == bridge::UIGestureRecognizer::began) {
+    const NSRange range = selectedRange();
+    const std::size_t end = range.location + range.length;
+    const bool isFirst = distance(point, caretAt(range.location)) < distance(point, caretAt(end));
+    _fixedEnd = isFirst ? end : range.location;
+    hideMenu();
+    bridge::send<bool, "becomeFirstResponder">(self());
+    return;
+  }
+  const std::size_t index = indexAt(point);
+  if (!isOver(recognizer) && index != _fixedEnd) selectBetween(_fixedEnd, index);
+  if (isOver(recognizer)) showMenu();
+}
+
+void UITextView::showMenu() {
+  const std::vector<CGRect> rects = selectionInSight();
+  CGRect target = rects.empty() ? CGRect{UIView::of(self()).bounds().origin, {1, 1}} : rects[0];
+  for (const CGRect& rect : rects) target = unionOf(target, rect);
+  target = intersection(target, UIView::of(self()).bounds());
+  const auto menu = bridge::send<bridge::UIMenuController, "sharedMenuController">(
+      bridge::UIMenuController::classObject());
+  bridge::send<void, "setTargetRect:inView:">(menu, target, me());
+  bridge::send<void, "setMenuVisible:animated:">(menu, true, true);
+}
+
+}  // namespace desktop::uikit

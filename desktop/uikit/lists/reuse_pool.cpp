@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/lists/reuse_pool.h"
+
+#include <algorithm>
+
+#include "desktop/uikit/views/ui_view.h"
+
+namespace desktop::uikit {
+
+void ReusePool::registerClass(const std::string& identifier, Class aClass) {
+  _classes[identifier] = aClass;
+}
+
+Class ReusePool::classFor(const std::string& identifier) const {
+  const auto found = _classes.find(identifier);
+  return found == _classes.end() ? nullptr : found->second;
+}
+
+void ReusePool::put(const std::string& identifier, const bridge::Owned<bridge::UIView>& view) {
+  _unsettled.push_back(view);
+  if (!identifier.empty()) _waiting[identifier].push_back(view);
+}
+
+bridge::Owned<bridge::UIView> ReusePool::take(const std::string& identifier) {
+  const auto found = _waiting.find(identifier);
+  if (found == _waiting.end() || found->second.empty()) return {};
+  auto view = std::move(found->second.back());
+  found->second.pop_back();
+  return view;
+}
+
+void ReusePool::shown(bridge::UIView view) {
+  std::erase_if(_unsettled, [&](const auto& other) { return other.get() == view; });
+}
+
+void ReusePool::settle(bridge::UIView list) {
+  const auto leaving = std::exchange(_unsettled, {});
+  for (const auto& view : leaving)
+    if (UIView::of(view.get()).superview() == list) view->removeFromSuperview();
+}
+
+}  // namespace desktop::uikit

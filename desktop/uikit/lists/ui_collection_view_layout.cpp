@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/lists/ui_collection_view_layout.h"
+
+#include "bridge/class_builder.h"
+#include "desktop/uikit/lists/ui_collection_view.h"
+
+namespace desktop::uikit {
+
+Class UICollectionViewLayout::classObject() {
+  using Self = UICollectionViewLayout;
+  static const Class made =
+      bridge::ClassBuilder<Self>("UICollectionViewLayout")
+          .method<"collectionView", &Self::collectionView>()
+          .method<"prepareLayout", &Self::prepareLayout>()
+          .method<"collectionViewContentSize", &Self::contentSize>()
+          .method<"layoutAttributesForElementsInRect:", &Self::attributesInRect>()
+          .method<"layoutAttributesForItemAtIndexPath:", &Self::attributesForItem>()
+          .method<"layoutAttributesForSupplementaryViewOfKind:atIndexPath:",
+                  &Self::attributesForSupplementary>()
+          .method<"shouldInvalidateLayoutForBoundsChange:",
+                  &Self::shouldInvalidateForBoundsChange>()
+          .method<"invalidateLayout", &Self::invalidateLayout>()
+          .build();
+  return made;
+}
+
+void UICollectionViewLayout::invalidateLayout() {
+  if (_collectionView) UICollectionView::of(_collectionView).layoutBecameInvalid();
+}
+
+}  // namespace desktop::uikit

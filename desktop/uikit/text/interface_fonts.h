@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+//
+// The fonts that the platform's own views are set in. Sizes are in points.
+#pragma once
+
+#include "desktop/uikit/text/ui_font.h"
+
+namespace desktop::uikit {
+
+inline bridge::UIFont semiboldFont(CGFloat size) {
+  return UIFont::make({.weight = FontWeight::semibold, .size = size});
+}
+inline bridge::UIFont boldFont(CGFloat size) {
+  return UIFont::make({.weight = FontWeight::bold, .size = size});
+}
+
+}  // namespace desktop::uikit

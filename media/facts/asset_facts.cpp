@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "media/facts/asset_facts.h"
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "foundation/paths.h"
+#include "io/byte_source.h"
+#include "media/facts/capture_date.h"
+#include "media/facts/location.h"
+#include "media/image/image_source.h"
+#include "media/image/image_type.h"
+#include "media/movie/media_source.h"
+#include "model/conversions.h"
+
+namespace media::facts {
+
+namespace {
+
+// Orientations 5 to 8 are turned by a quarter. EXIF 2.31, tag 0x0112.
+bool isTurned(std::int64_t orientation) {
+  return orientation >= 5 && orientation <= 8;
+}
+
+std::int64_t integerOf(const model::Dictionary& properties, std::string_view key,
+                       std::int64_t otherwise) {
+  const model::Value* value = model::find(properties, key);
+  return value == nullptr ? otherwise : model::integerValue(*value);
+}
+
+// A length in whole pixels; 0 for what is no number.
+std::int64_t pixels(double length) {
+  return model::integerValue(std::round(std::abs(length)));
+}
+
+void describeStill(AssetFacts& facts, image::ImageFacts image) {
+  model::Dictionary& properties = image.properties;
+  facts.exifOrientation = integerOf(properties, "Orientation", 1);
+  facts.pixelWidth = integerOf(properties, "PixelWidth", 0);
+  facts.pixelHeight = integerOf(properties, "PixelHeight", 0);
+  if (isTurned(facts.exifOrientation)) std::swap(facts.pixelWidth, facts.pixelHeight);
+  facts.creationDate = captureDateOfProperties(properties, image.offsetTimeOriginal)
+                           .value_or(facts.fileModificationDate);
+  facts.location = locationOfProperties(properties);
+  facts.localizedGeoDescription = placeOfProperties(properties);
+  facts.properties = std::move(image.properties);
+}
+
+const model::Track* firstVideoTrack(const model::MediaAsset& asset) {
+  for (const model::Track& track : asset.tracks) {
+    if (track.mediaType == "vide") return &track;
+  }
+  return nullptr;
+}
+
+void describeVideo(AssetFacts& facts, model::MediaAsset asset) {
+  facts.isVideo = true;
+  if (const model::Track* track = firstVideoTrack(asset)) {
+    const auto& [width, height] = track->naturalSize;
+    const model::AffineTransform& matrix = track->preferredTransform;
+    facts.pixelWidth = pixels(width * matrix.a + height * matrix.c);
+    facts.pixelHeight = pixels(width * matrix.b + height * matrix.d);
+  }
+  facts.duration = std::isfinite(asset.duration) ? asset.duration : 0;
+  facts.creationDate = captureDateOfAsset(asset).value_or(facts.fileModificationDate);
+  facts.location = locationOfAsset(asset);
+  facts.asset = std::move(asset);
+}
+
+constexpr std::size_t typeHeadSize = 512;  // bytes that tell what a file is
+
+std::string_view typeOf(io::ByteSource& source, const std::string& path) {
+  std::array<std::uint8_t, typeHeadSize> head{};
+  const auto count = source.readAt(0, head);
+  const auto known = io::ByteView(head).sub(0, count ? *count : 0);
+  return image::uniformTypeIdentifier(known.value_or(io::ByteView()), path);
+}
+
+}  // namespace
+
+model::Result<AssetFacts> readAssetFacts(const std::string& path,
+                                         const foundation::DeviceRoot& root) {
+  const std::string absolute = foundation::absolutePath(path);
+  const std::string onDisk = root.onDisk(absolute);
+  // A path that is not redirected is opened as given: shorter, and independent of the folders
+  // above the working directory.
+  const auto source = io::FileSource::open(onDisk == absolute ? path : onDisk);
+  if (!source) return source.error();
+  if ((*source)->size() == 0) return model::Error{"empty file"};
+  AssetFacts facts;
+  facts.path = root.onDevice(absolute);
+  facts.fileSize = (*source)->size();
+  facts.fileModificationDate = {(*source)->modificationTime()};
+  facts.uniformTypeIdentifier = typeOf(**source, path);
+  auto image = image::readImageFacts(**source);
+  if (!image) return image.error();
+  if (*image) {
+    describeStill(facts, **std::move(image));
+    return facts;
+  }
+  auto asset = movie::copyAssetOfFile(onDisk, **source);
+  if (!asset) return asset.error();
+  if (!*asset) return model::Error{"not a photo or video"};
+  describeVideo(facts, **std::move(asset));
+  return facts;
+}
+
+}  // namespace media::facts

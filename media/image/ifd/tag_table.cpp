@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "media/image/ifd/tag_table.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/utf8.h"
+
+namespace media::image {
+
+namespace {
+
+using ValueAt = std::optional<model::Value> (*)(const TiffField&, std::size_t);
+
+std::optional<model::Value> integerAt(const TiffField& field, std::size_t index) {
+  const auto value = field.integer(index);
+  if (!value) return std::nullopt;
+  if (field.type == FieldType::unsignedLong) {
+    return model::Value(static_cast<std::int32_t>(*value));
+  }
+  return model::Value(*value);
+}
+
+std::optional<model::Value> realAt(const TiffField& field, std::size_t index) {
+  const auto value = field.real(index);
+  return value ? std::optional<model::Value>(*value) : std::nullopt;
+}
+
+// All values of the field; none where there is none, or one that cannot be shown.
+std::optional<model::Value> arrayOf(const TiffField& field, ValueAt valueAt) {
+  if (field.count == 0 || field.count > limits.valuesPerField) return std::nullopt;
+  model::Array values;
+  values.reserve(field.count);
+  for (std::size_t index = 0; index < field.count; ++index) {
+    auto value = valueAt(field, index);
+    if (!value) return std::nullopt;
+    values.push_back(*std::move(value));
+  }
+  return model::Value(std::move(values));
+}
+
+std::optional<model::Value> oneOrArrayOf(const TiffField& field, ValueAt valueAt) {
+  return field.count == 1 ? valueAt(field, 0) : arrayOf(field, valueAt);
+}
+
+const TagRow* rowOf(std::span<const TagRow> rows, std::uint16_t tag) {
+  const auto row = std::ranges::lower_bound(rows, tag, {}, &TagRow::tag);
+  return row != rows.end() && row->tag == tag ? &*row : nullptr;
+}
+
+}  // namespace
+
+void readTags(TiffStructure& structure, const Ifd& ifd, std::span<const TagRow> rows,
+              std::string_view sectionName, model::Dictionary& properties) {
+  model::Dictionary read;
+  for (const IfdEntry& entry : ifd.entries) {
+    const TagRow* row = rowOf(rows, entry.tag);
+    if (!row || read.contains(row->key)) continue;
+    const auto field = structure.field(entry);
+    auto value = field ? row->valueOf(*field) : std::nullopt;
+    if (value) read.emplace(row->key, *std::move(value));
+  }
+  if (read.empty()) return;
+  auto [entry, isNew] = properties.try_emplace(std::string(sectionName));
+  if (const model::Dictionary* known = entry->second.asDictionary()) {
+    read.insert(known->begin(), known->end());
+  }
+  entry->second = std::move(read);
+}
+
+std::optional<model::Value> integerValue(const TiffField& field) {
+  return oneOrArrayOf(field, isInteger(field.type) ? integerAt : realAt);
+}
+
+std::optional<model::Value> integerArray(const TiffField& field) {
+  return arrayOf(field, isInteger(field.type) ? integerAt : realAt);
+}
+
+std::optional<model::Value> firstInteger(const TiffField& field) {
+  return integerAt(field, 0);
+}
+
+std::optional<model::Value> realValue(const TiffField& field) {
+  return oneOrArrayOf(field, realAt);
+}
+
+std::optional<model::Value> textValue(const TiffField& field) {
+  if (!isTextLike(field.type) || field.count == 0) return std::nullopt;
+  return model::Value(model::utf8OrLatin1(field.text()));
+}
+
+}  // namespace media::image

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "media/movie/ffmpeg/demuxer.h"
+
+extern "C" {
+#include <libavutil/log.h>
+#include <libavutil/mem.h>
+}
+
+namespace media::movie {
+
+namespace {
+
+constexpr int bufferSize = 64 << 10;  // bytes
+
+// The options of opening; FFmpeg takes out what it uses.
+class Options {
+ public:
+  explicit Options(const char* containers) {
+    av_dict_set(&_options, "format_whitelist", containers, 0);
+    av_dict_set(&_options, "protocol_whitelist", "none", 0);
+    av_dict_set(&_options, "probesize", "1000000", 0);        // bytes
+    av_dict_set(&_options, "formatprobesize", "65536", 0);    // bytes
+    av_dict_set(&_options, "analyzeduration", "2000000", 0);  // microseconds
+  }
+  ~Options() { av_dict_free(&_options); }
+  Options(const Options&) = delete;
+  Options& operator=(const Options&) = delete;
+
+  AVDictionary** get() { return &_options; }
+
+ private:
+  AVDictionary* _options = nullptr;
+};
+
+}  // namespace
+
+Demuxer::Demuxer(io::ByteSource& source, const DemuxerLimits& limits)
+    : _source(source), _deadline(std::chrono::steady_clock::now() + limits.time) {}
+
+std::unique_ptr<Demuxer> Demuxer::open(const char* name, io::ByteSource& source,
+                                       const DemuxerLimits& limits) {
+  av_log_set_level(AV_LOG_QUIET);
+  av_max_alloc(limits.largestAllocation);
+  std::unique_ptr<Demuxer> demuxer(new Demuxer(source, limits));
+  if (!demuxer->openInput(name, limits.containers)) return nullptr;
+  return demuxer;
+}
+
+Demuxer::~Demuxer() {
+  avformat_close_input(&_context);
+  if (_io != nullptr) av_freep(&_io->buffer);
+  avio_context_free(&_io);
+}
+
+bool Demuxer::openInput(const char* name, const char* containers) {
+  auto* buffer = static_cast<std::uint8_t*>(av_malloc(bufferSize));
+  if (buffer == nullptr) return false;
+  _io = avio_alloc_context(buffer, bufferSize, 0, this, read, nullptr, seek);
+  if (_io == nullptr) av_free(buffer);
+  _context = avformat_alloc_context();
+  if (_io == nullptr || _context == nullptr) return false;
+  _context->pb = _io;
+  _context->interrupt_callback = {isInterrupted, this};
+  Options options(containers);
+  // A failed opening frees the context itself.
+  return avformat_open_input(&_context, name, nullptr, options.get()) == 0 &&
+         avformat_find_stream_info(_context, nullptr) >= 0;
+}
+
+int Demuxer::read(void* opaque, std::uint8_t* bytes, int length) {
+  auto& self = *static_cast<Demuxer*>(opaque);
+  if (length <= 0 || self.isLate()) return AVERROR_EXIT;
+  const auto count = self._source.readAt(self._offset, {bytes, static_cast<std::size_t>(length)});
+  if (!count) return AVERROR(EIO);
+  if (*count == 0) return AVERROR_EOF;
+  self._offset += *count;
+  return static_cast<int>(*count);
+}
+
+std::int64_t Demuxer::seek(void* opaque, std::int64_t offset, int whence) {
+  auto& self = *static_cast<Demuxer*>(opaque);
+  const auto size = static_cast<std::int64_t>(self._source.size());
+  if ((whence & AVSEEK_SIZE) != 0) return size;
+  std::int64_t target = offset;
+  const int base = whence & ~AVSEEK_FORCE;
+  if (base == SEEK_CUR) target += static_cast<std::int64_t>(self._offset);
+  if (base == SEEK_END) target += size;
+  if (target < 0) return AVERROR(EINVAL);
+  self._offset = static_cast<std::uint64_t>(target);
+  return target;
+}
+
+int Demuxer::isInterrupted(void* opaque) {
+  return static_cast<Demuxer*>(opaque)->isLate() ? 1 : 0;
+}
+
+}  // namespace media::movie

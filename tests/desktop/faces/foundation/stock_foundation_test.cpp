@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+//
+// Each correction is there because Foundation, left alone, answers otherwise. Should a later
+// version answer right, this says which correction may go.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "bridge/foundation.h"
+#include "tests/desktop/faces/foundation/answers.h"
+
+namespace desktop::faces {
+namespace {
+
+TEST(StockFoundation, NeedsEachCorrection) {
+  setenv("TZ", "Europe/Berlin", 1);
+  const bridge::AutoreleasePool pool;
+  const Class zones = bridge::classNamed<"NSTimeZone">();
+  const auto berlin =
+      bridge::send<id, "timeZoneWithName:">(zones, bridge::NSString::make("Europe/Berlin"));
+  bridge::send<void, "setDefaultTimeZone:">(zones, berlin);
+  for (const Answer& answer : answers())
+    EXPECT_NE(answer.ask(), answer.expected) << answer.question;
+}
+
+}  // namespace
+}  // namespace desktop::faces

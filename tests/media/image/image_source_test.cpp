@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+//
+// The way in, and what every container has in common: files that are cut, damaged or cannot be read
+// give an error or less, and cost little.
+#include "media/image/image_source.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+
+#include "io/source_reader.h"
+#include "tests/media/image/container_builder.h"
+#include "tests/media/image/heif_builder.h"
+
+namespace media::image {
+namespace {
+
+using namespace std::string_literals;
+
+struct Sample {
+  const char* name;
+  std::string bytes;
+};
+
+// A file of every container with every block that it can hold, the blocks behind so much coded
+// data that they lie outside the head of the file.
+std::vector<Sample> samples(std::size_t padding) {
+  const std::string exif = exifBlock("Maker", 6);
+  const std::string xmp = xmpPacket("<photoshop:City>Kingston</photoshop:City>");
+  const std::string profile = iccProfile("Display P3");
+  const std::string iptc = photoshopResource(0x0404, iptcDataset(2, 5, "title"));
+  std::string fill;
+  for (std::size_t left = padding; left > 0; left -= std::min<std::size_t>(left, 60'000)) {
+    fill += jpegSegment(0xEB, std::string(std::min<std::size_t>(left, 60'000), 'f'));
+  }
+  HeifToWrite heif;
+  heif.primary = 4;
+  heif.items = {
+      {.id = 1, .type = "hvc1", .bytes = "coded", .properties = {1}},
+      {.id = 2, .type = "Exif", .bytes = heifExifItem(exif)},
+      {.id = 3, .type = "mime", .contentType = "application/rdf+xml", .bytes = xmp},
+      {.id = 4, .type = "grid", .bytes = "\0\0\0\0\0\x08\0\6"s, .properties = {2}},
+  };
+  heif.properties = {heifExtents(512, 512), heifIccColors(profile)};
+  heif.references = {{"cdsc", 2, {4}}, {"cdsc", 3, {4}}, {"dimg", 4, {1}}};
+  heif.padding = padding;
+  heif.hasMetaAtEnd = true;
+  return {
+      {"JPEG", jpegFile(fill + jpegSegment(0xE1, "Exif\0\0"s + exif) +
+                        jpegSegment(0xE1, "http://ns.adobe.com/xap/1.0/\0"s + xmp) +
+                        jpegSegment(0xE2, "ICC_PROFILE\0\1\1"s + profile) +
+                        jpegSegment(0xED, "Photoshop 3.0\0"s + iptc) + jpegFrame(8, 6))
+                   .substr(0, padding + fill.size() + 5000)},
+      {"PNG", pngFile(pngChunk("IDAT", std::string(padding, 'c')) + pngChunk("eXIf", exif) +
+                      pngChunk("iTXt", "XML:com.adobe.xmp\0\0\0\0\0"s + xmp) +
+                      pngChunk("iCCP", "any\0\0"s + deflated(profile)))},
+      {"HEIF", heifFile(heif)},
+      {"WebP", webpFile(riffChunk("VP8X", "\x2C\0\0\0\7\0\0\5\0\0"s) +
+                        riffChunk("VP8 ", std::string(padding, 'c')) + riffChunk("ICCP", profile) +
+                        riffChunk("EXIF", exif) + riffChunk("XMP ", xmp))},
+      {"GIF", "GIF89a\x08\0\6\0\0\0\0"s + gifXmp(xmp) + "\x2C"},
+      {"TIFF", exif},
+  };
+}
+
+double millisecondsOf(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+      .count();
+}
+
+TEST(ImageSource, whatIsNoImageHasNoProperties) {
+  for (const std::string& bytes :
+       {"some text"s, "\0"s, isoBox("ftyp", "qt  \0\0\0\0"s) + isoBox("moov", ""),
+        isoBox("moov", ""), "\x1A\x45\xDF\xA3"s, "RIFF\0\0\0\0AVI "s, std::string(1000, '\xFF')}) {
+    EXPECT_EQ(errorOf(bytes), "none") << testing::PrintToString(bytes.substr(0, 16));
+  }
+  EXPECT_EQ(errorOf(""), "empty file");
+}
+
+TEST(ImageSource, samplesHoldWhatTheTestsBelowDestroy) {
+  for (const Sample& sample : samples(66'000)) {
+    if (sample.name == "TIFF"s) continue;
+    const auto properties = propertiesOf(sample.bytes);
+    EXPECT_TRUE(entry(properties, "", "PixelWidth")) << sample.name;
+    EXPECT_TRUE(entry(properties, "{IPTC}", "City")) << sample.name;
+    if (sample.name == "GIF"s) continue;
+    EXPECT_TRUE(entry(properties, "{TIFF}", "Make")) << sample.name;
+    EXPECT_TRUE(entry(properties, "", "ProfileName")) << sample.name;
+  }
+}
+
+TEST(ImageSource, aReadThatFailsAnywhereIsAnErrorOrWasNotNeeded) {
+  for (const Sample& sample : samples(66'000)) {
+    const std::string whole = errorOf(sample.bytes);
+    for (const auto failure :
+         {io::FailingSource::Failure::error, io::FailingSource::Failure::shortRead}) {
+      for (std::size_t offset = 0; offset < sample.bytes.size();
+           offset += offset < io::SourceReader::headSize ? io::SourceReader::headSize / 4 : 1) {
+        io::FailingSource source(bytesOf(sample.bytes), offset, failure);
+        const auto properties = copyProperties(source);
+        if (!properties) {
+          EXPECT_FALSE(properties.error().reason.empty());
+          continue;
+        }
+        EXPECT_TRUE(whole.empty() && *properties) << sample.name << " " << offset;
+      }
+    }
+  }
+}
+
+TEST(ImageSource, aFileCutAnywhereGivesAnErrorOrLess) {
+  for (const Sample& sample : samples(100)) {
+    for (std::size_t length = 1; length < sample.bytes.size(); ++length) {
+      io::MemorySource source(bytesOf(std::string_view(sample.bytes).substr(0, length)));
+      const auto properties = copyProperties(source);
+      if (!properties) {
+        EXPECT_TRUE(properties.error().reason.starts_with("truncated ") ||
+                    properties.error().reason.starts_with("damaged ") ||
+                    properties.error().reason == "TIFF without an image")
+            << sample.name << " " << length << " " << properties.error().reason;
+      } else if (*properties) {
+        EXPECT_TRUE(entry(**properties, "", "PixelWidth")) << sample.name << " " << length;
+      }
+    }
+  }
+}
+
+TEST(ImageSource, anyByteMayHaveAnyValue) {
+  for (const Sample& sample : samples(100)) {
+    for (std::size_t offset = 0; offset < sample.bytes.size(); ++offset) {
+      for (const char byte : {'\0', '\1', '\x7F', '\x80', '\xFF'}) {
+        std::string damaged = sample.bytes;
+        damaged[offset] = byte;
+        io::MemorySource source(bytesOf(damaged));
+        const auto properties = copyProperties(source);
+        if (properties && *properties) {
+          EXPECT_TRUE(entry(**properties, "", "PixelWidth")) << sample.name << " " << offset;
+        }
+      }
+    }
+  }
+}
+
+TEST(ImageSource, anyFourBytesMayBeAnyNumber) {
+  for (const Sample& sample : samples(100)) {
+    for (std::size_t offset = 0; offset + 4 <= sample.bytes.size(); ++offset) {
+      for (const std::uint32_t number : {0xFFFFFFFFU, 0x7FFFFFFFU, 0x80000000U, 1U}) {
+        std::string damaged = sample.bytes;
+        damaged.replace(offset, 4, bigEndian(number, 4));
+        io::MemorySource source(bytesOf(damaged));
+        const auto properties = copyProperties(source);
+        if (properties && *properties) {
+          EXPECT_TRUE(entry(**properties, "", "PixelWidth")) << sample.name << " " << offset;
+        }
+      }
+    }
+  }
+}
+
+// Generous, so that a loaded machine or a sanitizer does not fail it; what it guards against takes
+// seconds or for ever.
+TEST(ImageSource, largeHostileFilesCostLittleTime) {
+  const std::string xmpHead = "http://ns.adobe.com/xap/1.0/\0"s;
+  std::string chunks;
+  for (int index = 0; index < 100'000; ++index) chunks += pngChunk("tEXt", "Title\0x"s);
+  std::string boxes = isoBox("ftyp", "heic\0\0\0\0"s);
+  for (int index = 0; index < 1'000'000; ++index) boxes += isoBox("free", "");
+  std::string segments;
+  for (int index = 0; index < 2000; ++index) {
+    segments += jpegSegment(0xE1, "http://ns.adobe.com/xmp/extension/\0"s + std::string(32, 'A') +
+                                      bigEndian(~0U, 4) + bigEndian(0, 4) + "x");
+  }
+  std::string fill;
+  fill.resize(30'000'000, '\xFF');
+  const Sample hostile[] = {
+      {"chunks", pngFile(chunks)},
+      {"boxes", boxes},
+      {"segments",
+       jpegFile(jpegSegment(0xE1, xmpHead + xmpPacket("")) + segments + jpegFrame(8, 6))},
+      {"fill bytes", "\xFF\xD8" + fill},
+  };
+  for (const Sample& each : hostile) {
+    const auto bytes = bytesOf(each.bytes);
+    const double time = millisecondsOf([&] {
+      io::MemorySource source(bytes);
+      const auto properties = copyProperties(source);
+      EXPECT_TRUE(!properties || *properties) << each.name;
+    });
+    EXPECT_LT(time, 1000) << each.name;
+  }
+}
+
+}  // namespace
+}  // namespace media::image
