@@ -8,7 +8,7 @@
 #include "apps/lumifact/options.h"
 #include "foundation/device_root.h"
 #include "foundation/locale.h"
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 #include "model/key_order.h"
 
 namespace lumifact::tool {

@@ -6,7 +6,7 @@
 #include <system_error>
 #include <utility>
 
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 
 namespace lumifact::tool {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 #include "model/geometry.h"
 
 namespace lumifact {

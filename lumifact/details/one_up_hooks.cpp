@@ -3,7 +3,7 @@
 
 #include "bridge/guard.h"
 #include "lumifact/details/one_up_state.h"
-#include "lumifact/loader/current_settings.h"
+#include "lumifact/state/current_settings.h"
 
 namespace lumifact {
 namespace {

@@ -5,7 +5,7 @@
 #include "lumifact/assets/file_names.h"
 #include "lumifact/details/data_parser_class.h"
 #include "lumifact/details/map_link.h"
-#include "lumifact/loader/current_settings.h"
+#include "lumifact/state/current_settings.h"
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_view_controller.h"
 

@@ -4,7 +4,7 @@
 #include "bridge/guard.h"
 #include "lumifact/details/one_up_state.h"
 #include "lumifact/details/report_page.h"
-#include "lumifact/loader/current_settings.h"
+#include "lumifact/state/current_settings.h"
 
 namespace lumifact {
 namespace {

@@ -8,9 +8,9 @@
 
 #include "bridge/foundation.h"
 #include "bridge/guard.h"
-#include "lumifact/loader/current_settings.h"
-#include "lumifact/loader/file_size_cache.h"
 #include "lumifact/loader/hook_table.h"
+#include "lumifact/state/current_settings.h"
+#include "lumifact/state/file_size_cache.h"
 
 namespace lumifact {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 
 namespace lumifact::tool {
 namespace {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "lumifact/details/one_up_state.h"
-#include "lumifact/loader/current_settings.h"
+#include "lumifact/state/current_settings.h"
 #include "tests/desktop/uikit/stage_test.h"
 #include "tests/lumifact/details/one_up_host.h"
 #include "tests/lumifact/views/foundation_test.h"

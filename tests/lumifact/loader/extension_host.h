@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 
 namespace lumifact::host {
 

@@ -4,8 +4,8 @@
 #include "tests/lumifact/loader/probe.h"
 
 #include "lumifact/details/data_parser_class.h"
-#include "lumifact/loader/current_settings.h"
 #include "lumifact/loader/hook_table.h"
+#include "lumifact/state/current_settings.h"
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_pop_up_view_controller.h"
 #include "lumifact/views/lumifact_text_view.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "bridge/hook.h"
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 
 namespace lumifact::host {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

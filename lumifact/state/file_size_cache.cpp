@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/loader/file_size_cache.h"
+#include "lumifact/state/file_size_cache.h"
 
 #include "bridge/foundation.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/loader/current_settings.h"
+#include "lumifact/state/current_settings.h"
 
 #include "bridge/convert.h"
 #include "bridge/foundation.h"

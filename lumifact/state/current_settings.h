@@ -5,7 +5,7 @@
 #pragma once
 
 #include "bridge/corefoundation.h"
-#include "lumifact/loader/settings.h"
+#include "lumifact/state/settings.h"
 
 namespace lumifact {
 
