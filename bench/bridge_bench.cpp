@@ -31,13 +31,12 @@ class Counter : public Bound<Counter, NSObject> {
   int _sum = 0;
 };
 
-Stock<int(id, SEL, int)> stockAdd;
 int BenchCounter_addHooked(id self, SEL command, int amount) {
-  return stockAdd(self, command, amount);
+  return stock<&BenchCounter_addHooked>(self, command, amount);
 }
 
 constinit const HookRow table[] = {
-    replaced<"BenchCounter", "addHooked:", &BenchCounter_addHooked, stockAdd>,
+    replaced<"BenchCounter", "addHooked:", &BenchCounter_addHooked>,
 };
 
 Owned<NSObject> makeCounter() {

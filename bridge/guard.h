@@ -18,7 +18,7 @@ void logCaught(const char* reason) noexcept;
 // Runs a hook's own work. Whatever leaves it, an exception of ours or one that the host raises at
 // something we asked of it, is logged, and the answer is the zero of the work's result.
 //
-//   stockLayoutSubviews(self, command);
+//   stock<&layOutCell>(self, command);
 //   guarded([&] { placeBadge(HostCell(self)); });
 template <typename Work>
 auto guarded(Work&& work) noexcept -> std::invoke_result_t<Work> {

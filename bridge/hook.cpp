@@ -5,7 +5,7 @@
 
 namespace bridge {
 
-void applyHooks(std::span<const HookRow> rows) {
+void applyHooks(HookList rows) {
   std::string_view className;
   Class aClass = nullptr;
   for (const HookRow& row : rows) {

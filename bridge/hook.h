@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// Methods of the host that are replaced, and methods that are added to its classes: a constant
-// table of rows, applied in one loop.
+// Methods of the host that are replaced, and methods that are added to its classes. A hook is one
+// constant row of class, selector and C function; the function's signature is the method's own.
 //
-//   Stock<void(id, SEL)> stockLayoutSubviews;
-//   void HostCell_layoutSubviews(id self, SEL command) { stockLayoutSubviews(self, command); ... }
+//   void layOutCell(id self, SEL command) { stock<&layOutCell>(self, command); ... }
+//   id cellBadge(id self, SEL) { ... }
 //
-//   constinit const HookRow table[] = {
-//       replaced<"HostCell", "layoutSubviews", &HostCell_layoutSubviews, stockLayoutSubviews>,
-//       added<"HostCell", "badge", "@@:", &HostCell_badge>,
+//   constinit const HookRow cellHooks[] = {
+//       replaced<"HostCell", "layoutSubviews", &layOutCell>,
+//       added<"HostCell", "badge", "@@:", &cellBadge>,
 //   };
 #pragma once
 
@@ -40,10 +40,15 @@ class Stock<R(id, SEL, Arguments...)> {
   IMP _saved = nullptr;
 };
 
+// What the function of a row replaced. There is one for each function: a function stands in one
+// row.
+template <auto Hook>
+inline constinit Stock<std::remove_pointer_t<decltype(Hook)>> stock;
+
 enum class HookKind { replaced, added };
 
 // One method. `apply` does what the row says to the class; the row itself holds no cast function
-// pointer, so that a table of rows is a constant.
+// pointer, so that a list of rows is a constant.
 struct HookRow {
   const char* className;
   const char* selector;
@@ -52,22 +57,23 @@ struct HookRow {
   void (*apply)(Class aClass, const HookRow& row);
 };
 
+using HookList = std::span<const HookRow>;
+
 namespace hook_detail {
 
-template <typename Function>
-struct Signature;
+template <typename Signature>
+struct Method;
 template <typename R, typename... Arguments>
-struct Signature<R (*)(id, SEL, Arguments...)> {
-  using Type = R(id, SEL, Arguments...);
+struct Method<R(id, SEL, Arguments...)> {
   static constexpr std::size_t arguments = sizeof...(Arguments);
   static constexpr bool isLowered =
       std::same_as<R, Lowered<R>> && (... && std::same_as<Arguments, Lowered<Arguments>>);
 };
 
-template <auto Hook, auto& Saved>
+template <auto Hook>
 void applyReplaced(Class aClass, const HookRow& row) {
   MSHookMessageEx(aClass, sel_registerName(row.selector), reinterpret_cast<IMP>(Hook),
-                  Saved.slot());
+                  stock<Hook>.slot());
 }
 
 template <auto Hook>
@@ -76,45 +82,40 @@ void applyAdded(Class aClass, const HookRow& row) {
                   row.encoding);
 }
 
+// The encoding of the function, once it is known to be one that the runtime may call.
 template <FixedString Selector, auto Hook>
-constexpr bool checked() {
-  using Traits = Signature<decltype(Hook)>;
-  static_assert(Traits::isLowered,
+constexpr const auto& checkedEncoding() {
+  using Signature = std::remove_pointer_t<decltype(Hook)>;
+  static_assert(Method<Signature>::isLowered,
                 "A hook is called by the runtime: it takes ids and BOOLs, no handles or bools.");
-  static_assert(Traits::arguments == argumentCount(Selector.view()),
+  static_assert(Method<Signature>::arguments == argumentCount(Selector.view()),
                 "A hook takes one argument for each colon of its selector.");
-  return true;
+  return Encoding<Signature>::text;
 }
 
-template <FixedString ClassName, FixedString Selector, auto Hook, auto& Saved>
+template <FixedString ClassName, FixedString Selector, auto Hook>
 constexpr HookRow replacedRow() {
-  using Type = typename Signature<decltype(Hook)>::Type;
-  static_assert(checked<Selector, Hook>());
-  static_assert(std::same_as<std::remove_reference_t<decltype(Saved)>, Stock<Type>>,
-                "The saved implementation has the signature of the hook.");
-  return {ClassName.text, Selector.text, HookKind::replaced, Encoding<Type>::text.text,
-          &applyReplaced<Hook, Saved>};
+  return {ClassName.text, Selector.text, HookKind::replaced, checkedEncoding<Selector, Hook>().text,
+          &applyReplaced<Hook>};
 }
 
 template <FixedString ClassName, FixedString Selector, FixedString StatedEncoding, auto Hook>
 constexpr HookRow addedRow() {
-  using Type = typename Signature<decltype(Hook)>::Type;
-  static_assert(checked<Selector, Hook>());
-  static_assert(encodingOf<Type> == StatedEncoding.view(),
+  static_assert(checkedEncoding<Selector, Hook>().view() == StatedEncoding.view(),
                 "The stated encoding is that of the added method.");
   return {ClassName.text, Selector.text, HookKind::added, StatedEncoding.text, &applyAdded<Hook>};
 }
 
 }  // namespace hook_detail
 
-template <FixedString ClassName, FixedString Selector, auto Hook, auto& Saved>
-inline constexpr HookRow replaced = hook_detail::replacedRow<ClassName, Selector, Hook, Saved>();
+template <FixedString ClassName, FixedString Selector, auto Hook>
+inline constexpr HookRow replaced = hook_detail::replacedRow<ClassName, Selector, Hook>();
 
 template <FixedString ClassName, FixedString Selector, FixedString StatedEncoding, auto Hook>
 inline constexpr HookRow added = hook_detail::addedRow<ClassName, Selector, StatedEncoding, Hook>();
 
 // Applies the rows in order. Rows of one class that stand together share one look-up; the rows of
 // a class that does not exist are passed over, and no row's failure stops another.
-void applyHooks(std::span<const HookRow> rows);
+void applyHooks(HookList rows);
 
 }  // namespace bridge

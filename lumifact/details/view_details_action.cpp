@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/details/view_details_action.h"
-
 #include "bridge/guard.h"
+#include "lumifact/details/details_hooks.h"
 #include "lumifact/details/one_up_state.h"
 #include "lumifact/details/report_page.h"
 #include "lumifact/state/current_settings.h"
@@ -9,16 +8,7 @@
 namespace lumifact {
 namespace {
 
-using bridge::Block;
-using bridge::NSIndexPath;
-using bridge::NSString;
-using bridge::Object;
-using bridge::PHAsset;
-using bridge::PUAssetReference;
-using bridge::PUOneUpViewController;
-using bridge::UIAlertAction;
-using bridge::UIAlertController;
-using bridge::UIViewController;
+constexpr FixedString errorAlertMessage = "LXErrorAlert:";
 
 void presentAlert(UIViewController over, NSString message) {
   const auto alert =
@@ -28,22 +18,26 @@ void presentAlert(UIViewController over, NSString message) {
   over.present(alert, UIViewController::animated, {});
 }
 
-// Says what went wrong, and with what.
+// Says what went wrong.
+void report(PUOneUpViewController controller, NSString text) {
+  send<void, errorAlertMessage>(controller, text);
+}
+
+// The same, and with what.
 void report(PUOneUpViewController controller, std::string_view message, Object subject) {
-  const NSString text = NSString::make(message).appending(bridge::printed(subject));
-  bridge::send<void, "LXErrorAlert:">(controller, text);
+  report(controller, NSString::make(message).appending(printed(subject)));
 }
 
 bool isLongPressTurnedOff(Object sender) {
   return !settings.useLongPressPhoto &&
-         isKindOf(sender, bridge::UILongPressGestureRecognizer::classObject());
+         isKindOf(sender, UILongPressGestureRecognizer::classObject());
 }
 
 // The page in a navigation controller that looks like the single-photo view's own.
 void presentPage(PUOneUpViewController controller, UIViewController page) {
-  const auto navigation = bridge::UINavigationController::withRoot(page);
-  const bridge::UINavigationBar own = controller.navigationController().navigationBar();
-  const bridge::UINavigationBar bar = navigation->navigationBar();
+  const auto navigation = UINavigationController::withRoot(page);
+  const UINavigationBar own = controller.navigationController().navigationBar();
+  const UINavigationBar bar = navigation->navigationBar();
   bar.setBarStyle(own.barStyle());
   bar.setTintColor(own.tintColor());
   controller.present(navigation, UIViewController::animated, Block<void()>([] {}));
@@ -62,23 +56,26 @@ void showDetails(PUOneUpViewController controller, Object sender) {
   const auto& layout = oneUpState().tilingLayout;
   if (isLongPressTurnedOff(sender) || !layout) return;
   const NSIndexPath path = layout->indexPathOfCurrentItem();
-  if (!path)
-    return bridge::send<void, "LXErrorAlert:">(controller,
-                                               NSString::make("Could not find indexPath"));
+  if (!path) return report(controller, NSString::make("Could not find indexPath"));
   const PUAssetReference reference = controller.assetReferenceAt(path, layout);
-  const auto asset = bridge::as<PHAsset>(reference.asset());
+  const auto asset = as<PHAsset>(reference.asset());
   if (!asset) return report(controller, "Could not find assetRef\n", reference);
   showDetailsOf(controller, asset);
 }
 
+void errorAlert(id self, SEL, id message) {
+  guarded([&] { presentAlert(UIViewController(self), NSString(message)); });
+}
+
+void viewExifData(id self, SEL, id sender) {
+  guarded([&] { showDetails(PUOneUpViewController(self), Object(sender)); });
+}
+
 }  // namespace
 
-void PUOneUpViewController_LXErrorAlert(id self, SEL, id message) {
-  bridge::guarded([&] { presentAlert(UIViewController(self), NSString(message)); });
-}
-
-void PUOneUpViewController_LXViewExifData(id self, SEL, id sender) {
-  bridge::guarded([&] { showDetails(PUOneUpViewController(self), Object(sender)); });
-}
+constinit const HookRow viewDetailsHooks[] = {
+    added<"PUOneUpViewController", errorAlertMessage, "v@:@", &errorAlert>,
+    added<"PUOneUpViewController", "LXViewExifData:", "v@:@", &viewExifData>,
+};
 
 }  // namespace lumifact

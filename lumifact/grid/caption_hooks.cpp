@@ -1,38 +1,52 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/grid/caption_hooks.h"
+#include "bridge/geometry.h"
+#include "lumifact/grid/grid_hooks.h"
 
 namespace lumifact {
+namespace {
 
-constinit bridge::Stock<id(id, SEL, CGRect)> stockPUPhotosGridCell_initWithFrame;
-id PUPhotosGridCell_initWithFrame(id self, SEL command, CGRect frame) {
-  return stockPUPhotosGridCell_initWithFrame(self, command, frame);
+id initCell(id self, SEL command, CGRect frame) {
+  return stock<&initCell>(self, command, frame);
 }
 
-constinit bridge::Stock<void(id, SEL)> stockPUPhotosGridCell_layoutSubviews;
-void PUPhotosGridCell_layoutSubviews(id self, SEL command) {
-  stockPUPhotosGridCell_layoutSubviews(self, command);
+void layOutCell(id self, SEL command) {
+  stock<&layOutCell>(self, command);
 }
 
-id PUPhotosGridCell_sizeLabelView(id, SEL) {
+id sizeLabelView(id, SEL) {
   return nullptr;
 }
 
-void PUPhotosGridCell_setSizeLabelView(id, SEL, id) {}
+void setSizeLabelView(id, SEL, id) {}
 
-id PUPhotosGridCell_sizeLabel(id, SEL) {
+id sizeLabel(id, SEL) {
   return nullptr;
 }
 
-void PUPhotosGridCell_setSizeLabel(id, SEL, id) {}
+void setSizeLabel(id, SEL, id) {}
 
-constinit bridge::Stock<void(id, SEL)> stockPUPhotoViewContentHelper_layoutSubviewsOfContentView;
-void PUPhotoViewContentHelper_layoutSubviewsOfContentView(id self, SEL command) {
-  stockPUPhotoViewContentHelper_layoutSubviewsOfContentView(self, command);
+void layOutContentView(id self, SEL command) {
+  stock<&layOutContentView>(self, command);
 }
 
-constinit bridge::Stock<id(id, SEL, id, id)> stockPUPhotosGridViewController_cellForItem;
-id PUPhotosGridViewController_cellForItem(id self, SEL command, id collectionView, id indexPath) {
-  return stockPUPhotosGridViewController_cellForItem(self, command, collectionView, indexPath);
+id cellForItem(id self, SEL command, id collectionView, id indexPath) {
+  return stock<&cellForItem>(self, command, collectionView, indexPath);
 }
+
+}  // namespace
+
+constinit const HookRow captionHooks[] = {
+    replaced<"PUPhotosGridCell", "initWithFrame:", &initCell>,
+    replaced<"PUPhotosGridCell", "layoutSubviews", &layOutCell>,
+    added<"PUPhotosGridCell", "sizeLabelView", "@@:", &sizeLabelView>,
+    added<"PUPhotosGridCell", "setSizeLabelView:", "v@:@", &setSizeLabelView>,
+    added<"PUPhotosGridCell", "sizeLabel", "@@:", &sizeLabel>,
+    added<"PUPhotosGridCell", "setSizeLabel:", "v@:@", &setSizeLabel>,
+    replaced<"PUPhotoViewContentHelper", "layoutSubviewsOfContentView", &layOutContentView>,
+};
+
+constinit const HookRow shownCaptionHooks[] = {
+    replaced<"PUPhotosGridViewController", "collectionView:cellForItemAtIndexPath:", &cellForItem>,
+};
 
 }  // namespace lumifact

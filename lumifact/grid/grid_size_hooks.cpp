@@ -1,26 +1,34 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/grid/grid_size_hooks.h"
+#include "bridge/geometry.h"
+#include "lumifact/grid/grid_hooks.h"
 
 namespace lumifact {
+namespace {
 
-constinit bridge::Stock<CGSize(id, SEL, NSInteger)>
-    stockPUSectionedGridLayout_layoutItemSizeForColumn;
-CGSize PUSectionedGridLayout_layoutItemSizeForColumn(id self, SEL command, NSInteger column) {
-  return stockPUSectionedGridLayout_layoutItemSizeForColumn(self, command, column);
+CGSize itemSizeForColumn(id self, SEL command, NSInteger column) {
+  return stock<&itemSizeForColumn>(self, command, column);
 }
 
-constinit bridge::Stock<void(id, SEL, CGSize)> stockPUSectionedGridLayout_setItemSize;
-void PUSectionedGridLayout_setItemSize(id self, SEL command, CGSize size) {
-  stockPUSectionedGridLayout_setItemSize(self, command, size);
+void setItemSize(id self, SEL command, CGSize size) {
+  stock<&setItemSize>(self, command, size);
 }
 
-constinit bridge::Stock<void(id, SEL)> stockPUPhotosAlbumViewController_updateGlobalFooter;
-void PUPhotosAlbumViewController_updateGlobalFooter(id self, SEL command) {
-  stockPUPhotosAlbumViewController_updateGlobalFooter(self, command);
+void updateFooter(id self, SEL command) {
+  stock<&updateFooter>(self, command);
 }
 
-void PUPhotosAlbumViewController_LFChangeGridsize(id, SEL, id) {}
+void changeGridSize(id, SEL, id) {}
 
-void PUPhotosAlbumViewController_addGridSizeButton(id, SEL) {}
+void addGridSizeButton(id, SEL) {}
+
+}  // namespace
+
+constinit const HookRow gridSizeHooks[] = {
+    replaced<"PUSectionedGridLayout", "layoutItemSizeForColumn:", &itemSizeForColumn>,
+    replaced<"PUSectionedGridLayout", "setItemSize:", &setItemSize>,
+    replaced<"PUPhotosAlbumViewController", "updateGlobalFooter", &updateFooter>,
+    added<"PUPhotosAlbumViewController", "LFChangeGridsize:", "v@:@", &changeGridSize>,
+    added<"PUPhotosAlbumViewController", "addGridSizeButton", "v@:", &addGridSizeButton>,
+};
 
 }  // namespace lumifact

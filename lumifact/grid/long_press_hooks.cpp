@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/grid/long_press_hooks.h"
+#include "lumifact/grid/grid_hooks.h"
 
 namespace lumifact {
+namespace {
 
-void PUPhotosGridViewController_lumifactLongPress(id, SEL, id) {}
+void longPress(id, SEL, id) {}
 
-constinit bridge::Stock<void(id, SEL)> stockPUPhotosGridViewController_viewDidLoad;
-void PUPhotosGridViewController_viewDidLoad(id self, SEL command) {
-  stockPUPhotosGridViewController_viewDidLoad(self, command);
+void gridDidLoad(id self, SEL command) {
+  stock<&gridDidLoad>(self, command);
 }
+
+}  // namespace
+
+constinit const HookRow longPressHooks[] = {
+    added<"PUPhotosGridViewController", "lumifactLongPress:", "v@:@", &longPress>,
+    replaced<"PUPhotosGridViewController", "viewDidLoad", &gridDidLoad>,
+};
 
 }  // namespace lumifact

@@ -1,32 +1,40 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/grid/selection_hooks.h"
+#include "lumifact/grid/grid_hooks.h"
 
 namespace lumifact {
+namespace {
 
-constinit bridge::Stock<void(id, SEL, id)> stockUINavigationBarLargeTitleView_setTitle;
-void UINavigationBarLargeTitleView_setTitle(id self, SEL command, id title) {
-  stockUINavigationBarLargeTitleView_setTitle(self, command, title);
+void setLargeTitle(id self, SEL command, id title) {
+  stock<&setLargeTitle>(self, command, title);
 }
 
-constinit bridge::Stock<void(id, SEL, id)> stockUINavigationBarContentView_setTitle;
-void UINavigationBarContentView_setTitle(id self, SEL command, id title) {
-  stockUINavigationBarContentView_setTitle(self, command, title);
+void setBarTitle(id self, SEL command, id title) {
+  stock<&setBarTitle>(self, command, title);
 }
 
-constinit bridge::Stock<void(id, SEL, id)>
-    stockPUPhotosGridViewController_handleSwipeSelectionGesture;
-void PUPhotosGridViewController_handleSwipeSelectionGesture(id self, SEL command, id gesture) {
-  stockPUPhotosGridViewController_handleSwipeSelectionGesture(self, command, gesture);
+void handleSwipe(id self, SEL command, id gesture) {
+  stock<&handleSwipe>(self, command, gesture);
 }
 
-constinit bridge::Stock<void(id, SEL, BOOL, BOOL)> stockPUPhotosGridViewController_setEditing;
-void PUPhotosGridViewController_setEditing(id self, SEL command, BOOL editing, BOOL animated) {
-  stockPUPhotosGridViewController_setEditing(self, command, editing, animated);
+void setEditing(id self, SEL command, BOOL editing, BOOL animated) {
+  stock<&setEditing>(self, command, editing, animated);
 }
 
-constinit bridge::Stock<id(id, SEL)> stockPUPhotosGridViewController_localizedSelectionTitle;
-id PUPhotosGridViewController_localizedSelectionTitle(id self, SEL command) {
-  return stockPUPhotosGridViewController_localizedSelectionTitle(self, command);
+id localizedSelectionTitle(id self, SEL command) {
+  return stock<&localizedSelectionTitle>(self, command);
 }
+
+}  // namespace
+
+constinit const HookRow barTitleHooks[] = {
+    replaced<"_UINavigationBarLargeTitleView", "setTitle:", &setLargeTitle>,
+    replaced<"_UINavigationBarContentView", "setTitle:", &setBarTitle>,
+};
+
+constinit const HookRow selectionHooks[] = {
+    replaced<"PUPhotosGridViewController", "_handleSwipeSelectionGesture:", &handleSwipe>,
+    replaced<"PUPhotosGridViewController", "setEditing:animated:", &setEditing>,
+    replaced<"PUPhotosGridViewController", "localizedSelectionTitle", &localizedSelectionTitle>,
+};
 
 }  // namespace lumifact

@@ -1,26 +1,32 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/grid/visibility_hooks.h"
+#include "lumifact/grid/grid_hooks.h"
 
 namespace lumifact {
+namespace {
 
-constinit bridge::Stock<void(id, SEL, BOOL)> stockPUAlbumListViewController_viewWillAppear;
-void PUAlbumListViewController_viewWillAppear(id self, SEL command, BOOL animated) {
-  stockPUAlbumListViewController_viewWillAppear(self, command, animated);
+void albumListWillAppear(id self, SEL command, BOOL animated) {
+  stock<&albumListWillAppear>(self, command, animated);
 }
 
-constinit bridge::Stock<void(id, SEL, BOOL)> stockPUAlbumListViewController_viewWillDisappear;
-void PUAlbumListViewController_viewWillDisappear(id self, SEL command, BOOL animated) {
-  stockPUAlbumListViewController_viewWillDisappear(self, command, animated);
+void albumListWillDisappear(id self, SEL command, BOOL animated) {
+  stock<&albumListWillDisappear>(self, command, animated);
 }
 
-constinit bridge::Stock<void(id, SEL, BOOL)> stockPUPhotosPanoramaViewController_viewWillAppear;
-void PUPhotosPanoramaViewController_viewWillAppear(id self, SEL command, BOOL animated) {
-  stockPUPhotosPanoramaViewController_viewWillAppear(self, command, animated);
+void panoramaWillAppear(id self, SEL command, BOOL animated) {
+  stock<&panoramaWillAppear>(self, command, animated);
 }
 
-constinit bridge::Stock<void(id, SEL, BOOL)> stockPUPhotosPanoramaViewController_viewWillDisappear;
-void PUPhotosPanoramaViewController_viewWillDisappear(id self, SEL command, BOOL animated) {
-  stockPUPhotosPanoramaViewController_viewWillDisappear(self, command, animated);
+void panoramaWillDisappear(id self, SEL command, BOOL animated) {
+  stock<&panoramaWillDisappear>(self, command, animated);
 }
+
+}  // namespace
+
+constinit const HookRow visibilityHooks[] = {
+    replaced<"PUAlbumListViewController", "viewWillAppear:", &albumListWillAppear>,
+    replaced<"PUAlbumListViewController", "viewWillDisappear:", &albumListWillDisappear>,
+    replaced<"PUPhotosPanoramaViewController", "viewWillAppear:", &panoramaWillAppear>,
+    replaced<"PUPhotosPanoramaViewController", "viewWillDisappear:", &panoramaWillDisappear>,
+};
 
 }  // namespace lumifact

@@ -4,10 +4,11 @@
 #pragma once
 
 #include "bridge/hook.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
-// The rows in the order in which they are applied.
-std::span<const bridge::HookRow> hookTable();
+// The rooms' lists in the order in which they are applied.
+std::span<const HookList> hookTable();
 
 }  // namespace lumifact

@@ -15,31 +15,29 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSString;
-
 void observeSettingsChanges() {
   CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), nullptr,
                                   &settingsChanged,
-                                  bridge::toCFString(NSString::make(settingsChangedNotification)),
-                                  nullptr, bridge::suspensionBehaviourCoalesce);
+                                  toCFString(NSString::make(settingsChangedNotification)), nullptr,
+                                  suspensionBehaviourCoalesce);
 }
 
 // The camera maps the photo classes only when it shows a photo, which is too late for the hooks.
 void loadPhotoClasses() {
-  const NSString host = bridge::NSBundle::mainBundle().bundleIdentifier();
+  const NSString host = NSBundle::mainBundle().bundleIdentifier();
   if (host.isEqualToString(NSString::make("com.apple.camera")))
     dlopen("/System/Library/Frameworks/PhotosUI.framework/PhotosUI", RTLD_LAZY);
 }
 
 void installHooks() {
-  bridge::applyHooks(hookTable());
+  for (const HookList rows : hookTable()) applyHooks(rows);
 }
 
 __attribute__((constructor)) void initialise() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   for (const auto step : {&createFileSizeCache, &loadSettings, &observeSettingsChanges,
                           &loadPhotoClasses, &installHooks})
-    bridge::guarded(step);
+    guarded(step);
 }
 
 }  // namespace

@@ -23,6 +23,8 @@ Class hostCell() {
     ClassMaker("HostBase")
         .method(
             "title", +[](id, SEL) { return 1; })
+        .method(
+            "level", +[](id, SEL) { return 3; })
         .method("raising", &victims::raise)
         .build();
     ClassMaker("HostSibling", "HostBase").build();
@@ -37,23 +39,24 @@ Class hostCell() {
   return made;
 }
 
-Stock<void(id, SEL, double)> stockSetSize;
 id lastSelf = nullptr;
 void HostCell_setSize(id self, SEL command, double size) {
   lastSelf = self;
-  stockSetSize(self, command, size);
+  stock<&HostCell_setSize>(self, command, size);
   guarded([&] { steps.emplace_back("own"); });
 }
 
-Stock<int(id, SEL)> stockTitle;
 int HostCell_title(id self, SEL command) {
-  return 10 * stockTitle(self, command);
+  return 10 * stock<&HostCell_title>(self, command);
 }
 
-Stock<void(id, SEL)> stockRaising;
+int HostCell_level(id self, SEL command) {
+  return 100 * stock<&HostCell_level>(self, command);
+}
+
 void HostCell_raising(id self, SEL command) {
   guarded([] { throw std::runtime_error("own failure"); });
-  stockRaising(self, command);
+  stock<&HostCell_raising>(self, command);
 }
 
 int HostCell_existing(id, SEL) {
@@ -63,20 +66,24 @@ id HostCell_itself(id self, SEL) {
   return self;
 }
 
-Stock<void(id, SEL)> stockNothing;
 void Nobody_nothing(id self, SEL command) {
-  stockNothing(self, command);
+  stock<&Nobody_nothing>(self, command);
+}
+
+void HostCell_noSuchMethod(id self, SEL command) {
+  stock<&HostCell_noSuchMethod>(self, command);
 }
 
 constinit const HookRow table[] = {
-    replaced<"HostCell", "setSize:", &HostCell_setSize, stockSetSize>,
-    replaced<"HostCell", "title", &HostCell_title, stockTitle>,
-    replaced<"NobodyHasThisClass", "nothing", &Nobody_nothing, stockNothing>,
+    replaced<"HostCell", "setSize:", &HostCell_setSize>,
+    replaced<"HostCell", "title", &HostCell_title>,
+    replaced<"NobodyHasThisClass", "nothing", &Nobody_nothing>,
     added<"NobodyHasThisClass", "itself", "@@:", &HostCell_itself>,
-    replaced<"HostCell", "noSuchMethod", &Nobody_nothing, stockNothing>,
-    replaced<"HostCell", "raising", &HostCell_raising, stockRaising>,
+    replaced<"HostCell", "noSuchMethod", &HostCell_noSuchMethod>,
+    replaced<"HostCell", "raising", &HostCell_raising>,
     added<"HostCell", "existing", "i@:", &HostCell_existing>,
     added<"HostCell", "itself", "@@:", &HostCell_itself>,
+    replaced<"HostCell", "level", &HostCell_level>,
 };
 
 class HookTest : public testing::Test {
@@ -99,6 +106,11 @@ TEST_F(HookTest, ReplacementSeesReceiverAndArgumentsAndCallsOn) {
   send<void, "setSize:">(cell, 2.5);
   EXPECT_EQ(Object(lastSelf), cell.get());
   EXPECT_EQ(steps, (std::vector<std::string>{"host 2.500000", "own"}));
+}
+
+TEST_F(HookTest, EachHookKeepsWhatItReplaced) {
+  EXPECT_EQ((send<int, "title">(cell)), 10);
+  EXPECT_EQ((send<int, "level">(cell)), 300);
 }
 
 TEST_F(HookTest, HookingAnInheritedMethodLeavesSiblingsAlone) {

@@ -35,9 +35,8 @@ class Companion : public Bound<Companion, NSObject> {
 
 constinit AssociatedProperty<NSObject> companion;
 
-Stock<int(id, SEL)> stockValue;
 int HostThing_value(id self, SEL command) {
-  const int value = stockValue(self, command);
+  const int value = stock<&HostThing_value>(self, command);
   if (!companion.get(Object(self))) {
     const auto made = Owned<NSObject>::adopt(send<NSObject, "new">(Companion::classObject()));
     companion.set(Object(self), made);
@@ -45,10 +44,9 @@ int HostThing_value(id self, SEL command) {
   return value + send<int, "answer">(companion.get(Object(self)));
 }
 
-Stock<void(id, SEL, const BlockHeader*)> stockRun;
 void HostThing_run(id self, SEL command, const BlockHeader* done) {
   logDebug("HookingExtension", 1, "running");
-  stockRun(self, command, done);
+  stock<&HostThing_run>(self, command, done);
 }
 
 int HostThing_extra(id, SEL, int number) {
@@ -65,8 +63,8 @@ void noteChange(CFNotificationCenterRef, void*, CFStringRef, const void*, CFDict
 }
 
 constinit const HookRow table[] = {
-    replaced<"HostThing", "value", &HostThing_value, stockValue>,
-    replaced<"HostThing", "run:", &HostThing_run, stockRun>,
+    replaced<"HostThing", "value", &HostThing_value>,
+    replaced<"HostThing", "run:", &HostThing_run>,
     added<"HostThing", "extra:", "i@:i", &HostThing_extra>,
     added<"HostThing", "notified", "i@:", &HostThing_notified>,
 };

@@ -10,7 +10,7 @@ namespace desktop::photos_ui {
 namespace {
 
 using bridge::replaced;
-using bridge::Stock;
+using bridge::stock;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -23,48 +23,39 @@ void note(SEL command) {
   calls().emplace_back(sel_getName(command));
 }
 
-constinit Stock<id(id, SEL)> stockInit;
-constinit Stock<void(id, SEL)> stockViewDidLoad;
-constinit Stock<void(id, SEL, id)> stockSetTilingView;
-constinit Stock<void(id, SEL, BOOL)> stockViewWillAppear;
-constinit Stock<void(id, SEL, BOOL)> stockViewWillDisappear;
-constinit Stock<void(id, SEL)> stockUpdateBars;
-
 id Layout_init(id self, SEL command) {
   note(command);
-  return stockInit(self, command);
+  return stock<&Layout_init>(self, command);
 }
 void OneUp_viewDidLoad(id self, SEL command) {
   note(command);
-  stockViewDidLoad(self, command);
+  stock<&OneUp_viewDidLoad>(self, command);
 }
 void OneUp_setTilingView(id self, SEL command, id view) {
-  stockSetTilingView(self, command, view);
+  stock<&OneUp_setTilingView>(self, command, view);
   note(command);
   EXPECT_EQ(bridge::objectField(bridge::Object(self), "_tilingView"), bridge::Object(view));
 }
 void OneUp_viewWillAppear(id self, SEL command, BOOL animated) {
   note(command);
-  stockViewWillAppear(self, command, animated);
+  stock<&OneUp_viewWillAppear>(self, command, animated);
 }
 void OneUp_viewWillDisappear(id self, SEL command, BOOL animated) {
   note(command);
-  stockViewWillDisappear(self, command, animated);
+  stock<&OneUp_viewWillDisappear>(self, command, animated);
 }
 void Bars_updateBars(id self, SEL command) {
   note(command);
-  stockUpdateBars(self, command);
+  stock<&Bars_updateBars>(self, command);
 }
 
 constinit const bridge::HookRow rows[] = {
-    replaced<"PUOneUpTilingLayout", "init", &Layout_init, stockInit>,
-    replaced<"PUOneUpViewController", "viewDidLoad", &OneUp_viewDidLoad, stockViewDidLoad>,
-    replaced<"PUOneUpViewController", "_setTilingView:", &OneUp_setTilingView, stockSetTilingView>,
-    replaced<"PUOneUpViewController", "viewWillAppear:", &OneUp_viewWillAppear,
-             stockViewWillAppear>,
-    replaced<"PUOneUpViewController", "viewWillDisappear:", &OneUp_viewWillDisappear,
-             stockViewWillDisappear>,
-    replaced<"PUOneUpBarsController", "updateBars", &Bars_updateBars, stockUpdateBars>,
+    replaced<"PUOneUpTilingLayout", "init", &Layout_init>,
+    replaced<"PUOneUpViewController", "viewDidLoad", &OneUp_viewDidLoad>,
+    replaced<"PUOneUpViewController", "_setTilingView:", &OneUp_setTilingView>,
+    replaced<"PUOneUpViewController", "viewWillAppear:", &OneUp_viewWillAppear>,
+    replaced<"PUOneUpViewController", "viewWillDisappear:", &OneUp_viewWillDisappear>,
+    replaced<"PUOneUpBarsController", "updateBars", &Bars_updateBars>,
 };
 
 class OneUpOrderTest : public OneUpTest {

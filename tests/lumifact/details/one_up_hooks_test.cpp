@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/details/one_up_hooks.h"
-
 #include <gmock/gmock.h>
 
 #include "tests/lumifact/details/one_up_test.h"

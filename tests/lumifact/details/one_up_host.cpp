@@ -77,8 +77,8 @@ void registerOthers() {
 
 // Host methods are hooked as in life: by the rows of the table.
 void applyRows() {
-  for (const bridge::HookRow& row : hookTable())
-    if (std::string_view(row.className).starts_with("PUOneUp")) bridge::applyHooks({&row, 1});
+  for (const bridge::HookList rows : hookTable())
+    if (std::string_view(rows.front().className).starts_with("PUOneUp")) bridge::applyHooks(rows);
 }
 
 }  // namespace

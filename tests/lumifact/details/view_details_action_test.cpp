@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "lumifact/details/view_details_action.h"
-
 #include <gmock/gmock.h>
 
 #include "lumifact/views/lf_presenter.h"

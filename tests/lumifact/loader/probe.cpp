@@ -20,12 +20,20 @@ std::vector<Class> ownClasses() {
           LumifactViewController::classObject()};
 }
 
+// All rows of the hook table, in their order.
+std::vector<bridge::HookRow> hookRows() {
+  std::vector<bridge::HookRow> rows;
+  for (const bridge::HookList list : lumifact::hookTable())
+    rows.insert(rows.end(), list.begin(), list.end());
+  return rows;
+}
+
 }  // namespace
 
 extern "C" __attribute__((visibility("default"))) const lumifact::host::Probe* extensionProbe();
 
 extern "C" const lumifact::host::Probe* extensionProbe() {
   static const lumifact::host::Probe probe = {lumifact::settings, lumifact::infoLineHeight,
-                                              lumifact::hookTable(), &ownClasses};
+                                              hookRows(), &ownClasses};
   return &probe;
 }

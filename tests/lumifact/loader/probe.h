@@ -3,7 +3,6 @@
 // A window into a loaded extension, for tests: what it keeps to itself in life.
 #pragma once
 
-#include <span>
 #include <vector>
 
 #include "bridge/hook.h"
@@ -14,7 +13,7 @@ namespace lumifact::host {
 struct Probe {
   const Settings& settings;
   const double& infoLineHeight;
-  std::span<const bridge::HookRow> rows;
+  std::vector<bridge::HookRow> rows;
   // The extension's own classes, registered by the call; nil where the superclass is missing.
   std::vector<Class> (*ownClasses)();
 };
