@@ -9,10 +9,6 @@
 namespace lumifact {
 namespace {
 
-using bridge::AutoreleasePool;
-using bridge::NSMutableDictionary;
-using bridge::NSString;
-
 // The order in which the platform shows keys.
 int compareAsShown(std::string_view left, std::string_view right) {
   const AutoreleasePool pool;
@@ -32,7 +28,7 @@ std::optional<std::string> textOf(id string) {
 
 Class DataParserClass::classObject() {
   static const Class made =
-      bridge::ClassBuilder<DataParserClass>("DataParser")
+      ClassBuilder<DataParserClass>("DataParser")
           .classMethod<"parseDataToString:mapCoordinates:", &DataParserClass::parseDataToString>()
           .classMethod<"parseAVURLAsset:toDataAndString:mapCoordinates:",
                        &DataParserClass::parseAVURLAsset>()
@@ -42,18 +38,18 @@ Class DataParserClass::classObject() {
 
 NSString DataParserClass::parseDataToString(id* data, id* mapCoordinates) {
   const NSMutableDictionary properties(*data);
-  const model::Value read = bridge::toValue(properties);
+  const model::Value read = toValue(properties);
   const model::Dictionary before = read.asDictionary() ? *read.asDictionary() : model::Dictionary();
   model::Dictionary after = before;
   std::optional<std::string> coordinates;
   const std::string text = DataParser::parseDataToString(after, coordinates, compareAsShown);
-  bridge::writeChanges(properties, before, after);
+  writeChanges(properties, before, after);
   handOut(coordinates, mapCoordinates);
   return NSString::make(text);
 }
 
-NSString DataParserClass::parseAVURLAsset(bridge::AVURLAsset asset, id*, id* mapCoordinates) {
-  const model::MediaAsset media = bridge::toMediaAsset(asset);
+NSString DataParserClass::parseAVURLAsset(AVURLAsset asset, id*, id* mapCoordinates) {
+  const model::MediaAsset media = toMediaAsset(asset);
   model::Dictionary untouched;
   std::optional<std::string> coordinates;
   const std::string text =
@@ -65,16 +61,16 @@ NSString DataParserClass::parseAVURLAsset(bridge::AVURLAsset asset, id*, id* map
 Report reportOfImage(NSMutableDictionary properties) {
   id data = properties.get();
   id coordinates = nullptr;
-  const auto text = bridge::send<NSString, "parseDataToString:mapCoordinates:">(
+  const auto text = send<NSString, "parseDataToString:mapCoordinates:">(
       DataParserClass::classObject(), &data, &coordinates);
   return {text, textOf(coordinates)};
 }
 
-Report reportOfVideo(bridge::AVURLAsset asset) {
-  const auto data = bridge::makeNew<NSMutableDictionary>();
+Report reportOfVideo(AVURLAsset asset) {
+  const auto data = makeNew<NSMutableDictionary>();
   id dataObject = data->get();
   id coordinates = nullptr;
-  const auto text = bridge::send<NSString, "parseAVURLAsset:toDataAndString:mapCoordinates:">(
+  const auto text = send<NSString, "parseAVURLAsset:toDataAndString:mapCoordinates:">(
       DataParserClass::classObject(), asset, &dataObject, &coordinates);
   return {text, textOf(coordinates)};
 }

@@ -6,13 +6,9 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSString;
-using bridge::NSURL;
-using bridge::PHAsset;
-
 void open(ItemFile& file, NSURL url) {
-  file.source = bridge::openImageSource(url);
-  file.path = bridge::Owned<NSString>::retain(url.path());
+  file.source = openImageSource(url);
+  file.path = Owned<NSString>::retain(url.path());
 }
 
 NSURL largePreview(NSURL mediumPreview) {
@@ -29,16 +25,14 @@ void openPreview(ItemFile& file, PHAsset asset) {
   }
 }
 
-std::string dateText(bridge::NSDate date) {
-  using bridge::NSDateFormatter;
-  if (!date) return bridge::printed({}).utf8();
+std::string dateText(NSDate date) {
+  if (!date) return printed({}).utf8();
   return NSDateFormatter::localizedString(date, NSDateFormatter::mediumStyle,
                                           NSDateFormatter::mediumStyle)
       .utf8();
 }
 
 std::string sizeText(unsigned long long bytes) {
-  using bridge::NSByteCountFormatter;
   return NSByteCountFormatter::string(static_cast<long long>(bytes),
                                       NSByteCountFormatter::fileStyle)
       .utf8();
@@ -54,7 +48,7 @@ ItemFile openItemFile(PHAsset asset) {
 }
 
 FileFacts factsOf(NSString path, PHAsset asset) {
-  const auto attributes = bridge::NSFileManager::defaultManager().attributesOfItem(path);
+  const auto attributes = NSFileManager::defaultManager().attributesOfItem(path);
   return {
       .path = shownPath(path.utf8()),
       .fileDate = dateText(attributes.fileModificationDate()),

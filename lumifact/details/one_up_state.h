@@ -5,18 +5,19 @@
 #pragma once
 
 #include "bridge/photos.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
 struct OneUpState {
   // From the view's loading until it goes away; nil for one that is presented for preview.
-  bridge::Owned<bridge::PUOneUpViewController> controller;
+  Owned<PUOneUpViewController> controller;
   // Made anew for every view that is loaded.
-  bridge::Owned<bridge::UIButton> detailsButton;
-  bridge::Owned<bridge::UIBarButtonItem> detailsItem;
-  bridge::Owned<bridge::UIBarButtonItem> spacer;
+  Owned<UIButton> detailsButton;
+  Owned<UIBarButtonItem> detailsItem;
+  Owned<UIBarButtonItem> spacer;
   // The one that was made last, for good.
-  bridge::Owned<bridge::PUOneUpTilingLayout> tilingLayout;
+  Owned<PUOneUpTilingLayout> tilingLayout;
 };
 
 OneUpState& oneUpState();

@@ -12,18 +12,12 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSDictionary;
-using bridge::NSString;
-using bridge::Owned;
-using bridge::PHAsset;
-using bridge::UIViewController;
-
 constexpr std::int32_t asText = 1;  // the viewType of the text page; any other is the table's
 
 std::optional<model::Location> locationOf(PHAsset asset) {
-  const bridge::CLLocation location = asset.location();
+  const CLLocation location = asset.location();
   if (!location) return std::nullopt;
-  const bridge::CLLocationCoordinate2D place = location.coordinate();
+  const CLLocationCoordinate2D place = location.coordinate();
   return model::Location{.latitude = place.latitude, .longitude = place.longitude};
 }
 
@@ -40,16 +34,16 @@ Owned<UIViewController> textPage(const Report& report, const FileFacts& facts, P
 
 Owned<UIViewController> tablePage(const Report& report, NSDictionary tableData,
                                   const FileFacts& facts, PHAsset asset) {
-  const auto record = bridge::toObject(fileSummaryRecord(facts));
+  const auto record = toObject(fileSummaryRecord(facts));
   return LumifactViewController::make({.tableData = tableData,
-                                       .extraData = bridge::copy(NSDictionary(record->get())).get(),
+                                       .extraData = copy(NSDictionary(record->get())).get(),
                                        .mapType = settings.mapType,
                                        .mapLink = mapLinkOf(report, asset),
                                        .title = NSString::make(fileName(facts.path))});
 }
 
 Owned<UIViewController> imagePage(NSDictionary properties, const FileFacts& facts, PHAsset asset) {
-  const auto tableData = bridge::mutableCopy(properties);
+  const auto tableData = mutableCopy(properties);
   const Report report = reportOfImage(tableData);
   if (settings.viewType == asText) return textPage(report, facts, asset);
   return tablePage(report, tableData.get(), facts, asset);
@@ -58,11 +52,11 @@ Owned<UIViewController> imagePage(NSDictionary properties, const FileFacts& fact
 }  // namespace
 
 Owned<UIViewController> makeReportPage(PHAsset asset, const ItemFile& file) {
-  const auto properties = bridge::copyImageProperties(file.source);
+  const auto properties = copyImageProperties(file.source);
   const FileFacts facts = factsOf(file.path, asset);
   if (properties) return imagePage(properties, facts, asset);
   if (!asset.isVideo()) return {};
-  return textPage(reportOfVideo(bridge::AVURLAsset::withURL(asset.mainFileURL())), facts, asset);
+  return textPage(reportOfVideo(AVURLAsset::withURL(asset.mainFileURL())), facts, asset);
 }
 
 }  // namespace lumifact

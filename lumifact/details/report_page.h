@@ -4,12 +4,13 @@
 #pragma once
 
 #include "lumifact/details/item_file.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
 // A page for an item and its file: text, or a table where viewType says so and the item is a still.
 // Nil where the file holds no image and the item is no video.
 // REQUIRES: the file is open.
-bridge::Owned<bridge::UIViewController> makeReportPage(bridge::PHAsset asset, const ItemFile& file);
+Owned<UIViewController> makeReportPage(PHAsset asset, const ItemFile& file);
 
 }  // namespace lumifact

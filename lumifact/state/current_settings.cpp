@@ -5,6 +5,7 @@
 #include "bridge/foundation.h"
 #include "bridge/guard.h"
 #include "bridge/uikit.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
@@ -13,15 +14,12 @@ constinit double infoLineHeight = 16;
 
 namespace {
 
-using bridge::NSMutableDictionary;
-using bridge::NSString;
-
 // What the file says of our keys. Whatever else it holds is left alone.
 model::Dictionary knownEntries(NSMutableDictionary file) {
   model::Dictionary entries;
   for (const SettingRow& row : settingRows()) {
-    if (const bridge::Object value = file.at(NSString::make(row.key)))
-      entries.emplace(row.key, bridge::toValue(value));
+    if (const Object value = file.at(NSString::make(row.key)))
+      entries.emplace(row.key, toValue(value));
   }
   return entries;
 }
@@ -35,25 +33,24 @@ Settings readSettings() {
 
 // The widest digits, the "x" of a pixel size, a comma and letters that reach below the line.
 void measureInfoLine() {
-  if (!bridge::UIFont::classObject()) return;
-  const auto attributes = bridge::makeNew<NSMutableDictionary>();
-  attributes->set(bridge::UIFont::systemFont(12.0), bridge::fontAttributeName());
-  const CGSize size =
-      bridge::sizeWithAttributes(NSString::make("0000x0000, mgj"), attributes.get());
+  if (!UIFont::classObject()) return;
+  const auto attributes = makeNew<NSMutableDictionary>();
+  attributes->set(UIFont::systemFont(12.0), fontAttributeName());
+  const CGSize size = sizeWithAttributes(NSString::make("0000x0000, mgj"), attributes.get());
   infoLineHeight = infoLineHeightFor(size.height);
 }
 
 }  // namespace
 
 void loadSettings() {
-  bridge::guarded([] { settings = readSettings(); });
-  bridge::guarded([] { measureInfoLine(); });
+  guarded([] { settings = readSettings(); });
+  guarded([] { measureInfoLine(); });
 }
 
 void settingsChanged(CFNotificationCenterRef, void*, CFStringRef name, const void*,
                      CFDictionaryRef) {
-  bridge::guarded([name] {
-    const NSString posted(bridge::fromCFString(name).get());
+  guarded([name] {
+    const NSString posted(fromCFString(name).get());
     if (posted.isEqualToString(NSString::make(settingsChangedNotification))) loadSettings();
   });
 }

@@ -2,16 +2,13 @@
 #include "lumifact/state/file_size_cache.h"
 
 #include "bridge/foundation.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 namespace {
 
-using bridge::NSCache;
-using bridge::NSNumber;
-using bridge::NSString;
-
-bridge::Owned<NSCache>& slot() {
-  static auto& kept = *new bridge::Owned<NSCache>;
+Owned<NSCache>& slot() {
+  static auto& kept = *new Owned<NSCache>;
   return kept;
 }
 
@@ -27,7 +24,7 @@ void store(std::string_view uuid, std::int32_t lowBits) {
 }  // namespace
 
 void createFileSizeCache() {
-  slot() = bridge::makeNew<NSCache>();
+  slot() = makeNew<NSCache>();
 }
 
 FileSizeCacheAccess fileSizeCache() {

@@ -3,22 +3,18 @@
 
 namespace lumifact {
 
-using bridge::NSMutableAttributedString;
-using bridge::NSString;
-using bridge::Owned;
-
-Owned<NSMutableAttributedString> hangingText(NSString text, bridge::UIFont font, CGFloat spacing,
+Owned<NSMutableAttributedString> hangingText(NSString text, UIFont font, CGFloat spacing,
                                              CGFloat headIndent) {
   const NSString shown = text ? text : NSString::make("");
   const NSRange all = {0, shown.length()};
-  const auto style = bridge::makeNew<bridge::NSMutableParagraphStyle>();
+  const auto style = makeNew<NSMutableParagraphStyle>();
   style->setParagraphSpacing(spacing);
   style->setParagraphSpacingBefore(0.0);
   style->setFirstLineHeadIndent(0.0);
   style->setHeadIndent(headIndent);
   auto attributed = NSMutableAttributedString::withString(shown);
-  if (font) attributed->addAttribute(bridge::fontAttributeName(), font, all);
-  attributed->addAttribute(bridge::paragraphStyleAttributeName(), style, all);
+  if (font) attributed->addAttribute(fontAttributeName(), font, all);
+  attributed->addAttribute(paragraphStyleAttributeName(), style, all);
   return attributed;
 }
 

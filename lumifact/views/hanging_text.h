@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/uikit/ui_appearance.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
@@ -16,8 +17,7 @@ constexpr float headIndentFor(std::int32_t fontSize) {
 // The text in one font, its paragraphs `spacing` points apart; what does not fit on a paragraph's
 // first line begins `headIndent` points further right. Nil is shown as an empty text, and without a
 // font in the platform's own.
-bridge::Owned<bridge::NSMutableAttributedString> hangingText(bridge::NSString text,
-                                                             bridge::UIFont font, CGFloat spacing,
-                                                             CGFloat headIndent);
+Owned<NSMutableAttributedString> hangingText(NSString text, UIFont font, CGFloat spacing,
+                                             CGFloat headIndent);
 
 }  // namespace lumifact

@@ -8,15 +8,6 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSObject;
-using bridge::NSString;
-using bridge::Owned;
-using bridge::UIBarButtonItem;
-using bridge::UIColor;
-using bridge::UIImage;
-using bridge::UITextView;
-using bridge::UIViewController;
-
 constexpr CGFloat paragraphSpacing = 1.0;
 constexpr CGFloat borderWhite = 210.0 / 255.0;
 
@@ -26,7 +17,7 @@ constexpr const char* deselectTitle = " Deselect";
 // Whether the selection is all of the text; of an empty text it always is, as long as there is a
 // selection.
 bool isAllSelected(UITextView view) {
-  const bridge::UITextRange range = view.selectedTextRange();
+  const UITextRange range = view.selectedTextRange();
   if (!range) return false;
   const NSInteger start = view.offset(view.beginningOfDocument(), range.start());
   const NSInteger length = view.offset(range.start(), range.end());
@@ -37,7 +28,7 @@ bool isAllSelected(UITextView view) {
 
 Class LFPresenter::classObject() {
   static const Class made =
-      bridge::ClassBuilder<LFPresenter>("LFPresenter")
+      ClassBuilder<LFPresenter>("LFPresenter")
           .conformsTo("UITextViewDelegate")
           .method<"initWithMessage:mapString:offsetHeight:fontSize:",
                   &LFPresenter::initWithMessage>()
@@ -54,8 +45,8 @@ Class LFPresenter::classObject() {
 Owned<UIViewController> LFPresenter::make(NSString message, NSString mapLink,
                                           std::int32_t offsetHeight, std::int32_t fontSize) {
   return Owned<UIViewController>::adopt(
-      bridge::send<UIViewController, "initWithMessage:mapString:offsetHeight:fontSize:">(
-          bridge::send<id, "alloc">(classObject()), message, mapLink, offsetHeight, fontSize));
+      send<UIViewController, "initWithMessage:mapString:offsetHeight:fontSize:">(
+          send<id, "alloc">(classObject()), message, mapLink, offsetHeight, fontSize));
 }
 
 UIViewController LFPresenter::initWithMessage(NSString message, NSString mapString,
@@ -67,7 +58,7 @@ UIViewController LFPresenter::initWithMessage(NSString message, NSString mapStri
   _mapString = Owned<NSString>::retain(mapString);
   _dismissButton = makeDismissButton(self());
   _selectButton = UIBarButtonItem::withTitle(NSString::make(selectTitle), UIBarButtonItem::plain,
-                                             self(), bridge::selector<"selectButtonTouched:">());
+                                             self(), selector<"selectButtonTouched:">());
   return self();
 }
 
@@ -81,30 +72,30 @@ void LFPresenter::viewDidLoad() {
 }
 
 void LFPresenter::showBarItems() const {
-  const bridge::UINavigationItem item = self().navigationItem();
+  const UINavigationItem item = self().navigationItem();
   item.setRightBarButtonItems(rightBarItems(_selectButton, _mapString, self()));
-  item.setLeftBarButtonItems(bridge::NSArray::of(_dismissButton.get()));
+  item.setLeftBarButtonItems(NSArray::of(_dismissButton.get()));
 }
 
 void LFPresenter::makeTextView() {
-  _textView = bridge::makeNew<UITextView>();
-  _textView->setFont(bridge::UIFont::named(NSString::make("Courier"), _fontSize));
+  _textView = makeNew<UITextView>();
+  _textView->setFont(UIFont::named(NSString::make("Courier"), _fontSize));
   _textView->setDelegate(self());
   _textView->setClipsToBounds(true);
-  _textView->setTextAlignment(bridge::alignLeft);
+  _textView->setTextAlignment(alignLeft);
   _textView->setBackgroundColor(UIColor::white(1.0, 1.0));
   _textView->setTranslatesAutoresizingMaskIntoConstraints(false);
 }
 
 void LFPresenter::showText() const {
-  const bridge::UIFont font = bridge::UIFont::named(NSString::make("Courier"), _fontSize);
+  const UIFont font = UIFont::named(NSString::make("Courier"), _fontSize);
   _textView->setAttributedText(
       hangingText(_messageText, font, paragraphSpacing, headIndentFor(_fontSize)).get());
   // A border of no width: its colour is there for whoever gives it one.
   _textView->layer().setBorderColor(UIColor::white(borderWhite, 1.0).cgColor());
   _textView->setFrame({{0, 0}, self().view().frame().size});
   _textView->setEditable(false);
-  _textView->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  _textView->setAutoresizingMask(flexibleWidth | flexibleHeight);
   self().view().addSubview(_textView);
 }
 

@@ -9,13 +9,6 @@
 namespace lumifact {
 namespace {
 
-using bridge::Block;
-using bridge::NSString;
-using bridge::Owned;
-using bridge::UIBezierPath;
-using bridge::UIColor;
-using bridge::UIView;
-
 constexpr CGFloat backdropAlpha = 0.45;
 constexpr CGFloat cornerRadius = 5.0;
 constexpr CGSize shadowOffset = {-1.0, -1.0};
@@ -23,14 +16,14 @@ constexpr float shadowOpacity = 0.3F;
 constexpr CGFloat fontSize = 13.0;
 constexpr CGFloat paragraphSpacing = 1.5;
 constexpr CGFloat headIndent = 22.0;
-constexpr CGAffineTransform zoomed = bridge::scaling(1.75, 1.75);
+constexpr CGAffineTransform zoomed = scaling(1.75, 1.75);
 constexpr double animationSeconds = 0.25;
 
 }  // namespace
 
 Class LumifactPopUpViewController::classObject() {
   using Self = LumifactPopUpViewController;
-  static const Class made = bridge::ClassBuilder<Self>("LumifactPopUpViewController")
+  static const Class made = ClassBuilder<Self>("LumifactPopUpViewController")
                                 .method<"initWithFrame:", &Self::initWithFrame>()
                                 .method<"showInView:withMessage:animated:", &Self::showInView>()
                                 .method<"layoutSubviews", &Self::layoutSubviews>()
@@ -48,9 +41,9 @@ Class LumifactPopUpViewController::classObject() {
 }
 
 void LumifactPopUpViewController::show(UIView host, NSString message) {
-  const auto overlay = Owned<UIView>::adopt(bridge::send<UIView, "initWithFrame:">(
-      bridge::send<id, "alloc">(classObject()), host.bounds()));
-  bridge::send<void, "showInView:withMessage:animated:">(overlay, host, message, true);
+  const auto overlay = Owned<UIView>::adopt(
+      send<UIView, "initWithFrame:">(send<id, "alloc">(classObject()), host.bounds()));
+  send<void, "showInView:withMessage:animated:">(overlay, host, message, true);
 }
 
 UIView LumifactPopUpViewController::initWithFrame(CGRect frame) {
@@ -60,7 +53,7 @@ UIView LumifactPopUpViewController::initWithFrame(CGRect frame) {
   _textView->setFrame(initialBox(self().frame().size));
   _textView->setBackgroundColor(UIColor::whiteColor());
   castShadow();
-  self().setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  self().setAutoresizingMask(flexibleWidth | flexibleHeight);
   self().addSubview(_textView);
   return self();
 }
@@ -68,7 +61,7 @@ UIView LumifactPopUpViewController::initWithFrame(CGRect frame) {
 void LumifactPopUpViewController::makeBox() {
   _textView = LumifactTextView::make();
   _textView->setClipsToBounds(true);
-  _textView->setTextAlignment(bridge::alignLeft);
+  _textView->setTextAlignment(alignLeft);
   _textView->setBackgroundColor(UIColor::white(1.0, 1.0));
   _textView->setTranslatesAutoresizingMaskIntoConstraints(false);
   _textView->setEditable(false);
@@ -76,7 +69,7 @@ void LumifactPopUpViewController::makeBox() {
 
 // A layer that masks would cut its own shadow off: what was set to clip does so no longer.
 void LumifactPopUpViewController::castShadow() const {
-  const bridge::CALayer layer = _textView->layer();
+  const CALayer layer = _textView->layer();
   layer.setCornerRadius(cornerRadius);
   const UIBezierPath path = UIBezierPath::withRect(shadowOf(_textView->bounds().size));
   layer.setMasksToBounds(false);
@@ -90,9 +83,8 @@ void LumifactPopUpViewController::showInView(UIView host, NSString message, bool
   host.addSubview(self());
   host.bringSubviewToFront(self());
   _textView->setAttributedText(
-      hangingText(message, bridge::UIFont::systemFont(fontSize), paragraphSpacing, headIndent)
-          .get());
-  if (animated) bridge::send<void, "showAnimate">(self());
+      hangingText(message, UIFont::systemFont(fontSize), paragraphSpacing, headIndent).get());
+  if (animated) send<void, "showAnimate">(self());
 }
 
 void LumifactPopUpViewController::layoutSubviews() {
@@ -109,7 +101,7 @@ void LumifactPopUpViewController::showAnimate() {
   self().setAlpha(0.0);
   UIView::animate(animationSeconds, Block<void()>([overlay = Owned<UIView>::retain(self())] {
                     overlay->setAlpha(1.0);
-                    overlay->setTransform(bridge::scaling(1.0, 1.0));
+                    overlay->setTransform(scaling(1.0, 1.0));
                   }));
 }
 
@@ -124,17 +116,17 @@ void LumifactPopUpViewController::removeAnimate() {
                   }));
 }
 
-void LumifactPopUpViewController::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
-  const bridge::UITouch touch(touches.anyObject().get());
-  if (!bridge::contains(_textView->frame(), touch.locationIn(self()))) _touchDown = true;
+void LumifactPopUpViewController::touchesBegan(NSSet touches, UIEvent) {
+  const UITouch touch(touches.anyObject().get());
+  if (!contains(_textView->frame(), touch.locationIn(self()))) _touchDown = true;
 }
 
-void LumifactPopUpViewController::touchesEnded(bridge::NSSet, bridge::UIEvent) {
-  bridge::send<void, "removeAnimate">(self());
+void LumifactPopUpViewController::touchesEnded(NSSet, UIEvent) {
+  send<void, "removeAnimate">(self());
 }
 
-void LumifactPopUpViewController::setTextView(bridge::UITextView view) {
-  _textView = Owned<bridge::UITextView>::retain(view);
+void LumifactPopUpViewController::setTextView(UITextView view) {
+  _textView = Owned<UITextView>::retain(view);
 }
 
 }  // namespace lumifact

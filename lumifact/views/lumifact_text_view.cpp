@@ -7,15 +7,14 @@ namespace lumifact {
 
 Class LumifactTextView::classObject() {
   static const Class made =
-      bridge::ClassBuilder<LumifactTextView>("LumifactTextView")
+      ClassBuilder<LumifactTextView>("LumifactTextView")
           .method<"canBecomeFirstResponder", &LumifactTextView::canBecomeFirstResponder>()
           .build();
   return made;
 }
 
-bridge::Owned<bridge::UITextView> LumifactTextView::make() {
-  return bridge::Owned<bridge::UITextView>::adopt(
-      bridge::send<bridge::UITextView, "init">(bridge::send<id, "alloc">(classObject())));
+Owned<UITextView> LumifactTextView::make() {
+  return Owned<UITextView>::adopt(send<UITextView, "init">(send<id, "alloc">(classObject())));
 }
 
 }  // namespace lumifact

@@ -5,14 +5,15 @@
 
 #include "bridge/bound.h"
 #include "bridge/uikit/ui_controls.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
-class LumifactTextView : public bridge::Bound<LumifactTextView, bridge::UITextView> {
+class LumifactTextView : public Bound<LumifactTextView, UITextView> {
  public:
   using Bound::Bound;
   static Class classObject();
-  static bridge::Owned<bridge::UITextView> make();
+  static Owned<UITextView> make();
 
   bool canBecomeFirstResponder() const { return true; }
 };

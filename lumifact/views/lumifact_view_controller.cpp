@@ -9,24 +9,11 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSDictionary;
-using bridge::NSIndexPath;
-using bridge::NSObject;
-using bridge::NSString;
-using bridge::Object;
-using bridge::Owned;
-using bridge::UIActivityViewController;
-using bridge::UIBarButtonItem;
-using bridge::UITableView;
-using bridge::UITableViewCell;
-using bridge::UITableViewController;
-using bridge::UIViewController;
-
 // A grouped table leaves a gap above its rows unless it has a header of some height.
 constexpr CGRect hardlyAnyHeight = {{0, 0}, {0, std::numeric_limits<double>::min()}};
 
 Owned<UIActivityViewController> makeShareSheet(NSString text) {
-  auto sheet = UIActivityViewController::withItems(bridge::NSArray::of(text));
+  auto sheet = UIActivityViewController::withItems(NSArray::of(text));
   sheet->setExcludedActivityTypes({});
   return sheet;
 }
@@ -37,7 +24,7 @@ UITableViewCell cellOf(UITableView table) {
   return UITableViewCell::make(UITableViewCell::value1, identifier).autorelease();
 }
 
-void showText(bridge::UILabel label, NSString text) {
+void showText(UILabel label, NSString text) {
   label.setText(text);
   label.setAdjustsFontSizeToFitWidth(true);
 }
@@ -47,7 +34,7 @@ void showText(bridge::UILabel label, NSString text) {
 Class LumifactViewController::classObject() {
   using Self = LumifactViewController;
   static const Class made =
-      bridge::ClassBuilder<Self>("LumifactViewController")
+      ClassBuilder<Self>("LumifactViewController")
           .method<"initWithStyle:tableData:extraData:mapType:mapString:dataTitle:",
                   &Self::initWithStyle>()
           .method<"viewDidLoad", &Self::viewDidLoad>()
@@ -72,11 +59,9 @@ Class LumifactViewController::classObject() {
 
 Owned<UIViewController> LumifactViewController::make(const Contents& contents) {
   return Owned<UIViewController>::adopt(
-      bridge::send<UIViewController,
-                   "initWithStyle:tableData:extraData:mapType:mapString:dataTitle:">(
-          bridge::send<id, "alloc">(classObject()), NSInteger{UITableView::grouped},
-          contents.tableData, contents.extraData, contents.mapType, contents.mapLink,
-          contents.title));
+      send<UIViewController, "initWithStyle:tableData:extraData:mapType:mapString:dataTitle:">(
+          send<id, "alloc">(classObject()), NSInteger{UITableView::grouped}, contents.tableData,
+          contents.extraData, contents.mapType, contents.mapLink, contents.title));
 }
 
 UITableViewController LumifactViewController::initWithStyle(NSInteger style, Object tableData,
@@ -96,13 +81,12 @@ UITableViewController LumifactViewController::initWithStyle(NSInteger style, Obj
 
 void LumifactViewController::viewDidLoad() {
   super<void, "viewDidLoad">();
-  self().tableView().setTableHeaderView(bridge::makeView<bridge::UIView>(hardlyAnyHeight));
-  const bridge::UINavigationItem item = self().navigationItem();
+  self().tableView().setTableHeaderView(makeView<UIView>(hardlyAnyHeight));
+  const UINavigationItem item = self().navigationItem();
   item.setTitle(_dataTitle);
-  if (_mapType != subPage)
-    item.setLeftBarButtonItems(bridge::NSArray::of(makeDismissButton(self()).get()));
+  if (_mapType != subPage) item.setLeftBarButtonItems(NSArray::of(makeDismissButton(self()).get()));
   const auto share = UIBarButtonItem::withSystemItem(UIBarButtonItem::action, self(),
-                                                     bridge::selector<"shareButtonTouched:">());
+                                                     selector<"shareButtonTouched:">());
   item.setRightBarButtonItems(rightBarItems(share, _mapString, self()));
 }
 
@@ -140,12 +124,12 @@ void LumifactViewController::openPageOf(const TableRow& row) const {
 
 bool LumifactViewController::canPerformAction(UITableView, SEL action, NSIndexPath,
                                               NSObject) const {
-  return bridge::sameSelector(action, bridge::selector<"copy:">());
+  return sameSelector(action, selector<"copy:">());
 }
 
 // The edit menu's copy command hands the row to the share sheet; the pasteboard stays as it is.
 void LumifactViewController::performAction(UITableView, SEL, NSIndexPath path,
-                                           bridge::UIMenuController menu) {
+                                           UIMenuController menu) {
   const auto sheet = makeShareSheet(sharedText(rowAt(path)));
   const auto popover = sheet->popoverPresentationController();
   popover.setSourceView(self().view());
@@ -173,7 +157,7 @@ SortedKeys& LumifactViewController::keysOf(Object data) {
 }
 
 void LumifactViewController::shareButtonTouched(UIBarButtonItem sender) {
-  const auto sheet = makeShareSheet(bridge::printed(_tableData.get()));
+  const auto sheet = makeShareSheet(printed(_tableData.get()));
   sheet->popoverPresentationController().setBarButtonItem(sender);
   self().present(sheet, UIViewController::animated, {});
 }

@@ -2,14 +2,6 @@
 #include "lumifact/views/report_bar.h"
 
 namespace lumifact {
-
-using bridge::NSArray;
-using bridge::NSString;
-using bridge::Owned;
-using bridge::selector;
-using bridge::UIBarButtonItem;
-using bridge::UIViewController;
-
 namespace {
 
 constexpr CGFloat spaceBeforeMaps = 8.0;
@@ -31,11 +23,11 @@ NSArray rightBarItems(UIBarButtonItem button, NSString mapLink, UIViewController
 }
 
 void openMapLink(NSString mapLink) {
-  bridge::UIApplication::sharedApplication().openURL(bridge::NSURL::withString(mapLink));
+  UIApplication::sharedApplication().openURL(NSURL::withString(mapLink));
 }
 
 void dismissPage(UIViewController page) {
-  page.dismiss(UIViewController::animated, bridge::Block<void()>([] {}));
+  page.dismiss(UIViewController::animated, Block<void()>([] {}));
 }
 
 }  // namespace lumifact

@@ -4,22 +4,22 @@
 #pragma once
 
 #include "bridge/uikit/ui_controllers.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
 // A button "Dismiss" that sends dismissButtonTouched: to the page.
-bridge::Owned<bridge::UIBarButtonItem> makeDismissButton(bridge::UIViewController page);
+Owned<UIBarButtonItem> makeDismissButton(UIViewController page);
 
 // The items on the right of a page's bar, the right-most first: its own button and, where there is
 // a map link (an empty one too), 8 points of space and a button that sends openMaps: to the page.
-bridge::NSArray rightBarItems(bridge::UIBarButtonItem button, bridge::NSString mapLink,
-                              bridge::UIViewController page);
+NSArray rightBarItems(UIBarButtonItem button, NSString mapLink, UIViewController page);
 
 // Hands the map link to the system. A text that is no link is handed on as none; nobody hears
 // whether the system could open it.
-void openMapLink(bridge::NSString mapLink);
+void openMapLink(NSString mapLink);
 
 // Takes the page off the screen, animated.
-void dismissPage(bridge::UIViewController page);
+void dismissPage(UIViewController page);
 
 }  // namespace lumifact

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/foundation/ns_collections.h"
+#include "lumifact/platform.h"
 
 namespace lumifact {
 
@@ -12,11 +13,11 @@ namespace lumifact {
 class SortedKeys {
  public:
   // Borrowed until another dictionary's are asked for.
-  bridge::NSArray of(bridge::NSDictionary dictionary);
+  NSArray of(NSDictionary dictionary);
 
  private:
-  bridge::Owned<bridge::NSDictionary> _dictionary;
-  bridge::Owned<bridge::NSArray> _keys;
+  Owned<NSDictionary> _dictionary;
+  Owned<NSArray> _keys;
 };
 
 }  // namespace lumifact

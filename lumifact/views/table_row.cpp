@@ -4,11 +4,6 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSArray;
-using bridge::NSDictionary;
-using bridge::NSString;
-using bridge::Object;
-
 // "LF742J" and two digits stand before the names of the file summary record, so that these sort
 // first and in their order.
 constexpr std::string_view recordPrefix = "LF742J";
@@ -61,9 +56,7 @@ TableRow tableRow(Object data, SortedKeys& keys, NSInteger index, NSString pageT
 
 NSString sharedText(const TableRow& row) {
   const Object value = row.value ? row.value : row.detail;
-  return bridge::printed(row.title)
-      .appending(NSString::make(" = "))
-      .appending(bridge::printed(value));
+  return printed(row.title).appending(NSString::make(" = ")).appending(printed(value));
 }
 
 }  // namespace lumifact

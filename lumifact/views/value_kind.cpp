@@ -4,15 +4,6 @@
 namespace lumifact {
 namespace {
 
-using bridge::isKindOf;
-using bridge::NSArray;
-using bridge::NSData;
-using bridge::NSDate;
-using bridge::NSDictionary;
-using bridge::NSNumber;
-using bridge::NSString;
-using bridge::Object;
-
 struct KindRow {
   Class (*classObject)();
   ValueKind kind;
@@ -33,8 +24,7 @@ NSString dataText(NSData data) {
 }
 
 NSString dateText(NSDate date) {
-  using bridge::NSDateFormatter;
-  const auto formatter = bridge::makeNew<NSDateFormatter>();
+  const auto formatter = makeNew<NSDateFormatter>();
   formatter->setDateStyle(NSDateFormatter::shortStyle);
   formatter->setTimeStyle(NSDateFormatter::mediumStyle);
   return formatter->string(date);
