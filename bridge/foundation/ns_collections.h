@@ -30,6 +30,10 @@ struct NSArray : NSObject {
   NSArray sortedUsing(SEL comparison) const {
     return send<NSArray, "sortedArrayUsingSelector:">(*this, comparison);
   }
+  // Texts in the order in which the platform shows them.
+  NSArray sortedCaseInsensitively() const {
+    return sortedUsing(selector<"localizedCaseInsensitiveCompare:">());
+  }
 };
 
 struct NSMutableArray : NSArray {
@@ -55,8 +59,7 @@ struct NSMutableDictionary : NSDictionary {
 
   // The property list in a file; nil where there is none that can be read.
   static Owned<NSMutableDictionary> withContentsOfFile(NSString path) {
-    return Owned<NSMutableDictionary>::adopt(send<NSMutableDictionary, "initWithContentsOfFile:">(
-        send<id, "alloc">(classObject()), path));
+    return makeWith<NSMutableDictionary, "initWithContentsOfFile:">(classObject(), path);
   }
 
   // REQUIRES: neither is nil.

@@ -21,8 +21,8 @@ struct NSData : NSObject {
   std::string_view view() const { return {static_cast<const char*>(bytes()), length()}; }
   // The bytes read as UTF-8; nil where they are none.
   Owned<NSString> utf8Text() const {
-    return Owned<NSString>::adopt(send<NSString, "initWithData:encoding:">(
-        send<id, "alloc">(NSString::classObject()), *this, NSUInteger{4}));
+    return makeWith<NSString, "initWithData:encoding:">(NSString::classObject(), *this,
+                                                        NSUInteger{4});
   }
 };
 

@@ -18,10 +18,16 @@ struct NSObject : Object {
   bool isEqual(Object other) const { return send<bool, "isEqual:">(*this, other); }
 };
 
-// A new object of a handle's class: alloc and init.
+// A new object of a class, as a T: alloc and the initialiser with its arguments.
+template <Handle T, FixedString Initialiser, typename... Arguments>
+Owned<T> makeWith(Class aClass, const Arguments&... arguments) {
+  return Owned<T>::adopt(send<T, Initialiser>(send<id, "alloc">(aClass), arguments...));
+}
+
+// A new object of a handle's class or of one below it: alloc and init.
 template <Handle T>
-Owned<T> makeNew() {
-  return Owned<T>::adopt(send<T, "init">(send<id, "alloc">(T::classObject())));
+Owned<T> makeNew(Class aClass = T::classObject()) {
+  return makeWith<T, "init">(aClass);
 }
 
 }  // namespace bridge

@@ -11,9 +11,8 @@ constexpr NSUInteger utf8Encoding = 4;
 }  // namespace
 
 NSString NSString::make(std::string_view utf8) {
-  auto made = Owned<NSString>::adopt(send<NSString, "initWithBytes:length:encoding:">(
-      send<id, "alloc">(classObject()), static_cast<const void*>(utf8.data()),
-      NSUInteger{utf8.size()}, utf8Encoding));
+  auto made = makeWith<NSString, "initWithBytes:length:encoding:">(
+      classObject(), static_cast<const void*>(utf8.data()), NSUInteger{utf8.size()}, utf8Encoding);
   return made.autorelease();
 }
 

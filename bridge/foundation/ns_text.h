@@ -18,8 +18,7 @@ struct NSMutableAttributedString : NSAttributedString {
   static Class classObject() { return classNamed<"NSMutableAttributedString">(); }
 
   static Owned<NSMutableAttributedString> withString(NSString text) {
-    return Owned<NSMutableAttributedString>::adopt(
-        send<NSMutableAttributedString, "initWithString:">(send<id, "alloc">(classObject()), text));
+    return makeWith<NSMutableAttributedString, "initWithString:">(classObject(), text);
   }
 
   void addAttribute(NSString name, Object value, NSRange range) const {

@@ -16,18 +16,15 @@ struct UIBarButtonItem : NSObject {
 
   static Owned<UIBarButtonItem> withTitle(NSString title, Style style, NSObject target,
                                           SEL selector) {
-    return Owned<UIBarButtonItem>::adopt(
-        send<UIBarButtonItem, "initWithTitle:style:target:action:">(
-            send<id, "alloc">(classObject()), title, NSInteger{style}, target, selector));
+    return makeWith<UIBarButtonItem, "initWithTitle:style:target:action:">(
+        classObject(), title, NSInteger{style}, target, selector);
   }
   static Owned<UIBarButtonItem> withSystemItem(SystemItem item, NSObject target, SEL selector) {
-    return Owned<UIBarButtonItem>::adopt(
-        send<UIBarButtonItem, "initWithBarButtonSystemItem:target:action:">(
-            send<id, "alloc">(classObject()), NSInteger{item}, target, selector));
+    return makeWith<UIBarButtonItem, "initWithBarButtonSystemItem:target:action:">(
+        classObject(), NSInteger{item}, target, selector);
   }
   static Owned<UIBarButtonItem> withCustomView(UIView view) {
-    return Owned<UIBarButtonItem>::adopt(
-        send<UIBarButtonItem, "initWithCustomView:">(send<id, "alloc">(classObject()), view));
+    return makeWith<UIBarButtonItem, "initWithCustomView:">(classObject(), view);
   }
 
   void setTitle(NSString title) const { send<void, "setTitle:">(*this, title); }

@@ -39,9 +39,7 @@ struct UINavigationController : UIViewController {
   static Class classObject() { return classNamed<"UINavigationController">(); }
 
   static Owned<UINavigationController> withRoot(UIViewController root) {
-    return Owned<UINavigationController>::adopt(
-        send<UINavigationController, "initWithRootViewController:">(
-            send<id, "alloc">(classObject()), root));
+    return makeWith<UINavigationController, "initWithRootViewController:">(classObject(), root);
   }
 
   UINavigationBar navigationBar() const { return send<UINavigationBar, "navigationBar">(*this); }
@@ -103,9 +101,8 @@ struct UIActivityViewController : UIViewController {
   static Class classObject() { return classNamed<"UIActivityViewController">(); }
 
   static Owned<UIActivityViewController> withItems(NSArray items) {
-    return Owned<UIActivityViewController>::adopt(
-        send<UIActivityViewController, "initWithActivityItems:applicationActivities:">(
-            send<id, "alloc">(classObject()), items, NSArray()));
+    return makeWith<UIActivityViewController, "initWithActivityItems:applicationActivities:">(
+        classObject(), items, NSArray());
   }
 
   void setExcludedActivityTypes(NSArray types) const {

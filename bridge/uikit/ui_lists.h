@@ -25,8 +25,8 @@ struct UITableViewCell : UIView {
   enum Selection : NSInteger { noSelection = 0, blueSelection = 1 };
 
   static Owned<UITableViewCell> make(Style style, NSString identifier) {
-    return Owned<UITableViewCell>::adopt(send<UITableViewCell, "initWithStyle:reuseIdentifier:">(
-        send<id, "alloc">(classObject()), NSInteger{style}, identifier));
+    return makeWith<UITableViewCell, "initWithStyle:reuseIdentifier:">(
+        classObject(), NSInteger{style}, identifier);
   }
 
   UILabel textLabel() const { return send<UILabel, "textLabel">(*this); }

@@ -65,10 +65,10 @@ struct UIView : UIResponder {
   }
 };
 
-// A new view of a handle's class with the frame; +1.
+// A new view of a handle's class, or of one below it, with the frame.
 template <Handle T>
-Owned<T> makeView(CGRect frame) {
-  return Owned<T>::adopt(send<T, "initWithFrame:">(send<id, "alloc">(T::classObject()), frame));
+Owned<T> makeView(CGRect frame, Class aClass = T::classObject()) {
+  return makeWith<T, "initWithFrame:">(aClass, frame);
 }
 
 struct UIGestureRecognizer : NSObject {
@@ -90,9 +90,8 @@ struct UILongPressGestureRecognizer : UIGestureRecognizer {
   static Class classObject() { return classNamed<"UILongPressGestureRecognizer">(); }
 
   static Owned<UILongPressGestureRecognizer> make(NSObject target, SEL action) {
-    return Owned<UILongPressGestureRecognizer>::adopt(
-        send<UILongPressGestureRecognizer, "initWithTarget:action:">(
-            send<id, "alloc">(classObject()), target, action));
+    return makeWith<UILongPressGestureRecognizer, "initWithTarget:action:">(classObject(), target,
+                                                                            action);
   }
 };
 
