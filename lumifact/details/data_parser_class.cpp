@@ -9,6 +9,9 @@
 namespace lumifact {
 namespace {
 
+constexpr FixedString parseImage = "parseDataToString:mapCoordinates:";
+constexpr FixedString parseVideo = "parseAVURLAsset:toDataAndString:mapCoordinates:";
+
 // The order in which the platform shows keys.
 int compareAsShown(std::string_view left, std::string_view right) {
   const AutoreleasePool pool;
@@ -27,12 +30,10 @@ std::optional<std::string> textOf(id string) {
 }  // namespace
 
 Class DataParserClass::classObject() {
-  static const Class made =
-      ClassBuilder<DataParserClass>("DataParser")
-          .classMethod<"parseDataToString:mapCoordinates:", &DataParserClass::parseDataToString>()
-          .classMethod<"parseAVURLAsset:toDataAndString:mapCoordinates:",
-                       &DataParserClass::parseAVURLAsset>()
-          .build();
+  static const Class made = ClassBuilder<DataParserClass>("DataParser")
+                                .classMethod<parseImage, &DataParserClass::parseDataToString>()
+                                .classMethod<parseVideo, &DataParserClass::parseAVURLAsset>()
+                                .build();
   return made;
 }
 
@@ -61,8 +62,7 @@ NSString DataParserClass::parseAVURLAsset(AVURLAsset asset, id*, id* mapCoordina
 Report reportOfImage(NSMutableDictionary properties) {
   id data = properties.get();
   id coordinates = nullptr;
-  const auto text = send<NSString, "parseDataToString:mapCoordinates:">(
-      DataParserClass::classObject(), &data, &coordinates);
+  const auto text = send<NSString, parseImage>(DataParserClass::classObject(), &data, &coordinates);
   return {text, textOf(coordinates)};
 }
 
@@ -70,8 +70,8 @@ Report reportOfVideo(AVURLAsset asset) {
   const auto data = makeNew<NSMutableDictionary>();
   id dataObject = data->get();
   id coordinates = nullptr;
-  const auto text = send<NSString, "parseAVURLAsset:toDataAndString:mapCoordinates:">(
-      DataParserClass::classObject(), asset, &dataObject, &coordinates);
+  const auto text =
+      send<NSString, parseVideo>(DataParserClass::classObject(), asset, &dataObject, &coordinates);
   return {text, textOf(coordinates)};
 }
 

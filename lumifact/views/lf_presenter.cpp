@@ -11,6 +11,8 @@ namespace {
 constexpr CGFloat paragraphSpacing = 1.0;
 constexpr CGFloat borderWhite = 210.0 / 255.0;
 
+constexpr FixedString initialiser = "initWithMessage:mapString:offsetHeight:fontSize:";
+
 constexpr const char* selectTitle = "Select All";
 constexpr const char* deselectTitle = " Deselect";
 
@@ -30,8 +32,7 @@ Class LFPresenter::classObject() {
   static const Class made =
       ClassBuilder<LFPresenter>("LFPresenter")
           .conformsTo("UITextViewDelegate")
-          .method<"initWithMessage:mapString:offsetHeight:fontSize:",
-                  &LFPresenter::initWithMessage>()
+          .method<initialiser, &LFPresenter::initWithMessage>()
           .method<"viewDidLoad", &LFPresenter::viewDidLoad>()
           .method<"textViewDidChangeSelection:", &LFPresenter::textViewDidChangeSelection>()
           .method<"selectButtonTouched:", &LFPresenter::selectButtonTouched>()
@@ -44,9 +45,8 @@ Class LFPresenter::classObject() {
 
 Owned<UIViewController> LFPresenter::make(NSString message, NSString mapLink,
                                           std::int32_t offsetHeight, std::int32_t fontSize) {
-  return Owned<UIViewController>::adopt(
-      send<UIViewController, "initWithMessage:mapString:offsetHeight:fontSize:">(
-          send<id, "alloc">(classObject()), message, mapLink, offsetHeight, fontSize));
+  return makeWith<UIViewController, initialiser>(classObject(), message, mapLink, offsetHeight,
+                                                 fontSize);
 }
 
 UIViewController LFPresenter::initWithMessage(NSString message, NSString mapString,

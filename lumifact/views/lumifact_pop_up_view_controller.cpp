@@ -9,6 +9,10 @@
 namespace lumifact {
 namespace {
 
+constexpr FixedString showMessage = "showInView:withMessage:animated:";
+constexpr FixedString zoomIn = "showAnimate";
+constexpr FixedString zoomOut = "removeAnimate";
+
 constexpr CGFloat backdropAlpha = 0.45;
 constexpr CGFloat cornerRadius = 5.0;
 constexpr CGSize shadowOffset = {-1.0, -1.0};
@@ -25,10 +29,10 @@ Class LumifactPopUpViewController::classObject() {
   using Self = LumifactPopUpViewController;
   static const Class made = ClassBuilder<Self>("LumifactPopUpViewController")
                                 .method<"initWithFrame:", &Self::initWithFrame>()
-                                .method<"showInView:withMessage:animated:", &Self::showInView>()
+                                .method<showMessage, &Self::showInView>()
                                 .method<"layoutSubviews", &Self::layoutSubviews>()
-                                .method<"showAnimate", &Self::showAnimate>()
-                                .method<"removeAnimate", &Self::removeAnimate>()
+                                .method<zoomIn, &Self::showAnimate>()
+                                .method<zoomOut, &Self::removeAnimate>()
                                 .method<"touchesBegan:withEvent:", &Self::touchesBegan>()
                                 .method<"touchesEnded:withEvent:", &Self::touchesEnded>()
                                 .method<"canBecomeFirstResponder", &Self::canBecomeFirstResponder>()
@@ -41,9 +45,8 @@ Class LumifactPopUpViewController::classObject() {
 }
 
 void LumifactPopUpViewController::show(UIView host, NSString message) {
-  const auto overlay = Owned<UIView>::adopt(
-      send<UIView, "initWithFrame:">(send<id, "alloc">(classObject()), host.bounds()));
-  send<void, "showInView:withMessage:animated:">(overlay, host, message, true);
+  const auto overlay = makeView<UIView>(host.bounds(), classObject());
+  send<void, showMessage>(overlay, host, message, true);
 }
 
 UIView LumifactPopUpViewController::initWithFrame(CGRect frame) {
@@ -84,7 +87,7 @@ void LumifactPopUpViewController::showInView(UIView host, NSString message, bool
   host.bringSubviewToFront(self());
   _textView->setAttributedText(
       hangingText(message, UIFont::systemFont(fontSize), paragraphSpacing, headIndent).get());
-  if (animated) send<void, "showAnimate">(self());
+  if (animated) send<void, zoomIn>(self());
 }
 
 void LumifactPopUpViewController::layoutSubviews() {
@@ -122,7 +125,7 @@ void LumifactPopUpViewController::touchesBegan(NSSet touches, UIEvent) {
 }
 
 void LumifactPopUpViewController::touchesEnded(NSSet, UIEvent) {
-  send<void, "removeAnimate">(self());
+  send<void, zoomOut>(self());
 }
 
 void LumifactPopUpViewController::setTextView(UITextView view) {

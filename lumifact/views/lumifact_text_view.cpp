@@ -14,7 +14,7 @@ Class LumifactTextView::classObject() {
 }
 
 Owned<UITextView> LumifactTextView::make() {
-  return Owned<UITextView>::adopt(send<UITextView, "init">(send<id, "alloc">(classObject())));
+  return makeNew<UITextView>(classObject());
 }
 
 }  // namespace lumifact

@@ -9,6 +9,9 @@
 namespace lumifact {
 namespace {
 
+constexpr FixedString initialiser =
+    "initWithStyle:tableData:extraData:mapType:mapString:dataTitle:";
+
 // A grouped table leaves a gap above its rows unless it has a header of some height.
 constexpr CGRect hardlyAnyHeight = {{0, 0}, {0, std::numeric_limits<double>::min()}};
 
@@ -35,8 +38,7 @@ Class LumifactViewController::classObject() {
   using Self = LumifactViewController;
   static const Class made =
       ClassBuilder<Self>("LumifactViewController")
-          .method<"initWithStyle:tableData:extraData:mapType:mapString:dataTitle:",
-                  &Self::initWithStyle>()
+          .method<initialiser, &Self::initWithStyle>()
           .method<"viewDidLoad", &Self::viewDidLoad>()
           .method<"numberOfSectionsInTableView:", &Self::numberOfSections>()
           .method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>()
@@ -58,10 +60,9 @@ Class LumifactViewController::classObject() {
 }
 
 Owned<UIViewController> LumifactViewController::make(const Contents& contents) {
-  return Owned<UIViewController>::adopt(
-      send<UIViewController, "initWithStyle:tableData:extraData:mapType:mapString:dataTitle:">(
-          send<id, "alloc">(classObject()), NSInteger{UITableView::grouped}, contents.tableData,
-          contents.extraData, contents.mapType, contents.mapLink, contents.title));
+  return makeWith<UIViewController, initialiser>(
+      classObject(), NSInteger{UITableView::grouped}, contents.tableData, contents.extraData,
+      contents.mapType, contents.mapLink, contents.title);
 }
 
 UITableViewController LumifactViewController::initWithStyle(NSInteger style, Object tableData,

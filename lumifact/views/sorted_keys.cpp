@@ -6,8 +6,7 @@ namespace lumifact {
 NSArray SortedKeys::of(NSDictionary dictionary) {
   if (dictionary != _dictionary.get()) {
     _dictionary = Owned<NSDictionary>::retain(dictionary);
-    _keys = Owned<NSArray>::retain(
-        dictionary.allKeys().sortedUsing(selector<"localizedCaseInsensitiveCompare:">()));
+    _keys = Owned<NSArray>::retain(dictionary.allKeys().sortedCaseInsensitively());
   }
   return _keys;
 }
