@@ -27,7 +27,7 @@ TEST(KeyOrder, IgnoresCaseAndPutsPunctuationFirst) {
       {"Depth", "DPIHeight", -1},
       {"CopyrightNotice", "Country/PrimaryLocationName", -1},
       {"Creation Time", "CreationTime", -1},
-      {"{Exif}", "{ExifAux}", 1},
+      {"{Exif}", "{ExifAux}", -1},
       {"{MakerApple}", "ColorModel", -1},
       {"10", "2", -1},
       {"_x", "0", -1},
@@ -37,7 +37,7 @@ TEST(KeyOrder, IgnoresCaseAndPutsPunctuationFirst) {
   };
   for (const Row& row : rows) {
     const int order = compareKeys(row.left, row.right);
-    EXPECT_EQ(order, row.order == 1 ? order : row.order) << row.left << " " << row.right;
+    EXPECT_EQ(order, row.order) << row.left << " " << row.right;
     EXPECT_EQ(compareKeys(row.right, row.left), -order) << row.left << " " << row.right;
   }
 }
