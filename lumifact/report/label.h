@@ -20,7 +20,7 @@ struct Label {
 
 // Whether every code is greater than the one before, so that none occurs twice.
 constexpr bool keysAscend(std::span<const Label> labels) {
-  return std::ranges::is_sorted(labels, std::less_equal(), &Label::code);
+  return std::ranges::adjacent_find(labels, std::greater_equal(), &Label::code) == labels.end();
 }
 
 // The text of a code; none where the table has no such row. REQUIRES: the codes ascend.

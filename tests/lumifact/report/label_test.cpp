@@ -19,10 +19,20 @@ TEST(Label, HasNothingForOtherCodes) {
 
 TEST(Label, KeysAscendRefusesDoubledAndUnorderedCodes) {
   constexpr Label doubled[] = {{1, "a"}, {1, "b"}};
+  constexpr Label doubledAtTheEnd[] = {{-1, "a"}, {2, "b"}, {2, "c"}};
   constexpr Label unordered[] = {{2, "a"}, {1, "b"}};
+  constexpr Label unorderedInTheMiddle[] = {{1, "a"}, {3, "b"}, {2, "c"}, {4, "d"}};
   EXPECT_TRUE(keysAscend(shapes));
   EXPECT_FALSE(keysAscend(doubled));
+  EXPECT_FALSE(keysAscend(doubledAtTheEnd));
   EXPECT_FALSE(keysAscend(unordered));
+  EXPECT_FALSE(keysAscend(unorderedInTheMiddle));
+}
+
+TEST(Label, KeysOfShortTablesAscend) {
+  constexpr Label single[] = {{1, "a"}};
+  EXPECT_TRUE(keysAscend({}));
+  EXPECT_TRUE(keysAscend(single));
 }
 
 }  // namespace
