@@ -25,11 +25,10 @@ class ActionControl : public bridge::Bound<ActionControl, bridge::UIControl> {
     Color pressedBackground = colors::highlight;
     CGFloat margin = 16;  // points at the left and right of the title
   };
-  // A new control; +1. The action is kept until the control goes or clearAction is called.
+  // A new control; +1. The action is kept until the control goes.
   static bridge::Owned<bridge::UIControl> make(const Look& look, std::function<void()> action);
 
   bridge::UILabel label() const { return _label; }
-  void clearAction() { _action = nullptr; }
 
  private:
   bridge::UIView initWithFrame(CGRect frame);
