@@ -59,6 +59,13 @@ TEST(Application, ShowsPhotosAlbumsAndOneByOne) {
   EXPECT_EQ(nodesOfClass(host.dumped("photo"), "PUTilingView").size(), 1U);
 }
 
+TEST(Application, SaysNothingWhereAllIsWell) {
+  Host host;
+  const HostResult result =
+      host.run("open item 4\nwait 1\nlong-press 187 300\nwait 1\nscreenshot page.png\n");
+  EXPECT_EQ(result.messages, "");
+}
+
 TEST(Application, TakesItsScreenshotAtTheScale) {
   Host host;
   EXPECT_EQ(host.tryToRun("screenshot screen.png\n", "--scale 1").status, 0);
