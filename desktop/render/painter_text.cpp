@@ -8,7 +8,8 @@ namespace desktop::render {
 void paintText(QPainter& painter, std::u16string_view line, const uikit::FontFace& face,
                const QColor& color, QPointF baseline) {
   painter.setPen(color);
-  for (const QGlyphRun& run : shapedLine(face, line)->runs) painter.drawGlyphRun(baseline, run);
+  const ShapedLine shaped = shapedLine(face, line);
+  for (const QGlyphRun& run : shaped.runs) painter.drawGlyphRun(baseline, run);
 }
 
 }  // namespace desktop::render

@@ -56,7 +56,7 @@ double shownWidth(const QTextLine& line, std::u16string_view text, const FontFac
   std::size_t end = start + static_cast<std::size_t>(line.textLength());
   while (end > start && text[end - 1] == u' ') --end;
   const auto shown = text.substr(start, end - start);
-  if (uikit::hasRightToLeft(text)) return shapedLine(face, shown)->width;
+  if (uikit::hasRightToLeft(text)) return shapedLine(face, shown).width;
   return line.cursorToX(static_cast<int>(end)) * face.size / designSize;
 }
 
@@ -120,7 +120,7 @@ class QtTextEngine : public uikit::TextEngine {
     double width = 0;
     while (!text.empty()) {
       const std::size_t length = uikit::outsidePair(text, std::min(text.size(), longestPiece));
-      width += shapedLine(face, text.substr(0, length))->width;
+      width += shapedLine(face, text.substr(0, length)).width;
       text.remove_prefix(length);
     }
     return width;

@@ -31,7 +31,7 @@ struct LineKeyHash {
 };
 
 struct Memory {
-  std::unordered_map<LineKey, std::shared_ptr<const ShapedLine>, LineKeyHash> lines;
+  std::unordered_map<LineKey, ShapedLine, LineKeyHash> lines;
   QHash<std::pair<QRawFont, double>, QRawFont> fonts;  // by the design font and the size
 };
 
@@ -80,14 +80,13 @@ ShapedLine shaped(const uikit::FontFace& face, std::u16string_view line) {
 
 }  // namespace
 
-std::shared_ptr<const ShapedLine> shapedLine(const uikit::FontFace& face,
-                                             std::u16string_view line) {
-  if (line.size() > longestRemembered) return std::make_shared<ShapedLine>(shaped(face, line));
+ShapedLine shapedLine(const uikit::FontFace& face, std::u16string_view line) {
+  if (line.size() > longestRemembered) return shaped(face, line);
   auto& lines = memory().lines;
   if (lines.size() >= rememberedLines) lines.clear();
-  auto& known = lines[{face, std::u16string(line)}];
-  if (!known) known = std::make_shared<ShapedLine>(shaped(face, line));
-  return known;
+  const auto [known, isNew] = lines.try_emplace({face, std::u16string(line)});
+  if (isNew) known->second = shaped(face, line);
+  return known->second;
 }
 
 void forgetShapedLines() {

@@ -5,21 +5,20 @@
 
 #include <QGlyphRun>
 #include <QList>
-#include <memory>
 #include <string_view>
 
 #include "desktop/uikit/graphics/text_engine.h"
 
 namespace desktop::render {
 
-// In points, the beginning of the baseline at the origin.
+// In points, the beginning of the baseline at the origin. Copies share their glyphs.
 struct ShapedLine {
   QList<QGlyphRun> runs;
   double width = 0;  // blanks at the end included
 };
 
 // The glyphs of a line, remembered for the next time. REQUIRES: a QGuiApplication.
-std::shared_ptr<const ShapedLine> shapedLine(const uikit::FontFace& face, std::u16string_view line);
+ShapedLine shapedLine(const uikit::FontFace& face, std::u16string_view line);
 
 // Forgets all lines and fonts, which must not outlive the application.
 void forgetShapedLines();
