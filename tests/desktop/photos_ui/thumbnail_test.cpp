@@ -103,8 +103,8 @@ TEST_F(ThumbnailTest, DropsWhatIsScrolledAwayBeforeItCame) {
   waitForPictures();
   const pictures::Request request{186, 186, pictures::Request::Fit::fill};
   int decoded = 0;
-  for (const auto& item : grid().list()->items())
-    decoded += loader().find(item->path, request) ? 1 : 0;
+  const auto& items = grid().list()->items();
+  for (const auto& item : items) decoded += loader().find(item->path, request) ? 1 : 0;
   EXPECT_LT(decoded, 200);
   EXPECT_GE(decoded, 28) << "what is in sight at the end";
 }
