@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/base/platform_log.h"
 
-#include "bridge/log.h"
 #include "bridge/runtime/objc.h"
 #include "desktop/uikit/application/stage.h"
 
@@ -9,7 +8,6 @@ namespace desktop::uikit {
 
 void logLine(const std::string& line) {
   stage().log.push_back(line);
-  bridge::logDebug("UIKit", 0, line);
 }
 
 std::string nameOf(bridge::Object object) {

@@ -9,7 +9,7 @@
 
 namespace desktop::uikit {
 
-// Adds a line to the stage's log and to the debug log.
+// Adds a line to the stage's log, where a host puts the lines of the debug log too.
 void logLine(const std::string& line);
 
 // How an object is called in a line: by its class.
