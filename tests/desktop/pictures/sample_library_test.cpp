@@ -58,7 +58,9 @@ TEST(SampleLibrary, IsDecodedUprightAtEverySize) {
 
 // Thumbnails and scaled decoding show what the whole picture shows.
 TEST(SampleLibrary, LooksTheSameSmallAndLarge) {
-  for (const std::string& path : sampleFiles()) {
+  const auto files = sampleFiles();
+  ASSERT_EQ(files.size(), 37U);
+  for (const std::string& path : files) {
     const auto large = decodePicture(path, {1200, 1200, Request::Fit::fit});
     const auto small = decodePicture(path, {64, 64, Request::Fit::fit});
     ASSERT_TRUE(large && small) << path;

@@ -112,6 +112,7 @@ TEST_F(SampleLibraryTest, TextPagesSayWhatTheToolSays) {
 }
 
 TEST_F(SampleLibraryTest, TablePagesShowWhatTheToolsTableHolds) {
+  ASSERT_GT(items().size(), 30U);
   for (const ItemPointer& item : items()) {
     const bridge::AutoreleasePool pool;
     const UIViewController page = ask(item, 2);
