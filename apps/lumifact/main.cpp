@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/lumifact/command_line.h"
+#include "apps/lumifact/command_line/command_line.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <system_error>
 
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/environment.h"
+#include "apps/lumifact/texts/environment.h"
 
 namespace lumifact::tool {
 

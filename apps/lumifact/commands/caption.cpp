@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "apps/lumifact/asset_texts.h"
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/file_scan.h"
+#include "apps/lumifact/files/file_scan.h"
+#include "apps/lumifact/texts/asset_texts.h"
 
 namespace lumifact::tool {
 

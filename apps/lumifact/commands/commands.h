@@ -4,8 +4,8 @@
 // console; a file that fails is reported there and the others go on.
 #pragma once
 
-#include "apps/lumifact/console.h"
-#include "apps/lumifact/options.h"
+#include "apps/lumifact/command_line/options.h"
+#include "apps/lumifact/terminal/console.h"
 
 namespace lumifact::tool {
 

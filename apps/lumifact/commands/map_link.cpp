@@ -3,9 +3,9 @@
 
 #include <utility>
 
-#include "apps/lumifact/asset_texts.h"
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/file_scan.h"
+#include "apps/lumifact/files/file_scan.h"
+#include "apps/lumifact/texts/asset_texts.h"
 
 namespace lumifact::tool {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/line_reader.h"
+#include "apps/lumifact/files/line_reader.h"
 #include "foundation/property_list.h"
 
 namespace lumifact::tool {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/environment.h"
-#include "apps/lumifact/file_scan.h"
-#include "apps/lumifact/json.h"
-#include "apps/lumifact/media_asset_json.h"
+#include "apps/lumifact/files/file_scan.h"
+#include "apps/lumifact/json/json.h"
+#include "apps/lumifact/json/media_asset_json.h"
+#include "apps/lumifact/texts/environment.h"
 #include "media/facts/asset_facts.h"
 
 namespace lumifact::tool {

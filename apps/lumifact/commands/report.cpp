@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <utility>
 
-#include "apps/lumifact/asset_texts.h"
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/file_scan.h"
-#include "apps/lumifact/json.h"
+#include "apps/lumifact/files/file_scan.h"
+#include "apps/lumifact/json/json.h"
+#include "apps/lumifact/texts/asset_texts.h"
 
 namespace lumifact::tool {
 

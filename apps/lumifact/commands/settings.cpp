@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/environment.h"
-#include "apps/lumifact/setting_text.h"
+#include "apps/lumifact/texts/environment.h"
+#include "apps/lumifact/texts/setting_text.h"
 #include "foundation/notification_core.h"
 #include "foundation/property_list_edit.h"
 #include "model/description.h"

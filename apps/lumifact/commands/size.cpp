@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/environment.h"
-#include "apps/lumifact/file_scan.h"
+#include "apps/lumifact/files/file_scan.h"
+#include "apps/lumifact/texts/environment.h"
 #include "foundation/byte_count.h"
 #include "foundation/paths.h"
 #include "lumifact/grid/selection_title.h"

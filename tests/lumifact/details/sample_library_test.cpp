@@ -2,7 +2,7 @@
 //
 // Every file of the sample library, from the disk to the text on the screen, beside what the
 // command-line tool makes of the same file.
-#include "apps/lumifact/asset_texts.h"
+#include "apps/lumifact/texts/asset_texts.h"
 #include "desktop/faces/movie/avfoundation_runtime.h"
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/faces/photos/photos_runtime.h"

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include <array>
+#include <cmath>
+
+#include "apps/lumifact/json/json.h"
+#include "apps/lumifact/json/json_marks.h"
+#include "apps/lumifact/terminal/terminal_text.h"
+#include "foundation/base64.h"
+#include "model/number_text.h"
+#include "model/utf8.h"
+
+namespace lumifact::tool {
+
+namespace {
+
+// The characters that stand for themselves in a JSON string and need no look at what follows.
+constexpr auto plainBytes = [] {
+  std::array<bool, 256> plain{};
+  for (std::size_t byte = 0x20; byte < 0x7F; ++byte) plain[byte] = byte != '"' && byte != '\\';
+  return plain;
+}();
+
+void appendEscape(std::string& text, char32_t codePoint) {
+  constexpr std::string_view hexDigits = "0123456789abcdef";
+  switch (codePoint) {
+    case U'"':
+      text += "\\\"";
+      return;
+    case U'\\':
+      text += "\\\\";
+      return;
+    case U'\n':
+      text += "\\n";
+      return;
+    case U'\t':
+      text += "\\t";
+      return;
+    default:
+      text += "\\u";
+      for (int shift = 12; shift >= 0; shift -= 4) text += hexDigits[(codePoint >> shift) & 15];
+  }
+}
+
+// Appends the character at the offset, which is no plain byte; returns how many bytes it took.
+std::size_t appendSpecial(std::string& text, std::string_view characters, std::size_t offset) {
+  const model::CodePoint character = model::codePointAt(characters, offset);
+  if (!character.valid) {
+    model::appendUtf8(text, U'\uFFFD');
+  } else if (character.value < 0x80 || controlsTerminal(character.value)) {
+    appendEscape(text, character.value);
+  } else {
+    text += characters.substr(offset, character.bytes);
+  }
+  return character.bytes;
+}
+
+void appendReal(std::string& text, double real) {
+  if (!std::isfinite(real)) {
+    text.append(R"({"$real":")").append(model::realText(real)).append("\"}");
+    return;
+  }
+  const std::string digits = model::realText(real);
+  text += digits;
+  // What reads back as an integer needs the point that tells it apart.
+  if (digits.find_first_of(".e") == std::string::npos) text += ".0";
+}
+
+void appendData(std::string& text, const model::Data& data) {
+  text += R"({"$data":")";
+  text += foundation::base64Text(data);
+  text += "\"}";
+}
+
+void appendArray(std::string& text, const model::Array& elements) {
+  text += '[';
+  bool first = true;
+  for (const model::Value& element : elements) {
+    if (!first) text += ',';
+    first = false;
+    appendJson(text, element);
+  }
+  text += ']';
+}
+
+void appendEntries(std::string& text, const model::Dictionary& dictionary) {
+  text += '{';
+  bool first = true;
+  for (const auto& [key, value] : dictionary) {
+    if (!first) text += ',';
+    first = false;
+    appendJsonString(text, key);
+    text += ':';
+    appendJson(text, value);
+  }
+  text += '}';
+}
+
+}  // namespace
+
+void appendJsonString(std::string& text, std::string_view characters) {
+  text += '"';
+  std::size_t offset = 0;
+  while (offset < characters.size()) {
+    std::size_t end = offset;
+    while (end < characters.size() && plainBytes[static_cast<unsigned char>(characters[end])]) {
+      ++end;
+    }
+    text.append(characters, offset, end - offset);
+    offset = end;
+    if (offset < characters.size()) offset += appendSpecial(text, characters, offset);
+  }
+  text += '"';
+}
+
+void appendJson(std::string& text, const model::Dictionary& dictionary) {
+  const bool looksMarked = dictionary.size() == 1 && isJsonMark(dictionary.begin()->first);
+  if (looksMarked) text += R"({"$dictionary":)";
+  appendEntries(text, dictionary);
+  if (looksMarked) text += '}';
+}
+
+void appendJson(std::string& text, const model::Value& value) {
+  switch (value.kind()) {
+    case model::Kind::null:
+      text += "null";
+      return;
+    case model::Kind::boolean:
+      text += *value.asBoolean() ? "true" : "false";
+      return;
+    case model::Kind::integer:
+      text += model::integerText(*value.asInteger());
+      return;
+    case model::Kind::real:
+      appendReal(text, *value.asReal());
+      return;
+    case model::Kind::string:
+      appendJsonString(text, *value.asString());
+      return;
+    case model::Kind::date:
+      text.append(R"({"$date":")").append(isoText(*value.asDate())).append("\"}");
+      return;
+    case model::Kind::data:
+      appendData(text, *value.asData());
+      return;
+    case model::Kind::array:
+      appendArray(text, *value.asArray());
+      return;
+    case model::Kind::dictionary:
+      appendJson(text, *value.asDictionary());
+      return;
+  }
+}
+
+}  // namespace lumifact::tool

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "apps/lumifact/texts/setting_text.h"
+
+#include <charconv>
+#include <cmath>
+#include <system_error>
+#include <utility>
+
+#include "lumifact/state/settings.h"
+
+namespace lumifact::tool {
+
+namespace {
+
+const SettingRow* rowOf(std::string_view key) {
+  for (const SettingRow& row : settingRows()) {
+    if (row.key == key) return &row;
+  }
+  return nullptr;
+}
+
+// In any case of letters.
+std::optional<model::Value> flagFromText(std::string text) {
+  for (char& letter : text) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+  }
+  if (text == "true" || text == "yes" || text == "1") return true;
+  if (text == "false" || text == "no" || text == "0") return false;
+  return std::nullopt;
+}
+
+// A whole text as a number; a leading plus is allowed.
+template <typename Number>
+std::optional<model::Value> numberFromText(std::string_view text) {
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+  Number number{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+std::optional<model::Value> realFromText(std::string_view text) {
+  auto number = numberFromText<double>(text);
+  if (number && !std::isfinite(*number->asReal())) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+std::optional<model::Error> checkSettingKey(std::string_view key) {
+  if (rowOf(key) != nullptr) return std::nullopt;
+  std::string reason = "unknown setting \"" + std::string(key) + "\"; the settings are";
+  const char* separator = " ";
+  for (const SettingRow& row : settingRows()) {
+    reason.append(separator).append(row.key);
+    separator = ", ";
+  }
+  return model::Error{reason};
+}
+
+model::Result<model::Value> settingFromText(std::string_view key, std::string_view text) {
+  if (auto error = checkSettingKey(key)) return *std::move(error);
+  const auto reading = [&](std::optional<model::Value> value,
+                           const char* kind) -> model::Result<model::Value> {
+    if (value) return *std::move(value);
+    return model::Error{std::string(key) + " takes " + kind + ", not \"" + std::string(text) +
+                        "\""};
+  };
+  switch (rowOf(key)->kind) {
+    case SettingKind::flag:
+      return reading(flagFromText(std::string(text)), "true or false (or yes, no, 1, 0)");
+    case SettingKind::integer:
+      return reading(numberFromText<std::int64_t>(text), "an integer");
+    case SettingKind::real:
+      break;
+  }
+  return reading(realFromText(text), "a number");
+}
+
+}  // namespace lumifact::tool
