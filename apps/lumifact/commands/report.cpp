@@ -3,36 +3,23 @@
 
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/files/file_scan.h"
-#include "apps/lumifact/json/json.h"
+#include "apps/lumifact/json/json_object.h"
 #include "apps/lumifact/texts/asset_texts.h"
 
 namespace lumifact::tool {
 
 namespace {
 
-void appendField(std::string& json, std::string_view name, const std::optional<std::string>& text) {
-  json.append(",\"").append(name).append("\":");
-  if (text) {
-    appendJsonString(json, *text);
-  } else {
-    json += "null";
-  }
-}
-
 std::string jsonLine(const std::string& path, const AssetReport& report) {
-  std::string json = "{\"path\":";
-  appendJsonString(json, path);
-  appendField(json, "header", report.header);
-  appendField(json, "text", report.text);
-  json += ",\"table\":";
-  if (report.table) {
-    appendJson(json, *report.table);
-  } else {
-    json += "null";
-  }
-  appendField(json, "coordinates", report.coordinates);
-  appendField(json, "mapLink", report.mapLink);
-  return json += "}\n";
+  std::string line;
+  JsonObject(line)
+      .field("path", path)
+      .field("header", report.header)
+      .field("text", report.text)
+      .field("table", report.table)
+      .field("coordinates", report.coordinates)
+      .field("mapLink", report.mapLink);
+  return line += '\n';
 }
 
 // As the text presenter shows it: the header followed directly by the report.

@@ -4,6 +4,7 @@
 
 #include "apps/lumifact/json/json.h"
 #include "apps/lumifact/json/json_marks.h"
+#include "apps/lumifact/json/json_object.h"
 #include "apps/lumifact/terminal/terminal_text.h"
 #include "foundation/base64.h"
 #include "model/number_text.h"
@@ -56,19 +57,13 @@ std::size_t appendSpecial(std::string& text, std::string_view characters, std::s
 
 void appendReal(std::string& text, double real) {
   if (!std::isfinite(real)) {
-    text.append(R"({"$real":")").append(model::realText(real)).append("\"}");
+    JsonObject(text).field("$real", model::realText(real));
     return;
   }
   const std::string digits = model::realText(real);
   text += digits;
   // What reads back as an integer needs the point that tells it apart.
   if (digits.find_first_of(".e") == std::string::npos) text += ".0";
-}
-
-void appendData(std::string& text, const model::Data& data) {
-  text += R"({"$data":")";
-  text += foundation::base64Text(data);
-  text += "\"}";
 }
 
 void appendArray(std::string& text, const model::Array& elements) {
@@ -83,16 +78,8 @@ void appendArray(std::string& text, const model::Array& elements) {
 }
 
 void appendEntries(std::string& text, const model::Dictionary& dictionary) {
-  text += '{';
-  bool first = true;
-  for (const auto& [key, value] : dictionary) {
-    if (!first) text += ',';
-    first = false;
-    appendJsonString(text, key);
-    text += ':';
-    appendJson(text, value);
-  }
-  text += '}';
+  JsonObject object(text);
+  for (const auto& [key, value] : dictionary) appendJson(object.begin(key), value);
 }
 
 }  // namespace
@@ -114,9 +101,9 @@ void appendJsonString(std::string& text, std::string_view characters) {
 
 void appendJson(std::string& text, const model::Dictionary& dictionary) {
   const bool looksMarked = dictionary.size() == 1 && isJsonMark(dictionary.begin()->first);
-  if (looksMarked) text += R"({"$dictionary":)";
-  appendEntries(text, dictionary);
-  if (looksMarked) text += '}';
+  if (!looksMarked) return appendEntries(text, dictionary);
+  JsonObject object(text);
+  appendEntries(object.begin("$dictionary"), dictionary);
 }
 
 void appendJson(std::string& text, const model::Value& value) {
@@ -137,10 +124,10 @@ void appendJson(std::string& text, const model::Value& value) {
       appendJsonString(text, *value.asString());
       return;
     case model::Kind::date:
-      text.append(R"({"$date":")").append(isoText(*value.asDate())).append("\"}");
+      JsonObject(text).field("$date", isoText(*value.asDate()));
       return;
     case model::Kind::data:
-      appendData(text, *value.asData());
+      JsonObject(text).field("$data", foundation::base64Text(*value.asData()));
       return;
     case model::Kind::array:
       appendArray(text, *value.asArray());

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "apps/lumifact/json/json.h"
+#include "apps/lumifact/json/json_object.h"
 #include "apps/lumifact/json/media_asset_json.h"
 #include "lumifact/report/data_parser.h"
 
@@ -12,29 +13,17 @@ namespace lumifact::tool {
 
 namespace {
 
-std::string answer(std::string_view text, const model::Dictionary* table,
-                   const std::optional<std::string>& coordinates) {
-  std::string json = "{\"text\":";
-  appendJsonString(json, text);
-  if (table != nullptr) {
-    json += ",\"table\":";
-    appendJson(json, *table);
-  }
-  json += ",\"coordinates\":";
-  if (coordinates) {
-    appendJsonString(json, *coordinates);
-  } else {
-    json += "null";
-  }
-  return json += '}';
-}
-
 model::Result<std::string> imageAnswer(model::Value& tree) {
   model::Dictionary* properties = tree.asDictionary();
   if (properties == nullptr) return model::Error{"not an object of image properties"};
   std::optional<std::string> coordinates;
   const std::string text = DataParser::parseDataToString(*properties, coordinates);
-  return answer(text, properties, coordinates);
+  std::string json;
+  JsonObject(json)
+      .field("text", text)
+      .field("table", *properties)
+      .field("coordinates", coordinates);
+  return json;
 }
 
 model::Result<std::string> videoAnswer(const model::Value& tree) {
@@ -44,7 +33,9 @@ model::Result<std::string> videoAnswer(const model::Value& tree) {
   model::Dictionary unused;
   const std::string text =
       DataParser::parseAVURLAsset(*asset ? &**asset : nullptr, unused, coordinates);
-  return answer(text, nullptr, coordinates);
+  std::string json;
+  JsonObject(json).field("text", text).field("coordinates", coordinates);
+  return json;
 }
 
 }  // namespace
@@ -60,9 +51,9 @@ model::Result<std::string> parseAnswer(ParseKind kind, std::string_view json) {
 }
 
 std::string errorAnswer(std::string_view reason) {
-  std::string json = "{\"error\":";
-  appendJsonString(json, reason);
-  return json += '}';
+  std::string json;
+  JsonObject(json).field("error", reason);
+  return json;
 }
 
 }  // namespace lumifact::tool

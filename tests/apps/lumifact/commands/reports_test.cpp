@@ -162,6 +162,16 @@ TEST(ReportJson, GivesThePathAsItWasGiven) {
   EXPECT_TRUE(result.output.starts_with("{\"path\":\"a\uFFFD\\u001b.jpg\",")) << result.output;
 }
 
+TEST(Properties, AreALineAFile) {
+  const SampleFolder samples;
+  const std::string output = outputOf({"properties", samples.plain, samples.movie});
+  const auto lines = linesOf(output);
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(output, lines[0] + "\n" + lines[1] + "\n");
+  EXPECT_TRUE(lines[0].starts_with("{\"path\":\"" + samples.plain + "\",\"properties\":{"));
+  EXPECT_TRUE(lines[1].starts_with("{\"path\":\"" + samples.movie + "\",\"asset\":{"));
+}
+
 TEST(Properties, GivenToParseGiveTheReport) {
   const SampleFolder samples;
   for (const std::string& path : {samples.photo, samples.plain, samples.movie}) {
