@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "apps/lumifact/command_line/command_line.h"
+#include "apps/lumifact/command_line/time_zone.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ ExitStatus run(const std::vector<std::string>& arguments) {
   if (!line.usageError.empty()) {
     console.failUsage(line.usageError);
   } else if (line.run != nullptr) {
+    if (line.options.timeZone) lumifact::tool::setTimeZone(*line.options.timeZone);
     line.run(line.options, console);
   } else {
     console.write(line.text);

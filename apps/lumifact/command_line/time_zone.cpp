@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/command_line/time_zone.h"
 
-#include <cctype>
+#include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 
@@ -27,6 +28,11 @@ bool timeZoneExists(const std::string& name) {
   if (!std::filesystem::is_directory(dataBase, error)) return true;
   const std::filesystem::path file = std::filesystem::path(dataBase) / name;
   return std::filesystem::is_regular_file(file, error) || looksLikeRule(name);
+}
+
+void setTimeZone(const std::string& name) {
+  ::setenv("TZ", name.c_str(), 1);
+  ::tzset();
 }
 
 }  // namespace lumifact::tool

@@ -50,12 +50,6 @@ std::vector<std::string> argumentsOf(const Options& options, const std::string& 
   return arguments;
 }
 
-// The application follows the same customs as the tool would.
-void exportCustoms(const Options& options) {
-  if (options.locale) ::setenv("LC_ALL", options.locale->c_str(), 1);
-  if (options.timeZone) ::setenv("TZ", options.timeZone->c_str(), 1);
-}
-
 }  // namespace
 
 // The tool becomes the application, and comes back only where that fails.
@@ -63,7 +57,8 @@ void runBrowse(const Options& options, Console& console) {
   const std::string application = photoApplication();
   if (application.empty()) return console.fail("photohost", "the photo application is missing");
   if (extensionFolder().empty()) return console.fail("lumifact.so", "the extension is missing");
-  exportCustoms(options);
+  // The application takes its customs from its variables.
+  if (options.locale) ::setenv("LC_ALL", options.locale->c_str(), 1);
   std::vector<std::string> arguments = argumentsOf(options, application);
   std::vector<char*> pointers;
   pointers.reserve(arguments.size() + 1);

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/texts/environment.h"
 
-#include <cstdlib>
-#include <ctime>
-
 #include "foundation/collation.h"
 #include "foundation/paths.h"
 #include "foundation/property_list.h"
@@ -41,10 +38,6 @@ Settings settingsOf(const Options& options) {
 }
 
 Environment environmentOf(const Options& options, Reader reader) {
-  if (options.timeZone) {
-    ::setenv("TZ", options.timeZone->c_str(), 1);
-    ::tzset();
-  }
   return {.root = rootOf(options),
           .settings = settingsOf(options),
           .dates = localeOf(options, reader, "LC_TIME"),

@@ -25,8 +25,8 @@ struct Environment {
   model::KeyComparison keyOrder;
 };
 
-// The environment of the options, the user's variables and the settings file. Puts --time-zone
-// into the process's TZ. REQUIRES: no other thread runs.
+// The environment of the options, the user's variables and the settings file. Dates are those of
+// the process's time zone, which the program sets before.
 Environment environmentOf(const Options& options, Reader reader);
 
 // The root of the device, and where the settings file lies.

@@ -3,7 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <string>
+
+#include "foundation/local_time.h"
 
 namespace lumifact::tool {
 namespace {
@@ -21,6 +25,16 @@ TEST(TimeZone, RefusesOtherNames) {
   for (const char* name : {"", "Mars/Base", "Europe", "/etc/passwd", "../../etc/passwd", "X"}) {
     EXPECT_FALSE(timeZoneExists(name)) << name;
   }
+}
+
+TEST(TimeZone, BecomesThatOfTheProcess) {
+  const char* variable = std::getenv("TZ");
+  const std::string before = variable == nullptr ? "UTC" : variable;
+  setTimeZone("CET-1");
+  EXPECT_EQ(foundation::localTime({0}).hour, 1);
+  setTimeZone("UTC-5");
+  EXPECT_EQ(foundation::localTime({0}).hour, 5);
+  setTimeZone(before);
 }
 
 }  // namespace
