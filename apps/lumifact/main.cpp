@@ -11,6 +11,8 @@
 
 #include "apps/lumifact/command_line/command_line.h"
 #include "apps/lumifact/command_line/time_zone.h"
+#include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/terminal/console.h"
 
 namespace {
 
@@ -30,14 +32,14 @@ void openStandardDescriptors() {
 
 ExitStatus run(const std::vector<std::string>& arguments) {
   Console console;
-  const CommandLine line = lumifact::tool::readCommandLine(arguments);
+  const CommandLine line = lumifact::tool::readCommandLine(lumifact::tool::lumifactTool, arguments);
   if (!line.usageError.empty()) {
     console.failUsage(line.usageError);
-  } else if (line.run != nullptr) {
-    if (line.options.timeZone) lumifact::tool::setTimeZone(*line.options.timeZone);
-    line.run(line.options, console);
-  } else {
+  } else if (!line.text.empty()) {
     console.write(line.text);
+  } else {
+    if (line.options.timeZone) lumifact::tool::setTimeZone(*line.options.timeZone);
+    line.command->run(line.options, console);
   }
   console.flush();
   return console.status();

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// What --help prints.
+// What --help prints, made from the records of the tool and its commands.
 #pragma once
 
 #include <string>
-#include <string_view>
+
+#include "apps/lumifact/command_line/command.h"
 
 namespace lumifact::tool {
 
-// The help of a command, or of the tool for an empty name. No line is longer than 80 columns.
-std::string helpText(std::string_view command);
+// No line is longer than 80 columns.
+std::string helpText(const Tool& tool);
+std::string helpText(const Tool& tool, const Command& command);
 
 }  // namespace lumifact::tool

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a command line asks for, after it has been read and checked.
+// What a command line asks for.
 #pragma once
 
 #include <cstdint>
@@ -8,44 +8,42 @@
 #include <string>
 #include <vector>
 
-#include "apps/lumifact/json/parse_answer.h"
 #include "model/geometry.h"
 
 namespace lumifact::tool {
 
-enum class SettingsAction { list, get, set, unset, reset };
-
 // The choices of one run. What is none was not given.
 struct Options {
-  // Common to all commands.
-  std::optional<std::string> settingsFile;
-  std::optional<std::string> root;
-  std::optional<std::int32_t> mapType;
-  std::optional<double> mapZoomLevel;
-  std::optional<std::int32_t> mapViewType;
-  std::optional<std::string> locale;
-  std::optional<std::string> timeZone;
+  // What stands behind the command without being an option: files, or words of the command's own.
+  std::vector<std::string> words;
 
-  // Which files, and on how many threads.
-  std::vector<std::string> files;
+  // Which files beside those, and on how many threads.
   bool isRecursive = false;
   std::optional<std::string> filesFrom;
   bool listsEndInZero = false;
   std::optional<unsigned> jobs;
 
+  // What the settings are.
+  std::optional<std::string> settingsFile;
+  std::optional<std::int32_t> mapType;
+  std::optional<double> mapZoomLevel;
+  std::optional<std::int32_t> mapViewType;
+
+  // Of most commands.
+  std::optional<std::string> locale;
+  std::optional<std::string> timeZone;
+  std::optional<std::string> root;
+  bool wantsHelp = false;
+  bool wantsVersion = false;
+
   // The commands' own.
-  bool json = false;                             // report
-  bool compact = false;                          // quick-info
-  std::optional<std::int32_t> display;           // caption
-  std::optional<std::string> coordinates;        // map-link
-  std::optional<model::Location> location;       // map-link
-  ParseKind parseKind = ParseKind::image;        // parse
-  std::optional<std::string> propertyList;       // parse
-  std::vector<std::string> words;                // parse, browse and settings, as they stand
-  bool unset = false;                            // settings
-  SettingsAction action = SettingsAction::list;  // settings
-  std::string key;                               // settings
-  std::string value;                             // settings
+  bool json = false;                        // report
+  bool compact = false;                     // quick-info
+  std::optional<std::int32_t> display;      // caption
+  std::optional<std::string> coordinates;   // map-link
+  std::optional<model::Location> location;  // map-link
+  std::optional<std::string> propertyList;  // parse
+  bool unset = false;                       // settings
 };
 
 }  // namespace lumifact::tool

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/terminal/console.h"
 #include "apps/lumifact/texts/environment.h"
 
 namespace lumifact::tool {
@@ -14,6 +15,8 @@ namespace lumifact::tool {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr const Option* takenOptions[] = {&option::locale, &option::timeZone, &option::root};
 
 // How many folders above the tool's the root of its tree is looked for: an installed tool lies in
 // "bin", one of the build tree deeper.
@@ -50,10 +53,13 @@ std::vector<std::string> argumentsOf(const Options& options, const std::string& 
   return arguments;
 }
 
-}  // namespace
+std::optional<model::Error> check(const Options& options) {
+  if (options.words.size() <= 1) return std::nullopt;
+  return model::Error{"takes one FOLDER"};
+}
 
 // The tool becomes the application, and comes back only where that fails.
-void runBrowse(const Options& options, Console& console) {
+void run(const Options& options, Console& console) {
   const std::string application = photoApplication();
   if (application.empty()) return console.fail("photohost", "the photo application is missing");
   if (extensionFolder().empty()) return console.fail("lumifact.so", "the extension is missing");
@@ -68,5 +74,18 @@ void runBrowse(const Options& options, Console& console) {
   ::execv(application.c_str(), pointers.data());
   console.fail(application, std::generic_category().message(errno));
 }
+
+}  // namespace
+
+constinit const Command browseCommand{
+    .name = "browse",
+    .summary = "open a folder in the photo application, with the extension",
+    .usage = "[OPTIONS] [FOLDER]",
+    .description =
+        "Opens the folder, or the pictures folder, in the photo application, with the extension "
+        "loaded: open a photo and press the info button, or I, for its report.",
+    .options = takenOptions,
+    .check = check,
+    .run = run};
 
 }  // namespace lumifact::tool

@@ -1,23 +1,24 @@
 // SPDX-License-Identifier: MIT
 //
-// The commands, one source file each: they do what checked options ask for. Results go to the
-// console; a file that fails is reported there and the others go on.
+// The tool and its commands, which have a source file each. A new command is added to the list in
+// commands.cpp.
 #pragma once
 
-#include "apps/lumifact/command_line/options.h"
-#include "apps/lumifact/terminal/console.h"
+#include "apps/lumifact/command_line/command.h"
 
 namespace lumifact::tool {
 
-void runReport(const Options& options, Console& console);
-void runProperties(const Options& options, Console& console);
-void runTable(const Options& options, Console& console);
-void runQuickInfo(const Options& options, Console& console);
-void runCaption(const Options& options, Console& console);
-void runSize(const Options& options, Console& console);
-void runMapLink(const Options& options, Console& console);
-void runParse(const Options& options, Console& console);
-void runBrowse(const Options& options, Console& console);
-void runSettings(const Options& options, Console& console);
+extern const Command reportCommand;
+extern const Command tableCommand;
+extern const Command quickInfoCommand;
+extern const Command captionCommand;
+extern const Command sizeCommand;
+extern const Command mapLinkCommand;
+extern const Command propertiesCommand;
+extern const Command parseCommand;
+extern const Command browseCommand;
+extern const Command settingsCommand;
+
+extern const Tool lumifactTool;
 
 }  // namespace lumifact::tool

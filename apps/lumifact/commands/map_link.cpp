@@ -3,13 +3,35 @@
 
 #include <utility>
 
+#include "apps/lumifact/command_line/option_store.h"
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/files/file_scan.h"
+#include "apps/lumifact/files/chosen_files.h"
+#include "apps/lumifact/terminal/console.h"
 #include "apps/lumifact/texts/asset_texts.h"
 
 namespace lumifact::tool {
 
 namespace {
+
+constexpr Option coordinatesOption{.name = "coordinates",
+                                   .values = "LAT,LON",
+                                   .help = "link to these coordinates, exactly as they are written",
+                                   .store = value<&Options::coordinates>};
+
+constexpr Option locationOption{.name = "location",
+                                .values = "LAT LON",
+                                .help =
+                                    "link to this place, in degrees, north and east positive; "
+                                    "--coordinates come first",
+                                .store = value<&Options::location>};
+
+constexpr const Option* takenOptions[] = {&coordinatesOption, &locationOption,  &option::settings,
+                                          &option::mapType,   &option::mapZoom, &option::mapView,
+                                          &option::root};
+
+bool namesPlace(const Options& options) {
+  return options.coordinates || options.location;
+}
 
 void printLink(const std::string& link, Console& console) {
   const bool isForTerminal = console.resultsAreOnTerminal();
@@ -24,22 +46,39 @@ model::Result<std::string> linkOfFile(const std::string& path, const Environment
   return *report.mapLink;
 }
 
-}  // namespace
+std::optional<model::Error> check(const Options& options) {
+  if (!namesPlace(options)) return checkOneFile(options);
+  if (options.words.empty()) return std::nullopt;
+  return model::Error{"takes FILE or a place, not both"};
+}
 
-void runMapLink(const Options& options, Console& console) {
-  if (options.coordinates || options.location) {
+void run(const Options& options, Console& console) {
+  if (namesPlace(options)) {
     const auto link = buildMapLink(options.coordinates, options.location, settingsOf(options));
     return printLink(*link, console);
   }
   const Environment environment = environmentOf(options, Reader::program);
-  for (const std::string& path : options.files) {
-    const auto link = linkOfFile(path, environment);
-    if (link) {
-      printLink(*link, console);
-    } else {
-      console.fail(path, link.error().reason);
-    }
-  }
+  const std::string& path = options.words.front();
+  const auto link = linkOfFile(path, environment);
+  if (!link) return console.fail(path, link.error().reason);
+  printLink(*link, console);
 }
+
+}  // namespace
+
+constinit const Command mapLinkCommand{
+    .name = "map-link",
+    .summary = "the link that opens a file's place in a map service",
+    .usage =
+        "[OPTIONS] FILE\n"
+        "[OPTIONS] --coordinates LAT,LON\n"
+        "[OPTIONS] --location LAT LON",
+    .description =
+        "Prints the link that opens the place of a photo or video in a map service, or "
+        "the one for a given place. A file without a location is an error.",
+    .examples = "lumifact map-link --map-type 1 --map-zoom 12 --location -33.8568 151.2153",
+    .options = takenOptions,
+    .check = check,
+    .run = run};
 
 }  // namespace lumifact::tool

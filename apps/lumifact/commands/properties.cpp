@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/files/chosen_files.h"
 #include "apps/lumifact/files/file_scan.h"
 #include "apps/lumifact/json/json_object.h"
 #include "apps/lumifact/json/media_asset_json.h"
@@ -9,6 +10,9 @@
 namespace lumifact::tool {
 
 namespace {
+
+constexpr const Option* takenOptions[] = {&option::recursive, &option::filesFrom, &option::null,
+                                          &option::jobs, &option::root};
 
 std::string jsonLine(const std::string& path, const media::facts::AssetFacts& facts) {
   std::string line;
@@ -21,9 +25,7 @@ std::string jsonLine(const std::string& path, const media::facts::AssetFacts& fa
   return line += '\n';
 }
 
-}  // namespace
-
-void runProperties(const Options& options, Console& console) {
+void run(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::program);
   const auto work = [&](const std::string& path) -> model::Result<std::string> {
     const auto facts = media::facts::readAssetFacts(path, environment.root);
@@ -32,5 +34,25 @@ void runProperties(const Options& options, Console& console) {
   };
   scanFiles(options, console, {.work = work});
 }
+
+}  // namespace
+
+constinit const Command propertiesCommand{
+    .name = "properties",
+    .summary = "the metadata as it was read, as JSON",
+    .usage = "[OPTIONS] FILE...",
+    .description =
+        "Prints the metadata of each file as it was read, before any wording: one JSON object a "
+        "line, with path (as given) and properties, or asset for a video. That inner object is "
+        "what 'lumifact parse' reads.\n"
+        "\n"
+        "Integers and reals are told apart (72 and 72.0); bytes are {\"$data\": base64}, dates "
+        "{\"$date\": ISO 8601 in UTC}, and reals that JSON lacks {\"$real\": \"nan\"}. A "
+        "dictionary "
+        "that could be taken for one of these is {\"$dictionary\": {...}}. Bytes of a path that "
+        "are no UTF-8 become U+FFFD.",
+    .options = takenOptions,
+    .check = checkFiles,
+    .run = run};
 
 }  // namespace lumifact::tool

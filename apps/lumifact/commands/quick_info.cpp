@@ -1,11 +1,22 @@
 // SPDX-License-Identifier: MIT
+#include "apps/lumifact/command_line/option_store.h"
 #include "apps/lumifact/commands/commands.h"
+#include "apps/lumifact/files/chosen_files.h"
 #include "apps/lumifact/files/file_scan.h"
 #include "apps/lumifact/texts/asset_texts.h"
 
 namespace lumifact::tool {
 
-void runQuickInfo(const Options& options, Console& console) {
+namespace {
+
+constexpr Option compactOption{
+    .name = "compact", .help = "leave the labels out", .store = flag<&Options::compact>};
+
+constexpr const Option* takenOptions[] = {&compactOption,    &option::recursive, &option::filesFrom,
+                                          &option::null,     &option::jobs,      &option::locale,
+                                          &option::timeZone, &option::root};
+
+void run(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   const QuickInfoForm form = options.compact ? QuickInfoForm::compact : QuickInfoForm::labelled;
   const auto work = [&](const std::string& path) -> model::Result<std::string> {
@@ -16,5 +27,20 @@ void runQuickInfo(const Options& options, Console& console) {
   };
   scanFiles(options, console, {.work = work, .separator = "\n"});
 }
+
+}  // namespace
+
+constinit const Command quickInfoCommand{
+    .name = "quick-info",
+    .summary = "a short summary: path, date, size, orientation or duration, place",
+    .usage = "[OPTIONS] FILE...",
+    .description =
+        "Prints a short summary of each file: path (with percent-escapes, as in a URL), date "
+        "taken, file size, pixel size as displayed, the duration of a video or the orientation of "
+        "a photo, and the place where the metadata names one. An empty line stands between two "
+        "files.",
+    .options = takenOptions,
+    .check = checkFiles,
+    .run = run};
 
 }  // namespace lumifact::tool

@@ -12,7 +12,8 @@
 #include <vector>
 
 #include "apps/lumifact/commands/commands.h"
-#include "apps/lumifact/files/file_scan.h"
+#include "apps/lumifact/files/chosen_files.h"
+#include "apps/lumifact/terminal/console.h"
 #include "apps/lumifact/texts/environment.h"
 #include "foundation/byte_count.h"
 #include "foundation/paths.h"
@@ -22,6 +23,9 @@
 namespace lumifact::tool {
 
 namespace {
+
+constexpr const Option* takenOptions[] = {&option::recursive, &option::filesFrom, &option::null,
+                                          &option::locale, &option::root};
 
 // What tells files apart in little memory: two names of one file that have the same hash too are
 // taken for one name.
@@ -48,9 +52,7 @@ model::Result<std::int64_t> fileSize(const std::string& path, Item& item) {
   return static_cast<std::int64_t>(status.st_size);
 }
 
-}  // namespace
-
-void runSize(const Options& options, Console& console) {
+void run(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   FileList files(filesOf(options));
   std::unordered_set<Item, ItemHash> selected;
@@ -70,5 +72,19 @@ void runSize(const Options& options, Console& console) {
   };
   console.write(selectionTitle(count + " Items Selected", selectionSize(sizes), sizeText) + "\n");
 }
+
+}  // namespace
+
+constinit const Command sizeCommand{
+    .name = "size",
+    .summary = "the title of a selection of files, with their size as a whole",
+    .usage = "[OPTIONS] FILE...",
+    .description =
+        "Prints the title of the files as a selection, with the size of all of them: '12 Items "
+        "Selected (31.4 MB) '. A file that is named twice counts once; one that cannot be read "
+        "counts as an item of 0 bytes and is reported. Where the size is 0, the title has none.",
+    .options = takenOptions,
+    .check = checkFiles,
+    .run = run};
 
 }  // namespace lumifact::tool

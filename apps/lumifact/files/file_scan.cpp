@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <thread>
 
+#include "apps/lumifact/files/chosen_files.h"
 #include "apps/lumifact/terminal/progress.h"
 
 namespace lumifact::tool {
@@ -19,13 +20,6 @@ unsigned threadsOf(const Options& options) {
 }
 
 }  // namespace
-
-FileListRequest filesOf(const Options& options) {
-  return {.paths = options.files,
-          .listFile = options.filesFrom,
-          .listSeparator = options.listsEndInZero ? '\0' : '\n',
-          .isRecursive = options.isRecursive};
-}
 
 std::string asLines(std::string text) {
   if (!text.ends_with('\n')) text += '\n';

@@ -24,9 +24,6 @@ struct FileScan {
 // Prints the results in the order of the files; failures are reported and the others go on.
 void scanFiles(const Options& options, Console& console, const FileScan& scan);
 
-// The files that the options name, one after the other.
-FileListRequest filesOf(const Options& options);
-
 // The text with a line break at its end, unless it has one.
 std::string asLines(std::string text);
 

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "apps/lumifact/texts/setting_text.h"
 
-#include <charconv>
-#include <cmath>
-#include <system_error>
 #include <utility>
 
+#include "apps/lumifact/command_line/number_text.h"
 #include "lumifact/state/settings.h"
 
 namespace lumifact::tool {
@@ -29,20 +27,10 @@ std::optional<model::Value> flagFromText(std::string text) {
   return std::nullopt;
 }
 
-// A whole text as a number; a leading plus is allowed.
 template <typename Number>
-std::optional<model::Value> numberFromText(std::string_view text) {
-  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-  Number number{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
-
-std::optional<model::Value> realFromText(std::string_view text) {
-  auto number = numberFromText<double>(text);
-  if (number && !std::isfinite(*number->asReal())) return std::nullopt;
-  return number;
+std::optional<model::Value> valueFromText(std::string_view text) {
+  const auto number = numberFromText<Number>(text);
+  return number ? std::optional<model::Value>(*number) : std::nullopt;
 }
 
 }  // namespace
@@ -70,11 +58,11 @@ model::Result<model::Value> settingFromText(std::string_view key, std::string_vi
     case SettingKind::flag:
       return reading(flagFromText(std::string(text)), "true or false (or yes, no, 1, 0)");
     case SettingKind::integer:
-      return reading(numberFromText<std::int64_t>(text), "an integer");
+      return reading(valueFromText<std::int64_t>(text), "an integer");
     case SettingKind::real:
       break;
   }
-  return reading(realFromText(text), "a number");
+  return reading(valueFromText<double>(text), "a number");
 }
 
 }  // namespace lumifact::tool

@@ -3,73 +3,94 @@
 
 #include <gtest/gtest.h>
 
-#include "apps/lumifact/command_line/command_line.h"
-#include "model/utf8.h"
-#include "tests/apps/lumifact/tool_runner.h"
+#include "apps/lumifact/command_line/option_store.h"
 
 namespace lumifact::tool {
 namespace {
 
-constexpr const char* commands[] = {"report", "properties", "table", "quick-info", "caption",
-                                    "size",   "map-link",   "parse", "browse",     "settings"};
+constexpr Option loud{.letter = 'l',
+                      .name = "loud",
+                      .help = "say it loudly, so that everybody who is in the room hears it well",
+                      .store = flag<&Options::json>};
+constexpr Option place{.name = "where-exactly",
+                       .values = "LAT LON",
+                       .help = "where to say it\n(default: here)",
+                       .store = value<&Options::location>};
+constexpr const Option* sayOptions[] = {&loud, &place, &option::root};
 
-// Every option with an argument that it takes; the command that it belongs to, or all.
-struct OptionCase {
-  const char* command;
-  std::vector<std::string> words;
-};
+constexpr Command say{.name = "say",
+                      .summary = "say something",
+                      .usage = "[OPTIONS] WORD...\n[OPTIONS] --loud",
+                      .description =
+                          "Says the words, one after the other, in the order in which "
+                          "they were given to it.\n\nThen rests.",
+                      .examples = "talk say 'a  b'",
+                      .options = sayOptions,
+                      .check = nullptr,
+                      .run = nullptr};
+constexpr Command rest{.name = "rest-for-long",
+                       .summary = "say nothing",
+                       .usage = "",
+                       .description = "Rests.",
+                       .options = {},
+                       .check = nullptr,
+                       .run = nullptr};
+constexpr const Command* commands[] = {&say, &rest};
+constexpr Tool talk{.name = "talk",
+                    .version = "1",
+                    .summary = "what is to be said",
+                    .usage = "COMMAND [WORD...]",
+                    .examples = "talk say x\ntalk rest-for-long",
+                    .closing = "It is quiet otherwise.",
+                    .commands = commands};
 
-const OptionCase optionCases[] = {
-    {"", {"--recursive"}},
-    {"", {"-r"}},
-    {"", {"--files-from", "-"}},
-    {"", {"--jobs", "2"}},
-    {"", {"-j", "2"}},
-    {"", {"--settings", "x"}},
-    {"", {"--map-type", "1"}},
-    {"", {"--map-zoom", "1.5"}},
-    {"", {"--map-view", "-1"}},
-    {"", {"--locale", "de_DE"}},
-    {"", {"--time-zone", "UTC"}},
-    {"", {"--root", "x"}},
-    {"report", {"--json"}},
-    {"quick-info", {"--compact"}},
-    {"caption", {"--display", "3"}},
-    {"parse", {"--plist", "x"}},
-    {"map-link", {"--coordinates", "-1,2"}},
-    {"map-link", {"--location", "-1", "2.5"}},
-};
+constexpr const char* generalHelp = R"(
+General:
+      --root FOLDER      the folder that stands for the phone's file system:
+                         /var/mobile lies below it
+                         (default: photohost in XDG_DATA_HOME or ~/.local/share)
+  -h, --help             print this help
+      --version          print the version
+)";
 
-TEST(HelpText, FitsAnOrdinaryTerminal) {
-  std::vector<std::string> texts{helpText("")};
-  for (const char* command : commands) texts.push_back(helpText(command));
-  for (const std::string& text : texts) {
-    EXPECT_TRUE(text.ends_with("\n"));
-    for (const std::string& line : linesOf(text)) EXPECT_LE(line.size(), 80U) << line;
-  }
+TEST(HelpText, OfACommandIsItsRecord) {
+  EXPECT_EQ(helpText(talk, say), std::string(R"(Usage: talk say [OPTIONS] WORD...
+       talk say [OPTIONS] --loud
+
+Says the words, one after the other, in the order in which they were given to
+it.
+
+Then rests.
+
+Options:
+  -l, --loud             say it loudly, so that everybody who is in the room
+                         hears it well
+      --where-exactly LAT LON
+                         where to say it
+                         (default: here)
+)") + generalHelp + R"(
+Example:
+  talk say 'a  b'
+)");
 }
 
-TEST(HelpText, OfTheToolNamesEveryCommand) {
-  for (const char* command : commands) {
-    EXPECT_NE(helpText("").find(std::string("\n  ") + command + " "), std::string::npos) << command;
-    EXPECT_TRUE(helpText(command).starts_with(std::string("Usage: lumifact ") + command))
-        << command;
-  }
-}
+TEST(HelpText, OfTheToolListsItsCommandsAndTheOptionsOfSeveral) {
+  EXPECT_EQ(helpText(talk), std::string(R"(talk: what is to be said
 
-TEST(HelpText, TellsOfEveryOptionThatIsUnderstood) {
-  for (const OptionCase& item : optionCases) {
-    const bool isCommon = *item.command == '\0';
-    const std::string command = isCommon ? "report" : item.command;
-    EXPECT_NE(helpText(command).find(item.words[0]), std::string::npos) << item.words[0];
-    if (isCommon) {
-      EXPECT_NE(helpText("").find(item.words[0]), std::string::npos) << item.words[0];
-    }
-    std::vector<std::string> arguments{command};
-    arguments.insert(arguments.end(), item.words.begin(), item.words.end());
-    const std::string error = readCommandLine(arguments).usageError;
-    EXPECT_EQ(error.find("unknown"), std::string::npos) << item.words[0] << ": " << error;
-  }
+Usage: talk COMMAND [WORD...]
+
+Commands:
+  say             say something
+  rest-for-long   say nothing
+
+'talk COMMAND --help' tells more about a command.
+)") + generalHelp + R"(
+Examples:
+  talk say x
+  talk rest-for-long
+
+It is quiet otherwise.
+)");
 }
 
 }  // namespace
