@@ -12,7 +12,7 @@
 #include "io/source_reader.h"
 #include "tests/media/image/container_builder.h"
 #include "tests/media/image/heif_builder.h"
-#include "tests/media/image/tiff_builder.h"
+#include "tests/support/tiff_builder.h"
 
 namespace media::image {
 namespace {
