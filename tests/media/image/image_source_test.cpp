@@ -25,9 +25,9 @@ struct Sample {
 };
 
 std::string tiffFile(std::string_view xmp, std::string_view profile) {
-  const Bytes tiff =
-      buildTiff(ByteOrder::big, {{longs(0x0100, {8}), longs(0x0101, {6}), ascii(0x010F, "Maker"),
-                                  undefined(0x02BC, xmp), undefined(0x8773, profile)}});
+  const Bytes tiff = buildTiff(io::ByteOrder::big,
+                               {{longs(0x0100, {8}), longs(0x0101, {6}), ascii(0x010F, "Maker"),
+                                 undefined(0x02BC, xmp), undefined(0x8773, profile)}});
   return std::string(asText(tiff));
 }
 
