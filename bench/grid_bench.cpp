@@ -19,8 +19,9 @@
 #include "desktop/pictures/serve_decoder.h"
 #include "desktop/render/renderer.h"
 #include "desktop/render/screen_picture.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/handles.h"
 
 namespace {
@@ -76,15 +77,15 @@ photos_ui::ItemListPointer listOf(std::vector<library::ItemPointer> items, bool 
   return std::make_shared<photos_ui::ItemList>(std::move(items), std::move(sections));
 }
 
-// The grid on the stage, below its bar.
+// The grid on the screen, below its bar.
 bridge::Owned<bridge::UIViewController> show(const photos_ui::ItemListPointer& list,
                                              bool hasSections) {
-  uikit::resetStage();
+  uikit::resetApplication();
   auto grid = photos_ui::PUPhotosGridViewController::make(
       photos_ui::PUPhotosGridViewController::classObject(),
       {.title = "Moments", .list = [list] { return list; }, .hasHeaders = hasSections});
   const auto window =
-      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(uikit::stage().screenSize));
+      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(uikit::screen().size));
   window->setRootViewController(bridge::UINavigationController::withRoot(grid).get());
   window->makeKeyAndVisible();
   return grid;
@@ -106,7 +107,7 @@ void scrollingGrid(benchmark::State& state) {
     const bridge::AutoreleasePool framePool;
     y += step;
     bridge::send<void, "setContentOffset:">(view, CGPoint{0, y});
-    uikit::stage().advance(1.0 / 60);
+    uikit::application().advance(1.0 / 60);
     photos_ui::host().pictures->deliverFinished();
     screen.update(scale);
   };
@@ -149,7 +150,7 @@ int main(int argc, char** argv) {
   photos_ui::host().pictures = &pictures;
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
-  uikit::resetStage();
+  uikit::resetApplication();
   photos_ui::host() = {};
   return 0;
 }

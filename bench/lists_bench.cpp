@@ -5,8 +5,10 @@
 // 16.7 ms in all.
 #include <benchmark/benchmark.h>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/application/window_painter.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/views/view_painter.h"
@@ -43,13 +45,13 @@ bridge::Owned<bridge::NSObject> make() {
 }
 
 // A window with one scroll view that fills it.
-class Screen {
+class ShownView {
  public:
-  explicit Screen(bridge::UIView list) : _list(bridge::Owned<bridge::UIView>::retain(list)) {
-    const auto window = bridge::makeView<handles::UIWindow>(rectOfSize(stage().screenSize));
+  explicit ShownView(bridge::UIView list) : _list(bridge::Owned<bridge::UIView>::retain(list)) {
+    const auto window = bridge::makeView<handles::UIWindow>(rectOfSize(screen().size));
     window->makeKeyAndVisible();
     window->addSubview(list);
-    stage().prepareFrame();
+    application().prepareFrame();
   }
 
   // Shows the next frame, so many points further down, from the top again at the end.
@@ -57,11 +59,11 @@ class Screen {
     const bridge::AutoreleasePool pool;
     const handles::UIScrollView scroll(_list.get().get());
     CGFloat y = scroll.contentOffset().y + points;
-    if (y > scroll.contentSize().height - stage().screenSize.height) y = 0;
+    if (y > scroll.contentSize().height - screen().size.height) y = 0;
     scroll.setContentOffset({0, y});
-    stage().prepareFrame();
-    stage().damage.take();
-    paintStage(_canvas);
+    application().prepareFrame();
+    screen().damage.take();
+    paintWindows(_canvas);
   }
 
  private:
@@ -73,7 +75,7 @@ bridge::Owned<bridge::UIView> makeGrid(bridge::NSObject source, bridge::NSObject
   auto view = bridge::Owned<bridge::UIView>::adopt(
       bridge::send<bridge::UIView, "initWithFrame:collectionViewLayout:">(
           bridge::send<id, "alloc">(bridge::UICollectionView::classObject()),
-          rectOfSize(stage().screenSize), bridge::UICollectionViewLayout(layout.get())));
+          rectOfSize(screen().size), bridge::UICollectionViewLayout(layout.get())));
   bridge::send<void, "setDataSource:">(view, source);
   bridge::send<void, "registerClass:forCellWithReuseIdentifier:">(view, TestCell::classObject(),
                                                                   bridge::NSString::make("cell"));
@@ -83,15 +85,15 @@ bridge::Owned<bridge::UIView> makeGrid(bridge::NSObject source, bridge::NSObject
 bridge::Owned<bridge::UIView> makeTable(bridge::NSObject source) {
   auto view =
       bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:style:">(
-          bridge::send<id, "alloc">(bridge::UITableView::classObject()),
-          rectOfSize(stage().screenSize), NSInteger{UITableView::grouped}));
+          bridge::send<id, "alloc">(bridge::UITableView::classObject()), rectOfSize(screen().size),
+          NSInteger{UITableView::grouped}));
   bridge::send<void, "setDataSource:">(view, source);
   return view;
 }
 
 void begin() {
   registerUIKit();
-  resetStage();
+  resetApplication();
 }
 
 // A frame of a grid in so many columns, so many points further down.
@@ -104,10 +106,10 @@ void scrollGrid(benchmark::State& state) {
   GridLayout::of(layout.get()).columns = state.range(0);
   GridLayout::of(layout.get()).side = 376.0 / static_cast<double>(state.range(0)) - 1;
   {
-    Screen screen(makeGrid(source, layout));
+    ShownView screen(makeGrid(source, layout));
     for (auto _ : state) screen.scroll(static_cast<CGFloat>(state.range(1)));
   }
-  resetStage();
+  resetApplication();
 }
 BENCHMARK(scrollGrid)
     ->ArgNames({"columns", "points"})
@@ -120,10 +122,10 @@ void scrollTable(benchmark::State& state) {
   const auto source = make<TableSource>();
   TableSource::of(source.get()).rowCount = entries;
   {
-    Screen screen(makeTable(source));
+    ShownView screen(makeTable(source));
     for (auto _ : state) screen.scroll(static_cast<CGFloat>(state.range(0)));
   }
-  resetStage();
+  resetApplication();
 }
 BENCHMARK(scrollTable)
     ->ArgName("points")
@@ -141,8 +143,8 @@ void openGrid(benchmark::State& state) {
   CollectionSource::of(source.get()).itemCount = entries;
   for (auto _ : state) {
     const bridge::AutoreleasePool inner;
-    Screen screen(makeGrid(source, layout));
-    resetStage();
+    ShownView screen(makeGrid(source, layout));
+    resetApplication();
   }
 }
 BENCHMARK(openGrid)->Unit(benchmark::kMicrosecond);
@@ -154,8 +156,8 @@ void openTable(benchmark::State& state) {
   TableSource::of(source.get()).rowCount = entries;
   for (auto _ : state) {
     const bridge::AutoreleasePool inner;
-    Screen screen(makeTable(source));
-    resetStage();
+    ShownView screen(makeTable(source));
+    resetApplication();
   }
 }
 BENCHMARK(openTable)->Unit(benchmark::kMicrosecond);

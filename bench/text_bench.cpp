@@ -9,8 +9,9 @@
 #include "bridge/uikit.h"
 #include "desktop/render/renderer.h"
 #include "desktop/render/screen_picture.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "desktop/uikit/text/utf16.h"
@@ -18,7 +19,8 @@
 namespace {
 
 using bridge::NSString;
-using desktop::uikit::stage;
+using desktop::uikit::application;
+using desktop::uikit::screen;
 using desktop::uikit::UIScrollView;
 
 constexpr std::size_t reportUnits = 10'000'000;
@@ -45,24 +47,24 @@ bridge::Owned<bridge::NSMutableAttributedString> attributed(NSString text, bridg
 }
 
 // A window with one text view that fills it.
-class Screen {
+class ShownView {
  public:
-  Screen() {
-    desktop::uikit::resetStage();
-    const CGRect whole = desktop::uikit::rectOfSize(stage().screenSize);
+  ShownView() {
+    desktop::uikit::resetApplication();
+    const CGRect whole = desktop::uikit::rectOfSize(screen().size);
     const auto window = bridge::makeView<desktop::uikit::handles::UIWindow>(whole);
     window->makeKeyAndVisible();
     view = bridge::makeView<bridge::UITextView>(whole);
     view->setBackgroundColor(bridge::UIColor::whiteColor());
     window->addSubview(view);
   }
-  ~Screen() {
+  ~ShownView() {
     view.reset();
-    desktop::uikit::resetStage();
+    desktop::uikit::resetApplication();
   }
 
   void paint() {
-    stage().prepareFrame();
+    application().prepareFrame();
     picture.update(scale);
   }
 
@@ -93,14 +95,14 @@ void firstPage(benchmark::State& state) {
   const bridge::AutoreleasePool pool;
   const auto text = textOf(state.range(0));
   for (auto _ : state) {
-    Screen screen;
+    ShownView screen;
     screen.view->setAttributedText(text);
     screen.paint();
   }
 }
 
 void scrollStep(benchmark::State& state) {
-  Screen screen;
+  ShownView screen;
   screen.view->setAttributedText(textOf(state.range(0)));
   screen.paint();
   for (auto _ : state) {
@@ -111,7 +113,7 @@ void scrollStep(benchmark::State& state) {
 
 // From the beginning to the end and back.
 void jumpToEnd(benchmark::State& state) {
-  Screen screen;
+  ShownView screen;
   screen.view->setAttributedText(textOf(state.range(0)));
   screen.paint();
   for (auto _ : state) {

@@ -12,8 +12,8 @@
 #include "desktop/render/renderer.h"
 #include "desktop/render/screen_picture.h"
 #include "desktop/render/window.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/base/screen.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ int run(int count, char** arguments) {
                             picture.empty() ? render::Display::real : render::Display::none);
   faces::correctFoundation({});
   uikit::registerUIKit();
-  uikit::stage().scale = scale;
+  uikit::screen().scale = scale;
   if (const auto failed = gallery::showScene(view)) return fail(failed->reason);
   if (picture.empty()) return showWindow();
   const auto failed = render::writeScreenshot(picture, scale);

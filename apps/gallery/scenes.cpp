@@ -8,9 +8,11 @@
 #include "bridge/convert.h"
 #include "bridge/uikit.h"
 #include "desktop/script/screen_text.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/handles.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_pop_up_view_controller.h"
 #include "lumifact/views/lumifact_view_controller.h"
@@ -19,20 +21,22 @@ namespace gallery {
 namespace {
 
 using bridge::NSString;
-using desktop::uikit::stage;
+using desktop::uikit::application;
+using desktop::uikit::screen;
+using desktop::uikit::touches;
 
 constexpr std::int32_t fontSize = 12;            // points
 constexpr desktop::uikit::Seconds restTime = 1;  // until everything stands still
 constexpr desktop::uikit::Seconds pressTime = 0.6;
 
 void rest() {
-  stage().advance(restTime);
+  application().advance(restTime);
 }
 
 void press(CGPoint at, desktop::uikit::Seconds time) {
-  stage().touches.down(at);
-  stage().advance(time);
-  stage().touches.up(at);
+  touches().down(at);
+  application().advance(time);
+  touches().up(at);
   rest();
 }
 
@@ -47,7 +51,7 @@ void longPress(std::string_view text) {
 // An empty screen that others are presented on.
 bridge::UIViewController makeRoot() {
   const auto window = bridge::makeView<desktop::uikit::handles::UIWindow>(
-      desktop::uikit::rectOfSize(stage().screenSize));
+      desktop::uikit::rectOfSize(screen().size));
   const auto root = bridge::makeNew<bridge::UIViewController>();
   root->view().setBackgroundColor(bridge::UIColor::white(0.85, 1));
   window->setRootViewController(root);
@@ -93,7 +97,7 @@ void showTable() {
 
 void showTableSection() {
   showTable();
-  stage().touches.scroll({100, 400}, {0, 600});
+  touches().scroll({100, 400}, {0, 600});
   rest();
   tap("{Exif}");
 }

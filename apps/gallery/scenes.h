@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The views of the gallery, each as a scene that can be set up on the stage.
+// The views of the gallery, each as a scene that can be set up on the screen.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@
 
 namespace gallery {
 
-// Puts the scene of this name on the stage, and waits until it is at rest.
+// Puts the scene of this name on the screen, and waits until it is at rest.
 // Errors: an unknown name, with the list of those known.
 std::optional<model::Error> showScene(std::string_view name);
 

@@ -4,15 +4,14 @@
 #include <cmath>
 
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/uikit/application/stage.h"
 
 namespace photohost {
 namespace {
 
 using namespace desktop;
+using script::Finger;
 using script::ScriptRunner;
 using script::Word;
-using uikit::stage;
 using Arguments = ScriptRunner::Arguments;
 using Outcome = ScriptRunner::Outcome;
 
@@ -69,55 +68,38 @@ Outcome select(Arguments words) {
   return item ? photos_ui::selectItem(*item) : item.error();
 }
 
-// A finger that swipes over cells to select them.
-CGPoint swipeAt;
-
-Outcome swipeBegin(Arguments words) {
-  if (words.size() != 1) return model::Error{"a swipe begins at the number of an item"};
-  const auto item = itemNumber(words[0]);
+model::Result<CGPoint> placeOf(const Word& word) {
+  const auto item = itemNumber(word);
   if (!item) return item.error();
-  const auto place = photos_ui::placeOfItem(*item);
-  if (!place) return place.error();
-  swipeAt = *place;
-  stage().touches.down(swipeAt);
-  // Far enough sideways for a swipe, not for another item.
+  return photos_ui::placeOfItem(*item);
+}
+
+// A finger that swipes over cells to select them: far enough sideways for a swipe, not for another
+// item.
+Outcome swipeBegin(Finger& finger, Arguments words) {
   constexpr CGFloat slop = 12;
-  swipeAt.x += slop;
-  stage().touches.move(swipeAt);
-  stage().advance(0);
-  return std::nullopt;
-}
-
-Outcome swipeMove(Arguments words) {
-  if (words.size() != 1) return model::Error{"a swipe moves to the number of an item"};
-  const auto item = itemNumber(words[0]);
-  if (!item) return item.error();
-  const auto place = photos_ui::placeOfItem(*item);
+  if (words.size() != 1) return model::Error{"a swipe begins at the number of an item"};
+  const auto place = placeOf(words[0]);
   if (!place) return place.error();
-  swipeAt = *place;
-  stage().touches.move(swipeAt);
-  stage().advance(0);
+  finger.down(*place);
+  finger.move({place->x + slop, place->y});
   return std::nullopt;
 }
 
-Outcome swipeEnd(Arguments) {
-  stage().touches.up(swipeAt);
-  stage().advance(0);
+Outcome swipeMove(Finger& finger, Arguments words) {
+  if (words.size() != 1) return model::Error{"a swipe moves to the number of an item"};
+  const auto place = placeOf(words[0]);
+  if (!place) return place.error();
+  finger.move(*place);
   return std::nullopt;
 }
 
-Outcome swipeCancel(Arguments) {
-  stage().touches.cancel();
-  stage().advance(0);
-  return std::nullopt;
-}
-
-Outcome swipeSelect(Arguments words) {
+Outcome swipeSelect(Finger& finger, Arguments words) {
   script::settle();
   if (words.size() != 2) return model::Error{"swipe-select takes the numbers of two items"};
-  if (auto failed = swipeBegin(words.first(1))) return failed;
-  auto failed = swipeMove(words.last(1));
-  swipeEnd({});
+  if (auto failed = swipeBegin(finger, words.first(1))) return failed;
+  auto failed = swipeMove(finger, words.last(1));
+  finger.up();
   return failed;
 }
 
@@ -138,16 +120,23 @@ void addItemTarget(ScriptRunner& runner, const std::string& name) {
 }  // namespace
 
 void addHostCommands(ScriptRunner& runner) {
+  Finger& finger = runner.finger;
   runner.add("open", open);
   runner.add("peek", peek);
   runner.add("zoom-level", zoomLevel);
   runner.add("back", back);
   runner.add("select", select);
-  runner.add("swipe-select", swipeSelect);
-  runner.add("swipe-begin", swipeBegin);
-  runner.add("swipe-move", swipeMove);
-  runner.add("swipe-end", swipeEnd);
-  runner.add("swipe-cancel", swipeCancel);
+  runner.add("swipe-select", [&finger](Arguments words) { return swipeSelect(finger, words); });
+  runner.add("swipe-begin", [&finger](Arguments words) { return swipeBegin(finger, words); });
+  runner.add("swipe-move", [&finger](Arguments words) { return swipeMove(finger, words); });
+  runner.add("swipe-end", [&finger](Arguments) -> Outcome {
+    finger.up();
+    return std::nullopt;
+  });
+  runner.add("swipe-cancel", [&finger](Arguments) -> Outcome {
+    finger.cancel();
+    return std::nullopt;
+  });
   addItemTarget(runner, "tap");
   addItemTarget(runner, "long-press");
 }

@@ -6,10 +6,11 @@
 #include "bridge/uikit.h"
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/photos_ui/one_up/one_up.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controls/ui_button.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_responder.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -49,15 +50,15 @@ bool is(const QKeyEvent& event, int key, Qt::KeyboardModifiers modifiers = Qt::N
 
 // Lists, grids and texts scroll by what the keys say, in points.
 bool scrollScreen(CGFloat distance) {
-  const CGSize screen = uikit::stage().screenSize;
-  uikit::stage().touches.scroll({screen.width / 2, screen.height / 2}, {0, distance});
+  const CGSize screen = uikit::screen().size;
+  uikit::touches().scroll({screen.width / 2, screen.height / 2}, {0, distance});
   return true;
 }
 
 bool scrollByKey(const QKeyEvent& event) {
   constexpr CGFloat line = 60;
   constexpr CGFloat everything = 1e9;
-  const CGFloat page = uikit::stage().screenSize.height * 0.8;
+  const CGFloat page = uikit::screen().size.height * 0.8;
   switch (event.key()) {
     case Qt::Key_Down:
       return scrollScreen(line);

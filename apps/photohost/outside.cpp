@@ -12,6 +12,7 @@
 
 #include "bridge/block.h"
 #include "bridge/uikit.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/handles.h"
 
 namespace photohost {
@@ -22,7 +23,7 @@ using bridge::NSString;
 using bridge::UIAlertAction;
 using bridge::UIAlertController;
 using bridge::UIViewController;
-using desktop::uikit::stage;
+using desktop::uikit::application;
 
 constexpr int mostNames = 1'000;  // of one document, before giving up
 
@@ -31,8 +32,9 @@ void copyText(const std::string& text) {
 }
 
 UIViewController topController() {
-  if (stage().windows.empty()) return {};
-  auto top = desktop::uikit::handles::UIWindow(stage().windows.front()->get()).rootViewController();
+  if (application().windows.empty()) return {};
+  auto top =
+      desktop::uikit::handles::UIWindow(application().windows.front()->get()).rootViewController();
   while (const auto next = bridge::send<UIViewController, "presentedViewController">(top))
     top = next;
   return top;

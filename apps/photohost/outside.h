@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/outside.h"
 
 namespace photohost {
 

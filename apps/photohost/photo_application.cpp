@@ -16,9 +16,12 @@
 #include "desktop/runtime/debug_log.h"
 #include "desktop/script/script_runner.h"
 #include "desktop/script/system_commands.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/outside.h"
+#include "desktop/uikit/base/platform_log.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/handles.h"
 #include "foundation/notification_core.h"
 
@@ -26,7 +29,10 @@ namespace photohost {
 namespace {
 
 using namespace desktop;
-using uikit::stage;
+using uikit::application;
+using uikit::outside;
+using uikit::platformLog;
+using uikit::screen;
 
 constexpr std::chrono::seconds longestWait{10};  // for pictures, in scripts
 
@@ -55,19 +61,19 @@ PhotoApplication::PhotoApplication(int& argumentCount, char** arguments, const O
   faces::correctFoundation({.root = _root, .bundleIdentifier = options.bundleIdentifier});
   runtime::openDarwinNotifications(foundation::notificationFolder(_root.folder()));
   runtime::setDebugLogSink(
-      [](const runtime::DebugLogLine& line) { stage().log.push_back(line.message()); });
+      [](const runtime::DebugLogLine& line) { platformLog().push_back(line.message()); });
   uikit::registerUIKit();
   photos_ui::registerPhotosUI();
   faces::registerAVFoundation();
-  stage().screenSize = options.size;
-  stage().scale = options.scale;
-  stage().statusBar = {.isShown = true};
+  screen().size = options.size;
+  screen().scale = options.scale;
+  application().statusBar = {.isShown = true};
   loadExtensions();
   openLibrary();
 }
 
 PhotoApplication::~PhotoApplication() {
-  uikit::resetStage();
+  uikit::resetApplication();
   photos_ui::host() = {};
 }
 
@@ -95,8 +101,7 @@ void PhotoApplication::openLibrary() {
 
 void PhotoApplication::showWindow() {
   const bridge::AutoreleasePool pool;
-  const auto window =
-      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(stage().screenSize));
+  const auto window = bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(screen().size));
   window->setRootViewController(photos_ui::makeRootController().get());
   window->makeKeyAndVisible();
 }
@@ -110,9 +115,9 @@ void PhotoApplication::deliver() {
 void PhotoApplication::deliverAll() {
   if (_library) _library->waitAndDeliver();
   runtime::deliverDarwinNotifications();
-  stage().prepareFrame();
+  application().prepareFrame();
   _pictures.waitUntilIdle(longestWait);
-  stage().prepareFrame();
+  application().prepareFrame();
 }
 
 int PhotoApplication::run() {
@@ -121,7 +126,7 @@ int PhotoApplication::run() {
 }
 
 int PhotoApplication::runScript() {
-  stage().outside = recordingOutside();
+  outside() = recordingOutside();
   script::ScriptRunner runner;
   script::addTouchCommands(runner);
   script::addScreenCommands(runner);
@@ -135,7 +140,7 @@ int PhotoApplication::runScript() {
 }
 
 int PhotoApplication::runWindow() {
-  stage().outside = desktopOutside();
+  outside() = desktopOutside();
   MainLoop loop([this] { deliver(); });
   loop.watch(_pictures.wakeDescriptor());
   if (_library) loop.watch(_library->wakeDescriptor());

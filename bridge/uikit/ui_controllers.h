@@ -125,6 +125,9 @@ struct UIApplication : UIResponder {
     return send<UIApplication, "sharedApplication">(classObject());
   }
 
+  // The windows on screen from back to front; the foremost of them, nil where there is none.
+  NSArray windows() const { return send<NSArray, "windows">(*this); }
+  UIView keyWindow() const { return send<UIView, "keyWindow">(*this); }
   // Whether the system had somebody to open it; nil is nobody's.
   bool openURL(NSURL url) const { return send<bool, "openURL:">(*this, url); }
 };

@@ -7,14 +7,15 @@
 
 #include "bridge/runtime/autorelease_pool.h"
 #include "desktop/render/painter_canvas.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/window_painter.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/views/view_painter.h"
 
 namespace desktop::render {
 namespace {
 
 QSize screenPixels(double scale) {
-  const CGSize size = uikit::stage().screenSize;
+  const CGSize size = uikit::screen().size;
   const auto pixels = [scale](double points) {
     return std::max(1, static_cast<int>(std::ceil(points * scale)));
   };
@@ -40,14 +41,14 @@ void paintScreen(QImage& image, double scale, CGRect inside, ShadowCache& shadow
   const bridge::AutoreleasePool pool;
   PainterCanvas canvas(image, scale, inside, shadows);
   canvas.fill(inside, uikit::colors::black, 0);
-  uikit::paintStage(canvas);
+  uikit::paintWindows(canvas);
 }
 
 }  // namespace
 
 std::vector<CGRect> ScreenPicture::update(double scale) {
-  const CGRect screen = uikit::rectOfSize(uikit::stage().screenSize);
-  std::vector<CGRect> damage = uikit::stage().damage.take();
+  const CGRect screen = uikit::rectOfSize(uikit::screen().size);
+  std::vector<CGRect> damage = uikit::screen().damage.take();
   if (_image.size() != screenPixels(scale) || _scale != scale) {
     _image = blankScreen(scale);
     _scale = scale;
@@ -64,7 +65,7 @@ std::vector<CGRect> ScreenPicture::update(double scale) {
 std::optional<model::Error> writeScreenshot(const std::string& path, double scale) {
   QImage image = blankScreen(scale);
   ShadowCache shadows;
-  paintScreen(image, scale, uikit::rectOfSize(uikit::stage().screenSize), shadows);
+  paintScreen(image, scale, uikit::rectOfSize(uikit::screen().size), shadows);
   QImageWriter writer(QString::fromStdString(path), "png");
   if (writer.write(image.convertToFormat(QImage::Format_RGB32))) return std::nullopt;
   return model::Error{writer.errorString().toStdString()};

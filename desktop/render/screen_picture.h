@@ -13,7 +13,7 @@
 
 namespace desktop::render {
 
-// The stage's windows as pixels, painted again only where the stage says that something changed.
+// The windows as pixels, painted again only where the screen says that something changed.
 class ScreenPicture {
  public:
   // Paints what changed since the last time, or everything after a change of size or scale; pixels
@@ -27,7 +27,7 @@ class ScreenPicture {
   ShadowCache _shadows;
 };
 
-// Writes the screen as it is now to a PNG file; answers what went wrong. The stage's damage stays
+// Writes the screen as it is now to a PNG file; answers what went wrong. The screen's damage stays
 // as it is.
 std::optional<model::Error> writeScreenshot(const std::string& path, double scale);
 

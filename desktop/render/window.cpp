@@ -6,12 +6,19 @@
 #include <algorithm>
 
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "desktop/uikit/views/animator.h"
 
 namespace desktop::render {
 namespace {
 
-using uikit::stage;
+using uikit::animator;
+using uikit::application;
+using uikit::scheduler;
+using uikit::touches;
 
 constexpr int frameMilliseconds = 16;
 constexpr uikit::Seconds longPress = 0.6;  // long enough for whoever waits for one
@@ -33,7 +40,7 @@ CGPoint wheelDistance(const QWheelEvent& event) {
 
 Window::Window() : _store(this) {
   setSurfaceType(QSurface::RasterSurface);
-  const CGSize size = stage().screenSize;
+  const CGSize size = uikit::screen().size;
   resize(static_cast<int>(size.width), static_cast<int>(size.height));
   setMinimumSize({280, 400});
   _timer.setSingleShot(true);
@@ -53,8 +60,8 @@ void Window::wake() {
 void Window::takeTurn() {
   const bridge::AutoreleasePool pool;
   if (turn) turn();
-  stage().scheduler.advanceTo(static_cast<double>(_clock.elapsed()) / 1000);
-  stage().prepareFrame();
+  scheduler().advanceTo(static_cast<double>(_clock.elapsed()) / 1000);
+  application().prepareFrame();
   showChanges();
   planNextTurn();
 }
@@ -81,11 +88,11 @@ void Window::showChanges() {
 }
 
 void Window::planNextTurn() {
-  if (!stage().animator.isIdle() || !stage().damage.isEmpty())
+  if (!animator().isIdle() || !uikit::screen().damage.isEmpty())
     return _timer.start(frameMilliseconds);
-  const auto due = stage().scheduler.nextDue();
+  const auto due = scheduler().nextDue();
   if (!due) return;
-  const double wait = (*due - stage().scheduler.now()) * 1000;
+  const double wait = (*due - scheduler().now()) * 1000;
   _timer.start(static_cast<int>(std::clamp(wait, 0.0, 60'000.0)));
 }
 
@@ -100,8 +107,8 @@ void Window::exposeEvent(QExposeEvent*) {
 }
 
 void Window::resizeEvent(QResizeEvent* event) {
-  stage().scale = scale();
-  stage().resize(
+  uikit::screen().scale = scale();
+  application().resize(
       {static_cast<double>(event->size().width()), static_cast<double>(event->size().height())});
   _isStale = true;
   takeTurn();
@@ -112,29 +119,29 @@ void Window::mousePressEvent(QMouseEvent* event) {
   const CGPoint at = pointOf(event->position());
   if (event->button() == Qt::RightButton) pressLong(at);
   if (event->button() == Qt::MiddleButton && middlePressed) middlePressed(at);
-  if (event->button() == Qt::LeftButton) stage().touches.down(at);
+  if (event->button() == Qt::LeftButton) touches().down(at);
   wake();
 }
 
 void Window::pressLong(CGPoint at) {
-  stage().touches.down(at);
-  stage().scheduler.callAfter(longPress, [at] { stage().touches.up(at); });
+  touches().down(at);
+  scheduler().callAfter(longPress, [at] { touches().up(at); });
 }
 
 void Window::mouseMoveEvent(QMouseEvent* event) {
   if (!(event->buttons() & Qt::LeftButton)) return;
-  stage().touches.move(pointOf(event->position()));
+  touches().move(pointOf(event->position()));
   wake();
 }
 
 void Window::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  stage().touches.up(pointOf(event->position()));
+  touches().up(pointOf(event->position()));
   wake();
 }
 
 void Window::wheelEvent(QWheelEvent* event) {
-  stage().touches.scroll(pointOf(event->position()), wheelDistance(*event));
+  touches().scroll(pointOf(event->position()), wheelDistance(*event));
   wake();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The stage in a window of the desktop, by the real clock. Mouse: a press is a touch, the right
-// button is a long press, the wheel scrolls.
+// The application in a window of the desktop, by the real clock. Mouse: a press is a touch, the
+// right button is a long press, the wheel scrolls.
 #pragma once
 
 #include <QBackingStore>
@@ -23,10 +23,10 @@ class Window : public QWindow {
   // Called once a turn of the main loop, before the frame is prepared.
   std::function<void()> turn;
 
-  // A window as large as the stage's screen; it follows when the window is resized.
+  // A window as large as the screen; it follows when the window is resized.
   Window();
 
-  // Lets the main loop take a turn soon: something outside the stage happened.
+  // Lets the main loop take a turn soon: something outside happened.
   void wake();
 
  protected:

@@ -8,7 +8,8 @@
 #include "desktop/script/screen_text.h"
 #include "desktop/script/script_runner.h"
 #include "desktop/script/tree_dump.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/screen.h"
 
 namespace desktop::script {
 namespace {
@@ -18,7 +19,7 @@ using Outcome = ScriptRunner::Outcome;
 
 Outcome dump(Arguments words) {
   if (words.size() > 1) return model::Error{"dump takes one file at most"};
-  uikit::stage().prepareFrame();
+  uikit::application().prepareFrame();
   const std::string text = dumpScreen() + "\n";
   if (words.empty()) {
     std::cout << text << std::flush;
@@ -31,22 +32,22 @@ Outcome dump(Arguments words) {
 
 Outcome screenshot(Arguments words) {
   if (words.size() != 1) return model::Error{"screenshot takes a file"};
-  uikit::stage().prepareFrame();
-  if (const auto failed = render::writeScreenshot(words[0].text, uikit::stage().scale))
+  uikit::application().prepareFrame();
+  if (const auto failed = render::writeScreenshot(words[0].text, uikit::screen().scale))
     return model::Error{words[0].text + ": " + failed->reason};
   return std::nullopt;
 }
 
 Outcome expect(Arguments words) {
   if (words.size() != 1) return model::Error{"expect takes one text"};
-  uikit::stage().prepareFrame();
+  uikit::application().prepareFrame();
   if (isOnScreen(words[0].text)) return std::nullopt;
   return model::Error{"\"" + words[0].text + "\" is not on screen"};
 }
 
 Outcome expectNot(Arguments words) {
   if (words.size() != 1) return model::Error{"expect-not takes one text"};
-  uikit::stage().prepareFrame();
+  uikit::application().prepareFrame();
   if (!isOnScreen(words[0].text)) return std::nullopt;
   return model::Error{"\"" + words[0].text + "\" is on screen"};
 }

@@ -3,7 +3,7 @@
 
 #include "desktop/script/node_parts.h"
 #include "desktop/script/tree_dump.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/controllers/ui_activity_view_controller.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -25,9 +25,9 @@ Json textOrNull(bridge::NSString text) {
 // From the window's controller to what is presented last.
 std::vector<bridge::UIViewController> presentationChain() {
   std::vector<bridge::UIViewController> chain;
-  if (uikit::stage().windows.empty()) return chain;
-  auto controller =
-      send<bridge::UIViewController, "rootViewController">(uikit::stage().windows.front().get());
+  if (uikit::application().windows.empty()) return chain;
+  auto controller = send<bridge::UIViewController, "rootViewController">(
+      uikit::application().windows.front().get());
   while (controller) {
     chain.push_back(controller);
     controller = send<bridge::UIViewController, "presentedViewController">(controller);

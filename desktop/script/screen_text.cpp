@@ -3,7 +3,8 @@
 
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::script {
@@ -43,8 +44,8 @@ std::vector<ScreenText> textsOnScreen() {
   const bridge::AutoreleasePool pool;
   std::vector<ScreenText> found;
   Collector collector(found);
-  for (const auto& window : uikit::stage().windows)
-    collector.visit(window.get(), uikit::rectOfSize(uikit::stage().screenSize));
+  for (const auto& window : uikit::application().windows)
+    collector.visit(window.get(), uikit::rectOfSize(uikit::screen().size));
   return found;
 }
 

@@ -6,7 +6,8 @@
 #include <sstream>
 
 #include "bridge/runtime/autorelease_pool.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/views/animator.h"
 
 namespace desktop::script {
 
@@ -59,10 +60,9 @@ ScriptRunner::Outcome ScriptRunner::runFile(const std::string& path) {
 void settle() {
   constexpr uikit::Seconds longest = 2;
   constexpr uikit::Seconds step = 0.05;
-  uikit::stage().prepareFrame();
-  for (uikit::Seconds waited = 0; waited < longest && !uikit::stage().animator.isIdle();
-       waited += step)
-    uikit::stage().advance(step);
+  uikit::application().prepareFrame();
+  for (uikit::Seconds waited = 0; waited < longest && !uikit::animator().isIdle(); waited += step)
+    uikit::application().advance(step);
 }
 
 }  // namespace desktop::script

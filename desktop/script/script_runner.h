@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "desktop/script/finger.h"
 #include "desktop/script/script_line.h"
 
 namespace desktop::script {
@@ -22,6 +23,8 @@ class ScriptRunner {
 
   // A runner that knows no commands.
   ScriptRunner() = default;
+  ScriptRunner(const ScriptRunner&) = delete;
+  ScriptRunner& operator=(const ScriptRunner&) = delete;
 
   // What a line that begins with this word does; the last that was added counts. A command that is
   // not the application's matter can be handed on to the one that was there before.
@@ -31,6 +34,9 @@ class ScriptRunner {
 
   // Called before every line and after it: the application's own chores.
   std::function<void()> turn;
+
+  // For the commands: there is one on the screen.
+  Finger finger;
 
   // Runs one line. An error tells what is wrong without naming the line.
   Outcome runLine(std::string_view line);

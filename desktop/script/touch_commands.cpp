@@ -5,8 +5,10 @@
 
 #include "desktop/script/screen_text.h"
 #include "desktop/script/script_runner.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_responder.h"
 
 namespace desktop::script {
@@ -14,13 +16,12 @@ namespace {
 
 using Arguments = ScriptRunner::Arguments;
 using Outcome = ScriptRunner::Outcome;
-using uikit::stage;
+using uikit::application;
+using uikit::touches;
 
 constexpr uikit::Seconds tapTime = 0.05;
 constexpr uikit::Seconds longPressTime = 0.6;
 constexpr double longestWait = 3'600;  // seconds
-
-CGPoint lastPoint;  // where touch-down and touch-move left the finger
 
 model::Result<CGPoint> pointOf(Arguments words) {
   if (words.size() != 2) return model::Error{"a place is X and Y in points"};
@@ -39,38 +40,31 @@ model::Result<CGPoint> targetOf(Arguments words) {
   return *place;
 }
 
-Outcome press(Arguments words, uikit::Seconds time) {
+Outcome press(Finger& finger, Arguments words, uikit::Seconds time) {
   settle();
   const auto at = targetOf(words);
   if (!at) return at.error();
-  stage().touches.down(*at);
-  stage().advance(time);
-  stage().touches.up(*at);
-  stage().advance(0);
+  finger.down(*at, time);
+  finger.up();
   return std::nullopt;
 }
 
-Outcome touchDown(Arguments words) {
+Outcome touchDown(Finger& finger, Arguments words) {
   const auto at = pointOf(words);
   if (!at) return at.error();
-  lastPoint = *at;
-  stage().touches.down(*at);
-  stage().advance(0);
+  finger.down(*at);
   return std::nullopt;
 }
 
-Outcome touchMove(Arguments words) {
+Outcome touchMove(Finger& finger, Arguments words) {
   const auto at = pointOf(words);
   if (!at) return at.error();
-  lastPoint = *at;
-  stage().touches.move(*at);
-  stage().advance(0);
+  finger.move(*at);
   return std::nullopt;
 }
 
-Outcome touchUp(Arguments) {
-  stage().touches.up(lastPoint);
-  stage().advance(0);
+Outcome touchUp(Finger& finger, Arguments) {
+  finger.up();
   return std::nullopt;
 }
 
@@ -82,7 +76,7 @@ Outcome menu(Arguments words) {
   const auto chosen = std::ranges::find(titles, words[0].text);
   if (chosen == titles.end()) return model::Error{"the edit menu has no \"" + words[0].text + "\""};
   shown.run(static_cast<std::size_t>(chosen - titles.begin()));
-  stage().advance(0);
+  application().advance(0);
   return std::nullopt;
 }
 
@@ -97,9 +91,9 @@ Outcome scroll(Arguments words) {
   const auto distance = numberOf(words[0]);
   if (!distance) return distance.error();
   settle();
-  const CGSize screen = stage().screenSize;
-  stage().touches.scroll({screen.width / 2, screen.height / 2}, {0, *distance});
-  stage().advance(0);
+  const CGSize screen = uikit::screen().size;
+  touches().scroll({screen.width / 2, screen.height / 2}, {0, *distance});
+  application().advance(0);
   return std::nullopt;
 }
 
@@ -108,25 +102,27 @@ Outcome wait(Arguments words) {
   const auto time = numberOf(words[0]);
   if (!time) return time.error();
   if (*time < 0 || *time > longestWait) return model::Error{"wait takes 0 to 3600 seconds"};
-  stage().advance(*time);
+  application().advance(*time);
   return std::nullopt;
 }
 
 Outcome rotate(Arguments) {
-  const CGSize size = stage().screenSize;
-  stage().resize({size.height, size.width});
-  stage().advance(0);
+  const CGSize size = uikit::screen().size;
+  application().resize({size.height, size.width});
+  application().advance(0);
   return std::nullopt;
 }
 
 }  // namespace
 
 void addTouchCommands(ScriptRunner& runner) {
-  runner.add("tap", [](Arguments words) { return press(words, tapTime); });
-  runner.add("long-press", [](Arguments words) { return press(words, longPressTime); });
-  runner.add("touch-down", touchDown);
-  runner.add("touch-move", touchMove);
-  runner.add("touch-up", touchUp);
+  Finger& finger = runner.finger;
+  runner.add("tap", [&finger](Arguments words) { return press(finger, words, tapTime); });
+  runner.add("long-press",
+             [&finger](Arguments words) { return press(finger, words, longPressTime); });
+  runner.add("touch-down", [&finger](Arguments words) { return touchDown(finger, words); });
+  runner.add("touch-move", [&finger](Arguments words) { return touchMove(finger, words); });
+  runner.add("touch-up", [&finger](Arguments words) { return touchUp(finger, words); });
   runner.add("menu", menu);
   runner.add("type", type);
   runner.add("scroll", scroll);

@@ -4,13 +4,16 @@
 #include "desktop/script/node_dump.h"
 #include "desktop/script/node_parts.h"
 #include "desktop/script/screen_parts.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/platform_log.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::script {
 namespace {
 
-using uikit::stage;
+using uikit::application;
+using uikit::platformLog;
 
 // JSON has no infinities, and a file's bytes may be no text: both become something that it has.
 std::string textOf(const Json& json) {
@@ -47,11 +50,13 @@ Json dumpView(bridge::UIView view) {
 std::string dumpScreen() {
   const bridge::AutoreleasePool pool;
   Json screen;
-  screen["screen"] = {{"width", stage().screenSize.width}, {"height", stage().screenSize.height}};
+  screen["screen"] = {{"width", uikit::screen().size.width},
+                      {"height", uikit::screen().size.height}};
   addControllers(screen);
-  screen["opened"] = stage().opened;
-  screen["log"] = stage().log;
-  screen["view"] = stage().windows.empty() ? Json() : dumpView(stage().windows.front().get());
+  screen["opened"] = application().opened;
+  screen["log"] = platformLog();
+  screen["view"] =
+      application().windows.empty() ? Json() : dumpView(application().windows.front().get());
   return textOf(screen);
 }
 

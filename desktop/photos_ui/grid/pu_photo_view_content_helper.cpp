@@ -8,7 +8,7 @@
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/text_banner.h"
 #include "desktop/photos_ui/grid/video_badge.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/views/ui_image_view.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -23,7 +23,7 @@ constexpr CGFloat leastBannerRoom = 60;  // points; in less it would hide the ph
 
 int pixels(CGFloat points) {
   constexpr double most = 8192;
-  return static_cast<int>(std::ceil(std::clamp(points * uikit::stage().scale, 1.0, most)));
+  return static_cast<int>(std::ceil(std::clamp(points * uikit::screen().scale, 1.0, most)));
 }
 
 pictures::Request requestFor(CGSize room) {
@@ -33,7 +33,7 @@ pictures::Request requestFor(CGSize room) {
 }
 
 CGFloat toWholePixel(CGFloat points) {
-  return std::round(points * uikit::stage().scale) / uikit::stage().scale;
+  return std::round(points * uikit::screen().scale) / uikit::screen().scale;
 }
 
 double durationOf(const library::LibraryItem& item) {
@@ -127,7 +127,7 @@ void PUPhotoViewContentHelper::viewIsGone() {
 void PUPhotoViewContentHelper::showPicture(const pictures::SharedPicture& picture) {
   if (picture == _picture) return;
   _picture = picture;
-  const CGFloat scale = uikit::stage().scale;
+  const CGFloat scale = uikit::screen().scale;
   _imageView->setImage(picture ? uikit::UIImage::make(picture, scale) : bridge::UIImage());
   _imageView->setFrame(pictureFrame());
 }
@@ -137,7 +137,7 @@ void PUPhotoViewContentHelper::showPicture(const pictures::SharedPicture& pictur
 CGRect PUPhotoViewContentHelper::pictureFrame() const {
   const CGRect room = _contentView.bounds();
   if (!_picture || uikit::isEmpty(room)) return room;
-  const CGFloat scale = uikit::stage().scale;
+  const CGFloat scale = uikit::screen().scale;
   const CGSize natural{_picture->width / scale, _picture->height / scale};
   CGRect frame = uikit::placed(natural, room, uikit::ContentMode::aspectFill);
   constexpr CGFloat tolerance = 1.5;  // points

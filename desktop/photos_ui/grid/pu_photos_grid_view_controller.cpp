@@ -14,7 +14,7 @@
 #include "desktop/photos_ui/grid/grid_titles.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/one_up/one_up.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -158,7 +158,7 @@ void PUPhotosGridViewController::updateLayoutMetrics() {
 
 // On whole pixels.
 CGSize PUPhotosGridViewController::stockItemSize(CGFloat width, NSInteger columns) const {
-  const CGFloat scale = uikit::stage().scale;
+  const CGFloat scale = uikit::screen().scale;
   const auto count = static_cast<CGFloat>(columns);
   const CGFloat gaps = layout().interItemSpacing() * (count - 1);
   const CGFloat side = std::floor((width - gaps) / count * scale) / scale;

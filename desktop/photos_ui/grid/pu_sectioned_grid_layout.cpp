@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/lists/index_path.h"
 #include "desktop/uikit/lists/ui_collection_view_layout.h"
 #include "desktop/uikit/lists/ui_collection_view_layout_attributes.h"
@@ -98,7 +98,7 @@ void PUSectionedGridLayout::setFooterHeight(CGFloat height) {
 // Pixels that are left over in a full row go to its first columns.
 CGSize PUSectionedGridLayout::layoutItemSizeForColumn(NSInteger column) const {
   const auto collection = uikit::UICollectionViewLayout::of(self()).collectionView();
-  const CGFloat scale = uikit::stage().scale;
+  const CGFloat scale = uikit::screen().scale;
   const auto columns = static_cast<CGFloat>(_columnsPerRow);
   const CGFloat row = columns * (_itemSize.width + _interItemSpacing) - _interItemSpacing;
   const CGFloat leftOver = std::floor((collection.bounds().size.width - row) * scale);

@@ -12,11 +12,12 @@
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
 #include "desktop/photos_ui/one_up/one_up.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/handles.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::photos_ui {
@@ -26,7 +27,8 @@ using bridge::NSString;
 using bridge::Owned;
 using bridge::UINavigationController;
 using bridge::UIViewController;
-using uikit::stage;
+using uikit::application;
+using uikit::touches;
 using uikit::handles::UITabBarController;
 
 namespace {
@@ -44,8 +46,8 @@ Owned<UINavigationController> makeTab(NSArray controllers, const char* title,
 }
 
 UITabBarController tabs() {
-  if (stage().windows.empty()) return {};
-  const uikit::handles::UIWindow window(stage().windows.front()->get());
+  if (application().windows.empty()) return {};
+  const uikit::handles::UIWindow window(application().windows.front()->get());
   return bridge::as<UITabBarController>(window.rootViewController());
 }
 
@@ -73,7 +75,7 @@ bool isGrid(UIViewController controller) {
 
 // The frames that what was asked for needs to be in place.
 void prepare() {
-  stage().prepareFrame();
+  application().prepareFrame();
 }
 
 void dismissAll() {
@@ -262,8 +264,8 @@ Outcome selectItem(long index) {
   if (!bridge::send<bool, "isEditing">(grid))
     bridge::send<void, "setEditing:animated:">(grid, true, false);
   prepare();
-  stage().touches.down(*place);
-  stage().touches.up(*place);
+  touches().down(*place);
+  touches().up(*place);
   prepare();
   return std::nullopt;
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/photos_ui/one_up/picture_image.h"
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
 
 namespace desktop::photos_ui {
 
 bridge::UIImage imageOf(const pictures::SharedPicture& picture) {
-  return picture ? uikit::UIImage::make(picture, uikit::stage().scale) : bridge::UIImage();
+  return picture ? uikit::UIImage::make(picture, uikit::screen().scale) : bridge::UIImage();
 }
 
 }  // namespace desktop::photos_ui

@@ -7,9 +7,10 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/one_up/picture_image.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/path.h"
 #include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/views/animator.h"
 #include "foundation/file_url.h"
 
 namespace desktop::photos_ui {
@@ -63,7 +64,7 @@ PUOneUpPhotoView::~PUOneUpPhotoView() {
 
 bridge::Owned<bridge::UIView> PUOneUpPhotoView::make(library::ItemPointer item) {
   auto made = bridge::Owned<bridge::UIView>::adopt(send<bridge::UIView, "initWithFrame:">(
-      send<id, "alloc">(classObject()), uikit::rectOfSize(uikit::stage().screenSize)));
+      send<id, "alloc">(classObject()), uikit::rectOfSize(uikit::screen().size)));
   of(made.get()).prepare(std::move(item));
   return made;
 }
@@ -118,7 +119,7 @@ CGSize PUOneUpPhotoView::naturalSize() const {
 }
 
 CGFloat PUOneUpPhotoView::actualSizeZoom() const {
-  const CGFloat fitted = fittedSize().width * uikit::stage().scale;
+  const CGFloat fitted = fittedSize().width * uikit::screen().scale;
   const CGFloat natural = naturalSize().width;
   return fitted > 0 && natural > 0 ? natural / fitted : 1;
 }
@@ -168,14 +169,14 @@ void PUOneUpPhotoView::load(CGSize pixels, pictures::Priority priority) {
 }
 
 void PUOneUpPhotoView::loadForRoom() {
-  load(times(room(), uikit::stage().scale), pictures::Priority::visible);
+  load(times(room(), uikit::screen().scale), pictures::Priority::visible);
 }
 
 // A closer look has more pixels.
 void PUOneUpPhotoView::loadForZoom() {
   const CGFloat closest = std::min(_zoom, actualSizeZoom());
   if (closest > 1.2)
-    load(times(room(), uikit::stage().scale * closest), pictures::Priority::visible);
+    load(times(room(), uikit::screen().scale * closest), pictures::Priority::visible);
 }
 
 void PUOneUpPhotoView::show(const pictures::Outcome& outcome) {
@@ -220,8 +221,8 @@ void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
   };
   const auto kept = bridge::Owned<bridge::UIView>::retain(self());
   if (animated)
-    uikit::stage().animator.animate(zoomTime, 0, uikit::AnimationCurve::easeInOut, change,
-                                    [kept](bool) {});
+    uikit::animator().animate(zoomTime, 0, uikit::AnimationCurve::easeInOut, change,
+                              [kept](bool) {});
   else
     change();
   loadForZoom();

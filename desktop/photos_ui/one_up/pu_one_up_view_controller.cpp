@@ -12,7 +12,7 @@
 #include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
 #include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
 #include "desktop/photos_ui/one_up/pu_one_up_tiling_layout.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/graphics/ui_color.h"
 
@@ -243,7 +243,7 @@ void PUOneUpViewController::showBars(bool shown, bool animated) {
 }
 
 void PUOneUpViewController::showStatusBar(bool shown) {
-  bool& isShown = uikit::stage().statusBar.isShown;
+  bool& isShown = uikit::application().statusBar.isShown;
   if (shown)
     isShown = _hasStatusBar;
   else

@@ -2,7 +2,8 @@
 #include "desktop/uikit/application/ui_application.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/outside.h"
 
 namespace desktop::uikit {
 
@@ -26,17 +27,17 @@ bridge::UIApplication UIApplication::sharedApplication() {
 bool UIApplication::openURL(bridge::NSURL url) {
   if (!url) return false;
   const std::string link = bridge::send<bridge::NSString, "absoluteString">(url).utf8();
-  stage().opened.push_back(link);
-  return stage().outside.openLink && stage().outside.openLink(link);
+  application().opened.push_back(link);
+  return outside().openLink && outside().openLink(link);
 }
 
 bridge::UIView UIApplication::keyWindow() const {
-  return stage().windows.empty() ? bridge::UIView() : stage().windows.back().get();
+  return application().windows.empty() ? bridge::UIView() : application().windows.back().get();
 }
 
 bridge::NSArray UIApplication::windows() const {
   const auto all = bridge::makeNew<bridge::NSMutableArray>();
-  for (const auto& window : stage().windows) all->add(window.get());
+  for (const auto& window : application().windows) all->add(window.get());
   return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
 }
 

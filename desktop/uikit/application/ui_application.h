@@ -15,7 +15,7 @@ class UIApplication : public bridge::Bound<UIApplication, bridge::UIResponder> {
   static bridge::UIApplication sharedApplication();
 
  private:
-  // Notes the link on the stage and asks the desktop to open it; nil is nobody's.
+  // Notes the link and asks the desktop to open it; nil is nobody's.
   bool openURL(bridge::NSURL url);
   bridge::UIView keyWindow() const;
   bridge::NSArray windows() const;

@@ -2,8 +2,8 @@
 #include "desktop/uikit/application/ui_screen.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/screen.h"
 
 namespace desktop::uikit {
 
@@ -22,11 +22,11 @@ bridge::UIScreen UIScreen::mainScreen() {
 }
 
 CGRect UIScreen::bounds() const {
-  return rectOfSize(stage().screenSize);
+  return rectOfSize(screen().size);
 }
 
 CGFloat UIScreen::scale() const {
-  return stage().scale;
+  return screen().scale;
 }
 
 }  // namespace desktop::uikit

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// UIScreen: the one screen, as large as the stage says.
+// UIScreen: the one screen, with the size that it has now.
 #pragma once
 
 #include "bridge/bound.h"

@@ -4,7 +4,9 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 
 namespace desktop::uikit {
@@ -17,8 +19,13 @@ Class UIWindow::classObject() {
           .method<"makeKeyAndVisible", &UIWindow::makeKeyAndVisible>()
           .method<"isKeyWindow", &UIWindow::isKeyWindow>()
           .method<"nextResponder", &UIWindow::nextResponder>()
+          .method<"_screenDidResizeFrom:", &UIWindow::screenDidResize>()
           .build();
   return made;
+}
+
+UIWindow::UIWindow(id self) : Bound(self) {
+  UIView::of(self).standAsWindow();
 }
 
 void UIWindow::setRootViewController(bridge::UIViewController controller) {
@@ -35,7 +42,7 @@ void UIWindow::setRootViewController(bridge::UIViewController controller) {
 }
 
 void UIWindow::makeKeyAndVisible() {
-  auto& windows = stage().windows;
+  auto& windows = application().windows;
   const auto kept = bridge::Owned<bridge::UIView>::retain(self());
   std::erase_if(windows, [this](const auto& window) { return window.get() == self(); });
   windows.push_back(kept);
@@ -44,7 +51,7 @@ void UIWindow::makeKeyAndVisible() {
 }
 
 bool UIWindow::isVisible() const {
-  return std::ranges::any_of(stage().windows,
+  return std::ranges::any_of(application().windows,
                              [this](const auto& window) { return window.get() == self(); });
 }
 
@@ -59,11 +66,18 @@ void UIWindow::showRoot() {
   view.setFrame(me.bounds());
   view.setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
   me.insertSubview(view, 0);
-  stage().scheduler.callAfter(0, [root] { UIViewController::of(root.get()).endAppearance(); });
+  scheduler().callAfter(0, [root] { UIViewController::of(root.get()).endAppearance(); });
+}
+
+void UIWindow::screenDidResize(CGSize before) {
+  if (self().frame() != rectOfSize(before)) return;
+  const CGSize size = screen().size;
+  if (const auto root = _rootViewController) UIViewController::of(root.get()).becomeSize(size);
+  self().setFrame(rectOfSize(size));
 }
 
 bool UIWindow::isKeyWindow() const {
-  const auto& windows = stage().windows;
+  const auto& windows = application().windows;
   return !windows.empty() && windows.back().get() == self();
 }
 

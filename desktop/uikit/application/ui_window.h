@@ -11,7 +11,7 @@ namespace desktop::uikit {
 
 class UIWindow : public bridge::Bound<UIWindow, bridge::UIView> {
  public:
-  using Bound::Bound;
+  explicit UIWindow(id self);
   static Class classObject();
 
   bridge::UIViewController rootViewController() const { return _rootViewController; }
@@ -24,6 +24,8 @@ class UIWindow : public bridge::Bound<UIWindow, bridge::UIView> {
   bool isKeyWindow() const;
   bridge::UIResponder nextResponder() const;
   bool isVisible() const;
+  // Fills the screen again where it filled it so far.
+  void screenDidResize(CGSize before);
   void showRoot();
 
   bridge::Owned<bridge::UIViewController> _rootViewController;

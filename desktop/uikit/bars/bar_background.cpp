@@ -2,7 +2,7 @@
 #include "desktop/uikit/bars/bar_background.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -34,7 +34,7 @@ void BarBackground::setLook(Color background, Color hairline) {
 
 void BarBackground::drawContent(Canvas* canvas) const {
   const CGRect bounds = self().bounds();
-  const CGFloat width = 1 / stage().scale;
+  const CGFloat width = 1 / screen().scale;
   const CGFloat y = _side == Hairline::top ? 0 : bounds.size.height - width;
   canvas->fill({{0, y}, {bounds.size.width, width}}, _hairline, 0);
 }

@@ -5,7 +5,6 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/uikit/bars/bar_button_view.h"
-#include "desktop/uikit/bars/ui_navigation_bar.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -99,9 +98,7 @@ void NavigationBarContentView::showBack(bridge::NSString title,
 }
 
 void NavigationBarContentView::itemChanged() {
-  const bridge::UIView bar = UIView::of(self()).superview();
-  if (bridge::isKindOf(bar, UINavigationBar::classObject()))
-    UINavigationBar::of(bar.get()).itemsChanged();
+  bridge::send<void, "_itemChanged">(UIView::of(self()).superview());
 }
 
 CGFloat NavigationBarContentView::titleWidth() const {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/bars/status_bar.h"
 
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 
 namespace desktop::uikit {
@@ -29,16 +29,16 @@ void paintBattery(Canvas& canvas, CGFloat rightEdge, CGFloat middleY, Color colo
 
 }  // namespace
 
-void paintStatusBar(Canvas& canvas) {
-  const Stage& current = stage();
-  if (!current.statusBar.isShown) return;
-  const Color color = current.statusBar.isLight ? colors::white : colors::black;
-  const CGFloat middleY = current.statusBarHeight / 2;
+void paintStatusBar(const StatusBar& bar, Canvas& canvas) {
+  if (!bar.isShown) return;
+  const Color color = bar.isLight ? colors::white : colors::black;
+  const CGFloat width = screen().size.width;
+  const CGFloat middleY = screen().statusBarHeight / 2;
   const FontMeasures measures = measuresOf(face);
-  const CGFloat x = (current.screenSize.width - textEngine().width(face, time)) / 2;
+  const CGFloat x = (width - textEngine().width(face, time)) / 2;
   canvas.text(time, face, color, {x, middleY + (measures.ascender + measures.descender) / 2});
   paintSignal(canvas, middleY, color);
-  paintBattery(canvas, current.screenSize.width - 4, middleY, color);
+  paintBattery(canvas, width - 4, middleY, color);
 }
 
 }  // namespace desktop::uikit

@@ -13,7 +13,7 @@ struct StatusBar {
   bool isLight = false;  // white on what is below, instead of black
 };
 
-// Paints it over the windows, where it is shown.
-void paintStatusBar(Canvas& canvas);
+// Paints it where it is shown.
+void paintStatusBar(const StatusBar& bar, Canvas& canvas);
 
 }  // namespace desktop::uikit

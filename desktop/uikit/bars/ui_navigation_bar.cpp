@@ -49,6 +49,7 @@ Class UINavigationBar::classObject() {
           .method<"setItems:animated:", &UINavigationBar::setItemsArrayAnimated>()
           .method<"pushNavigationItem:animated:", &UINavigationBar::pushItem>()
           .method<"popNavigationItemAnimated:", &UINavigationBar::popItem>()
+          .method<"_itemChanged", &UINavigationBar::itemsChanged>()
           .method<"delegate", &UINavigationBar::delegate>()
           .method<"setDelegate:", &UINavigationBar::setDelegate>()
           .build();

@@ -2,7 +2,6 @@
 #include "desktop/uikit/bars/ui_navigation_item.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/bars/ui_navigation_bar.h"
 
 namespace desktop::uikit {
 
@@ -102,7 +101,7 @@ void UINavigationItem::setLargeTitleDisplayMode(NSInteger mode) {
 }
 
 void UINavigationItem::changed() const {
-  if (_bar) UINavigationBar::of(_bar.get()).itemsChanged();
+  bridge::send<void, "_itemChanged">(_bar);
 }
 
 }  // namespace desktop::uikit

@@ -11,7 +11,6 @@
 #include "bridge/bound.h"
 #include "bridge/runtime/objc.h"
 #include "bridge/runtime/selector.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/platform_log.h"
 
 extern "C" {
@@ -55,7 +54,7 @@ bool isOurs(Class aClass) {
 
 void logOnce(const std::string& message) {
   const std::string line = "Missing: " + message;
-  if (std::ranges::find(stage().log, line) == stage().log.end()) logLine(line);
+  if (std::ranges::find(platformLog(), line) == platformLog().end()) logLine(line);
 }
 
 std::string described(id receiver, SEL selector) {

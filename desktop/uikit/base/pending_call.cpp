@@ -3,21 +3,19 @@
 
 #include <utility>
 
-#include "desktop/uikit/application/stage.h"
-
 namespace desktop::uikit {
 
 void PendingCall::callAfter(Seconds delay, Scheduler::Work work) {
   cancel();
-  _timer = stage().scheduler.callAfter(delay, [this, work = std::move(work)] {
+  _timer = scheduler().callAfter(delay, [this, work = std::move(work)] {
     _timer = 0;
     work();
   });
 }
 
-// The stage may be another one by now: it does not know the timer then.
+// The scheduler may be another one by now: it does not know the timer then.
 void PendingCall::cancel() {
-  if (_timer != 0) stage().scheduler.cancel(std::exchange(_timer, 0));
+  if (_timer != 0) scheduler().cancel(std::exchange(_timer, 0));
 }
 
 }  // namespace desktop::uikit

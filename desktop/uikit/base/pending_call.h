@@ -14,7 +14,7 @@ class PendingCall {
   PendingCall(const PendingCall&) = delete;
   PendingCall& operator=(const PendingCall&) = delete;
 
-  // Does the work once, the delay from now on the stage's clock; takes back what was waiting.
+  // Does the work once, the delay from now on the process's clock; takes back what was waiting.
   void callAfter(Seconds delay, Scheduler::Work work);
   void cancel();
   bool isWaiting() const { return _timer != 0; }

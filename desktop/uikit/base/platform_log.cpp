@@ -2,12 +2,16 @@
 #include "desktop/uikit/base/platform_log.h"
 
 #include "bridge/runtime/objc.h"
-#include "desktop/uikit/application/stage.h"
 
 namespace desktop::uikit {
 
+std::vector<std::string>& platformLog() {
+  static auto& made = *new std::vector<std::string>;
+  return made;
+}
+
 void logLine(const std::string& line) {
-  stage().log.push_back(line);
+  platformLog().push_back(line);
 }
 
 std::string nameOf(bridge::Object object) {

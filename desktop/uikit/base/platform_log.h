@@ -4,12 +4,14 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "bridge/runtime/object.h"
 
 namespace desktop::uikit {
 
-// Adds a line to the stage's log, where a host puts the lines of the debug log too.
+// The lines so far; a host puts those of the debug log here too.
+std::vector<std::string>& platformLog();
 void logLine(const std::string& line);
 
 // How an object is called in a line: by its class.

@@ -35,4 +35,9 @@ void Scheduler::advanceTo(Seconds time) {
   _now = std::max(_now, time);
 }
 
+Scheduler& scheduler() {
+  static auto& made = *new Scheduler;
+  return made;
+}
+
 }  // namespace desktop::uikit

@@ -44,4 +44,7 @@ class Scheduler {
   std::map<Due, Work> _work;
 };
 
+// The time of this process.
+Scheduler& scheduler();
+
 }  // namespace desktop::uikit

@@ -2,7 +2,7 @@
 #include "desktop/uikit/controllers/ui_activity_view_controller.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/outside.h"
 #include "desktop/uikit/overlays/alert_view.h"
 #include "desktop/uikit/overlays/ui_alert_action.h"
 
@@ -112,13 +112,12 @@ void UIActivityViewController::showPresented(bool shown) {
 }
 
 void UIActivityViewController::perform(Activity activity) {
-  const Outside& outside = stage().outside;
   if (activity == Activity::copy) {
-    if (outside.copyText) outside.copyText(text());
+    if (outside().copyText) outside().copyText(text());
     return leave(copyActivity, {});
   }
   leave(saveActivity, [text = text()] {
-    if (stage().outside.saveText) stage().outside.saveText(text);
+    if (outside().saveText) outside().saveText(text);
   });
 }
 

@@ -7,12 +7,12 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/bars/ui_navigation_bar.h"
 #include "desktop/uikit/bars/ui_toolbar.h"
 #include "desktop/uikit/base/platform_log.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/transition_view.h"
-#include "desktop/uikit/controllers/ui_tab_bar_controller.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -143,7 +143,7 @@ void UINavigationController::arrangeIn(bool animated) {
   if (!animated) return arrange();
   const auto kept = Owned<bridge::UIViewController>::retain(self());
   UIView::of(_bar.get()).setHidden(false);
-  stage().animator.animate(
+  animator().animate(
       duration, 0, AnimationCurve::easeInOut, [this] { arrange(); },
       [kept](bool) { of(kept.get()).arrange(); });
 }
@@ -160,7 +160,7 @@ void UINavigationController::viewWillLayoutSubviews() {
 }
 
 CGFloat UINavigationController::barBottom() const {
-  return _isBarHidden ? 0 : stage().statusBarHeight + UINavigationBar::of(_bar.get()).height();
+  return _isBarHidden ? 0 : screen().statusBarHeight + UINavigationBar::of(_bar.get()).height();
 }
 
 // A bar that is hidden stands outside the view, on its own side.
@@ -168,9 +168,9 @@ void UINavigationController::arrange() {
   if (!UIViewController::of(self()).viewIfLoaded()) return;
   const CGRect bounds = self().view().bounds();
   const CGFloat barHeight = UINavigationBar::of(_bar.get()).height();
-  const CGFloat barTop = _isBarHidden ? -barHeight : stage().statusBarHeight;
+  const CGFloat barTop = _isBarHidden ? -barHeight : screen().statusBarHeight;
   _bar->setFrame({{0, barTop}, {bounds.size.width, barHeight}});
-  UIView::of(_bar.get()).setHidden(_isBarHidden && !stage().animator.isAnimating(_bar.get()));
+  UIView::of(_bar.get()).setHidden(_isBarHidden && !animator().isAnimating(_bar.get()));
   const EdgeInsets around = UIViewController::of(self()).safeArea();
   const CGFloat toolbarTop = _isToolbarHidden
                                  ? bounds.size.height

@@ -3,11 +3,10 @@
 // How one screen of the stack takes another's place.
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/bars/ui_navigation_bar.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
-#include "desktop/uikit/controllers/ui_tab_bar_controller.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -67,7 +66,7 @@ void UINavigationController::beginTransition(bridge::UIViewController from,
     if (to) UIViewController::of(to.get()).beginAppearance(true, isAnimated);
   }
   const auto tabs = bridge::send<bridge::UIViewController, "tabBarController">(self());
-  if (tabs) UITabBarController::of(tabs.get()).updateBar(isAnimated);
+  bridge::send<void, "_updateBar:">(tabs, isAnimated);
   if (isAnimated) return slide(from, to, direction);
   showTop();
   arrange();
@@ -81,7 +80,7 @@ void UINavigationController::slide(bridge::UIViewController from, bridge::UIView
   const bool isForward = direction == Direction::forward;
   const CGFloat width = bounds.size.width;
   const bridge::UIView bar = UINavigationBar::of(_bar.get()).contentView();
-  stage().animator.withoutAnimation([&] {
+  animator().withoutAnimation([&] {
     UIView::of(_content.get()).insertSubview(to.view(), isForward ? 1 : 0);
     to.view().setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
     to.view().setFrame(bounds);
@@ -92,7 +91,7 @@ void UINavigationController::slide(bridge::UIViewController from, bridge::UIView
   });
   const unsigned transition = ++_transition;
   const auto kept = Owned<bridge::UIViewController>::retain(self());
-  stage().animator.animate(
+  animator().animate(
       slideTime, 0, AnimationCurve::easeInOut,
       [&] {
         from.view().setFrame(offset(bounds, {isForward ? -parallax * width : width, 0}));
@@ -118,7 +117,7 @@ void UINavigationController::endTransition() {
     if (!contains(stack(), leaving)) state.leftParent();
   }
   if (!coming || !isLoaded) return;
-  stage().animator.stop(coming->view());
+  animator().stop(coming->view());
   // Who is coming because the whole stack is coming is told with it.
   if (UIViewController::of(self()).appearance() == UIViewController::Appearance::shown)
     UIViewController::of(coming.get()).endAppearance();

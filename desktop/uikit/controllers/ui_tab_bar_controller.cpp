@@ -4,10 +4,10 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/bars/ui_tab_bar.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -38,6 +38,7 @@ Class UITabBarController::classObject() {
           .method<"selectedIndex", &Controller::selectedIndex>()
           .method<"setSelectedIndex:", &Controller::setSelectedIndex>()
           .method<"tabBar", &Controller::tabBar>()
+          .method<"_updateBar:", &Controller::updateBar>()
           .method<"delegate", &Controller::delegate>()
           .method<"setDelegate:", &Controller::setDelegate>()
           .build();
@@ -169,7 +170,7 @@ void UITabBarController::updateBar(bool animated) {
   if (wants == _isBarShown) return;
   _isBarShown = wants;
   if (!animated) return arrange();
-  stage().animator.animate(slideTime, 0, AnimationCurve::easeInOut, [this] { arrange(); }, {});
+  animator().animate(slideTime, 0, AnimationCurve::easeInOut, [this] { arrange(); }, {});
 }
 
 void UITabBarController::viewWillAppear(bool animated) {

@@ -2,7 +2,7 @@
 #include "desktop/uikit/controllers/ui_table_view_controller.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/lists/ui_table_view.h"
 
@@ -47,8 +47,8 @@ bridge::UITableViewController UITableViewController::initWithStyle(NSInteger sty
 void UITableViewController::loadView() {
   const auto table = bridge::Owned<bridge::UITableView>::adopt(
       bridge::send<bridge::UITableView, "initWithFrame:style:">(
-          bridge::send<id, "alloc">(bridge::UITableView::classObject()),
-          rectOfSize(stage().screenSize), _style));
+          bridge::send<id, "alloc">(bridge::UITableView::classObject()), rectOfSize(screen().size),
+          _style));
   table->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
   bridge::send<void, "setDataSource:">(table, self());
   bridge::send<void, "setDelegate:">(table, self());

@@ -5,10 +5,10 @@
 #include "desktop/uikit/controllers/ui_view_controller.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 #include "desktop/uikit/base/object_list.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/presentation.h"
 #include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -108,7 +108,7 @@ bridge::UIView UIViewController::view() {
 }
 
 void UIViewController::loadView() {
-  const auto made = bridge::makeView<bridge::UIView>(rectOfSize(stage().screenSize));
+  const auto made = bridge::makeView<bridge::UIView>(rectOfSize(screen().size));
   made->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
   bridge::send<void, "setView:">(self(), made.get());
 }

@@ -4,8 +4,6 @@
 #include <algorithm>
 
 #include "desktop/uikit/base/object_list.h"
-#include "desktop/uikit/controllers/ui_navigation_controller.h"
-#include "desktop/uikit/controllers/ui_tab_bar_controller.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -24,11 +22,11 @@ bridge::UIViewController UIViewController::enclosing(Class aClass) const {
 }
 
 bridge::UIViewController UIViewController::navigationController() const {
-  return enclosing(UINavigationController::classObject());
+  return enclosing(bridge::classNamed<"UINavigationController">());
 }
 
 bridge::UIViewController UIViewController::tabBarController() const {
-  return enclosing(UITabBarController::classObject());
+  return enclosing(bridge::classNamed<"UITabBarController">());
 }
 
 bridge::NSArray UIViewController::childrenArray() const {

@@ -6,12 +6,12 @@
 
 #include "bridge/block.h"
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/controllers/presentation.h"
 #include "desktop/uikit/controllers/transition_view.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -40,8 +40,8 @@ void move(bridge::UIViewController controller, bool shown, bool animated,
     return finished();
   }
   const auto duration = bridge::send<Seconds, "_presentationDuration">(controller);
-  stage().animator.animate(duration, 0, AnimationCurve::easeInOut, change,
-                           [finished](bool) { finished(); });
+  animator().animate(duration, 0, AnimationCurve::easeInOut, change,
+                     [finished](bool) { finished(); });
 }
 
 }  // namespace
@@ -78,7 +78,7 @@ void UIViewController::present(bridge::UIViewController controller, bool animate
   const bridge::UIView view = other.view();
   if (presentation->coversAll) beginAppearance(false, animated);
   other.beginAppearance(true, animated);
-  stage().animator.withoutAnimation([&] {
+  animator().withoutAnimation([&] {
     view.setFrame(presentation->container->bounds());
     view.setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
     presentation->container->addSubview(view);

@@ -29,9 +29,9 @@ void drawLetterI(CGPoint mid, Color color, Canvas& canvas) {
 
 }  // namespace
 
-void drawSymbol(UIButton::Type type, CGRect rect, Color color, Canvas& canvas) {
+void drawSymbol(ButtonSymbol symbol, CGRect rect, Color color, Canvas& canvas) {
   canvas.stroke(Path::ellipse(inset(rect, lineWidth / 2, lineWidth / 2)), lineWidth, color);
-  if (type == UIButton::contactAdd)
+  if (symbol == ButtonSymbol::plus)
     drawPlus(middle(rect), color, canvas);
   else
     drawLetterI(middle(rect), color, canvas);

@@ -254,7 +254,8 @@ void UIButton::drawContent(Canvas* canvas) const {
   const bool isHighlighted = UIControl::of(self()).isHighlighted();
   const Color color = isHighlighted ? tint.withAlpha(tint.alpha * highlightedAlpha) : tint;
   const CGPoint corner = middle(bounds) - CGPoint{symbolSize.width / 2, symbolSize.height / 2};
-  drawSymbol(_type, {corner, symbolSize}, color, *canvas);
+  const auto symbol = _type == contactAdd ? ButtonSymbol::plus : ButtonSymbol::info;
+  drawSymbol(symbol, {corner, symbolSize}, color, *canvas);
 }
 
 }  // namespace desktop::uikit

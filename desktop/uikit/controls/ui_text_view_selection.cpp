@@ -3,7 +3,7 @@
 // What of a text view is selected, and what can be done with it.
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/outside.h"
 #include "desktop/uikit/controls/ui_text_position.h"
 #include "desktop/uikit/controls/ui_text_view.h"
 #include "desktop/uikit/graphics/canvas.h"
@@ -106,10 +106,10 @@ void UITextView::selectAll(bridge::NSObject sender) {
 }
 
 void UITextView::copyText(bridge::NSObject) {
-  if (!hasSelectedText() || !stage().outside.copyText) return;
+  if (!hasSelectedText() || !outside().copyText) return;
   const auto selected =
       std::u16string_view(_text->text).substr(_selection->location, _selection->length);
-  stage().outside.copyText(stringOf(selected).utf8());
+  outside().copyText(stringOf(selected).utf8());
 }
 
 bool UITextView::canPerformAction(SEL action, bridge::Object sender) const {

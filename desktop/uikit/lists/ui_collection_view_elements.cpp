@@ -3,12 +3,12 @@
 // Which elements of a collection have views: those in sight, and no others.
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/lists/ui_collection_reusable_view.h"
 #include "desktop/uikit/lists/ui_collection_view.h"
 #include "desktop/uikit/lists/ui_collection_view_cell.h"
 #include "desktop/uikit/lists/ui_collection_view_layout_attributes.h"
+#include "desktop/uikit/views/animator.h"
 
 namespace desktop::uikit {
 namespace {
@@ -90,7 +90,7 @@ void UICollectionView::show(const Element& element, Attributes attributes) {
   std::erase_if(_views, [&](const auto& shown) { return shown.second.get() == view.get(); });
   _views[element] = view;
   _pool.shown(view);
-  stage().animator.withoutAnimation([&] {
+  animator().withoutAnimation([&] {
     place(view, attributes);
     if (element.kind.empty()) showState(element.path, view);
     if (UIView::of(view.get()).superview() != self())

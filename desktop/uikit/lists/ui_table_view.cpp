@@ -6,7 +6,7 @@
 #include "desktop/uikit/lists/ui_table_view.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 
@@ -71,7 +71,7 @@ Class UITableView::classObject() {
 }
 
 UITableView::~UITableView() {
-  if (_longPress) stage().scheduler.cancel(_longPress);
+  if (_longPress) scheduler().cancel(_longPress);
   if (_menuRow) UIMenuController::shared().hide();
 }
 

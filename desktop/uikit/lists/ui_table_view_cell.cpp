@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -217,7 +217,7 @@ CGFloat UITableViewCell::accessoryRoom() const {
 void UITableViewCell::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGRect bounds = UIView::of(self()).bounds();
-  const CGFloat hairline = _separators.below ? 1 / stage().scale : 0;
+  const CGFloat hairline = _separators.below ? 1 / screen().scale : 0;
   const CGSize content = {std::max(bounds.size.width - accessoryRoom(), 0.0),
                           std::max(bounds.size.height - hairline, 0.0)};
   _contentView->setFrame(rectOfSize(content));
@@ -247,7 +247,7 @@ void UITableViewCell::drawContent(Canvas* canvas) const {
 
 void UITableViewCell::drawSeparators(Canvas& canvas, CGRect bounds) const {
   const CGFloat width = bounds.size.width;
-  const CGFloat hairline = 1 / stage().scale;
+  const CGFloat hairline = 1 / screen().scale;
   const CGFloat left = _separators.insetBelow > 0 ? _separators.insetBelow + imageRoom() : 0;
   if (_separators.above) canvas.fill({{0, 0}, {width, hairline}}, _separators.color, 0);
   if (_separators.below && width > left)

@@ -3,12 +3,12 @@
 // Which rows have cells: those in sight, and no others.
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/lists/ui_table_view.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 #include "desktop/uikit/lists/ui_table_view_header_footer_view.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/views/animator.h"
 
 namespace desktop::uikit {
 namespace {
@@ -100,7 +100,7 @@ void UITableView::showRow(ItemPath path) {
   std::erase_if(_cells, [&](const auto& shown) { return shown.second.get() == cell.get(); });
   _cells[path] = cell;
   _pool.shown(cell);
-  stage().animator.withoutAnimation([&] {
+  animator().withoutAnimation([&] {
     cell->setFrame(across(_geometry.row(path)));
     styleCell(cell, path);
     bridge::send<void, "setSelected:animated:">(cell, _selected == path, false);
@@ -209,7 +209,7 @@ void UITableView::placeTitle(Titles& titles, NSInteger section, Place place, Ban
     const bridge::UIView view = titleView(section, place);
     if (!view || _generation != generation) return;
     titles[section] = bridge::Owned<bridge::UIView>::retain(view);
-    stage().animator.withoutAnimation([&] { view.setFrame(across(band)); });
+    animator().withoutAnimation([&] { view.setFrame(across(band)); });
     self().addSubview(view);
   }
   titles[section]->setFrame(across(band));

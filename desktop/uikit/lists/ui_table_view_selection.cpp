@@ -4,8 +4,8 @@
 // up the row's edit menu when it stays.
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/optional_message.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/lists/ui_table_view.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
@@ -41,14 +41,13 @@ void UITableView::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
 void UITableView::press(ItemPath path, Seconds since) {
   _pressed = path;
   highlight(path, true);
-  Scheduler& scheduler = stage().scheduler;
   _longPress =
-      scheduler.callAfter(since + longPressTime - scheduler.now(), [this] { pressWasLong(); });
+      scheduler().callAfter(since + longPressTime - scheduler().now(), [this] { pressWasLong(); });
 }
 
 // Ends a press without any effect.
 void UITableView::release() {
-  if (const auto timer = std::exchange(_longPress, 0)) stage().scheduler.cancel(timer);
+  if (const auto timer = std::exchange(_longPress, 0)) scheduler().cancel(timer);
   if (const auto pressed = std::exchange(_pressed, std::nullopt)) highlight(*pressed, false);
 }
 

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controls/action_control.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/overlays/ui_alert_action.h"
@@ -62,7 +62,7 @@ CGFloat textHeight(bridge::UILabel label, CGFloat width) {
 }
 
 CGFloat hairline() {
-  return 1 / stage().scale;
+  return 1 / screen().scale;
 }
 
 }  // namespace

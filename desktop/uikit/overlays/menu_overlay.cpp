@@ -2,9 +2,11 @@
 #include "desktop/uikit/overlays/menu_overlay.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controls/action_control.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
@@ -36,18 +38,17 @@ Class MenuOverlay::classObject() {
 }
 
 MenuOverlay::~MenuOverlay() {
-  UIMenuController& menu = UIMenuController::shared();
-  if (menu._overlay == self()) menu._overlay = {};
+  if (const auto begun = std::exchange(_ends.begun, nullptr)) begun();
 }
 
 bridge::UIView MenuOverlay::show(bridge::UIView window, std::vector<MenuCommand> commands,
-                                 std::function<void()> hidden, CGRect target) {
+                                 CGRect target, Ends ends) {
   const auto made =
       bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:">(
           bridge::send<id, "alloc">(classObject()), window.bounds()));
   MenuOverlay& overlay = of(made.get());
   overlay._commands = std::move(commands);
-  overlay._hidden = std::move(hidden);
+  overlay._ends = std::move(ends);
   overlay.addButtons();
   overlay.arrange(target);
   window.addSubview(made);
@@ -75,7 +76,7 @@ void MenuOverlay::arrange(CGRect target) {
   const CGFloat height = buttonHeight + arrowHeight;
   const CGFloat mid = middle(target).x;
   const CGFloat left = std::max(edge, std::min(mid - width / 2, room.width - edge - width));
-  const CGFloat top = stage().statusBarHeight;
+  const CGFloat top = screen().statusBarHeight;
   _pointsDown = target.origin.y - height >= top || bottom(target) + height > room.height;
   const CGFloat y = std::clamp(_pointsDown ? target.origin.y - height : bottom(target), top,
                                std::max(top, room.height - height));
@@ -92,10 +93,9 @@ void MenuOverlay::arrange(CGRect target) {
 
 void MenuOverlay::hide() {
   const auto kept = bridge::Owned<bridge::UIView>::retain(self());
-  UIMenuController& menu = UIMenuController::shared();
-  if (menu._overlay == self()) menu._overlay = {};
+  if (const auto begun = std::exchange(_ends.begun, nullptr)) begun();
   self().removeFromSuperview();
-  if (const auto hidden = std::exchange(_hidden, nullptr)) hidden();
+  if (const auto hidden = std::exchange(_ends.hidden, nullptr)) hidden();
 }
 
 void MenuOverlay::run(std::size_t index) {
@@ -109,7 +109,7 @@ void MenuOverlay::run(std::size_t index) {
 bridge::UIView MenuOverlay::hitTest(CGPoint point, bridge::UIEvent event) {
   const auto hit = super<bridge::UIView, "hitTest:withEvent:">(point, event);
   if (hit != self() || bridge::contains(_bubble, point)) return hit;
-  stage().scheduler.callAfter(
+  scheduler().callAfter(
       0, [me = bridge::Owned<bridge::UIView>::retain(self())] { of(me.get()).hide(); });
   return {};
 }

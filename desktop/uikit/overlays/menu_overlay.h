@@ -4,12 +4,21 @@
 // beside the bubble go through to what is below, and hide the menu.
 #pragma once
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "bridge/bound.h"
-#include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "bridge/uikit/ui_controllers.h"
 
 namespace desktop::uikit {
 
 class Canvas;
+
+struct MenuCommand {
+  std::string title;  // UTF-8
+  std::function<void()> run;
+};
 
 class MenuOverlay : public bridge::Bound<MenuOverlay, bridge::UIView> {
  public:
@@ -17,10 +26,16 @@ class MenuOverlay : public bridge::Bound<MenuOverlay, bridge::UIView> {
   ~MenuOverlay();
   static Class classObject();
 
+  // What is called, once each, when it ends.
+  struct Ends {
+    std::function<void()> begun;   // it hides, or goes with its window
+    std::function<void()> hidden;  // it was hidden and is out of its window
+  };
+
   // Fills a window with a new overlay that it owns; the frame is the bubble's in the window's
   // coordinates.
   static bridge::UIView show(bridge::UIView window, std::vector<MenuCommand> commands,
-                             std::function<void()> hidden, CGRect target);
+                             CGRect target, Ends ends);
 
   const std::vector<MenuCommand>& commands() const { return _commands; }
   // The bubble with its arrow, in the overlay's coordinates.
@@ -36,7 +51,7 @@ class MenuOverlay : public bridge::Bound<MenuOverlay, bridge::UIView> {
   void arrange(CGRect target);
 
   std::vector<MenuCommand> _commands;
-  std::function<void()> _hidden;
+  Ends _ends;
   std::vector<bridge::Owned<bridge::UIControl>> _buttons;
   CGRect _bubble;
   CGFloat _arrow = 0;  // x of its point

@@ -2,9 +2,7 @@
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/geometry.h"
-#include "desktop/uikit/overlays/menu_overlay.h"
 #include "desktop/uikit/views/ui_responder.h"
 
 namespace desktop::uikit {
@@ -71,13 +69,13 @@ UIMenuController& UIMenuController::shared() {
 void UIMenuController::show(std::vector<MenuCommand> commands, CGRect targetOnScreen,
                             std::function<void()> hidden) {
   hide();
-  const bridge::UIView window =
-      stage().windows.empty() ? bridge::UIView() : stage().windows.back().get();
+  const bridge::UIView window = bridge::UIApplication::sharedApplication().keyWindow();
   if (commands.empty() || !window) return;
   if (!isFinite(targetOnScreen)) targetOnScreen = {};
   const CGRect target =
       bridge::send<CGRect, "convertRect:fromView:">(window, targetOnScreen, bridge::UIView());
-  _overlay = MenuOverlay::show(window, std::move(commands), std::move(hidden), target);
+  _overlay = MenuOverlay::show(window, std::move(commands), target,
+                               {[this] { _overlay = {}; }, std::move(hidden)});
   _menuFrame = bridge::send<CGRect, "convertRect:toView:">(
       window, MenuOverlay::of(_overlay.get()).bubbleFrame(), bridge::UIView());
 }

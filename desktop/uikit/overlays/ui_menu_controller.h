@@ -9,14 +9,9 @@
 #include <vector>
 
 #include "bridge/bound.h"
-#include "bridge/uikit/ui_controllers.h"
+#include "desktop/uikit/overlays/menu_overlay.h"
 
 namespace desktop::uikit {
-
-struct MenuCommand {
-  std::string title;  // UTF-8
-  std::function<void()> run;
-};
 
 class UIMenuController : public bridge::Bound<UIMenuController, bridge::NSObject> {
  public:
@@ -51,8 +46,6 @@ class UIMenuController : public bridge::Bound<UIMenuController, bridge::NSObject
   CGRect _target;  // in points of the screen
   CGRect _menuFrame;
   bridge::UIView _overlay;  // what is on show; borrowed from its window
-
-  friend class MenuOverlay;
 };
 
 }  // namespace desktop::uikit

@@ -6,7 +6,8 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
 
 namespace desktop::uikit {
@@ -64,6 +65,9 @@ Class UIScrollView::classObject() {
           .method<"handlePan:", &Self::handlePan>()
           .method<"scrollRectToVisible:animated:", &Self::scrollRectToVisible>()
           .method<"hitTest:withEvent:", &Self::hitTest>()
+          .method<"_scrollBy:", &Self::scrollBy>()
+          .method<"_delaysTouches", &Self::delaysTouches>()
+          .method<"drawOverSubviewsOn:", &Self::drawOverSubviews>()
           .build();
   return made;
 }
@@ -99,7 +103,7 @@ void UIScrollView::setContentOffsetAnimated(CGPoint offset, bool animated) {
                        std::isfinite(offset.y) && offset != from;
   if (!isGoing) return bridge::send<void, "setContentOffset:">(self(), offset);
   start({ScrollMotion::easing(from.x, offset.x, scrollTime),
-         ScrollMotion::easing(from.y, offset.y, scrollTime), stage().scheduler.now(), false});
+         ScrollMotion::easing(from.y, offset.y, scrollTime), scheduler().now(), false});
 }
 
 // Content that became smaller is not left behind.

@@ -68,6 +68,7 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
 
   // Paints the bars at the edges that say where one is, over everything else in the view.
   void drawIndicators(Canvas& canvas) const;
+  void drawOverSubviews(Canvas* canvas) const { drawIndicators(*canvas); }
 
  private:
   struct Motion {

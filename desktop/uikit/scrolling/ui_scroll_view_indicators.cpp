@@ -3,7 +3,8 @@
 // The thin bars that say where in the content one is, for a moment after it moved.
 #include <cmath>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 
@@ -37,7 +38,7 @@ Bar barFor(CGFloat offset, CGFloat content, CGFloat room) {
 
 double UIScrollView::indicatorAlpha() const {
   if (_isDragging) return 1;
-  const Seconds past = stage().scheduler.now() - _lastScrolled - shownFor;
+  const Seconds past = scheduler().now() - _lastScrolled - shownFor;
   return std::clamp(1 - past / fadesFor, 0.0, 1.0);
 }
 
@@ -79,7 +80,7 @@ void UIScrollView::setShowsHorizontalIndicator(bool shows) {
 void UIScrollView::showIndicators() {
   const bool hasAny = !isEmpty(verticalIndicator()) || !isEmpty(horizontalIndicator());
   if (!hasAny || !UIView::of(self()).window()) return;
-  _lastScrolled = stage().scheduler.now();
+  _lastScrolled = scheduler().now();
   fadeIndicators();
   _fade.callAfter(shownFor, [this] { fadeIndicators(); });
 }
@@ -89,7 +90,7 @@ void UIScrollView::fadeIndicators() {
   const UIView& view = UIView::of(self());
   if (!view.window()) return;
   for (const CGRect& bar : {verticalIndicator(), horizontalIndicator()})
-    if (!isEmpty(bar)) stage().damage.add(apply(view.toScreen(), bar));
+    if (!isEmpty(bar)) screen().damage.add(apply(view.toScreen(), bar));
   if (indicatorAlpha() > 0) _fade.callAfter(frame, [this] { fadeIndicators(); });
 }
 

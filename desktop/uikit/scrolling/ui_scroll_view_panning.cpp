@@ -4,7 +4,8 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "desktop/uikit/touch/ui_pan_gesture_recognizer.h"
 
@@ -31,7 +32,7 @@ CGFloat pageAt(CGFloat offset, CGFloat begin, CGFloat velocity, CGFloat page) {
 }
 
 CGPoint onPixels(CGPoint point) {
-  const CGFloat scale = stage().scale;
+  const CGFloat scale = screen().scale;
   return {std::round(point.x * scale) / scale, std::round(point.y * scale) / scale};
 }
 
@@ -167,7 +168,7 @@ void UIScrollView::endDragging(bool isCancelled) {
 }
 
 void UIScrollView::start(Motion motion) {
-  motion.start = stage().scheduler.now();
+  motion.start = scheduler().now();
   _motion = motion;
   _tick.callAfter(frame, [this] { tick(); });
 }
@@ -177,7 +178,7 @@ void UIScrollView::tick() {
   if (!_motion) return;
   const auto kept = bridge::Owned<bridge::UIView>::retain(me());
   if (!UIView::of(self()).window()) return stopMotion();
-  const Seconds time = stage().scheduler.now() - _motion->start;
+  const Seconds time = scheduler().now() - _motion->start;
   if (time >= _motion->duration()) return finishMotion();
   _tick.callAfter(frame, [this] { tick(); });
   moveTo(_motion->at(time));

@@ -11,31 +11,9 @@
 #include "bridge/foundation/ns_text.h"
 #include "desktop/uikit/graphics/color.h"
 #include "desktop/uikit/graphics/text_engine.h"
+#include "desktop/uikit/text/paragraph_style.h"
 
 namespace desktop::uikit {
-
-// As the platform numbers them. Natural is where the text's writing begins.
-enum class TextAlignment : NSInteger { left, center, right, justified, natural };
-enum class LineBreakMode : NSInteger {
-  byWordWrapping,
-  byCharWrapping,
-  byClipping,
-  byTruncatingHead,
-  byTruncatingTail,
-  byTruncatingMiddle
-};
-
-// In points. Spacing stands between paragraphs only, and line spacing between lines.
-struct ParagraphStyle {
-  double spacing = 0;        // behind a paragraph
-  double spacingBefore = 0;  // in front of it
-  double firstLineHeadIndent = 0;
-  double headIndent = 0;  // of all lines but the first
-  double lineSpacing = 0;
-  TextAlignment alignment = TextAlignment::natural;
-  LineBreakMode lineBreakMode = LineBreakMode::byWordWrapping;
-  bool operator==(const ParagraphStyle&) const = default;
-};
 
 struct TextRun {
   std::size_t start = 0;  // in UTF-16 units; it reaches to the next run

@@ -5,7 +5,7 @@
 
 #include "bridge/bound.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/text/attributed_text.h"
+#include "desktop/uikit/text/paragraph_style.h"
 
 namespace desktop::uikit {
 

@@ -5,9 +5,9 @@
 #include <cmath>
 #include <utility>
 
-#include "desktop/uikit/application/stage.h"
+#include "bridge/uikit/ui_controllers.h"
 #include "desktop/uikit/base/geometry.h"
-#include "desktop/uikit/scrolling/ui_scroll_view.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/touch/touch_session.h"
 #include "desktop/uikit/touch/ui_event.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
@@ -26,24 +26,20 @@ bool isFinite(CGPoint point) {
 
 }  // namespace
 
-TouchDispatcher::Turn::Turn(TouchDispatcher& dispatcher) : _dispatcher(dispatcher) {
-  ++_dispatcher._turns;
-}
-
-TouchDispatcher::Turn::~Turn() {
-  if (_dispatcher._turns == 1) _dispatcher.tidy();
-  --_dispatcher._turns;
-}
-
 TouchDispatcher::TouchDispatcher() = default;
 TouchDispatcher::~TouchDispatcher() = default;
 
+void TouchDispatcher::endTurn() {
+  if (_turns == 1) tidy();
+  --_turns;
+}
+
 bridge::UIView TouchDispatcher::viewAt(CGPoint point, bridge::UIEvent event) const {
-  const auto windows = stage().windows;
-  for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
-    const bridge::UIView view = window->get();
-    const auto hit =
-        bridge::send<bridge::UIView, "hitTest:withEvent:">(view, fromScreen(point, view), event);
+  const auto windows = bridge::UIApplication::sharedApplication().windows();
+  for (NSUInteger index = windows.count(); index-- > 0;) {
+    const bridge::UIView window(windows.at(index).get());
+    const auto hit = bridge::send<bridge::UIView, "hitTest:withEvent:">(
+        window, fromScreen(point, window), event);
     if (hit) return hit;
   }
   return {};
@@ -51,7 +47,7 @@ bridge::UIView TouchDispatcher::viewAt(CGPoint point, bridge::UIEvent event) con
 
 NSInteger TouchDispatcher::tapsWith(CGPoint point) const {
   const bool isNear = std::hypot(point.x - _lastUp.x, point.y - _lastUp.y) <= tapDistance;
-  const bool isSoon = stage().scheduler.now() - _lastUpTime <= tapInterval;
+  const bool isSoon = scheduler().now() - _lastUpTime <= tapInterval;
   return _taps > 0 && isNear && isSoon ? _taps + 1 : 1;
 }
 
@@ -96,7 +92,7 @@ void TouchDispatcher::finish(CGPoint point, bool isCancelled) {
   const Session session = std::exchange(_current, nullptr);
   UITouch::of(session->touch()).moveTo(point);
   _lastUp = point;
-  _lastUpTime = stage().scheduler.now();
+  _lastUpTime = scheduler().now();
   if (isCancelled) _taps = 0;
   session->deliver(isCancelled ? UITouch::cancelled : UITouch::ended);
 }
@@ -106,13 +102,12 @@ void TouchDispatcher::scroll(CGPoint at, CGPoint distance) {
   const Turn turn(*this);
   bridge::UIView view = viewAt(at, UIEvent::make());
   for (; view; view = UIView::of(view).superview())
-    if (bridge::isKindOf(view, UIScrollView::classObject()) &&
-        UIScrollView::of(view).scrollBy(distance))
-      return;
+    if (bridge::send<bool, "_scrollBy:">(view, distance)) return;
 }
 
 void TouchDispatcher::abandon() {
   _current = nullptr;
+  _taps = 0;
   const auto sessions = std::exchange(_sessions, {});
   for (const Session& session : sessions)
     for (const auto& recognizer : session->recognizers())
@@ -187,6 +182,15 @@ void TouchDispatcher::release(const Session& session) {
     session->drop(recognizer);
     if (!takesPart(recognizer)) state.startAnew();
   }
+}
+
+TouchDispatcher& touches() {
+  static auto& made = *new TouchDispatcher;
+  return made;
+}
+
+GestureArbiter& gestureArbiter() {
+  return touches();
 }
 
 }  // namespace desktop::uikit

@@ -9,6 +9,7 @@
 
 #include "bridge/uikit/ui_view.h"
 #include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/touch/gesture_arbiter.h"
 
 namespace desktop::uikit {
 
@@ -16,10 +17,10 @@ class TouchSession;
 
 // One finger at a time: another one that comes down cancels the first. Points are of the screen;
 // those that are not finite are ignored.
-class TouchDispatcher {
+class TouchDispatcher : public GestureArbiter {
  public:
   TouchDispatcher();
-  ~TouchDispatcher();
+  ~TouchDispatcher() override;
   TouchDispatcher(const TouchDispatcher&) = delete;
   TouchDispatcher& operator=(const TouchDispatcher&) = delete;
 
@@ -34,39 +35,21 @@ class TouchDispatcher {
   // way. The distance is added to the content offset: positive y shows what is further down.
   void scroll(CGPoint at, CGPoint distance);
 
-  // Forgets every touch without telling anybody.
+  // Forgets every touch, and taps so far, without telling anybody.
   void abandon();
 
-  // For recognisers and views.
-
-  // While something happens with touches. Whoever waited for what was decided meanwhile hears of it
-  // at the end of the outermost one.
-  class Turn {
-   public:
-    explicit Turn(TouchDispatcher& dispatcher);
-    ~Turn();
-    Turn(const Turn&) = delete;
-    Turn& operator=(const Turn&) = delete;
-
-   private:
-    const bridge::AutoreleasePool _pool;
-    TouchDispatcher& _dispatcher;
-  };
-
-  using Recognizers = std::vector<bridge::Owned<bridge::UIGestureRecognizer>>;
-  // All that take part in a touch which the recogniser takes part in, without itself.
-  Recognizers rivalsOf(bridge::UIGestureRecognizer recognizer) const;
-  bool takesPart(bridge::UIGestureRecognizer recognizer) const;
-  // The view below the finger that the recogniser watches, or watched last; nil where it does not.
-  bridge::UIView touchedViewOf(bridge::UIGestureRecognizer recognizer) const;
-  // The touches that the recogniser takes part in are now its own.
-  void takeFromViews(bridge::UIGestureRecognizer recognizer);
-  // It takes part in no touch any longer.
-  void forget(bridge::UIGestureRecognizer recognizer);
+  // For recognisers.
+  Recognizers rivalsOf(bridge::UIGestureRecognizer recognizer) const override;
+  bool takesPart(bridge::UIGestureRecognizer recognizer) const override;
+  bridge::UIView touchedViewOf(bridge::UIGestureRecognizer recognizer) const override;
+  void takeFromViews(bridge::UIGestureRecognizer recognizer) override;
+  void forget(bridge::UIGestureRecognizer recognizer) override;
 
  private:
   using Session = std::shared_ptr<TouchSession>;
 
+  void beginTurn() override { ++_turns; }
+  void endTurn() override;
   bridge::UIView viewAt(CGPoint point, bridge::UIEvent event) const;
   NSInteger tapsWith(CGPoint point) const;
   void finish(CGPoint point, bool isCancelled);
@@ -81,5 +64,8 @@ class TouchDispatcher {
   NSInteger _taps = 0;  // in a row, up to the last touch
   int _turns = 0;       // how deep in events this is
 };
+
+// The touches of this process.
+TouchDispatcher& touches();
 
 }  // namespace desktop::uikit

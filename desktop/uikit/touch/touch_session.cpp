@@ -3,8 +3,7 @@
 
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
-#include "desktop/uikit/scrolling/ui_scroll_view.h"
+#include "desktop/uikit/touch/gesture_arbiter.h"
 #include "desktop/uikit/touch/ui_event.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -54,10 +53,9 @@ void TouchSession::findRecognizers() {
 void TouchSession::holdForScrolling() {
   bridge::UIView view = UITouch::of(_touch.get()).view();
   while ((view = UIView::of(view).superview())) {
-    if (!bridge::isKindOf(view, UIScrollView::classObject())) continue;
-    if (!UIScrollView::of(view).delaysTouches()) continue;
+    if (!bridge::send<bool, "_delaysTouches">(view)) continue;
     return _scrolling.callAfter(scrollingTime,
-                                [] { const TouchDispatcher::Turn turn(stage().touches); });
+                                [] { const GestureArbiter::Turn turn(gestureArbiter()); });
   }
 }
 

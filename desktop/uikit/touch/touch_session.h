@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "desktop/uikit/base/pending_call.h"
-#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "desktop/uikit/touch/gesture_arbiter.h"
 #include "desktop/uikit/touch/ui_touch.h"
 
 namespace desktop::uikit {
@@ -18,7 +18,7 @@ class TouchSession {
   TouchSession(bridge::UITouch touch, bridge::UIEvent event);
 
   bridge::UITouch touch() const { return _touch; }
-  const TouchDispatcher::Recognizers& recognizers() const { return _recognizers; }
+  const GestureArbiter::Recognizers& recognizers() const { return _recognizers; }
   bool has(bridge::UIGestureRecognizer recognizer) const;
   bool isFingerDown() const { return _isFingerDown; }
   // Whether something may still come of it.
@@ -46,9 +46,9 @@ class TouchSession {
 
   bridge::Owned<bridge::UITouch> _touch;
   bridge::Owned<bridge::UIEvent> _event;
-  TouchDispatcher::Recognizers _recognizers;  // the touched view's first, then those around it
-  std::deque<Step> _untold;                   // what the view has not been told yet
-  PendingCall _scrolling;                     // waits whether the finger scrolls
+  GestureArbiter::Recognizers _recognizers;  // the touched view's first, then those around it
+  std::deque<Step> _untold;                  // what the view has not been told yet
+  PendingCall _scrolling;                    // waits whether the finger scrolls
   bool _isFingerDown = true;
   bool _viewKnows = false;
   bool _isOverForView = false;

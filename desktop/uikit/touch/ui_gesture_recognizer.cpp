@@ -9,7 +9,7 @@
 
 #include "bridge/class_builder.h"
 #include "bridge/runtime/fields.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/touch/gesture_arbiter.h"
 #include "desktop/uikit/touch/ui_event.h"
 #include "desktop/uikit/touch/ui_touch.h"
 
@@ -68,6 +68,8 @@ Class UIGestureRecognizer::classObject() {
           .method<"removeTarget:action:", &Self::removeTarget>()
           .method<"view", &Self::view>()
           .method<"moveToView:", &Self::moveToView>()
+          .method<"_leaveTouches", &Self::leaveTouches>()
+          .method<"_viewIsGone", &Self::viewIsGone>()
           .method<"state", &Self::stateNumber>()
           .method<"setState:", &Self::setStateNumber>()
           .method<"locationInView:", &Self::locationIn>()
@@ -144,15 +146,15 @@ void UIGestureRecognizer::moveToView(bridge::UIView view) {
 }
 
 void UIGestureRecognizer::leaveTouches() {
-  if (!stage().touches.takesPart(me())) return;
-  const TouchDispatcher::Turn turn(stage().touches);
+  if (!gestureArbiter().takesPart(me())) return;
+  const GestureArbiter::Turn turn(gestureArbiter());
   giveUp();
-  stage().touches.forget(me());
+  gestureArbiter().forget(me());
 }
 
 void UIGestureRecognizer::viewIsGone() {
   _view = {};
-  stage().touches.forget(me());
+  gestureArbiter().forget(me());
 }
 
 void UIGestureRecognizer::setEnabled(bool enabled) {
@@ -219,7 +221,7 @@ void UIGestureRecognizer::startAnew() {
 }
 
 void UIGestureRecognizer::become(State next) {
-  const TouchDispatcher::Turn turn(stage().touches);
+  const GestureArbiter::Turn turn(gestureArbiter());
   const auto kept = bridge::Owned<bridge::UIGestureRecognizer>::retain(me());
   if (isUndecided()) {
     if (next == State::failed || next == State::cancelled) return fail();
@@ -246,7 +248,7 @@ void UIGestureRecognizer::recognize(State first) {
   _state = first;
   excludeOthers();
   fire();
-  if (_cancelsTouchesInView) stage().touches.takeFromViews(me());
+  if (_cancelsTouchesInView) gestureArbiter().takeFromViews(me());
 }
 
 bool UIGestureRecognizer::tryAgain() {
@@ -261,7 +263,7 @@ bool UIGestureRecognizer::mayBegin() const {
   if (bridge::respondsTo<"gestureRecognizerShouldBegin:">(_delegate) &&
       !bridge::send<bool, "gestureRecognizerShouldBegin:">(_delegate, me()))
     return false;
-  const auto touched = stage().touches.touchedViewOf(me());
+  const auto touched = gestureArbiter().touchedViewOf(me());
   for (const bridge::UIView view : {_view, touched == _view ? bridge::UIView() : touched})
     if (bridge::respondsTo<"gestureRecognizerShouldBegin:">(view) &&
         !bridge::send<bool, "gestureRecognizerShouldBegin:">(view, me()))
@@ -271,7 +273,7 @@ bool UIGestureRecognizer::mayBegin() const {
 
 bool UIGestureRecognizer::mustWait() const {
   return std::ranges::any_of(_required, [](const auto& other) {
-    return of(other.get()).isUndecided() && stage().touches.takesPart(other);
+    return of(other.get()).isUndecided() && gestureArbiter().takesPart(other);
   });
 }
 
@@ -282,13 +284,13 @@ bool UIGestureRecognizer::isExcluded() const {
     return state.isUnderWay() || state._state == State::ended;
   };
   if (std::ranges::any_of(_required, hasRecognized)) return true;
-  const auto rivals = stage().touches.rivalsOf(me());
+  const auto rivals = gestureArbiter().rivalsOf(me());
   return std::ranges::any_of(
       rivals, [&](const auto& other) { return hasRecognized(other) && !goesTogetherWith(other); });
 }
 
 void UIGestureRecognizer::excludeOthers() const {
-  const auto rivals = stage().touches.rivalsOf(me());
+  const auto rivals = gestureArbiter().rivalsOf(me());
   for (const auto& rival : rivals) {
     UIGestureRecognizer& state = of(rival.get());
     if (state.isUndecided() && !goesTogetherWith(rival)) state.fail();

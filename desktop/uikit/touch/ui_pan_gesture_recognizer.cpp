@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/touch/ui_touch.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -68,7 +68,7 @@ void UIPanGestureRecognizer::setWays(bool across, bool down) {
 
 // A finger that has come to rest has none.
 CGPoint UIPanGestureRecognizer::velocityOnScreen() const {
-  const Seconds now = stage().scheduler.now();
+  const Seconds now = scheduler().now();
   const auto first = std::ranges::find_if(
       _samples, [&](const Sample& sample) { return sample.time >= now - velocityWindow; });
   if (first == _samples.end()) return {};
@@ -81,7 +81,7 @@ CGPoint UIPanGestureRecognizer::velocityOnScreen() const {
 
 void UIPanGestureRecognizer::note(CGPoint location) {
   _last = location;
-  const Seconds now = stage().scheduler.now();
+  const Seconds now = scheduler().now();
   while (!_samples.empty() && _samples.front().time < now - velocityWindow) _samples.pop_front();
   // Of what happens at one moment only the last counts.
   if (_samples.size() > 1 && _samples.back().time == now) _samples.pop_back();

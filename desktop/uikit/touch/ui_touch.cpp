@@ -2,7 +2,7 @@
 #include "desktop/uikit/touch/ui_touch.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -34,7 +34,7 @@ bridge::Owned<bridge::UITouch> UITouch::make(bridge::UIView view, CGPoint point,
 void UITouch::moveTo(CGPoint point) {
   _previous = _location;
   _location = point;
-  _timestamp = stage().scheduler.now();
+  _timestamp = scheduler().now();
 }
 
 CGPoint UITouch::locationIn(bridge::UIView view) const {

@@ -9,8 +9,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/uikit/application/stage.h"
-#include "desktop/uikit/views/ui_view.h"
+#include "desktop/uikit/base/scheduler.h"
 
 namespace desktop::uikit {
 namespace {
@@ -75,7 +74,7 @@ double progressAt(AnimationCurve curve, double fraction) {
 void Animator::animate(Seconds duration, Seconds delay, AnimationCurve curve,
                        const Animations& animations, Completion completion) {
   const auto group =
-      std::make_shared<Group>(Group{stage().scheduler.now() + std::max(delay, 0.0),
+      std::make_shared<Group>(Group{scheduler().now() + std::max(delay, 0.0),
                                     std::max(duration, 0.0), curve, std::move(completion), false});
   const bool isShown = group->duration > 0 || delay > 0;
   _described.push_back(isShown ? group : nullptr);
@@ -84,7 +83,7 @@ void Animator::animate(Seconds duration, Seconds delay, AnimationCurve curve,
   const bool isRunning =
       std::ranges::any_of(_running, [&](const Part& part) { return part.group == group; });
   if (!isRunning)
-    stage().scheduler.callAfter(0, [group] {
+    scheduler().callAfter(0, [group] {
       if (const Completion done = std::exchange(group->completion, nullptr)) done(true);
     });
 }
@@ -126,7 +125,7 @@ void Animator::appearanceChanges(bridge::UIView view, const ViewAppearance& from
 
 ViewAppearance Animator::shown(bridge::UIView view, const ViewAppearance& own) const {
   ViewAppearance seen = own;
-  const Seconds now = stage().scheduler.now();
+  const Seconds now = scheduler().now();
   for (const Part& part : _running) {
     if (part.view.get() != view) continue;
     const Group& group = *part.group;
@@ -154,9 +153,9 @@ void Animator::stop(bridge::UIView view) {
 
 void Animator::tick() {
   std::vector<std::shared_ptr<Group>> over;
-  const Seconds now = stage().scheduler.now();
+  const Seconds now = scheduler().now();
   for (const Part& part : _running) {
-    UIView::of(part.view.get()).setNeedsDisplay();
+    bridge::send<void, "setNeedsDisplay">(part.view.get());
     const bool isOver = now >= part.group->start + part.group->duration;
     if (isOver && std::ranges::find(over, part.group) == over.end()) over.push_back(part.group);
   }
@@ -168,13 +167,18 @@ void Animator::finish(const std::shared_ptr<Group>& group) {
   for (Part& part : _running)
     if (part.group == group) ended.push_back(part);
   std::erase_if(_running, [&](const Part& part) { return part.group == group; });
-  for (const Part& part : ended) UIView::of(part.view.get()).setNeedsDisplay();
+  for (const Part& part : ended) bridge::send<void, "setNeedsDisplay">(part.view.get());
   if (const Completion done = std::exchange(group->completion, nullptr)) done(!group->wasCut);
 }
 
 void Animator::cutShort(const std::shared_ptr<Group>& group) {
   group->wasCut = true;
   finish(group);
+}
+
+Animator& animator() {
+  static auto& made = *new Animator;
+  return made;
 }
 
 }  // namespace desktop::uikit

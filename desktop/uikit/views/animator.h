@@ -77,4 +77,7 @@ class Animator {
   std::vector<Part> _running;
 };
 
+// The animations of this process.
+Animator& animator();
+
 }  // namespace desktop::uikit

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/graphics/encodings.h"
-#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 namespace {
@@ -53,11 +53,11 @@ bridge::CALayer CALayer::layer() {
 }
 
 CGRect CALayer::frame() const {
-  return _view ? UIView::of(_view.get()).frame() : _frame;
+  return _view ? _view.frame() : _frame;
 }
 
 CGRect CALayer::bounds() const {
-  return _view ? UIView::of(_view.get()).bounds() : rectOfSize(_frame.size);
+  return _view ? _view.bounds() : rectOfSize(_frame.size);
 }
 
 void CALayer::setFrame(CGRect frame) {
@@ -67,7 +67,7 @@ void CALayer::setFrame(CGRect frame) {
 }
 
 void CALayer::changed() const {
-  if (_view) return UIView::of(_view.get()).setNeedsDisplay();
+  if (_view) return bridge::send<void, "setNeedsDisplay">(_view);
   if (_superlayer) of(_superlayer.get()).changed();
 }
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/text/label_text.h"
@@ -22,12 +22,12 @@ constexpr CGFloat unlimited = 1e7;  // points
 // To whole pixels, upwards.
 CGFloat pixelsUp(CGFloat points) {
   constexpr CGFloat tolerance = 1e-6;
-  const CGFloat scale = stage().scale;
+  const CGFloat scale = screen().scale;
   return std::ceil(points * scale - tolerance) / scale;
 }
 
 CGFloat nearestPixel(CGFloat points) {
-  return std::round(points * stage().scale) / stage().scale;
+  return std::round(points * screen().scale) / screen().scale;
 }
 
 // What is left of a line's paragraph from the line on, and whether anything follows it.
@@ -100,8 +100,8 @@ CGSize UILabel::intrinsicContentSize() const {
 
 const std::vector<LabelLine>& UILabel::lines() const {
   const CGSize size = UIView::of(self()).bounds().size;
-  if (_shown.scale != stage().scale || _shown.size != size)
-    _shown = {size, stage().scale, linesIn(size)};
+  if (_shown.scale != screen().scale || _shown.size != size)
+    _shown = {size, screen().scale, linesIn(size)};
   return _shown.lines;
 }
 

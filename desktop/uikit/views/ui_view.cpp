@@ -7,11 +7,11 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
-#include "desktop/uikit/touch/ui_gesture_recognizer.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ca_layer.h"
 
 namespace desktop::uikit {
@@ -80,10 +80,13 @@ Class UIView::classObject() {
           .method<"convertPoint:fromView:", &UIView::convertPointFrom>()
           .method<"convertRect:toView:", &UIView::convertRectTo>()
           .method<"convertRect:fromView:", &UIView::convertRectFrom>()
+          .method<"_scrollBy:", &UIView::scrollBy>()
+          .method<"_delaysTouches", &UIView::delaysTouches>()
           .method<"gestureRecognizers", &UIView::gestureRecognizersArray>()
           .method<"addGestureRecognizer:", &UIView::addGestureRecognizer>()
           .method<"removeGestureRecognizer:", &UIView::removeGestureRecognizer>()
           .method<"drawContentOn:", &UIView::drawContent>()
+          .method<"drawOverSubviewsOn:", &UIView::drawOverSubviews>()
           .build();
   return made;
 }
@@ -97,7 +100,7 @@ UIView::~UIView() {
   CALayer::of(_layer.get()).setView({});
   for (const auto& view : _subviews) of(view.get())._superview = {};
   for (const auto& recognizer : _gestureRecognizers)
-    UIGestureRecognizer::of(recognizer.get()).viewIsGone();
+    bridge::send<void, "_viewIsGone">(recognizer.get());
 }
 
 bridge::UIView UIView::init() {
@@ -161,7 +164,7 @@ void UIView::become(const ViewAppearance& appearance) {
   setNeedsDisplay();
   const ViewAppearance before = _own;
   _own = appearance;
-  stage().animator.appearanceChanges(bridge::UIView(self().get()), before, _own);
+  animator().appearanceChanges(bridge::UIView(self().get()), before, _own);
   if (before.bounds.size != _own.bounds.size) {
     resizeSubviews(before.bounds.size);
     setNeedsLayout();
@@ -170,7 +173,7 @@ void UIView::become(const ViewAppearance& appearance) {
 }
 
 ViewAppearance UIView::shown() const {
-  return stage().animator.shown(bridge::UIView(self().get()), _own);
+  return animator().shown(bridge::UIView(self().get()), _own);
 }
 
 CGAffineTransform UIView::toSuperview() const {
@@ -205,7 +208,7 @@ void UIView::setNeedsDisplay() const {
   }
   if (!clipsToBounds())
     for (const auto& view : _subviews) touched = unionOf(touched, of(view.get()).frame());
-  stage().damage.add(uikit::apply(toScreen(), touched));
+  screen().damage.add(uikit::apply(toScreen(), touched));
 }
 
 void UIView::drawContent(Canvas*) const {}

@@ -56,6 +56,8 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   const std::vector<bridge::Owned<bridge::UIView>>& subviews() const { return _subviews; }
   bridge::UIView superview() const { return _superview; }
   bridge::UIView window() const;
+  // Says that this view is a window: the top of what is on screen.
+  void standAsWindow() { _isWindow = true; }
   bool isDescendantOf(bridge::UIView view) const;
   void insertSubview(bridge::UIView view, std::size_t index);
   // The controller whose view this is, or nil; set by the controller, borrowed.
@@ -74,6 +76,8 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   // Paints the view's own content inside its bounds, between background and subviews; the message
   // "drawContentOn:" gets here, so that classes below can answer it with their own.
   void drawContent(Canvas* canvas) const;
+  // The same over the subviews, by "drawOverSubviewsOn:".
+  void drawOverSubviews(Canvas*) const {}
 
  private:
   bridge::UIView initWithFrame(CGRect frame);
@@ -119,6 +123,11 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   CGRect convertRectTo(CGRect rect, bridge::UIView view) const;
   CGRect convertRectFrom(CGRect rect, bridge::UIView view) const;
 
+  // What scrolls answers these otherwise: a wheel over it, and whether a touch in it may be one
+  // that scrolls.
+  bool scrollBy(CGPoint) { return false; }
+  bool delaysTouches() const { return false; }
+
   bridge::NSArray gestureRecognizersArray() const;
   void addGestureRecognizer(bridge::UIGestureRecognizer recognizer);
   void removeGestureRecognizer(bridge::UIGestureRecognizer recognizer);
@@ -139,6 +148,7 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   NSInteger _tag = 0;
   NSUInteger _autoresizingMask = 0;
   NSInteger _contentMode = 0;
+  bool _isWindow = false;
   bool _isHidden = false;
   bool _isOpaque = true;
   bool _translatesMask = true;

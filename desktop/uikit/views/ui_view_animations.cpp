@@ -2,7 +2,7 @@
 //
 // The class methods of UIView that animate: blocks in, the animator does the work.
 #include "bridge/block.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -22,7 +22,7 @@ void animate(Seconds duration, Seconds delay, NSUInteger options, const BlockHea
              const BlockHeader* completion) {
   const auto changes = Block<void()>::retain(animations);
   const auto done = Block<void(bool)>::retain(completion);
-  stage().animator.animate(
+  animator().animate(
       duration, delay, curveOf(options), [&] { changes(); },
       [done](bool finished) { done(finished); });
 }
@@ -43,7 +43,7 @@ void UIView_animateOptions(id, SEL, double duration, double delay, NSUInteger op
 
 void UIView_performWithoutAnimation(id, SEL, const BlockHeader* changes) {
   const auto work = Block<void()>::retain(changes);
-  stage().animator.withoutAnimation([&] { work(); });
+  animator().withoutAnimation([&] { work(); });
 }
 
 template <typename Function>

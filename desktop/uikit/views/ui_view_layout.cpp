@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -97,7 +97,7 @@ bridge::UIView UIView::hitTest(CGPoint point, bridge::UIEvent event) {
   constexpr CGFloat leastAlpha = 0.01;
   const bridge::UIView me(self().get());
   if (_isHidden || !_isUserInteractionEnabled || _own.alpha < leastAlpha) return {};
-  if (stage().animator.isAnimating(me)) return {};
+  if (animator().isAnimating(me)) return {};
   if (!bridge::send<bool, "pointInside:withEvent:">(me, point, event)) return {};
   for (auto child = _subviews.rbegin(); child != _subviews.rend(); ++child) {
     const CGPoint inChild = uikit::apply(inverse(of(child->get().get()).toSuperview()), point);

@@ -3,9 +3,7 @@
 // Who is whose subview, and which gestures a view has.
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
-#include "desktop/uikit/application/ui_window.h"
-#include "desktop/uikit/touch/ui_gesture_recognizer.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -23,7 +21,7 @@ bridge::NSArray arrayOf(const std::vector<bridge::Owned<T>>& objects) {
 bridge::UIView UIView::window() const {
   bridge::UIView top(self().get());
   while (const bridge::UIView above = of(top.get())._superview) top = above;
-  return bridge::isKindOf(top, UIWindow::classObject()) ? top : bridge::UIView();
+  return of(top.get())._isWindow ? top : bridge::UIView();
 }
 
 bool UIView::isDescendantOf(bridge::UIView view) const {
@@ -109,10 +107,10 @@ void UIView::detach(bridge::UIView subview) {
 void UIView::tellMovedToWindow() {
   const bridge::UIView me(self().get());
   if (!window()) {
-    stage().animator.stop(me);
+    animator().stop(me);
     const auto recognizers = _gestureRecognizers;
     for (const auto& recognizer : recognizers)
-      UIGestureRecognizer::of(recognizer.get()).leaveTouches();
+      bridge::send<void, "_leaveTouches">(recognizer.get());
   }
   bridge::send<void, "didMoveToWindow">(me);
   const auto children = _subviews;

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/views/view_painter.h"
 
-#include "desktop/uikit/application/stage.h"
-#include "desktop/uikit/bars/status_bar.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/ui_bezier_path.h"
 #include "desktop/uikit/graphics/ui_color.h"
-#include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "desktop/uikit/views/ca_gradient_layer.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -81,16 +78,10 @@ void paintView(bridge::UIView view, Canvas& canvas) {
     for (const auto& sublayer : layer.sublayers()) paintLayer(sublayer, canvas);
     bridge::send<void, "drawContentOn:">(view, &canvas);
     for (const auto& subview : state.subviews()) paintView(subview, canvas);
-    if (bridge::isKindOf(view, UIScrollView::classObject()))
-      UIScrollView::of(view).drawIndicators(canvas);
+    bridge::send<void, "drawOverSubviewsOn:">(view, &canvas);
     paintBorder(style, seen.bounds, canvas);
   }
   canvas.restore();
-}
-
-void paintStage(Canvas& canvas) {
-  for (const auto& window : stage().windows) paintView(window, canvas);
-  paintStatusBar(canvas);
 }
 
 }  // namespace desktop::uikit

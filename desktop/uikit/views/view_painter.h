@@ -10,9 +10,7 @@ namespace desktop::uikit {
 
 class Canvas;
 
-// Paints all windows of the stage, as they are shown now, in points of the screen.
-void paintStage(Canvas& canvas);
-// Paints a view and what is in it where it stands in its superview.
+// Paints a view and what is in it, as shown now, where it stands in its superview.
 void paintView(bridge::UIView view, Canvas& canvas);
 
 }  // namespace desktop::uikit

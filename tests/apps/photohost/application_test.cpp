@@ -66,6 +66,16 @@ TEST(Application, SaysNothingWhereAllIsWell) {
   EXPECT_EQ(result.messages, "");
 }
 
+// A swipe ends where its own finger is, not where another command left one before.
+TEST(Application, ASwipeIsEndedByAnyCommandThatLiftsTheFinger) {
+  Host host;
+  host.run(
+      "tap \"Select\"\nwait 1\ntouch-down 187 300\ntouch-up\nexpect \"1 Photo Selected\"\n"
+      "touch-down 187 300\ntouch-up\nexpect \"Select Items\"\n"
+      "swipe-begin 0\ntouch-up\nwait 1\nexpect \"1 Photo Selected\"\n"
+      "swipe-move 2\nwait 1\nexpect \"1 Photo Selected\"\n");
+}
+
 TEST(Application, TakesItsScreenshotAtTheScale) {
   Host host;
   EXPECT_EQ(host.tryToRun("screenshot screen.png\n", "--scale 1").status, 0);

@@ -14,7 +14,7 @@
 #include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/pictures/serve_decoder.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controls/ui_button.h"
 #include "desktop/uikit/lists/ui_collection_view.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
@@ -172,7 +172,7 @@ TEST_F(KeysTest, SpaceOpensAVideoOutside) {
   deliver();
   showPhoto(61);
   EXPECT_TRUE(press(Qt::Key_Space));
-  EXPECT_EQ(uikit::stage().opened.size(), 1U);
+  EXPECT_EQ(uikit::application().opened.size(), 1U);
 }
 
 TEST_F(KeysTest, IAndAltReturnPressTheInfoButton) {

@@ -9,9 +9,11 @@
 #include "desktop/photos_ui/grid/selection_title.h"
 #include "desktop/photos_ui/grid/video_badge.h"
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/lists/ui_collection_view.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "tests/desktop/photos_ui/library_screen.h"
 
 namespace desktop::photos_ui {
@@ -22,7 +24,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-using uikit::stage;
+using uikit::application;
+using uikit::screen;
+using uikit::touches;
 
 class GridTest : public LibraryScreenTest {
  protected:
@@ -66,7 +70,7 @@ TEST_F(GridTest, ShowsFourColumnsOneApart) {
 
 TEST_F(GridTest, ShowsMoreColumnsInAWiderView) {
   openAlbumOf(10);
-  stage().resize({667, 375});
+  application().resize({667, 375});
   settle();
   EXPECT_EQ(frameOf(6).origin.y, 0);
   EXPECT_EQ(uikit::right(frameOf(6)), 667) << "what is left over is shared out";
@@ -144,13 +148,13 @@ TEST_F(GridTest, SelectsByTapsAndCountsInTheTitle) {
 TEST_F(GridTest, SelectsWhatAFingerSwipesOver) {
   openAlbumOf(12);
   beginSelecting();
-  stage().touches.down(placeOf(1));
+  touches().down(placeOf(1));
   for (const long over : {2, 3, 7, 6}) {
-    stage().touches.move(placeOf(over));
+    touches().move(placeOf(over));
     settle(0.02);
   }
   EXPECT_EQ(title(), "6 Photos Selected") << "while the finger is down";
-  stage().touches.up(placeOf(6));
+  touches().up(placeOf(6));
   settle();
   EXPECT_THAT(selected(), ElementsAre("Album/01.jpg", "Album/02.jpg", "Album/03.jpg",
                                       "Album/04.jpg", "Album/05.jpg", "Album/06.jpg"));
@@ -160,10 +164,10 @@ TEST_F(GridTest, DeselectsWhatASwipeThatBeginsOnASelectedItemGoesOver) {
   openAlbumOf(4);
   beginSelecting();
   for (const long each : {0, 1, 2}) tap(placeOf(each));
-  stage().touches.down(placeOf(1));
-  stage().touches.move(placeOf(3));
+  touches().down(placeOf(1));
+  touches().move(placeOf(3));
   settle(0.02);
-  stage().touches.up(placeOf(3));
+  touches().up(placeOf(3));
   settle();
   EXPECT_THAT(selected(), ElementsAre("Album/00.jpg"));
 }
@@ -172,10 +176,10 @@ TEST_F(GridTest, UndoesASwipeThatIsCancelled) {
   openAlbumOf(8);
   beginSelecting();
   tap(placeOf(2));
-  stage().touches.down(placeOf(0));
-  stage().touches.move(placeOf(3));
+  touches().down(placeOf(0));
+  touches().move(placeOf(3));
   settle(0.02);
-  stage().touches.cancel();
+  touches().cancel();
   settle();
   EXPECT_THAT(selected(), ElementsAre("Album/02.jpg"));
   EXPECT_EQ(title(), "1 Photo Selected");
@@ -183,11 +187,11 @@ TEST_F(GridTest, UndoesASwipeThatIsCancelled) {
 
 TEST_F(GridTest, DoesNotSwipeOutsideSelectMode) {
   openAlbumOf(4);
-  stage().touches.down(placeOf(0));
+  touches().down(placeOf(0));
   settle(0.3);
-  stage().touches.move(placeOf(3));
+  touches().move(placeOf(3));
   settle(0.02);
-  stage().touches.up(placeOf(3));
+  touches().up(placeOf(3));
   settle();
   EXPECT_THAT(selected(), IsEmpty());
   EXPECT_EQ(title(), "Album");
@@ -242,8 +246,7 @@ TEST_F(GridTest, SaysThatALibraryIsEmpty) {
 TEST_F(GridTest, SaysWhyALibraryIsNotOpen) {
   const bridge::AutoreleasePool pool;
   host().libraryProblem = "/nowhere: No such file or directory";
-  const auto window =
-      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(stage().screenSize));
+  const auto window = bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(screen().size));
   window->setRootViewController(makeRootController().get());
   window->makeKeyAndVisible();
   settle();

@@ -7,23 +7,27 @@
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::photos_ui {
 
-using uikit::stage;
+using uikit::application;
+using uikit::screen;
+using uikit::touches;
 
 namespace {
 
 long registeredObjects() {
   uikit::registerUIKit();
   registerPhotosUI();
-  uikit::resetStage();
+  uikit::resetApplication();
   uikit::UIMenuController::shared();  // made once, and kept, as the application is
   bridge::UIApplication::sharedApplication();
   return bridge::liveBoundObjects();
@@ -45,7 +49,7 @@ LibraryScreenTest::LibraryScreenTest() : _objectsBefore(registeredObjects()) {
 }
 
 LibraryScreenTest::~LibraryScreenTest() {
-  uikit::resetStage();
+  uikit::resetApplication();
   host() = {};
   _pool.reset();
   EXPECT_EQ(bridge::liveBoundObjects(), _objectsBefore) << "something outlives the screen";
@@ -62,8 +66,7 @@ void LibraryScreenTest::open() {
     host().libraryProblem = folder.path() + ": " + opened.error().reason;
   }
   host().library = library.get();
-  const auto window =
-      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(stage().screenSize));
+  const auto window = bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(screen().size));
   window->setRootViewController(makeRootController().get());
   window->makeKeyAndVisible();
   settle();
@@ -77,14 +80,14 @@ void LibraryScreenTest::deliver() {
 
 void LibraryScreenTest::settle(double seconds) {
   const bridge::AutoreleasePool pool;
-  stage().advance(seconds);
+  application().advance(seconds);
 }
 
 void LibraryScreenTest::tap(CGPoint point) {
   const bridge::AutoreleasePool pool;
-  stage().touches.down(point);
+  touches().down(point);
   settle(0.1);
-  stage().touches.up(point);
+  touches().up(point);
   settle();
 }
 
@@ -96,7 +99,7 @@ CGPoint LibraryScreenTest::placeOf(long item) {
 }
 
 bridge::UIViewController LibraryScreenTest::top() {
-  const uikit::handles::UIWindow window(stage().windows.at(0)->get());
+  const uikit::handles::UIWindow window(application().windows.at(0)->get());
   const auto tabs = bridge::as<uikit::handles::UITabBarController>(window.rootViewController());
   return uikit::UINavigationController::of(tabs.selectedViewController()).top();
 }
@@ -113,7 +116,7 @@ std::string LibraryScreenTest::title() {
 std::vector<std::string> LibraryScreenTest::texts() {
   const bridge::AutoreleasePool pool;
   std::vector<std::string> all;
-  addTexts(stage().windows.at(0), all);
+  addTexts(application().windows.at(0), all);
   return all;
 }
 

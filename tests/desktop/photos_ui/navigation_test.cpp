@@ -5,7 +5,6 @@
 
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
-#include "desktop/uikit/application/stage.h"
 #include "tests/desktop/photos_ui/library_screen.h"
 
 namespace desktop::photos_ui {

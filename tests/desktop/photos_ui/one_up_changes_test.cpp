@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "desktop/photos_ui/one_up/one_up.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 
 namespace desktop::photos_ui {
@@ -12,7 +12,7 @@ namespace {
 
 using testing::Contains;
 using testing::UnorderedElementsAre;
-using uikit::stage;
+using uikit::touches;
 
 TEST_F(OneUpTest, GoesToTheNeighbourOfAFileThatIsGone) {
   addPictures(4);
@@ -42,13 +42,13 @@ TEST_F(OneUpTest, KeepsTheLookAtAPhotoWhenAnotherFileIsGone) {
 TEST_F(OneUpTest, TakesAFileThatGoesWhileAFingerTurnsThePage) {
   addPictures(4);
   show(1);
-  stage().touches.down({300, 300});
-  stage().touches.move({200, 300});
+  touches().down({300, 300});
+  touches().move({200, 300});
   settle(0.1);
   removeFile("1.bmp");
-  stage().touches.move({100, 300});
+  touches().move({100, 300});
   settle(0.1);
-  stage().touches.up({100, 300});
+  touches().up({100, 300});
   deliverPictures();
   EXPECT_THAT((std::vector<std::string>{"2.bmp", "3.bmp"}), Contains(currentName()));
   EXPECT_EQ(pictureFrame(), (CGRect{{0, 192.875}, {375, 281.25}}));

@@ -6,11 +6,12 @@
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 
 namespace desktop::photos_ui {
 
-using uikit::stage;
+using uikit::touches;
 
 namespace {
 
@@ -39,7 +40,7 @@ OneUpTest::OneUpTest() : _loader({.command = {"/proc/self/exe", "--decode-pictur
 }
 
 OneUpTest::~OneUpTest() {
-  uikit::resetStage();
+  uikit::resetApplication();
   host().pictures = nullptr;
 }
 
@@ -131,23 +132,23 @@ bool OneUpTest::act(OneUpAction action) {
 void OneUpTest::drag(CGPoint from, CGPoint to) {
   constexpr int steps = 10;
   const bridge::AutoreleasePool pool;
-  stage().touches.down(from);
+  touches().down(from);
   for (int step = 1; step <= steps; ++step) {
     const CGFloat share = static_cast<CGFloat>(step) / steps;
     settle(0.02);
-    stage().touches.move({from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share});
+    touches().move({from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share});
   }
   settle(0.3);
-  stage().touches.up(to);
+  touches().up(to);
   settle();
 }
 
 void OneUpTest::doubleTap(CGPoint point) {
   const bridge::AutoreleasePool pool;
   for (int tapped = 0; tapped < 2; ++tapped) {
-    stage().touches.down(point);
+    touches().down(point);
     settle(0.05);
-    stage().touches.up(point);
+    touches().up(point);
     settle(0.1);
   }
   settle();

@@ -6,7 +6,7 @@
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controllers/ui_activity_view_controller.h"
 #include "desktop/uikit/graphics/color.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
-using uikit::stage;
+using uikit::application;
 
 // The item that extensions are told is on show.
 std::string assetOnShow(const PUOneUpViewController& oneUp, const library::LibraryFolder& folder,
@@ -115,11 +115,11 @@ TEST_F(OneUpTest, ShowsTheDateOfTheItem) {
 TEST_F(OneUpTest, KeepsItsPageWhenTheScreenIsTurned) {
   addPictures(4);
   show(2);
-  stage().resize({667, 375});
+  application().resize({667, 375});
   deliverPictures();
   EXPECT_EQ(currentName(), "2.bmp");
   EXPECT_EQ(pictureFrame(), (CGRect{{83.5, 0}, {500, 375}}));
-  stage().resize({375, 667});
+  application().resize({375, 667});
   deliverPictures();
   EXPECT_EQ(currentName(), "2.bmp");
   EXPECT_EQ(pictureFrame(), (CGRect{{0, 192.875}, {375, 281.25}}));
@@ -130,13 +130,13 @@ TEST_F(OneUpTest, KeepsToPagesWhenTheScreenIsTurnedOnTheWay) {
   show(1);
   EXPECT_TRUE(performOneUpAction(oneUpOnShow(), OneUpAction::next));
   settle(0.1);
-  stage().resize({667, 375});
+  application().resize({667, 375});
   deliverPictures();
   EXPECT_EQ(pictureFrame(), (CGRect{{83.5, 0}, {500, 375}}));
 }
 
 TEST_F(OneUpTest, HidesAndShowsBarsByTaps) {
-  stage().statusBar.isShown = true;
+  application().statusBar.isShown = true;
   addPictures(2);
   show(0);
   const auto background = [] {
@@ -150,17 +150,17 @@ TEST_F(OneUpTest, HidesAndShowsBarsByTaps) {
   tap(screenMiddle);
   EXPECT_TRUE(bars.isNavigationBarHidden());
   EXPECT_TRUE(bars.isToolbarHidden());
-  EXPECT_FALSE(stage().statusBar.isShown);
+  EXPECT_FALSE(application().statusBar.isShown);
   EXPECT_EQ(background(), uikit::colors::black);
   tap(screenMiddle);
   EXPECT_FALSE(bars.isNavigationBarHidden());
   EXPECT_FALSE(bars.isToolbarHidden());
-  EXPECT_TRUE(stage().statusBar.isShown);
+  EXPECT_TRUE(application().statusBar.isShown);
   EXPECT_EQ(background(), uikit::colors::white);
 }
 
 TEST_F(OneUpTest, LeavesBarsAsTheyWere) {
-  stage().statusBar.isShown = true;
+  application().statusBar.isShown = true;
   addPictures(2);
   show(0);
   tap(screenMiddle);
@@ -169,7 +169,7 @@ TEST_F(OneUpTest, LeavesBarsAsTheyWere) {
   EXPECT_FALSE(isOneUpOnShow());
   EXPECT_FALSE(navigation().isNavigationBarHidden());
   EXPECT_TRUE(navigation().isToolbarHidden());
-  EXPECT_TRUE(stage().statusBar.isShown);
+  EXPECT_TRUE(application().statusBar.isShown);
   EXPECT_EQ(title(), "Album");
 }
 
@@ -195,12 +195,12 @@ TEST_F(OneUpTest, PlaysVideosOutside) {
   const std::string path = folder.broken("Album/my clip.mov");
   show(0);
   tap(screenMiddle);
-  ASSERT_EQ(stage().opened.size(), 1U);
-  EXPECT_THAT(stage().opened[0], HasSubstr("file://"));
-  EXPECT_THAT(stage().opened[0], HasSubstr("/Album/my%20clip.mov"));
+  ASSERT_EQ(application().opened.size(), 1U);
+  EXPECT_THAT(application().opened[0], HasSubstr("file://"));
+  EXPECT_THAT(application().opened[0], HasSubstr("/Album/my%20clip.mov"));
   EXPECT_FALSE(navigation().isNavigationBarHidden()) << "the button takes the tap";
   EXPECT_TRUE(act(OneUpAction::play));
-  EXPECT_EQ(stage().opened.size(), 2U);
+  EXPECT_EQ(application().opened.size(), 2U);
 }
 
 TEST_F(OneUpTest, PreviewsACardWithoutBarsThatATapBesideCloses) {

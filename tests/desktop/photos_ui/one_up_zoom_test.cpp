@@ -2,7 +2,8 @@
 #include <gmock/gmock.h>
 
 #include "desktop/photos_ui/one_up/one_up.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/screen.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 
 namespace desktop::photos_ui {
@@ -90,7 +91,7 @@ TEST_F(OneUpZoomTest, GetsMorePixelsForACloserLook) {
     const bridge::AutoreleasePool pool;
     const auto& view = uikit::UIView::of(currentPhoto().self()).subviews().at(0);
     const auto image = bridge::as<uikit::handles::UIImageView>(view.get()).image();
-    return bridge::send<CGSize, "size">(image).width * uikit::stage().scale;
+    return bridge::send<CGSize, "size">(image).width * uikit::screen().scale;
   };
   EXPECT_EQ(pixels(), 750);
   act(OneUpAction::actualSize);
@@ -135,7 +136,7 @@ TEST_F(OneUpZoomTest, ShowsAllAgainOfAPhotoThatIsComeBackTo) {
 TEST_F(OneUpZoomTest, ShowsAllAgainWhenTheScreenIsTurned) {
   showLarge(1);
   doubleTap(screenMiddle);
-  uikit::stage().resize({667, 375});
+  uikit::application().resize({667, 375});
   settle();
   EXPECT_EQ(currentPhoto().zoom(), 1);
 }

@@ -7,14 +7,14 @@
 #include "desktop/uikit/controls/ui_text_view.h"
 #include "desktop/uikit/text/utf16.h"
 #include "desktop/uikit/views/ui_label.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
 
 using bridge::NSString;
 
-class TextInRealFontsTest : public StageTest {
+class TextInRealFontsTest : public ApplicationTest {
  protected:
   TextInRealFontsTest() { setTextEngine(render::makeQtTextEngine()); }
   ~TextInRealFontsTest() override { setTextEngine(nullptr); }

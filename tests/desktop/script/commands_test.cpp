@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QImage>
@@ -7,14 +8,17 @@
 #include "bridge/class_builder.h"
 #include "desktop/script/script_runner.h"
 #include "desktop/script/system_commands.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
 #include "foundation/property_list.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
+#include "tests/desktop/uikit/touch_probes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace desktop::script {
 namespace {
 
-class CommandsTest : public uikit::StageTest {
+class CommandsTest : public uikit::ApplicationTest {
  protected:
   CommandsTest() : root(folder.path()) {
     addTouchCommands(runner);
@@ -50,9 +54,9 @@ TEST_F(CommandsTest, APreferenceStaysInItsFolder) {
 }
 
 TEST_F(CommandsTest, WaitingMovesTimeOn) {
-  const double before = uikit::stage().scheduler.now();
+  const double before = uikit::scheduler().now();
   expectDone("wait 2.5");
-  EXPECT_DOUBLE_EQ(uikit::stage().scheduler.now(), before + 2.5);
+  EXPECT_DOUBLE_EQ(uikit::scheduler().now(), before + 2.5);
   for (const char* line : {"wait", "wait -1", "wait 1e9", "wait soon"})
     EXPECT_TRUE(runner.runLine(line)) << line;
 }
@@ -83,7 +87,20 @@ TEST_F(CommandsTest, AWrongLineIsAnError) {
 
 TEST_F(CommandsTest, RotatingSwapsTheSides) {
   expectDone("rotate");
-  EXPECT_EQ(uikit::stage().screenSize, (CGSize{667, 375}));
+  EXPECT_EQ(uikit::screen().size, (CGSize{667, 375}));
+}
+
+TEST_F(CommandsTest, AFingerLeavesFromWhereverItWasMoved) {
+  const auto view = uikit::ProbeView::make({{0, 0}, {375, 667}});
+  window().addSubview(view);
+  const auto& probe = uikit::ProbeView::of(view.get());
+  expectDone("touch-down 10 20");
+  expectDone("touch-up");
+  runner.finger.down({30, 40});
+  runner.finger.move({50, 60});
+  expectDone("touch-up");
+  EXPECT_EQ(probe.last, (CGPoint{50, 60}));
+  EXPECT_THAT(probe.touches, testing::ElementsAre("began", "ended", "began", "moved", "ended"));
 }
 
 }  // namespace

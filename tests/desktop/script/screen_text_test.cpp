@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::script {
 namespace {
 
-class ScreenTextTest : public uikit::StageTest {
+class ScreenTextTest : public uikit::ApplicationTest {
  protected:
   static bridge::Owned<bridge::UILabel> addLabel(bridge::UIView to, CGRect frame,
                                                  const char* text) {

@@ -6,14 +6,16 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "tests/desktop/uikit/stage_test.h"
+#include "desktop/uikit/base/platform_log.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::script {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-class TreeDumpTest : public uikit::StageTest {};
+class TreeDumpTest : public uikit::ApplicationTest {};
 
 TEST_F(TreeDumpTest, TellsWhereAViewIsAndHowItLooks) {
   const auto box = bridge::makeView<bridge::UIView>({{10, 20}, {30, 40}});
@@ -44,13 +46,13 @@ TEST_F(TreeDumpTest, ShowsWhatIsAnimatedAsItIsNow) {
   const auto box = bridge::makeView<bridge::UIView>({{0, 0}, {10, 10}});
   window().addSubview(box);
   bridge::UIView::animate(1, bridge::Block<void()>([&box] { box->setAlpha(0); }));
-  uikit::stage().scheduler.advanceTo(0.5);
+  uikit::scheduler().advanceTo(0.5);
   EXPECT_EQ(dumpView(box.get())["alpha"], 0.5);
 }
 
 TEST_F(TreeDumpTest, TheScreenIsOneJsonObject) {
-  uikit::stage().opened.push_back("comgooglemaps://?center=1,2");
-  uikit::stage().log.push_back("bad \xFF text");
+  uikit::application().opened.push_back("comgooglemaps://?center=1,2");
+  uikit::platformLog().push_back("bad \xFF text");
   const Json screen = Json::parse(dumpScreen());
   EXPECT_EQ(screen["screen"], (Json{{"width", 375.0}, {"height", 667.0}}));
   EXPECT_EQ(screen["opened"], Json::array({"comgooglemaps://?center=1,2"}));

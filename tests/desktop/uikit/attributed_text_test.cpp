@@ -6,7 +6,7 @@
 #include "bridge/uikit.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/text/ns_paragraph_style.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 using bridge::NSString;
 using bridge::send;
 
-class AttributedTextTest : public StageTest {
+class AttributedTextTest : public ApplicationTest {
  protected:
   static constexpr FontFace standard{.size = 12};
 

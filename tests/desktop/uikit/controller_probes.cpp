@@ -2,7 +2,9 @@
 #include "tests/desktop/uikit/controller_probes.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_label.h"
 
 namespace desktop::uikit {
@@ -92,9 +94,9 @@ bridge::Owned<bridge::UIViewController> ControllerTest::showRoot(
 }
 
 void ControllerTest::tap(CGPoint point) {
-  stage().touches.down(point);
+  touches().down(point);
   wait(0.05);
-  stage().touches.up(point);
+  touches().up(point);
   wait(0.02);
 }
 
@@ -104,8 +106,8 @@ void ControllerTest::tap(bridge::UIView view) {
 }
 
 bridge::UIView ControllerTest::viewWithText(std::string_view text) {
-  stage().prepareFrame();
-  for (auto each = stage().windows.rbegin(); each != stage().windows.rend(); ++each)
+  application().prepareFrame();
+  for (auto each = application().windows.rbegin(); each != application().windows.rend(); ++each)
     if (const auto found = find(each->get(), text)) return found;
   return {};
 }

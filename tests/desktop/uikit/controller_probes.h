@@ -13,7 +13,7 @@
 #include "bridge/bound.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/views/ui_view.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 
@@ -43,7 +43,7 @@ class ProbeController : public bridge::Bound<ProbeController, bridge::UIViewCont
   std::string _name;
 };
 
-class ControllerTest : public StageTest {
+class ControllerTest : public ApplicationTest {
  protected:
   using Calls = std::vector<std::string>;
 
@@ -55,7 +55,7 @@ class ControllerTest : public StageTest {
   static bridge::Owned<bridge::UIViewController> showRoot(
       const bridge::Owned<bridge::UIViewController>& root);
 
-  static void wait(Seconds time) { stage().advance(time); }
+  static void wait(Seconds time) { application().advance(time); }
   static void tap(CGPoint point);
   // In the middle of the view.
   static void tap(bridge::UIView view);

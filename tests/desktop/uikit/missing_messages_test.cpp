@@ -7,6 +7,7 @@
 #include "bridge/log.h"
 #include "bridge/quartz.h"
 #include "desktop/runtime/debug_log.h"
+#include "desktop/uikit/base/platform_log.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
 namespace desktop::uikit {
@@ -28,7 +29,7 @@ TEST_F(MissingMessagesTest, AnswerZeroOfEveryKind) {
   EXPECT_EQ((send<CGRect, "missingRect:">(view.get(), CGRect{{1, 2}, {3, 4}})), CGRect{});
   EXPECT_EQ((send<CGAffineTransform, "missingTransform">(view.get())).a, 1);
   send<void, "missingNothing">(view.get());
-  EXPECT_EQ(stage().log.size(), 8u);
+  EXPECT_EQ(platformLog().size(), 8u);
 }
 
 TEST_F(MissingMessagesTest, AreLoggedOnceWithClassAndSelector) {
@@ -36,19 +37,19 @@ TEST_F(MissingMessagesTest, AreLoggedOnceWithClassAndSelector) {
   for (int time = 0; time < 3; ++time) send<void, "setMissing:">(a.get(), NSInteger{1});
   send<bridge::Object, "missingColor">(bridge::UIColor::classObject());
   send<void, "missing">(bridge::UIScreen::mainScreen());
-  EXPECT_THAT(stage().log,
+  EXPECT_THAT(platformLog(),
               ElementsAre("Missing: -[ProbeController setMissing:]",
                           "Missing: +[UIColor missingColor]", "Missing: -[UIScreen missing]"));
 }
 
-// A host gathers the debug log in the stage's, beside UIKit's own lines.
+// A host gathers the debug log in the platform's, beside UIKit's own lines.
 TEST_F(MissingMessagesTest, StandOnceBesideTheDebugLog) {
   const auto before = runtime::setDebugLogSink(
-      [](const runtime::DebugLogLine& line) { stage().log.push_back(line.text); });
+      [](const runtime::DebugLogLine& line) { platformLog().push_back(line.text); });
   send<void, "missing">(bridge::UIScreen::mainScreen());
   bridge::logDebug("Extension", 7, "an extension's line");
   runtime::setDebugLogSink(before);
-  EXPECT_THAT(stage().log, ElementsAre("Missing: -[UIScreen missing]", "an extension's line"));
+  EXPECT_THAT(platformLog(), ElementsAre("Missing: -[UIScreen missing]", "an extension's line"));
 }
 
 TEST_F(MissingMessagesTest, WhatIsMissingIsNotSaidToBeThere) {
@@ -56,21 +57,21 @@ TEST_F(MissingMessagesTest, WhatIsMissingIsNotSaidToBeThere) {
   EXPECT_FALSE((bridge::respondsTo<"missingRect:">(view.get())));
   EXPECT_FALSE((bridge::respondsTo<"missingRect:">(view.get())));
   EXPECT_TRUE((bridge::respondsTo<"frame">(view.get())));
-  EXPECT_THAT(stage().log, IsEmpty());
+  EXPECT_THAT(platformLog(), IsEmpty());
 }
 
 TEST_F(MissingMessagesTest, ASuperclassThatAnswersNothingIsLoggedToo) {
   const auto a = ProbeController::make("A");
   bridge::superSend<void, "press:">(a.get(), bridge::UIViewController::classObject(),
                                     bridge::Object());
-  EXPECT_THAT(stage().log, ElementsAre("Missing: to super: press:"));
+  EXPECT_THAT(platformLog(), ElementsAre("Missing: to super: press:"));
 }
 
 TEST_F(MissingMessagesTest, OtherObjectsStillRaise) {
   const auto text = bridge::NSString::make("text");
   EXPECT_ANY_THROW((send<void, "missing">(text)));
   EXPECT_ANY_THROW((send<CGRect, "missingRect">(text)));
-  EXPECT_THAT(stage().log, IsEmpty());
+  EXPECT_THAT(platformLog(), IsEmpty());
 }
 
 }  // namespace

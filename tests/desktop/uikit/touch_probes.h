@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "bridge/bound.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 
@@ -65,10 +66,9 @@ class Probe : public bridge::Bound<Probe, bridge::NSObject> {
   void didEndAnimation(bridge::UIView) { scrolling.push_back("did end animation"); }
 };
 
-class TouchTest : public StageTest {
+class TouchTest : public ApplicationTest {
  protected:
-  static TouchDispatcher& touches() { return stage().touches; }
-  static void wait(Seconds time) { stage().advance(time); }
+  static void wait(Seconds time) { application().advance(time); }
   static void tap(CGPoint point, Seconds time = 0.05);
   // Evenly, with the finger lifted at its end; resting there first where a rest is given.
   static void drag(CGPoint from, CGPoint to, Seconds time, Seconds rest = 0);

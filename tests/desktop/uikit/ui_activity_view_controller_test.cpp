@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/uikit/base/outside.h"
 #include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
@@ -20,8 +21,8 @@ constexpr auto animated = bridge::UIViewController::animated;
 class UIActivityViewControllerTest : public ControllerTest {
  protected:
   UIActivityViewControllerTest() : a(showRoot(ProbeController::make("A"))) {
-    stage().outside.copyText = [this](const std::string& text) { copied.push_back(text); };
-    stage().outside.saveText = [this](const std::string& text) { saved.push_back(text); };
+    outside().copyText = [this](const std::string& text) { copied.push_back(text); };
+    outside().saveText = [this](const std::string& text) { saved.push_back(text); };
   }
 
   Owned<bridge::UIActivityViewController> share(NSArray items) const {

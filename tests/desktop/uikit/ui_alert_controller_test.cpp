@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
@@ -37,7 +39,7 @@ class UIAlertControllerTest : public ControllerTest {
         }));
   }
   static std::vector<double> box(const Owned<bridge::UIAlertController>& alert) {
-    stage().prepareFrame();
+    application().prepareFrame();
     return onScreen(AlertView::of(alert->view().get()).box());
   }
   bridge::UIViewController presented() const {
@@ -162,7 +164,7 @@ TEST_F(UIAlertControllerTest, ComesSmallerAndClearer) {
   const auto box = AlertView::of(shown->view().get()).box();
   EXPECT_EQ(UIView::of(box.get()).shown().alpha, 0);
   EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().transform.a, 1.2);
-  stage().scheduler.advanceTo(stage().scheduler.now() + 0.125);
+  scheduler().advanceTo(scheduler().now() + 0.125);
   EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().alpha, 0.5);
   EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().transform.a, 1.1);
   wait(0.2);

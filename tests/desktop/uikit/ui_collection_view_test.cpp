@@ -6,9 +6,11 @@
 
 #include <limits>
 
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/lists/ui_collection_view_cell.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "tests/desktop/uikit/application_test.h"
 #include "tests/desktop/uikit/collection_source.h"
-#include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -22,7 +24,7 @@ bridge::Owned<bridge::NSObject> make() {
       bridge::send<bridge::NSObject, "init">(bridge::send<id, "alloc">(T::classObject())));
 }
 
-class UICollectionViewTest : public StageTest {
+class UICollectionViewTest : public ApplicationTest {
  protected:
   UICollectionViewTest() : _source(make<CollectionSource>()), _layout(make<GridLayout>()) {}
   ~UICollectionViewTest() override { close(); }
@@ -35,13 +37,13 @@ class UICollectionViewTest : public StageTest {
     _view = bridge::Owned<bridge::UICollectionView>::adopt(
         bridge::send<bridge::UICollectionView, "initWithFrame:collectionViewLayout:">(
             bridge::send<id, "alloc">(bridge::UICollectionView::classObject()),
-            rectOfSize(stage().screenSize), _layout));
+            rectOfSize(screen().size), _layout));
     bridge::send<void, "setDataSource:">(_view, _source);
     bridge::send<void, "setDelegate:">(_view, _source);
     bridge::send<void, "registerClass:forCellWithReuseIdentifier:">(_view, TestCell::classObject(),
                                                                     bridge::NSString::make("cell"));
     window().addSubview(_view);
-    stage().prepareFrame();
+    application().prepareFrame();
   }
 
   void close() {
@@ -54,7 +56,7 @@ class UICollectionViewTest : public StageTest {
 
   void scrollTo(CGFloat y) {
     handles::UIScrollView(_view.get().get()).setContentOffset({0, y});
-    stage().prepareFrame();
+    application().prepareFrame();
   }
 
   // The items in sight, in order, as their cells know them.
@@ -72,10 +74,10 @@ class UICollectionViewTest : public StageTest {
   void tap(NSInteger item) {
     const CGPoint point =
         apply(UIView::of(_view.get()).toScreen(), middle(layout().frameOf({0, item})));
-    stage().touches.down(point);
-    stage().advance(0.2);
-    stage().touches.up(point);
-    stage().advance(0.02);
+    touches().down(point);
+    application().advance(0.2);
+    touches().up(point);
+    application().advance(0.02);
   }
 
   void allowMultipleSelection() { bridge::send<void, "setAllowsMultipleSelection:">(_view, true); }
@@ -162,11 +164,11 @@ TEST_F(UICollectionViewTest, WithoutALayoutThereIsNothing) {
   source().itemCount = 10;
   show();
   bridge::send<void, "setCollectionViewLayout:">(_view, bridge::UICollectionViewLayout());
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_THAT(tags(), IsEmpty());
   EXPECT_FALSE(view().indexPathForItemAt({10, 10}));
   bridge::send<void, "setCollectionViewLayout:animated:">(_view, _layout, true);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(tags().size(), 10u);
 }
 
@@ -184,7 +186,7 @@ TEST_F(UICollectionViewTest, ASourceThatAlwaysReloadsDoesNotHang) {
   source().itemCount = 10;
   source().reloadsMeanwhile = true;
   show();
-  stage().advance(0.1);
+  application().advance(0.1);
   EXPECT_THAT(tags(), IsEmpty());
 }
 
@@ -237,10 +239,10 @@ TEST_F(UICollectionViewTest, AnInvalidLayoutIsPreparedAgain) {
   show();
   layout().columns = 2;
   layout().side = 187;
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(tags().size(), 32u);  // nobody has said so yet
   bridge::UICollectionViewLayout(_layout.get().get()).invalidateLayout();
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(tags().size(), 8u);
   EXPECT_EQ(cell(1).self().frame(), (CGRect{{188, 0}, {187, 187}}));
   EXPECT_EQ(scroll().contentSize(), (CGSize{375, 50 * 188}));
@@ -261,7 +263,7 @@ TEST_F(UICollectionViewTest, AnotherSizeInvalidatesTheLayout) {
   source().itemCount = 100;
   show();
   _view->setFrame({{0, 0}, {667, 375}});
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(layout().prepared, 2);
   EXPECT_EQ(tags().size(), 16u);
 }
@@ -308,16 +310,16 @@ TEST_F(UICollectionViewTest, AFingerThatScrollsSelectsNothing) {
   source().itemCount = 100;
   show();
   const CGPoint from = middle(layout().frameOf({0, 20}));
-  stage().touches.down(from);
-  stage().advance(0.2);
+  touches().down(from);
+  application().advance(0.2);
   EXPECT_TRUE(cell(20).isHighlighted());
   for (CGFloat y = 0; y <= 200; y += 20) {
-    stage().touches.move({from.x, from.y - y});
-    stage().advance(0.02);
+    touches().move({from.x, from.y - y});
+    application().advance(0.02);
   }
   EXPECT_FALSE(cell(20).isHighlighted());
-  stage().touches.up({from.x, from.y - 200});
-  stage().advance(3);
+  touches().up({from.x, from.y - 200});
+  application().advance(3);
   EXPECT_GT(scroll().contentOffset().y, 100);
   EXPECT_THAT(source().events, IsEmpty());
 }
@@ -325,13 +327,13 @@ TEST_F(UICollectionViewTest, AFingerThatScrollsSelectsNothing) {
 TEST_F(UICollectionViewTest, AQuickFlickToAnotherItemSelectsNeither) {
   source().itemCount = 100;
   show();
-  stage().touches.down(middle(layout().frameOf({0, 20})));
-  stage().advance(0.02);
+  touches().down(middle(layout().frameOf({0, 20})));
+  application().advance(0.02);
   const CGPoint end = middle(layout().frameOf({0, 22}));
-  stage().touches.move(end);
-  stage().advance(0.02);
-  stage().touches.up(end);
-  stage().advance(1);
+  touches().move(end);
+  application().advance(0.02);
+  touches().up(end);
+  application().advance(1);
   EXPECT_THAT(source().events, IsEmpty());
 }
 
@@ -340,7 +342,7 @@ TEST_F(UICollectionViewTest, SelectionByCodeTellsNobody) {
   show();
   bridge::send<void, "selectItemAtIndexPath:animated:scrollPosition:">(
       _view, indexPathOf({0, 400}), false, NSUInteger{UICollectionView::centeredVertically});
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_TRUE(cell(400).isSelected());
   EXPECT_EQ(scroll().contentOffset().y, 9400 - (667 - 93) / 2.0);
   bridge::send<void, "deselectItemAtIndexPath:animated:">(_view, indexPathOf({0, 400}), false);
@@ -368,7 +370,7 @@ TEST_F(UICollectionViewTest, ItemsComeAndGoWhileScrolled) {
   source().itemCount = 998;
   bridge::send<void, "deleteItemsAtIndexPaths:">(
       _view, bridge::NSArray::of(indexPathOf({0, 2}), indexPathOf({0, 408})));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_THAT(view().selectedItems(), ElementsAre(ItemPath{0, 404}, ItemPath{0, 408}));
   EXPECT_EQ(tags().front(), 400);
   EXPECT_TRUE(cell(404).isSelected());
@@ -378,7 +380,7 @@ TEST_F(UICollectionViewTest, ItemsComeAndGoWhileScrolled) {
   EXPECT_THAT(view().selectedItems(), ElementsAre(ItemPath{0, 405}, ItemPath{0, 409}));
   source().itemCount = 10;
   view().reloadData();
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(scroll().contentOffset().y, 0);
   EXPECT_EQ(tags().size(), 10u);
   EXPECT_THAT(view().selectedItems(), IsEmpty());
@@ -395,7 +397,7 @@ TEST_F(UICollectionViewTest, UpdatesInABatchAreCountedOnce) {
             _view, bridge::NSArray::of(indexPathOf({0, 10}), indexPathOf({0, 11})));
       }),
       bridge::Block<void(bool)>([&isDone](bool finished) { isDone = finished; }));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_TRUE(isDone);
   EXPECT_EQ(tags().size(), 12u);
 }
@@ -431,7 +433,7 @@ TEST_F(UICollectionViewTest, NothingStaysBehind) {
     view().reloadData();
     scrollTo(500);
     close();
-    stage().advance(1);
+    application().advance(1);
   }
   EXPECT_EQ(bridge::liveBoundObjects(), before);
 }

@@ -5,10 +5,11 @@
 
 #include <cmath>
 
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/views/ui_view.h"
+#include "tests/desktop/uikit/application_test.h"
 #include "tests/desktop/uikit/recording_canvas.h"
-#include "tests/desktop/uikit/stage_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -19,7 +20,7 @@ bridge::UIImage picture(int width, int height, CGFloat scale = 1) {
   return UIImage::make(std::make_shared<const Bitmap>(std::move(bitmap)), scale);
 }
 
-class UIImageViewTest : public StageTest {
+class UIImageViewTest : public ApplicationTest {
  protected:
   UIImageViewTest() { window().addSubview(view); }
 
@@ -75,13 +76,13 @@ TEST_F(UIImageViewTest, IsAsLargeAsItsImage) {
 }
 
 TEST_F(UIImageViewTest, AnotherImageIsPainted) {
-  stage().damage.take();
+  screen().damage.take();
   const auto image = picture(5, 5);
   view->setImage(image);
-  EXPECT_FALSE(stage().damage.isEmpty());
-  stage().damage.take();
+  EXPECT_FALSE(screen().damage.isEmpty());
+  screen().damage.take();
   view->setImage(image);
-  EXPECT_TRUE(stage().damage.isEmpty());
+  EXPECT_TRUE(screen().damage.isEmpty());
 }
 
 TEST_F(UIImageViewTest, TakesNoTouches) {

@@ -3,10 +3,11 @@
 
 #include <cmath>
 
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/text/ui_font.h"
 #include "desktop/uikit/text/utf16.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -15,7 +16,7 @@ using bridge::NSString;
 using bridge::send;
 
 // In Courier of 10 points a letter is 6 points wide and a line 10 high.
-class UILabelTest : public StageTest {
+class UILabelTest : public ApplicationTest {
  protected:
   UILabelTest() {
     label = bridge::makeView<bridge::UILabel>({{0, 0}, {60, 20}});
@@ -172,12 +173,12 @@ TEST_F(UILabelTest, AttributedTextBringsItsOwnLook) {
 }
 
 TEST_F(UILabelTest, AChangeIsPaintedAgain) {
-  stage().damage.take();
+  screen().damage.take();
   show(u"text");
-  EXPECT_FALSE(stage().damage.isEmpty());
-  stage().damage.take();
+  EXPECT_FALSE(screen().damage.isEmpty());
+  screen().damage.take();
   show(u"text");
-  EXPECT_TRUE(stage().damage.isEmpty());
+  EXPECT_TRUE(screen().damage.isEmpty());
 }
 
 TEST_F(UILabelTest, AnythingIsShownInSomeWay) {
@@ -205,7 +206,7 @@ TEST_F(UILabelTest, LeavesNothingBehind) {
     const auto other = bridge::makeView<bridge::UILabel>({{0, 0}, {60, 20}});
     other->setText(NSString::make("text"));
     other->setTextColor(bridge::UIColor::whiteColor());
-    stage().prepareFrame();
+    application().prepareFrame();
   }
   EXPECT_EQ(bridge::liveBoundObjects(), before);
 }

@@ -7,6 +7,8 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/screen.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
 namespace desktop::uikit {
@@ -101,7 +103,7 @@ TEST_F(UIMenuControllerTest, StaysOnTheScreenWhateverItsTarget) {
                               CGRect{{-1e300, -1e300}, {1, 1}}, CGRect{{1e9, 1e9}, {-5, -5}}}) {
     show(target);
     const CGRect frame = menu().menuFrame();
-    EXPECT_EQ(intersection(frame, rectOfSize(stage().screenSize)), frame)
+    EXPECT_EQ(intersection(frame, rectOfSize(screen().size)), frame)
         << testing::PrintToString(numbers(target));
   }
 }
@@ -142,7 +144,7 @@ TEST_F(UIMenuControllerTest, GoesWhenAnotherScreenComes) {
   EXPECT_EQ(hidden, 1);
 }
 
-TEST_F(UIMenuControllerTest, NothingIsLeftOfItEvenWhereTheStageGoes) {
+TEST_F(UIMenuControllerTest, NothingIsLeftOfItEvenWhereTheApplicationGoes) {
   const long before = bridge::liveBoundObjects();
   {
     const bridge::AutoreleasePool pool;
@@ -151,7 +153,7 @@ TEST_F(UIMenuControllerTest, NothingIsLeftOfItEvenWhereTheStageGoes) {
   }
   EXPECT_EQ(bridge::liveBoundObjects(), before);
   show({{100, 300}, {50, 20}});
-  resetStage();
+  resetApplication();
   EXPECT_FALSE(menu().isVisible());
 }
 

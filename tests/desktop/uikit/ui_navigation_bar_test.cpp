@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/bar_button_view.h"
 #include "desktop/uikit/bars/navigation_bar_titles.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -43,7 +44,7 @@ class UINavigationBarTest : public ControllerTest {
   }
   // Frames of what stands at the right, from the right-most on.
   std::vector<std::vector<double>> rightFrames() const {
-    stage().prepareFrame();
+    application().prepareFrame();
     std::vector<std::vector<double>> frames;
     for (const BarSlot& slot : content().rightSlots())
       if (slot.view) frames.push_back(numbers(slot.view->frame()));
@@ -56,7 +57,7 @@ class UINavigationBarTest : public ControllerTest {
 };
 
 TEST_F(UINavigationBarTest, TheTitleStandsInTheMiddle) {
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_THAT(numbers(content().label().frame()), ElementsAre(162, 0, 51, 44));
   EXPECT_EQ(UILabel::of(content().label().get()).shownFontSize(), 17);
 }
@@ -74,7 +75,7 @@ TEST_F(UINavigationBarTest, TheFirstRightItemIsTheRightmost) {
 
 TEST_F(UINavigationBarTest, LeftItemsBeginAtTheMargin) {
   item.setLeftBarButtonItems(NSArray::of(titled("Dismiss", UIBarButtonItem::done).get()));
-  stage().prepareFrame();
+  application().prepareFrame();
   ASSERT_EQ(content().leftSlots().size(), 1u);
   EXPECT_THAT(numbers(content().leftSlots()[0].view->frame()), ElementsAre(16, 0, 71.5, 44));
 }
@@ -82,14 +83,14 @@ TEST_F(UINavigationBarTest, LeftItemsBeginAtTheMargin) {
 TEST_F(UINavigationBarTest, ALongTitleGivesWayToTheButtons) {
   item.setTitle(NSString::make("A title that is far too long for the bar"));
   item.setLeftBarButtonItems(NSArray::of(titled("Dismiss", UIBarButtonItem::plain).get()));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_THAT(numbers(content().label().frame()), ElementsAre(95.5, 0, 263.5, 44));
 }
 
 TEST_F(UINavigationBarTest, ATitleNearTheButtonsLeavesTheMiddle) {
   item.setTitle(NSString::make("Twenty-two characters!"));  // 224.5 points
   item.setRightBarButtonItems(NSArray::of(titled("Select", UIBarButtonItem::plain).get()));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_THAT(numbers(content().label().frame()),
               ElementsAre(375 - 16 - 61.5 - 8 - 224.5, 0, 224.5, 44));
 }
@@ -98,7 +99,7 @@ TEST_F(UINavigationBarTest, PressingAnItemSendsItsActionWithTheItem) {
   const auto share = system(UIBarButtonItem::action);
   const auto select = titled("Select", UIBarButtonItem::plain);
   item.setRightBarButtonItems(NSArray::of(share.get(), select.get()));
-  stage().prepareFrame();
+  application().prepareFrame();
   tap(content().rightSlots()[0].view.get());
   EXPECT_EQ(ProbeController::of(a.get()).sender, share.get());
   tap("Select");
@@ -167,7 +168,7 @@ TEST_F(UINavigationBarTest, TheBackButtonIsNamedAfterTheScreenBelowAsFarAsThereI
     item.setTitle(NSString::make(each.below));
     const auto b = ProbeController::make(each.title);
     stack->push(b, bridge::UIViewController::immediately);
-    stage().prepareFrame();
+    application().prepareFrame();
     EXPECT_EQ(BarButtonView::of(content().backButton().get()).name(), each.shown);
     bridge::send<bridge::UIViewController, "popViewControllerAnimated:">(stack.get(), false);
   }
@@ -198,7 +199,7 @@ TEST_F(UINavigationBarTest, AShrinkingTitleFitsBetweenTheButtons) {
   label.setAdjustsFontSizeToFitWidth(true);
   label.setMinimumFontSize(4);
   item.setTitle(NSString::make("12 Items Selected (123.4 MB) and a good deal more"));
-  stage().prepareFrame();
+  application().prepareFrame();
   const auto lines = UILabel::of(label.get()).lines();
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_EQ(lines[0].text.size(), 49u);

@@ -4,7 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_navigation_bar.h"
+#include "desktop/uikit/base/platform_log.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
@@ -81,7 +84,7 @@ TEST_F(UINavigationControllerTest, ScreensSlideOverEachOther) {
   const auto stack = showStack(a);
   const auto b = ProbeController::make("B");
   stack->push(b, animated);
-  stage().scheduler.advanceTo(stage().scheduler.now() + 0.175);
+  scheduler().advanceTo(scheduler().now() + 0.175);
   EXPECT_THAT(onScreen(b->view()), ElementsAre(187.5, 0, 375, 667));
   EXPECT_THAT(onScreen(a->view()), ElementsAre(-56.25, 0, 375, 667));
   wait(0.3);
@@ -98,8 +101,8 @@ TEST_F(UINavigationControllerTest, AControllerIsPushedOnce) {
   stack->push({}, animated);
   EXPECT_EQ(depth(stack), 2u);
   EXPECT_THAT(takeCalls(), IsEmpty());
-  ASSERT_EQ(stage().log.size(), 1u);
-  EXPECT_THAT(stage().log[0], HasSubstr("more than once"));
+  ASSERT_EQ(platformLog().size(), 1u);
+  EXPECT_THAT(platformLog()[0], HasSubstr("more than once"));
 }
 
 TEST_F(UINavigationControllerTest, AnotherChangeEndsTheOneUnderWay) {
@@ -157,7 +160,7 @@ TEST_F(UINavigationControllerTest, ScrollViewsKeepTheirContentOutOfTheBars) {
   EXPECT_EQ(list->contentOffset(), (CGPoint{0, -64}));
   bridge::send<void, "setToolbarHidden:">(stack.get(), false);
   bridge::send<void, "setNavigationBarHidden:">(stack.get(), true);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), (EdgeInsets{.bottom = 44}));
 }
 
@@ -166,7 +169,7 @@ TEST_F(UINavigationControllerTest, AScrollViewThatComesLaterIsKeptOutToo) {
   showStack(a);
   const auto list = bridge::makeView<handles::UIScrollView>({{0, 0}, {375, 667}});
   a->view().addSubview(list);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), (EdgeInsets{.top = 64}));
   bridge::send<void, "setContentInsetAdjustmentBehavior:">(list.get(), NSInteger{2});
   EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), EdgeInsets{});

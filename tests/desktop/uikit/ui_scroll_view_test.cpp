@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controls/ui_control.h"
 #include "tests/desktop/uikit/touch_probes.h"
 
@@ -72,7 +73,7 @@ TEST_F(UIScrollViewTest, ComesToAStopAtTheEndExactly) {
   wait(5);
   EXPECT_EQ(offset(), (CGPoint{0, 1500}));
   EXPECT_FALSE(state().isDecelerating());
-  EXPECT_TRUE(stage().damage.take().size() > 0);
+  EXPECT_TRUE(screen().damage.take().size() > 0);
 }
 
 TEST_F(UIScrollViewTest, StretchesBeyondTheEndAndGoesBack) {

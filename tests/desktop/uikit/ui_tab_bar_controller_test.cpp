@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_tab_bar.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
@@ -32,7 +33,7 @@ class UITabBarControllerTest : public ControllerTest {
 
   bridge::UIView bar() const { return UITabBarController::of(tabs.get()).tabBar(); }
   void tapTab(std::size_t index) const {
-    stage().prepareFrame();
+    application().prepareFrame();
     tap({375.0 * (static_cast<double>(index) + 0.5) / 2, 640});
   }
 

@@ -6,12 +6,12 @@
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/lists/table_cell_layout.h"
 #include "desktop/uikit/views/ui_view.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
 
-class UITableViewCellTest : public StageTest {
+class UITableViewCellTest : public ApplicationTest {
  protected:
   bridge::UITableViewCell show(NSInteger style) {
     _cell = bridge::UITableViewCell::make(static_cast<bridge::UITableViewCell::Style>(style),
@@ -35,7 +35,7 @@ TEST_F(UITableViewCellTest, TitleAndDetailStandAtTheEdges) {
   show(UITableViewCell::value1);
   _cell->textLabel().setText(text(5));
   _cell->detailTextLabel().setText(text(4));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(cell().contentView().frame(), (CGRect{{0, 0}, {375, 43.5}}));
   EXPECT_EQ(_cell->textLabel().frame().origin.x, 16);
   EXPECT_NEAR(_cell->textLabel().frame().size.width, widthOf(5), 1);
@@ -48,7 +48,7 @@ TEST_F(UITableViewCellTest, ADisclosureIndicatorTakesRoom) {
   show(UITableViewCell::value1);
   _cell->setAccessoryType(bridge::UITableViewCell::disclosureIndicator);
   _cell->detailTextLabel().setText(text(4));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(cell().contentView().frame().size.width, 341);
   EXPECT_DOUBLE_EQ(right(_cell->detailTextLabel().frame()), 341);
 }
@@ -66,7 +66,7 @@ TEST_F(UITableViewCellTest, LongTextsShareTheirRoom) {
     show(UITableViewCell::value1);
     _cell->textLabel().setText(text(title));
     _cell->detailTextLabel().setText(text(detail));
-    stage().prepareFrame();
+    application().prepareFrame();
     const CGRect left = _cell->textLabel().frame();
     const CGRect other = _cell->detailTextLabel().frame();
     EXPECT_NEAR(left.size.width, width, 1) << title << " beside " << detail;
@@ -80,12 +80,12 @@ TEST_F(UITableViewCellTest, ASubtitleStandsBelowItsTitle) {
   show(UITableViewCell::subtitle);
   _cell->textLabel().setText(text(3));
   _cell->detailTextLabel().setText(text(3));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(_cell->detailTextLabel().frame().origin.x, 16);
   EXPECT_GE(_cell->detailTextLabel().frame().origin.y, bottom(_cell->textLabel().frame()));
   EXPECT_LE(bottom(_cell->detailTextLabel().frame()), 44);
   _cell->detailTextLabel().setText({});
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_NEAR(middle(_cell->textLabel().frame()).y, 21.75, 0.5);
 }
 
@@ -103,7 +103,7 @@ TEST_F(UITableViewCellTest, APictureMovesTheText) {
   bitmap->pixels.resize(60 * 60);
   _cell->textLabel().setText(text(3));
   bridge::send<void, "setImage:">(cell().imageView(), UIImage::make(bitmap, 2));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(cell().imageView().frame().size, (CGSize{30, 30}));
   EXPECT_EQ(_cell->textLabel().frame().origin.x, 16 + 30 + 16);
 }
@@ -114,7 +114,7 @@ TEST_F(UITableViewCellTest, AnAccessoryViewStandsAtTheRight) {
   const auto second = bridge::makeView<bridge::UIView>({{0, 0}, {50, 10}});
   cell().setAccessoryView(first);
   cell().setAccessoryView(second);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_FALSE(UIView::of(first.get()).superview());
   EXPECT_EQ(second->frame(), (CGRect{{375 - 16 - 50, 17}, {50, 10}}));
   EXPECT_EQ(cell().contentView().frame().size.width, 375 - 16 - 50 - 10);
@@ -123,10 +123,10 @@ TEST_F(UITableViewCellTest, AnAccessoryViewStandsAtTheRight) {
 TEST_F(UITableViewCellTest, TextThatChangesIsLaidOutAgain) {
   show(UITableViewCell::value1);
   _cell->textLabel().setText(text(2));
-  stage().prepareFrame();
+  application().prepareFrame();
   const CGFloat before = _cell->textLabel().frame().size.width;
   _cell->textLabel().setText(text(8));
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_GT(_cell->textLabel().frame().size.width, before);
 }
 
@@ -146,7 +146,7 @@ TEST_F(UITableViewCellTest, FramesWithoutRoomAreLaidOut) {
   _cell->setAccessoryType(bridge::UITableViewCell::disclosureIndicator);
   for (const CGSize size : {CGSize{0, 0}, CGSize{20, 44}, CGSize{375, 1}}) {
     _cell->setFrame({{0, 0}, size});
-    stage().prepareFrame();
+    application().prepareFrame();
     EXPECT_GE(_cell->textLabel().frame().size.width, 0) << size.width << " x " << size.height;
     EXPECT_GE(_cell->detailTextLabel().frame().size.width, 0);
   }

@@ -6,7 +6,8 @@
 #include "bridge/class_builder.h"
 #include "desktop/uikit/lists/ui_table_view.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -46,12 +47,12 @@ class RowsPage : public bridge::Bound<RowsPage, bridge::UITableViewController> {
   }
 };
 
-class UITableViewControllerTest : public StageTest {
+class UITableViewControllerTest : public ApplicationTest {
  protected:
   static Owned<bridge::UINavigationController> showIn(bridge::UITableViewController page) {
     auto navigation = bridge::UINavigationController::withRoot(page);
     window().setRootViewController(navigation);
-    stage().advance(0.1);
+    application().advance(0.1);
     return navigation;
   }
 
@@ -59,10 +60,10 @@ class UITableViewControllerTest : public StageTest {
     UITableView& table = UITableView::of(page.tableView());
     const CGPoint point = apply(UIView::of(page.tableView().get()).toScreen(),
                                 middle(table.rectForRow(indexPathOf({0, row}))));
-    stage().touches.down(point);
-    stage().advance(0.05);
-    stage().touches.up(point);
-    stage().advance(1);
+    touches().down(point);
+    application().advance(0.05);
+    touches().up(point);
+    application().advance(1);
   }
 
   static NSUInteger pages(bridge::UINavigationController navigation) {
@@ -99,7 +100,7 @@ TEST_F(UITableViewControllerTest, ARowOpensAPageAndIsNoLongerSelectedOnReturn) {
   EXPECT_EQ(pages(navigation), 2u);
   EXPECT_TRUE(UITableView::of(page->tableView()).selectedRow());
   bridge::send<id, "popViewControllerAnimated:">(navigation, true);
-  stage().advance(1);
+  application().advance(1);
   EXPECT_EQ(pages(navigation), 1u);
   EXPECT_FALSE(UITableView::of(page->tableView()).selectedRow());
 }
@@ -110,7 +111,7 @@ TEST_F(UITableViewControllerTest, TheSelectionCanStay) {
   const auto navigation = showIn(page);
   tapRow(page, 3);
   bridge::send<id, "popViewControllerAnimated:">(navigation, true);
-  stage().advance(1);
+  application().advance(1);
   EXPECT_TRUE(UITableView::of(page->tableView()).selectedRow());
 }
 
@@ -121,10 +122,10 @@ TEST_F(UITableViewControllerTest, ATableMayOutliveItsController) {
     const auto page = RowsPage::make(UITableView::plain);
     table = Owned<bridge::UITableView>::retain(page->tableView());
     window().addSubview(table);
-    stage().prepareFrame();
+    application().prepareFrame();
     EXPECT_EQ(UITableView::of(table.get()).cells().size(), 10u);
   }
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_TRUE(UITableView::of(table.get()).cells().empty());
   table->removeFromSuperview();
 }
@@ -137,10 +138,10 @@ TEST_F(UITableViewControllerTest, NothingStaysBehind) {
       const auto navigation = showIn(page);
       tapRow(page, 3);
       bridge::send<id, "popViewControllerAnimated:">(navigation, true);
-      stage().advance(1);
+      application().advance(1);
     }
     window().setRootViewController({});
-    stage().advance(1);
+    application().advance(1);
   };
   showAndLeave();
   const long before = bridge::liveBoundObjects();

@@ -7,9 +7,11 @@
 #include <cmath>
 #include <limits>
 
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "tests/desktop/uikit/application_test.h"
 #include "tests/desktop/uikit/table_source.h"
 
 namespace desktop::uikit {
@@ -43,7 +45,7 @@ bridge::Owned<bridge::NSObject> make() {
       bridge::send<bridge::NSObject, "init">(bridge::send<id, "alloc">(T::classObject())));
 }
 
-class UITableViewTest : public StageTest {
+class UITableViewTest : public ApplicationTest {
  protected:
   UITableViewTest() : _source(make<TableSource>()), _watcher(make<TableWatcher>()) {}
   ~UITableViewTest() override {
@@ -60,11 +62,11 @@ class UITableViewTest : public StageTest {
     _table = bridge::Owned<bridge::UITableView>::adopt(
         bridge::send<bridge::UITableView, "initWithFrame:style:">(
             bridge::send<id, "alloc">(bridge::UITableView::classObject()),
-            rectOfSize(stage().screenSize), style));
+            rectOfSize(screen().size), style));
     bridge::send<void, "setDataSource:">(_table, _source);
     bridge::send<void, "setDelegate:">(_table, _watcher);
     window().addSubview(_table);
-    stage().prepareFrame();
+    application().prepareFrame();
     return _table;
   }
 
@@ -74,7 +76,7 @@ class UITableViewTest : public StageTest {
 
   void scrollTo(CGFloat y) {
     handles::UIScrollView(_table.get().get()).setContentOffset({0, y});
-    stage().prepareFrame();
+    application().prepareFrame();
   }
 
   std::vector<std::string> texts() {
@@ -93,15 +95,15 @@ class UITableViewTest : public StageTest {
   }
 
   void tap(CGPoint point) {
-    stage().touches.down(point);
-    stage().advance(0.05);
-    stage().touches.up(point);
-    stage().advance(0.02);
+    touches().down(point);
+    application().advance(0.05);
+    touches().up(point);
+    application().advance(0.02);
   }
 
   void hold(CGPoint point, Seconds time) {
-    stage().touches.down(point);
-    stage().advance(time);
+    touches().down(point);
+    application().advance(time);
   }
 
   bridge::Owned<bridge::NSObject> _source;
@@ -194,7 +196,7 @@ TEST_F(UITableViewTest, AGroupedTableLeavesAGapUnlessItHasAHeader) {
   const auto header =
       bridge::makeView<bridge::UIView>({{0, 0}, {0, std::numeric_limits<double>::min()}});
   object().setTableHeaderView(header);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_LT(table().rectForRow(indexPathOf({0, 0})).origin.y, 20);
   EXPECT_EQ(UIView::of(object()).backgroundColor(), colors::groupedBackground);
 }
@@ -240,7 +242,7 @@ TEST_F(UITableViewTest, RowsCanHaveHeightsOfTheirOwn) {
   RowHeights::of(heights.get()).heights = {10, 0, 90, -1, NAN};
   show();
   bridge::send<void, "setDelegate:">(object(), heights);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(table().rectForRow(indexPathOf({0, 2})), (CGRect{{0, 10}, {375, 90}}));
   EXPECT_EQ(table().rectForRow(indexPathOf({0, 3})).size.height, 44);  // negative: the standard one
   EXPECT_EQ(table().rectForRow(indexPathOf({0, 4})).size.height, 0);
@@ -257,7 +259,7 @@ TEST_F(UITableViewTest, WithoutRowsThereIsNothing) {
   EXPECT_EQ(scroll().contentSize(), (CGSize{375, 0}));
   source().sectionCount = 0;
   table().reloadData();
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(table().numberOfSections(), 0);
   EXPECT_EQ(table().numberOfRows(0), 0);
   tap({100, 100});
@@ -270,12 +272,12 @@ TEST_F(UITableViewTest, ReloadingWhileScrolledShowsWhatIsThereNow) {
   scrollTo(44 * 500);
   const int made = source().cellsMade;
   table().reloadData();
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(texts().front(), "0.500");
   EXPECT_EQ(source().cellsMade, made);
   source().rowCount = 20;
   table().reloadData();
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(scroll().contentOffset(), (CGPoint{0, 20 * 44 - 667}));
   EXPECT_EQ(texts().back(), "0.19");
 }
@@ -334,11 +336,11 @@ TEST_F(UITableViewTest, ASourceThatAlwaysReloadsDoesNotHang) {
   source().rowCount = 100;
   source().reloadsMeanwhile = true;
   show();
-  stage().advance(0.1);
+  application().advance(0.1);
   EXPECT_TRUE(table().cells().empty());
   source().reloadsMeanwhile = false;
   table().reloadData();
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(table().cells().size(), 16u);
 }
 
@@ -346,11 +348,11 @@ TEST_F(UITableViewTest, LowRowsDoNotFillTheMemory) {
   source().rowCount = 1'000'000;
   show();
   bridge::send<void, "setRowHeight:">(object(), 1e-9);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_LE(table().cells().size(), TableGeometry::maximalRowsInSight);
   for (const CGFloat height : {double{NAN}, double{INFINITY}, -double{INFINITY}, 1e308}) {
     bridge::send<void, "setRowHeight:">(object(), height);
-    stage().prepareFrame();
+    application().prepareFrame();
     EXPECT_LE(table().cells().size(), 16u) << height;
   }
 }
@@ -359,11 +361,11 @@ TEST_F(UITableViewTest, AFrameOfAnotherWidthWidensRows) {
   source().rowCount = 5;
   show();
   object().setFrame({{0, 0}, {500, 300}});
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(cell({0, 1}).self().frame(), (CGRect{{0, 44}, {500, 44}}));
   EXPECT_EQ(scroll().contentSize().width, 500);
   object().setFrame({});
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_TRUE(table().cells().empty());
 }
 
@@ -374,7 +376,7 @@ TEST_F(UITableViewTest, ATapSelectsTheRow) {
   hold(middleOf({0, 12}), 0.2);
   EXPECT_TRUE(cell({0, 12}).isHighlighted());
   EXPECT_TRUE(cell({0, 12}).looksSelected());
-  stage().touches.up(middleOf({0, 12}));
+  touches().up(middleOf({0, 12}));
   EXPECT_FALSE(cell({0, 12}).isHighlighted());
   EXPECT_TRUE(cell({0, 12}).isSelected());
   tap(middleOf({0, 13}));
@@ -402,13 +404,13 @@ TEST_F(UITableViewTest, AFingerThatScrollsSelectsNothing) {
   EXPECT_TRUE(cell({0, 10}).isHighlighted());
   const CGPoint from = middleOf({0, 10});
   for (CGFloat y = 0; y <= 200; y += 20) {
-    stage().touches.move({from.x, from.y - y});
-    stage().advance(0.02);
+    touches().move({from.x, from.y - y});
+    application().advance(0.02);
   }
   EXPECT_GT(scroll().contentOffset().y, 100);
   EXPECT_FALSE(cell({0, 10}).isHighlighted());
-  stage().touches.up({from.x, from.y - 200});
-  stage().advance(3);
+  touches().up({from.x, from.y - 200});
+  application().advance(3);
   EXPECT_THAT(watcher().events, IsEmpty());
   EXPECT_FALSE(UIMenuController::shared().isVisible());
 }
@@ -418,14 +420,14 @@ TEST_F(UITableViewTest, AFingerThatMovesAwaySelectsNothing) {
   show();
   hold(middleOf({0, 3}), 0.2);
   EXPECT_TRUE(cell({0, 3}).isHighlighted());
-  stage().touches.move(middleOf({0, 5}));
-  stage().advance(0.02);
+  touches().move(middleOf({0, 5}));
+  application().advance(0.02);
   EXPECT_FALSE(cell({0, 3}).isHighlighted());
-  stage().touches.up(middleOf({0, 5}));
+  touches().up(middleOf({0, 5}));
   hold(middleOf({0, 6}), 0.2);
   EXPECT_TRUE(cell({0, 6}).isHighlighted());
-  stage().touches.cancel();
-  stage().advance(1);
+  touches().cancel();
+  application().advance(1);
   EXPECT_THAT(watcher().events, IsEmpty());
 }
 
@@ -444,7 +446,7 @@ TEST_F(UITableViewTest, SelectionByCodeTellsNobody) {
   show();
   bridge::send<void, "selectRowAtIndexPath:animated:scrollPosition:">(
       object(), indexPathOf({0, 50}), false, NSInteger{UITableView::middle});
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_TRUE(cell({0, 50}).isSelected());
   EXPECT_EQ(scroll().contentOffset().y, 50 * 44 - (667 - 44) / 2.0);
   const auto selected = bridge::send<bridge::NSIndexPath, "indexPathForSelectedRow">(object());
@@ -480,10 +482,10 @@ TEST_F(UITableViewTest, ALongPressShowsTheEditMenu) {
   show();
   hold(middleOf({0, 3}), 0.45);
   EXPECT_FALSE(UIMenuController::shared().isVisible());
-  stage().advance(0.1);
+  application().advance(0.1);
   EXPECT_TRUE(UIMenuController::shared().isVisible());
   EXPECT_THAT(UIMenuController::shared().titles(), ElementsAre("Copy"));
-  stage().touches.up(middleOf({0, 3}));
+  touches().up(middleOf({0, 3}));
   UIMenuController::shared().run(0);
   EXPECT_THAT(watcher().events, ElementsAre("menu 0.3", "copy: 0.3"));
   EXPECT_EQ(watcher().sender, UIMenuController::sharedMenuController());
@@ -506,7 +508,7 @@ TEST_F(UITableViewTest, WithoutAMenuALongPressEndsAsATap) {
   show();
   hold(middleOf({0, 3}), 1);
   EXPECT_FALSE(UIMenuController::shared().isVisible());
-  stage().touches.up(middleOf({0, 3}));
+  touches().up(middleOf({0, 3}));
   EXPECT_THAT(watcher().events, ElementsAre("menu 0.3", "select 0.3"));
 }
 
@@ -517,7 +519,7 @@ TEST_F(UITableViewTest, ATableThatGoesTakesItsMenuAlong) {
   ASSERT_TRUE(UIMenuController::shared().isVisible());
   _table->removeFromSuperview();
   _table.reset();
-  stage().advance(1);
+  application().advance(1);
   EXPECT_FALSE(UIMenuController::shared().isVisible());
 }
 
@@ -555,7 +557,7 @@ TEST_F(UITableViewTest, GroupedRowsHaveHairlinesAroundAndBetween) {
 }
 
 TEST_F(UITableViewTest, NothingStaysBehind) {
-  stage().touches.abandon();
+  touches().abandon();
   const long before = bridge::liveBoundObjects();
   {
     const bridge::AutoreleasePool pool;
@@ -565,12 +567,12 @@ TEST_F(UITableViewTest, NothingStaysBehind) {
     for (CGFloat y = 0; y < 5000; y += 300) scrollTo(y);
     tap(middleOf({0, 105}));
     hold(middleOf({0, 106}), 0.6);
-    stage().touches.up(middleOf({0, 106}));
+    touches().up(middleOf({0, 106}));
     table().reloadData();
     scrollTo(0);
     _table->removeFromSuperview();
     _table.reset();
-    stage().advance(1);
+    application().advance(1);
   }
   EXPECT_EQ(bridge::liveBoundObjects(), before);
 }

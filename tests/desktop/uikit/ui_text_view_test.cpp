@@ -6,10 +6,12 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/uikit/base/outside.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/text/utf16.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_responder.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -35,7 +37,7 @@ class SelectionListener : public bridge::Bound<SelectionListener, bridge::NSObje
 };
 
 // At 10 points a letter is 6 points wide and a line of Courier is 10 high.
-class UITextViewTest : public StageTest {
+class UITextViewTest : public ApplicationTest {
  protected:
   UITextViewTest() {
     listener = bridge::Owned<bridge::NSObject>::adopt(
@@ -49,7 +51,7 @@ class UITextViewTest : public StageTest {
 
   void show(std::u16string_view text) const {
     send<void, "setText:">(view, stringOf(text));
-    stage().prepareFrame();
+    application().prepareFrame();
   }
   int changes() const { return SelectionListener::of(listener.get()).changes; }
   UITextView& state() const { return UITextView::of(view.get()); }
@@ -69,13 +71,13 @@ class UITextViewTest : public StageTest {
     return {middle.x - 3, middle.y};
   }
   static void longPress(CGPoint point) {
-    stage().touches.down(point);
-    stage().advance(0.6);
+    touches().down(point);
+    application().advance(0.6);
   }
   static void tap(CGPoint point) {
-    stage().touches.down(point);
-    stage().touches.up(point);
-    stage().advance(0.5);
+    touches().down(point);
+    touches().up(point);
+    application().advance(0.5);
   }
 
   bridge::Owned<bridge::NSObject> listener;
@@ -206,30 +208,30 @@ TEST_F(UITextViewTest, ALongPressSelectsAWordAndShowsTheMenu) {
   EXPECT_EQ(changes(), 1);
   EXPECT_EQ(UIResponder::firstResponder(), view.get());
   EXPECT_FALSE(UIMenuController::shared().isVisible());
-  stage().touches.up(pointOf(6));
-  stage().advance(0.5);
+  touches().up(pointOf(6));
+  application().advance(0.5);
   EXPECT_EQ(UIMenuController::shared().titles(), (std::vector<std::string>{"Copy", "Select All"}));
 }
 
 TEST_F(UITextViewTest, ALongPressThatIsDraggedSelectsMore) {
   show(u"some words in a row");
   longPress(pointOf(6));
-  stage().touches.move(pointOf(11));
+  touches().move(pointOf(11));
   EXPECT_EQ(selectedText(), "words in");
-  stage().touches.move(pointOf(1));
+  touches().move(pointOf(1));
   EXPECT_EQ(selectedText(), "some words");
-  stage().touches.up(pointOf(1));
+  touches().up(pointOf(1));
 }
 
 TEST_F(UITextViewTest, TheMenuCopiesAndSelectsAll) {
   std::vector<std::string> copied;
-  stage().outside.copyText = [&](const std::string& text) { copied.push_back(text); };
+  outside().copyText = [&](const std::string& text) { copied.push_back(text); };
   show(u"some words \U0001F4F7");
   longPress(pointOf(6));
-  stage().touches.up(pointOf(6));
-  stage().advance(0.5);
+  touches().up(pointOf(6));
+  application().advance(0.5);
   UIMenuController::shared().run(1);
-  stage().advance(0.5);
+  application().advance(0.5);
   EXPECT_EQ(selectedRange(), (NSRange{0, 13}));
   EXPECT_EQ(UIMenuController::shared().titles(), std::vector<std::string>{"Copy"});
   UIMenuController::shared().run(0);
@@ -240,7 +242,7 @@ TEST_F(UITextViewTest, TheMenuCopiesAndSelectsAll) {
 TEST_F(UITextViewTest, ATapClearsTheSelection) {
   show(u"some words in a row");
   view->selectAll({});
-  stage().prepareFrame();
+  application().prepareFrame();
   tap({100, 150});
   EXPECT_FALSE(view->selectedTextRange());
   EXPECT_FALSE(UIMenuController::shared().isVisible());
@@ -250,14 +252,14 @@ TEST_F(UITextViewTest, ATapClearsTheSelection) {
 TEST_F(UITextViewTest, TheEndsOfASelectionCanBeDragged) {
   show(u"some words in a row\n\n\n\n\n\nfurther down");
   send<void, "setSelectedRange:">(view, NSRange{5, 5});
-  stage().touches.down(pointBefore(10));
-  stage().advance(0.1);
-  stage().touches.move(pointBefore(2));
+  touches().down(pointBefore(10));
+  application().advance(0.1);
+  touches().move(pointBefore(2));
   EXPECT_EQ(selectedText(), "me ");
-  stage().touches.move(pointBefore(13));
-  stage().touches.up(pointBefore(13));
+  touches().move(pointBefore(13));
+  touches().up(pointBefore(13));
   EXPECT_EQ(selectedText(), "words in");
-  stage().advance(0.5);
+  application().advance(0.5);
   EXPECT_TRUE(UIMenuController::shared().isVisible());
 }
 
@@ -266,14 +268,14 @@ TEST_F(UITextViewTest, APressOnTheEndOfAWordSelectsThatWord) {
   const CGPoint end = pointBefore(4);
   longPress({end.x - 1, end.y});
   EXPECT_EQ(selectedText(), "some");
-  stage().touches.up(end);
+  touches().up(end);
 }
 
 TEST_F(UITextViewTest, WhatIsNotSelectableStaysUnselected) {
   show(u"some words in a row");
   send<void, "setSelectable:">(view, false);
   longPress(pointOf(6));
-  stage().touches.up(pointOf(6));
+  touches().up(pointOf(6));
   view->selectAll({});
   EXPECT_FALSE(view->selectedTextRange());
   EXPECT_FALSE((send<bool, "canBecomeFirstResponder">(view)));
@@ -302,7 +304,7 @@ TEST_F(UITextViewTest, AnythingIsShownInSomeWay) {
     show(text);
     EXPECT_GE(view->contentSize().height, 26);
     longPress({20, 12});
-    stage().touches.up({20, 12});
+    touches().up({20, 12});
     view->selectAll({});
     EXPECT_EQ(selectedRange().length, text.size());
   }
@@ -330,16 +332,16 @@ TEST_F(UITextViewTest, LeavesNothingBehind) {
     const auto other = bridge::makeView<bridge::UITextView>({{0, 0}, {100, 100}});
     window().addSubview(other);
     send<void, "setText:">(other, NSString::make("some text"));
-    stage().prepareFrame();
+    application().prepareFrame();
     longPress({10, 12});
-    stage().touches.up({10, 12});
-    stage().advance(0.5);
+    touches().up({10, 12});
+    application().advance(0.5);
     bridge::send<void, "setMenuVisible:animated:">(UIMenuController::sharedMenuController(), false,
                                                    false);
-    stage().advance(1);
+    application().advance(1);
     other->removeFromSuperview();
   }
-  stage().advance(1);
+  application().advance(1);
   EXPECT_EQ(bridge::liveBoundObjects(), before);
 }
 

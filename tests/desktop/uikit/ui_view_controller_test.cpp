@@ -4,6 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/base/platform_log.h"
+#include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
 #include "tests/desktop/uikit/controller_probes.h"
 
 namespace desktop::uikit {
@@ -85,7 +89,7 @@ TEST_F(UIViewControllerTest, APresentedViewSlidesUpFromBelowTheScreen) {
   const auto b = ProbeController::make("B");
   a->present(b, animated, {});
   EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 667, 375, 667));
-  stage().scheduler.advanceTo(stage().scheduler.now() + 0.2);
+  scheduler().advanceTo(scheduler().now() + 0.2);
   EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 333.5, 375, 667));
   wait(0.3);
   EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 0, 375, 667));
@@ -111,13 +115,13 @@ TEST_F(UIViewControllerTest, APresentationDuringAnotherIsRefusedAndLogged) {
   bool completed = false;
   a->present(b, animated, {});
   a->present(c, animated, Block<void()>([&completed] { completed = true; }));
-  ASSERT_EQ(stage().log.size(), 1u);
-  EXPECT_THAT(stage().log[0], HasSubstr("while a presentation is in progress"));
+  ASSERT_EQ(platformLog().size(), 1u);
+  EXPECT_THAT(platformLog()[0], HasSubstr("while a presentation is in progress"));
   wait(0.5);
   EXPECT_EQ(presentedBy(a), b.get());
   a->present(c, animated, {});
-  ASSERT_EQ(stage().log.size(), 2u);
-  EXPECT_THAT(stage().log[1], HasSubstr("already presenting"));
+  ASSERT_EQ(platformLog().size(), 2u);
+  EXPECT_THAT(platformLog()[1], HasSubstr("already presenting"));
   wait(0.5);
   EXPECT_FALSE(completed);
   EXPECT_FALSE((bridge::send<bool, "isViewLoaded">(c.get())));
@@ -129,7 +133,7 @@ TEST_F(UIViewControllerTest, WhatIsNotInTheWindowOrIsShownAlreadyPresentsNothing
   a->present({}, animated, {});
   showRoot(a);
   a->present(a, animated, {});
-  EXPECT_EQ(stage().log.size(), 3u);
+  EXPECT_EQ(platformLog().size(), 3u);
   EXPECT_FALSE(presentedBy(a));
 }
 
@@ -139,8 +143,8 @@ TEST_F(UIViewControllerTest, DismissingWhilePresentingIsRefusedAndLogged) {
   a->present(b, animated, {});
   wait(0.1);
   b->dismiss(animated, {});
-  ASSERT_EQ(stage().log.size(), 1u);
-  EXPECT_THAT(stage().log[0], HasSubstr("Attempt to dismiss"));
+  ASSERT_EQ(platformLog().size(), 1u);
+  EXPECT_THAT(platformLog()[0], HasSubstr("Attempt to dismiss"));
   wait(0.5);
   EXPECT_EQ(presentedBy(a), b.get());
 }
@@ -159,7 +163,7 @@ TEST_F(UIViewControllerTest, DismissingTwiceDismissesOne) {
   EXPECT_EQ(completions, 1);
   EXPECT_EQ(presentedBy(a), b.get());
   EXPECT_FALSE(presentedBy(b));
-  EXPECT_EQ(stage().log.size(), 1u);
+  EXPECT_EQ(platformLog().size(), 1u);
 }
 
 TEST_F(UIViewControllerTest, APresenterDismissesEverythingAboveIt) {
@@ -193,18 +197,18 @@ TEST_F(UIViewControllerTest, ControllersGoWhenTheyAreDismissed) {
   EXPECT_EQ(bridge::liveBoundObjects(), before);
 }
 
-TEST_F(UIViewControllerTest, NothingIsLeftOfAStageThatGoesInTheMiddle) {
+TEST_F(UIViewControllerTest, NothingIsLeftOfAnApplicationThatGoesInTheMiddle) {
   showRoot(ProbeController::make("warm"));
-  resetStage();
+  resetApplication();
   const long before = bridge::liveBoundObjects();
   {
     const bridge::AutoreleasePool pool;
-    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(stage().screenSize));
+    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(screen().size));
     made->makeKeyAndVisible();
     const auto a = showRoot(ProbeController::make("A"));
     a->present(ProbeController::make("B"), animated, Block<void()>([a] { a->view(); }));
     wait(0.1);
-    resetStage();
+    resetApplication();
   }
   EXPECT_EQ(bridge::liveBoundObjects(), before);
 }
@@ -276,8 +280,8 @@ TEST_F(UIViewControllerTest, EveryScreenFillsAWindowThatTurns) {
   const auto b = ProbeController::make("B");
   a->present(b, atOnce, {});
   takeCalls();
-  stage().resize({667, 375});
-  stage().prepareFrame();
+  application().resize({667, 375});
+  application().prepareFrame();
   EXPECT_THAT(takeCalls(), ElementsAre("A 667 x 375", "B 667 x 375"));
   EXPECT_THAT(onScreen(b->view()), ElementsAre(0, 0, 667, 375));
   b->dismiss(atOnce, {});

@@ -6,13 +6,15 @@
 #include <cmath>
 
 #include "bridge/uikit.h"
+#include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/handles.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "desktop/uikit/views/animator.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
 
-class UIViewTest : public StageTest {
+class UIViewTest : public ApplicationTest {
  protected:
   static bridge::Owned<bridge::UIView> view(CGRect frame) {
     return bridge::makeView<bridge::UIView>(frame);
@@ -77,11 +79,11 @@ TEST_F(UIViewTest, AnimationsShowWhatIsOnTheWay) {
   bridge::UIView::animate(0.25, bridge::Block<void()>([&box] { box->setAlpha(0); }),
                           bridge::Block<void(bool)>([&finished](bool whole) { finished = whole; }));
   EXPECT_EQ(UIView::of(box.get()).alpha(), 0);
-  stage().scheduler.advanceTo(stage().scheduler.now() + 0.125);
+  scheduler().advanceTo(scheduler().now() + 0.125);
   EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().alpha, 0.5);
-  stage().advance(0.1);
+  application().advance(0.1);
   EXPECT_FALSE(finished);
-  stage().advance(0.05);
+  application().advance(0.05);
   EXPECT_TRUE(finished);
   EXPECT_EQ(UIView::of(box.get()).shown().alpha, 0);
 }
@@ -99,7 +101,7 @@ TEST_F(UIViewTest, WhatLeavesTheWindowIsNoLongerAnimated) {
   box->removeFromSuperview();
   EXPECT_EQ(completions, 1);
   EXPECT_FALSE(finished);
-  EXPECT_TRUE(stage().animator.isIdle());
+  EXPECT_TRUE(animator().isIdle());
 }
 
 }  // namespace

@@ -5,13 +5,13 @@
 
 #include "lumifact/details/one_up_state.h"
 #include "lumifact/state/current_settings.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 #include "tests/lumifact/details/one_up_host.h"
 #include "tests/lumifact/views/foundation_test.h"
 
 namespace lumifact {
 
-class OneUpTest : public desktop::uikit::StageTest {
+class OneUpTest : public desktop::uikit::ApplicationTest {
  protected:
   OneUpTest() {
     useThePhonesFoundation();
@@ -31,7 +31,7 @@ class OneUpTest : public desktop::uikit::StageTest {
     navigation = bridge::UINavigationController::withRoot(controller);
     window().setRootViewController(navigation);
     controller->view();
-    desktop::uikit::stage().prepareFrame();
+    desktop::uikit::application().prepareFrame();
   }
   bridge::NSArray rightItems() const { return controller->navigationItem().rightBarButtonItems(); }
 

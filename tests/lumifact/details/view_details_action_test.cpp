@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include "desktop/uikit/application/application.h"
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_view_controller.h"
 #include "tests/lumifact/details/class_look_ups.h"
@@ -52,7 +53,7 @@ class ViewDetailsTest : public OneUpTest {
   }
   void askBy(NSObject sender) {
     host::viewDetails(controller, sender);
-    desktop::uikit::stage().advance(1);
+    desktop::uikit::application().advance(1);
   }
 
   Object presented() const { return send<Object, "presentedViewController">(controller); }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Each of the three views in each of its states, as a whole.
+#include "desktop/uikit/application/application.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_pop_up_view_controller.h"
 #include "lumifact/views/lumifact_view_controller.h"
@@ -12,7 +14,8 @@ namespace lumifact {
 namespace {
 
 using bridge::NSDictionary;
-using desktop::uikit::stage;
+using desktop::uikit::application;
+using desktop::uikit::touches;
 using model::Array;
 using model::Dictionary;
 
@@ -27,7 +30,7 @@ class GoldenViewsTest : public PresentedPageTest {
  protected:
   void popUp() {
     LumifactPopUpViewController::show(window(), text(message));
-    stage().prepareFrame();
+    application().prepareFrame();
   }
   void expectPopUp(const std::string& name) {
     expectGolden(name, viewOf(window(), LumifactPopUpViewController::classObject()));
@@ -38,13 +41,13 @@ class GoldenViewsTest : public PresentedPageTest {
 TEST_F(GoldenViewsTest, PopUp) {
   popUp();
   expectPopUp("pop_up_begins");
-  stage().advance(0.125);
+  application().advance(0.125);
   expectPopUp("pop_up_on_its_way");
   settle();
   expectPopUp("pop_up");
-  stage().touches.down({5, 30});
-  stage().touches.up({5, 30});
-  stage().advance(0.125);
+  touches().down({5, 30});
+  touches().up({5, 30});
+  application().advance(0.125);
   expectPopUp("pop_up_leaves");
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/views/ca_layer.h"
@@ -18,7 +19,7 @@ using bridge::Owned;
 using bridge::send;
 using bridge::UITextView;
 using bridge::UIViewController;
-using desktop::uikit::stage;
+using desktop::uikit::application;
 
 constexpr std::string_view report = "{Exif} =\n{\n  FNumber = 1.8\n}";
 
@@ -54,7 +55,7 @@ TEST_F(PresenterTest, ShowsTheWholeTextToBeReadAndSelected) {
 TEST_F(PresenterTest, TheTextFillsThePageAndFollowsItsSize) {
   show(report);
   EXPECT_EQ(textView().frame().size, topPage().view().bounds().size);
-  stage().resize({667, 375});
+  application().resize({667, 375});
   settle();
   EXPECT_EQ(topPage().view().bounds().size.width, 667);
   EXPECT_EQ(textView().frame().size, topPage().view().bounds().size);
@@ -162,14 +163,14 @@ TEST_F(PresenterTest, ACaretIsNoSelectionOfAllButOfAnEmptyText) {
 TEST_F(PresenterTest, TheMapsButtonHandsTheLinkToTheSystem) {
   show(report, "comgooglemaps://?center=37.331700,-122.030200&zoom=19.00");
   press(rightItems().at(2));
-  EXPECT_EQ(stage().opened,
+  EXPECT_EQ(application().opened,
             std::vector<std::string>{"comgooglemaps://?center=37.331700,-122.030200&zoom=19.00"});
 }
 
 TEST_F(PresenterTest, ALinkThatIsNoneIsHandedOnAsNothing) {
   show(report, "no link at all");
   press(rightItems().at(2));
-  EXPECT_TRUE(stage().opened.empty());
+  EXPECT_TRUE(application().opened.empty());
   EXPECT_TRUE(presented());
 }
 
@@ -236,7 +237,7 @@ TEST_F(PresenterTest, ShowsAnyTextInAnySize) {
     for (const int fontSize : {12, 0, -5, 1000, std::numeric_limits<int>::max()}) {
       const auto page = LFPresenter::make(text(message), {}, 0, fontSize);
       window().setRootViewController(page);
-      stage().advance(0.1);
+      application().advance(0.1);
       EXPECT_EQ(
           bridge::UITextView(viewOf(page->view(), UITextView::classObject()).get()).text().length(),
           text(message).length())

@@ -4,10 +4,12 @@
 #include <cmath>
 
 #include "desktop/uikit/graphics/ui_bezier_path.h"
+#include "desktop/uikit/touch/touch_dispatcher.h"
+#include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ca_layer.h"
 #include "desktop/uikit/views/ui_view.h"
 #include "lumifact/views/lumifact_text_view.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 #include "tests/lumifact/views/foundation_test.h"
 #include "tests/lumifact/views/shown_views.h"
 
@@ -20,24 +22,26 @@ using bridge::Owned;
 using bridge::send;
 using bridge::UITextView;
 using bridge::UIView;
+using desktop::uikit::animator;
+using desktop::uikit::application;
 using desktop::uikit::CALayer;
 using desktop::uikit::Color;
-using desktop::uikit::stage;
+using desktop::uikit::touches;
 
-class PopUpTest : public desktop::uikit::StageTest {
+class PopUpTest : public desktop::uikit::ApplicationTest {
  protected:
   PopUpTest() { useThePhonesFoundation(); }
 
   // The overlay over the window, in its first layout.
   UIView show(std::string_view message) {
     LumifactPopUpViewController::show(window(), text(message));
-    stage().prepareFrame();
+    application().prepareFrame();
     return overlay();
   }
   UIView showAtOnce(std::string_view message) {
     const auto made = make(window().bounds());
     send<void, "showInView:withMessage:animated:">(made, window(), text(message), false);
-    stage().prepareFrame();
+    application().prepareFrame();
     return overlay();
   }
   static Owned<UIView> make(CGRect frame) {
@@ -136,8 +140,8 @@ TEST_F(PopUpTest, TheMessageIsSetInThirteenPoints) {
 
 TEST_F(PopUpTest, TheBoxStaysInTheMiddleWhenTheHostChangesItsSize) {
   const UIView view = showAtOnce("IMG_0001.JPG");
-  stage().resize({667, 375});
-  stage().prepareFrame();
+  application().resize({667, 375});
+  application().prepareFrame();
   EXPECT_EQ(view.frame(), (CGRect{{0, 0}, {667, 375}}));
   expectCentred(view);
 }
@@ -153,9 +157,9 @@ TEST_F(PopUpTest, ZoomsInFromNothing) {
   const UIView view = show("message");
   EXPECT_LT(look(view).shown().alpha, 0.1);
   EXPECT_GT(look(view).shown().transform.a, 1.7);
-  stage().advance(0.125);
+  application().advance(0.125);
   EXPECT_NEAR(look(view).shown().alpha, 0.5, 0.1);
-  stage().advance(0.2);
+  application().advance(0.2);
   EXPECT_EQ(look(view).shown().alpha, 1.0);
   EXPECT_EQ(look(view).shown().transform, CGAffineTransform());
 }
@@ -163,12 +167,12 @@ TEST_F(PopUpTest, ZoomsInFromNothing) {
 TEST_F(PopUpTest, ZoomsOutWhenATouchOnTheBackdropEnds) {
   const UIView view = show("message");
   settle();
-  stage().touches.down({5, 30});
-  stage().advance(0.05);
+  touches().down({5, 30});
+  application().advance(0.05);
   EXPECT_TRUE(touchDown(view));
   EXPECT_EQ(look(view).shown().alpha, 1.0);
-  stage().touches.up({5, 30});
-  stage().advance(0.125);
+  touches().up({5, 30});
+  application().advance(0.125);
   EXPECT_TRUE(overlay());
   EXPECT_LT(look(view).shown().alpha, 0.9);
   EXPECT_GT(look(view).shown().transform.a, 1.1);
@@ -179,10 +183,10 @@ TEST_F(PopUpTest, ZoomsOutWhenATouchOnTheBackdropEnds) {
 TEST_F(PopUpTest, StaysUnseenWhereItsLeavingIsCutShort) {
   const UIView view = show("message");
   settle();
-  stage().touches.down({5, 30});
-  stage().touches.up({5, 30});
-  stage().advance(0.125);
-  stage().animator.stop(view);
+  touches().down({5, 30});
+  touches().up({5, 30});
+  application().advance(0.125);
+  animator().stop(view);
   settle();
   EXPECT_EQ(overlay(), view);
   EXPECT_EQ(look(view).shown().alpha, 0.0);
@@ -198,10 +202,10 @@ TEST_F(PopUpTest, ATouchThatWandersStillEndsIt) {
 TEST_F(PopUpTest, AMessageInTheBoxLeavesTheTouchToItsText) {
   const UIView view = show("message");
   settle();
-  stage().touches.down(middleOf(boxOf(view)));
-  stage().advance(0.05);
+  touches().down(middleOf(boxOf(view)));
+  application().advance(0.05);
   EXPECT_FALSE(touchDown(view));
-  stage().touches.up(middleOf(boxOf(view)));
+  touches().up(middleOf(boxOf(view)));
 }
 
 TEST_F(PopUpTest, SeveralOverlaysStandAboveEachOther) {
@@ -265,7 +269,7 @@ TEST_F(PopUpTest, ShowsAnyMessageAtAnySize) {
     for (const CGRect& frame : frames) {
       const auto view = make(frame);
       send<void, "showInView:withMessage:animated:">(view, window(), text(message), true);
-      stage().advance(0.3);
+      application().advance(0.3);
       EXPECT_TRUE(view->frame() == view->frame()) << message.size();
       view->removeFromSuperview();
     }
@@ -275,7 +279,7 @@ TEST_F(PopUpTest, ShowsAnyMessageAtAnySize) {
 TEST_F(PopUpTest, TakesNoMessageAsAnEmptyOne) {
   const auto view = make(window().bounds());
   send<void, "showInView:withMessage:animated:">(view, window(), NSString(), false);
-  stage().prepareFrame();
+  application().prepareFrame();
   EXPECT_EQ(boxOf(view).text().length(), 0U);
 }
 

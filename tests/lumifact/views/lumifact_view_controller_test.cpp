@@ -3,6 +3,7 @@
 
 #include <cfloat>
 
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 #include "model/description.h"
@@ -22,7 +23,7 @@ using bridge::UITableViewCell;
 using bridge::UITableViewController;
 using bridge::UIView;
 using bridge::UIViewController;
-using desktop::uikit::stage;
+using desktop::uikit::application;
 using model::Array;
 using model::Dictionary;
 using model::Value;
@@ -233,7 +234,8 @@ TEST_F(TablePageTest, ShareOfNothingSaysSo) {
 TEST_F(TablePageTest, TheMapsButtonHandsTheLinkToTheSystem) {
   show(objects(photo), {}, "http://maps.example.org/?q=Lumifact&ll=1,2");
   press(rightItems().at(2));
-  EXPECT_EQ(stage().opened, std::vector<std::string>{"http://maps.example.org/?q=Lumifact&ll=1,2"});
+  EXPECT_EQ(application().opened,
+            std::vector<std::string>{"http://maps.example.org/?q=Lumifact&ll=1,2"});
 }
 
 TEST_F(TablePageTest, DismissTakesThePagesAway) {
@@ -295,9 +297,9 @@ TEST_F(TablePageTest, ShowsAnyTextAndAnythingElse) {
 TEST_F(TablePageTest, StandsOnAScreenOfAnySize) {
   for (const CGSize size : {CGSize{1, 1}, CGSize{0, 0}, CGSize{5000, 10}}) {
     show(photo);
-    stage().resize(size);
+    application().resize(size);
     settle();
-    stage().resize({375, 667});
+    application().resize({375, 667});
     settle();
     EXPECT_EQ(rows(), "{Exif} >\nDepth = 8\nProfile = sRGB\n") << size.width;
     press(leftItems().at(0));

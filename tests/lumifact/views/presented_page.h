@@ -8,19 +8,19 @@
 #include "desktop/uikit/bars/bar_button_view.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/controllers/ui_activity_view_controller.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 #include "tests/lumifact/views/foundation_test.h"
 #include "tests/lumifact/views/shown_views.h"
 
 namespace lumifact {
 
-class PresentedPageTest : public desktop::uikit::StageTest {
+class PresentedPageTest : public desktop::uikit::ApplicationTest {
  protected:
   PresentedPageTest() {
     useThePhonesFoundation();
     _root = bridge::makeNew<bridge::UIViewController>();
     window().setRootViewController(_root);
-    desktop::uikit::stage().prepareFrame();
+    desktop::uikit::application().prepareFrame();
   }
 
   void present(bridge::UIViewController page) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/lumifact/views/shown_views.h"
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -10,7 +10,8 @@ namespace lumifact {
 using bridge::NSArray;
 using bridge::UILabel;
 using bridge::UIView;
-using desktop::uikit::stage;
+using desktop::uikit::application;
+using desktop::uikit::touches;
 
 namespace {
 
@@ -47,9 +48,9 @@ CGPoint middleOf(UIView view) {
 }
 
 void tap(CGPoint point) {
-  stage().touches.down(point);
-  stage().advance(0.05);
-  stage().touches.up(point);
+  touches().down(point);
+  application().advance(0.05);
+  touches().up(point);
   settle();
 }
 
@@ -58,9 +59,9 @@ void tap(UIView view) {
 }
 
 void longPress(CGPoint point) {
-  stage().touches.down(point);
-  stage().advance(0.6);
-  stage().touches.up(point);
+  touches().down(point);
+  application().advance(0.6);
+  touches().up(point);
   settle();
 }
 
@@ -69,18 +70,17 @@ void longPress(UIView view) {
 }
 
 void drag(CGPoint from, CGPoint to) {
-  stage().touches.down(from);
+  touches().down(from);
   for (int step = 1; step <= 10; ++step) {
-    stage().advance(0.02);
-    stage().touches.move(
-        {from.x + (to.x - from.x) * step / 10, from.y + (to.y - from.y) * step / 10});
+    application().advance(0.02);
+    touches().move({from.x + (to.x - from.x) * step / 10, from.y + (to.y - from.y) * step / 10});
   }
-  stage().touches.up(to);
+  touches().up(to);
   settle();
 }
 
 void settle() {
-  stage().advance(1);
+  application().advance(1);
 }
 
 }  // namespace lumifact

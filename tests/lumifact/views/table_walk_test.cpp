@@ -6,6 +6,7 @@
 #include <map>
 #include <random>
 
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/lists/ui_table_view.h"
 #include "lumifact/views/lumifact_view_controller.h"
@@ -18,7 +19,7 @@ namespace {
 
 using bridge::send;
 using bridge::UITableView;
-using desktop::uikit::stage;
+using desktop::uikit::application;
 using model::Array;
 using model::Dictionary;
 using model::Value;
@@ -139,7 +140,7 @@ class TableWalkTest : public PresentedPageTest {
   void scrollTo(CGFloat offset) {
     const desktop::uikit::handles::UIScrollView view(table().get());
     view.setContentOffset({0, offset});
-    stage().prepareFrame();
+    application().prepareFrame();
   }
 
   // Every row of the page on top, read a screen at a time.

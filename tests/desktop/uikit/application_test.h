@@ -1,31 +1,32 @@
 // SPDX-License-Identifier: MIT
 //
-// A fresh stage for every test, with one window that fills it; time stands still until a test
-// advances the stage.
+// A fresh application for every test, with one window that fills the screen; time stands still
+// until a test advances it.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include "bridge/uikit.h"
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 
 namespace desktop::uikit {
 
-class StageTest : public testing::Test {
+class ApplicationTest : public testing::Test {
  protected:
-  StageTest() {
+  ApplicationTest() {
     registerUIKit();
     makeWhatThereIsOneOf();
-    resetStage();
-    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(stage().screenSize));
+    resetApplication();
+    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(screen().size));
     made->makeKeyAndVisible();
-    stage().prepareFrame();
+    application().prepareFrame();
   }
-  ~StageTest() override { resetStage(); }
+  ~ApplicationTest() override { resetApplication(); }
 
   // These stay for the life of the process: whoever counts objects finds them there already.
   static void makeWhatThereIsOneOf() {
@@ -34,7 +35,9 @@ class StageTest : public testing::Test {
     UIMenuController::sharedMenuController();
   }
 
-  static handles::UIWindow window() { return handles::UIWindow(stage().windows.at(0)->get()); }
+  static handles::UIWindow window() {
+    return handles::UIWindow(application().windows.at(0)->get());
+  }
 
  private:
   const bridge::AutoreleasePool _pool;
