@@ -11,11 +11,6 @@ void ReusePool::registerClass(const std::string& identifier, Class aClass) {
   _classes[identifier] = aClass;
 }
 
-Class ReusePool::classFor(const std::string& identifier) const {
-  const auto found = _classes.find(identifier);
-  return found == _classes.end() ? nullptr : found->second;
-}
-
 void ReusePool::put(const std::string& identifier, const bridge::Owned<bridge::UIView>& view) {
   _unsettled.push_back(view);
   if (!identifier.empty()) _waiting[identifier].push_back(view);
@@ -27,6 +22,15 @@ bridge::Owned<bridge::UIView> ReusePool::take(const std::string& identifier) {
   auto view = std::move(found->second.back());
   found->second.pop_back();
   return view;
+}
+
+bridge::UIView ReusePool::dequeue(const std::string& identifier, const Make& make) {
+  if (auto waiting = take(identifier)) {
+    bridge::send<void, "prepareForReuse">(waiting);
+    return waiting.autorelease();
+  }
+  const auto registered = _classes.find(identifier);
+  return make(registered == _classes.end() ? nullptr : registered->second).autorelease();
 }
 
 void ReusePool::shown(bridge::UIView view) {

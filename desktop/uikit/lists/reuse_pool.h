@@ -4,6 +4,7 @@
 // and the classes that new ones are made of.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -16,20 +17,22 @@ class ReusePool {
  public:
   // Null takes the class back.
   void registerClass(const std::string& identifier, Class aClass);
-  // Null where none is registered.
-  Class classFor(const std::string& identifier) const;
 
   // The view stays where it is in the tree until settle(), or for good where it is shown again. One
   // without an identifier is never used again.
   void put(const std::string& identifier, const bridge::Owned<bridge::UIView>& view);
-  // A view that waits; nil where none does.
-  bridge::Owned<bridge::UIView> take(const std::string& identifier);
+  // A view that waits, told to prepare for its reuse, or else what is made: of the class that is
+  // registered, or null. Autoreleased.
+  using Make = std::function<bridge::Owned<bridge::UIView>(Class registered)>;
+  bridge::UIView dequeue(const std::string& identifier, const Make& make);
   // The view shows something.
   void shown(bridge::UIView view);
   // Takes what shows nothing out of the list that it was put back by.
   void settle(bridge::UIView list);
 
  private:
+  bridge::Owned<bridge::UIView> take(const std::string& identifier);
+
   std::map<std::string, Class> _classes;
   std::map<std::string, std::vector<bridge::Owned<bridge::UIView>>> _waiting;
   std::vector<bridge::Owned<bridge::UIView>> _unsettled;

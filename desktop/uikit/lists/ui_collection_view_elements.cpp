@@ -177,12 +177,9 @@ bridge::UIView UICollectionView::dequeueSupplementary(bridge::NSString kind,
 // Where no class is registered, what comes is of the class that all of them are below.
 bridge::UIView UICollectionView::dequeue(const std::string& key, bridge::NSString identifier,
                                          Class fallback, CGRect frame) {
-  if (auto waiting = _pool.take(key)) {
-    handles::UICollectionReusableView(waiting.get().get()).prepareForReuse();
-    return waiting.autorelease();
-  }
-  const Class registered = _pool.classFor(key);
-  return makeReusable(registered ? registered : fallback, identifier, key, frame).autorelease();
+  return _pool.dequeue(key, [&](Class registered) {
+    return makeReusable(registered ? registered : fallback, identifier, key, frame);
+  });
 }
 
 handles::UICollectionViewCell UICollectionView::cellForItem(bridge::NSIndexPath path) const {

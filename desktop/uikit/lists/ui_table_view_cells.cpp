@@ -147,15 +147,11 @@ void UITableView::recycleAll() {
 }
 
 bridge::UITableViewCell UITableView::dequeue(bridge::NSString identifier) {
-  const std::string key = identifier.utf8();
-  if (const auto waiting = _pool.take(key)) {
-    bridge::send<void, "prepareForReuse">(waiting);
-    return bridge::Owned<bridge::UITableViewCell>::retain(
-               bridge::UITableViewCell(waiting.get().get()))
-        .autorelease();
-  }
-  const Class aClass = _pool.classFor(key);
-  return aClass ? makeCell(aClass, identifier).autorelease() : bridge::UITableViewCell();
+  const bridge::UIView cell = _pool.dequeue(identifier.utf8(), [&](Class registered) {
+    return registered ? bridge::Owned<bridge::UIView>::retain(makeCell(registered, identifier))
+                      : bridge::Owned<bridge::UIView>();
+  });
+  return bridge::UITableViewCell(cell.get());
 }
 
 bridge::UITableViewCell UITableView::dequeueFor(bridge::NSString identifier, bridge::NSIndexPath) {
