@@ -15,9 +15,16 @@ Class UICollectionReusableView::classObject() {
   return made;
 }
 
-void UICollectionReusableView::setIdentity(bridge::NSString reuseIdentifier, std::string poolKey) {
-  _reuseIdentifier = bridge::Owned<bridge::NSString>::retain(reuseIdentifier);
-  _poolKey = std::move(poolKey);
+bridge::Owned<bridge::UIView> UICollectionReusableView::make(Class aClass,
+                                                             bridge::NSString reuseIdentifier,
+                                                             std::string poolKey, CGRect frame) {
+  const auto made = bridge::Owned<bridge::Object>::adopt(
+      bridge::send<bridge::Object, "initWithFrame:">(bridge::send<id, "alloc">(aClass), frame));
+  const auto view = bridge::as<handles::UICollectionReusableView>(made.get());
+  if (!view) return {};
+  of(view)._reuseIdentifier = bridge::Owned<bridge::NSString>::retain(reuseIdentifier);
+  of(view)._poolKey = std::move(poolKey);
+  return bridge::Owned<bridge::UIView>::retain(view);
 }
 
 }  // namespace desktop::uikit

@@ -13,9 +13,12 @@ class UICollectionReusableView : public bridge::Bound<UICollectionReusableView, 
   using Bound::Bound;
   static Class classObject();
 
+  // A new one of a class below this; nil where it makes something else.
+  static bridge::Owned<bridge::UIView> make(Class aClass, bridge::NSString reuseIdentifier,
+                                            std::string poolKey, CGRect frame);
+
   // What it waits under to be used again: for supplementary views with their kind.
   const std::string& poolKey() const { return _poolKey; }
-  void setIdentity(bridge::NSString reuseIdentifier, std::string poolKey);
   // The order of what overlaps: the layout's for what it shows.
   NSInteger zIndex() const { return _zIndex; }
   void setZIndex(NSInteger index) { _zIndex = index; }

@@ -1,32 +1,45 @@
 // SPDX-License-Identifier: MIT
 //
-// The class, what of a collection is set, and what it counts. Views come and go in
-// ui_collection_view_elements.cpp, changes are in ui_collection_view_updates.cpp, touch and
-// selection in ui_collection_view_selection.cpp.
+// A collection holds its parts together: it counts what its data source has, lets its layout say
+// what lies in sight, shows exactly that with views out of its pool, and knows what is pressed and
+// selected. Whatever changes its contents sends all views back to the pool; the next layout counts,
+// prepares and takes them out again, and only those that show nothing then leave the tree.
 #include "desktop/uikit/lists/ui_collection_view.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/base/optional_message.h"
+#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/graphics/ui_color.h"
-#include "desktop/uikit/lists/ui_collection_view_layout.h"
-#include "desktop/uikit/lists/ui_collection_view_layout_attributes.h"
+#include "desktop/uikit/lists/collection/collection_placing.h"
+#include "desktop/uikit/lists/ui_collection_reusable_view.h"
+#include "desktop/uikit/scrolling/scroll_target.h"
 
 namespace desktop::uikit {
 namespace {
 
-using Attributes = handles::UICollectionViewLayoutAttributes;
+using View = bridge::Owned<bridge::UIView>;
 
-// A data source can answer any number. What is more than this is left out.
-constexpr NSInteger maximalSections = 100'000;
-constexpr NSInteger maximalItems = 100'000'000;
-constexpr std::size_t maximalElementsInSight = 10'000;
+std::set<ItemPath> pathsOf(bridge::NSArray paths) {
+  std::set<ItemPath> all;
+  for (NSUInteger index = 0; index < paths.count(); ++index)
+    if (const auto path = itemPathOf(paths.at(index))) all.insert(*path);
+  return all;
+}
 
-CGSize sane(CGSize size) {
-  return isFinite(rectOfSize(size)) ? CGSize{std::max(size.width, 0.0), std::max(size.height, 0.0)}
-                                    : CGSize{};
+bridge::UITouch touchOf(bridge::NSSet touches) {
+  return bridge::as<bridge::UITouch>(touches.anyObject());
+}
+
+// Where one direction is to be shown that these bits of a scroll position stand for; none leaves it
+// where it is.
+std::optional<ShownAt> shownAt(NSUInteger position, NSUInteger start, NSUInteger middle,
+                               NSUInteger end) {
+  if (position == UICollectionView::none) return ShownAt::nearest;
+  if (position & end) return ShownAt::end;
+  if (position & middle) return ShownAt::middle;
+  if (position & start) return ShownAt::start;
+  return {};
 }
 
 }  // namespace
@@ -87,10 +100,6 @@ Class UICollectionView::classObject() {
   return made;
 }
 
-UICollectionView::~UICollectionView() {
-  if (_layout) UICollectionViewLayout::of(_layout.get()).setCollectionView({});
-}
-
 bridge::UIView UICollectionView::initWithFrame(CGRect frame) {
   return bridge::send<bridge::UIView, "initWithFrame:collectionViewLayout:">(
       self(), frame, bridge::UICollectionViewLayout());
@@ -110,13 +119,10 @@ void UICollectionView::setDataSource(bridge::NSObject source) {
   reloadData();
 }
 
-// A layout belongs to one collection view at a time.
 void UICollectionView::setCollectionViewLayout(bridge::UICollectionViewLayout layout) {
   layout = bridge::as<bridge::UICollectionViewLayout>(layout);
-  if (layout == _layout.get()) return;
-  if (_layout) UICollectionViewLayout::of(_layout.get()).setCollectionView({});
-  _layout = bridge::Owned<bridge::UICollectionViewLayout>::retain(layout);
-  if (layout) UICollectionViewLayout::of(layout).setCollectionView(me());
+  if (layout == _layout.object()) return;
+  _layout.replace(layout, me(), [this] { layoutBecameInvalid(); });
   layoutBecameInvalid();
 }
 
@@ -128,104 +134,50 @@ void UICollectionView::setCollectionViewLayoutAnimated(bridge::UICollectionViewL
 void UICollectionView::setBackgroundView(bridge::UIView view) {
   if (view == _backgroundView.get()) return;
   _backgroundView->removeFromSuperview();
-  _backgroundView = bridge::Owned<bridge::UIView>::retain(view);
+  _backgroundView = View::retain(view);
   UIView::of(self()).insertSubview(view, 0);
   UIView::of(self()).setNeedsLayout();
 }
 
-void UICollectionView::layoutBecameInvalid() {
-  _isUnprepared = true;
-  ++_generation;
-  UIView::of(self()).setNeedsLayout();
+// What there is, and where it lies.
+
+const ItemCounts& UICollectionView::counts() {
+  if (_counting.renew([this] { _counts = source().counts(); }))
+    _selection.keepOnly([this](ItemPath path) { return _counts.has(path); });
+  return _counts;
 }
 
-// The data source may ask about the collection meanwhile: it then hears of the old counts.
-void UICollectionView::count() {
-  if (!_isUncounted || _isCounting) return;
-  _isCounting = true;
-  _isUncounted = false;
-  const auto sections = asked<NSInteger, "numberOfSectionsInCollectionView:">(_dataSource, self());
-  const NSInteger known = std::clamp(sections.value_or(_dataSource ? 1 : 0), 0L, maximalSections);
-  std::vector<NSInteger> counts;
-  for (NSInteger section = 0; section < known; ++section) {
-    const auto items =
-        asked<NSInteger, "collectionView:numberOfItemsInSection:">(_dataSource, self(), section);
-    counts.push_back(std::clamp(items.value_or(0), 0L, maximalItems));
-  }
-  _counts = std::move(counts);
-  _isCounting = false;
-  std::erase_if(_selected, [this](ItemPath path) { return !has(path); });
+CollectionLayout::Has UICollectionView::has() {
+  return [this](ItemPath path) { return counts().has(path); };
 }
 
-NSInteger UICollectionView::numberOfSections() {
-  count();
-  return static_cast<NSInteger>(_counts.size());
-}
-
-NSInteger UICollectionView::numberOfItems(NSInteger section) {
-  const bool isThere = section >= 0 && section < numberOfSections();
-  return isThere ? _counts[static_cast<std::size_t>(section)] : 0;
-}
-
-bool UICollectionView::has(ItemPath path) {
-  return path.item >= 0 && path.item < numberOfItems(path.section);
-}
-
-// A layout may invalidate itself while it prepares; that counts for the next frame.
 void UICollectionView::prepare() {
-  count();
-  if (!std::exchange(_isUnprepared, false)) return;
-  const bridge::AutoreleasePool pool;
-  bridge::send<void, "prepareLayout">(_layout);
-  const CGSize size = sane(bridge::send<CGSize, "collectionViewContentSize">(_layout));
+  counts();
+  const auto size = _layout.prepare();
   const handles::UIScrollView scroll(self());
-  if (size == scroll.contentSize()) return;
-  scroll.setContentSize(size);
+  if (!size || *size == scroll.contentSize()) return;
+  scroll.setContentSize(*size);
   const CGPoint offset = scroll.contentOffset();
   const CGPoint inside = UIScrollView::of(self()).clamped(offset);
   if (offset.x > inside.x || offset.y > inside.y) scroll.setContentOffset(inside);
 }
 
-void UICollectionView::askAboutNewBounds() {
-  const CGRect bounds = UIView::of(self()).bounds();
-  const CGRect before = std::exchange(_preparedBounds, bounds);
-  if (before == bounds) return;
-  if (before.size != bounds.size ||
-      bridge::send<bool, "shouldInvalidateLayoutForBoundsChange:">(_layout, bounds))
-    bridge::send<void, "invalidateLayout">(_layout);
-}
-
-Attributes UICollectionView::attributesForItem(bridge::NSIndexPath path) {
+UICollectionView::Attributes UICollectionView::attributesForItem(bridge::NSIndexPath path) {
   prepare();
   const auto at = itemPathOf(path);
-  if (!at || !has(*at)) return {};
-  return bridge::as<Attributes>(
-      bridge::send<bridge::Object, "layoutAttributesForItemAtIndexPath:">(_layout, path));
+  return at && counts().has(*at) ? _layout.item(path) : Attributes();
 }
 
-Attributes UICollectionView::attributesForSupplementary(bridge::NSString kind,
-                                                        bridge::NSIndexPath path) {
+UICollectionView::Attributes UICollectionView::attributesForSupplementary(
+    bridge::NSString kind, bridge::NSIndexPath path) {
   prepare();
-  return bridge::as<Attributes>(
-      bridge::send<bridge::Object, "layoutAttributesForSupplementaryViewOfKind:atIndexPath:">(
-          _layout, kind, path));
+  return _layout.supplementary(kind, path);
 }
 
-// What the layout shows in a rectangle, less what there is not. Borrowed from the current pool.
-std::map<UICollectionView::Element, Attributes> UICollectionView::attributesIn(CGRect rect) {
-  std::map<Element, Attributes> elements;
-  const auto all = bridge::as<bridge::NSArray>(
-      bridge::send<bridge::Object, "layoutAttributesForElementsInRect:">(_layout, rect));
-  const std::size_t count = std::min<std::size_t>(all.count(), maximalElementsInSight);
-  for (std::size_t index = 0; index < count; ++index) {
-    const auto attributes = bridge::as<Attributes>(all.at(index));
-    if (!attributes) continue;
-    const auto& state = UICollectionViewLayoutAttributes::of(attributes);
-    const bool isThere = state.kind().empty() ? has(state.path()) : state.path().section >= 0;
-    if (isThere && intersects(state.frame(), rect))
-      elements[{state.kind(), state.path()}] = attributes;
-  }
-  return elements;
+std::optional<ItemPath> UICollectionView::itemAt(CGPoint point) {
+  if (!std::isfinite(point.x) || !std::isfinite(point.y)) return {};
+  prepare();
+  return _layout.itemAt(point, has());
 }
 
 bridge::NSIndexPath UICollectionView::indexPathForItemAt(CGPoint point) {
@@ -233,38 +185,212 @@ bridge::NSIndexPath UICollectionView::indexPathForItemAt(CGPoint point) {
   return path ? indexPathOf(*path) : bridge::NSIndexPath();
 }
 
-std::optional<ItemPath> UICollectionView::itemAt(CGPoint point) {
-  if (!std::isfinite(point.x) || !std::isfinite(point.y)) return {};
-  prepare();
-  for (const auto& [element, attributes] : attributesIn({point, {1, 1}})) {
-    const auto& state = UICollectionViewLayoutAttributes::of(attributes);
-    if (element.kind.empty() && !state.isHidden() && bridge::contains(state.frame(), point))
-      return element.path;
-  }
-  return {};
-}
-
 void UICollectionView::scrollToItem(bridge::NSIndexPath path, NSUInteger position, bool animated) {
   const Attributes attributes = attributesForItem(path);
   if (!attributes) return;
-  const CGRect frame = attributes.frame();
+  const auto [origin, size] = attributes.frame();
   const UIScrollView& scroll = UIScrollView::of(self());
   const EdgeInsets insets = scroll.adjustedContentInset();
-  const CGSize size = UIView::of(self()).bounds().size;
-  const CGPoint first = {frame.origin.x - insets.left, frame.origin.y - insets.top};
-  const CGPoint last = {uikit::right(frame) + insets.right - size.width,
-                        uikit::bottom(frame) + insets.bottom - size.height};
-  CGPoint offset = scroll.contentOffset();
-  if (position & top) offset.y = first.y;
-  if (position & centeredVertically) offset.y = (first.y + last.y) / 2;
-  if (position & bottom) offset.y = last.y;
-  if (position & left) offset.x = first.x;
-  if (position & centeredHorizontally) offset.x = (first.x + last.x) / 2;
-  if (position & right) offset.x = last.x;
-  if (position == none)
-    offset = {std::max(std::min(offset.x, first.x), last.x),
-              std::max(std::min(offset.y, first.y), last.y)};
+  const CGRect seen = UIView::of(self()).bounds();
+  CGPoint offset = seen.origin;
+  if (const auto where = shownAt(position, left, centeredHorizontally, right))
+    offset.x = offsetShowing(origin.x, size.width,
+                             {offset.x, seen.size.width, insets.left, insets.right}, *where);
+  if (const auto where = shownAt(position, top, centeredVertically, bottom))
+    offset.y = offsetShowing(origin.y, size.height,
+                             {offset.y, seen.size.height, insets.top, insets.bottom}, *where);
   bridge::send<void, "setContentOffset:animated:">(self(), scroll.clamped(offset), animated);
+}
+
+// Views come and go.
+
+void UICollectionView::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  const bridge::AutoreleasePool pool;
+  _layout.followBounds(UIView::of(self()).bounds());
+  prepare();
+  const CGRect bounds = UIView::of(self()).bounds();
+  if (_backgroundView) _backgroundView->setFrame(bounds);
+  const Inquiry::Pass pass = _layout.pass();
+  _cells.shown().follow(
+      _layout.elementsIn(bounds, has()), pass,
+      [this](const auto& element, const View& view) { recycle(element, view); },
+      [](const View& view, Attributes attributes) { placeElement(view, attributes); },
+      [this](const auto& element, Attributes attributes) { show(element, attributes); });
+  _cells.settle(self());
+}
+
+void UICollectionView::show(const CollectionElement& element, Attributes attributes) {
+  const bridge::AutoreleasePool pool;
+  const Inquiry::Pass pass = _layout.pass();
+  const View view = source().view(element);
+  if (!view || !pass.holds()) return;
+  _cells.show(element, view);
+  stage().animator.withoutAnimation([&] {
+    placeElement(view, attributes);
+    if (element.isItem()) {
+      const handles::UICollectionViewCell cell(view.get().get());
+      cell.setSelected(_selection.contains(element.path));
+      cell.setHighlighted(_press.isOn(element.path));
+    }
+    if (UIView::of(view.get()).superview() != self())
+      insertElement(UIView::of(self()), view, UICollectionReusableView::of(view.get()).zIndex(),
+                    _backgroundView);
+  });
+  if (element.isItem()) delegate().willDisplay(view, element.path);
+}
+
+void UICollectionView::recycle(const CollectionElement& element, bridge::UIView view) {
+  const bridge::AutoreleasePool pool;
+  _cells.putAway(view);
+  if (element.isItem()) delegate().didEndDisplaying(view, element.path);
+}
+
+void UICollectionView::registerCellClass(Class aClass, bridge::NSString identifier) {
+  _cells.registerCellClass(identifier, aClass);
+}
+
+void UICollectionView::registerSupplementaryClass(Class aClass, bridge::NSString kind,
+                                                  bridge::NSString identifier) {
+  _cells.registerClass(kind, identifier, aClass);
+}
+
+bridge::UIView UICollectionView::dequeueCell(bridge::NSString identifier,
+                                             bridge::NSIndexPath path) {
+  return _cells.dequeueCell(identifier, attributesForItem(path).frame());
+}
+
+bridge::UIView UICollectionView::dequeueSupplementary(bridge::NSString kind,
+                                                      bridge::NSString identifier,
+                                                      bridge::NSIndexPath path) {
+  return _cells.dequeue(kind, identifier, attributesForSupplementary(kind, path).frame());
+}
+
+handles::UICollectionViewCell UICollectionView::cellForItem(bridge::NSIndexPath path) const {
+  const auto at = itemPathOf(path);
+  return at ? _cells.cellAt(*at) : handles::UICollectionViewCell();
+}
+
+bridge::NSIndexPath UICollectionView::indexPathForCell(bridge::UIView cell) const {
+  const auto path = _cells.pathOf(cell);
+  return path ? indexPathOf(*path) : bridge::NSIndexPath();
+}
+
+bridge::NSArray UICollectionView::visibleSupplementaryViews(bridge::NSString kind) const {
+  return kind.length() > 0 ? _cells.ofKind(kind.utf8()) : bridge::NSArray::of();
+}
+
+bridge::UIView UICollectionView::supplementaryView(bridge::NSString kind,
+                                                   bridge::NSIndexPath path) const {
+  const auto at = itemPathOf(path);
+  return at && kind.length() > 0 ? _cells.viewOf({kind.utf8(), *at}) : bridge::UIView();
+}
+
+// Changes.
+
+void UICollectionView::reloadData() {
+  _selection.forgetAll();
+  contentsChange();
+}
+
+void UICollectionView::insertItems(bridge::NSArray paths) {
+  _selection.moveForInserted(pathsOf(paths));
+  contentsChange();
+}
+
+void UICollectionView::deleteItems(bridge::NSArray paths) {
+  _selection.moveForDeleted(pathsOf(paths));
+  contentsChange();
+}
+
+void UICollectionView::reloadItems(bridge::NSArray) {
+  contentsChange();
+}
+
+void UICollectionView::sectionsChange(bridge::Object) {
+  reloadData();
+}
+
+// Counts are not asked for in the midst of updates: the next layout does it.
+void UICollectionView::performBatchUpdates(const bridge::BlockHeader* updates,
+                                           const bridge::BlockHeader* completion) {
+  const View kept = View::retain(self());
+  const auto done = bridge::Block<void(bool)>::retain(completion);
+  bridge::Block<void()>::retain(updates)();
+  contentsChange();
+  done(true);
+}
+
+void UICollectionView::contentsChange() {
+  release();
+  for (const auto& [element, view] : _cells.shown().takeAll()) recycle(element, view);
+  _counting.outdate();
+  layoutBecameInvalid();
+}
+
+void UICollectionView::layoutBecameInvalid() {
+  _layout.outdate();
+  UIView::of(self()).setNeedsLayout();
+}
+
+// Touch: a finger presses an item, and selects it when it leaves it there.
+
+void UICollectionView::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
+  release();
+  const bridge::UITouch touch = touchOf(touches);
+  if (!touch || !_selection.isAllowed()) return;
+  const auto path = itemAt(touch.locationIn(self()));
+  if (!path || !delegate().shouldHighlight(*path)) return;
+  _press.begin(*path);
+  if (const auto cell = _cells.cellAt(*path)) cell.setHighlighted(true);
+  delegate().didHighlight(*path);
+}
+
+// Ends a press without any effect.
+void UICollectionView::release() {
+  const auto pressed = _press.end();
+  if (!pressed) return;
+  if (const auto cell = _cells.cellAt(*pressed)) cell.setHighlighted(false);
+  delegate().didUnhighlight(*pressed);
+}
+
+void UICollectionView::touchesMoved(bridge::NSSet touches, bridge::UIEvent) {
+  if (_press.hasLeft([&] { return itemAt(touchOf(touches).locationIn(self())); })) release();
+}
+
+void UICollectionView::touchesEnded(bridge::NSSet touches, bridge::UIEvent) {
+  const View kept = View::retain(self());
+  const auto tapped = _press.tappedBy([&] { return itemAt(touchOf(touches).locationIn(self())); });
+  release();
+  if (tapped) _selection.tap(*tapped, delegate(), has());
+}
+
+void UICollectionView::touchesCancelled(bridge::NSSet, bridge::UIEvent) {
+  release();
+}
+
+bridge::NSArray UICollectionView::indexPathsForSelectedItems() const {
+  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+  for (const ItemPath path : selectedItems()) all->add(indexPathOf(path));
+  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+}
+
+// By code the delegate is not told. No path clears the selection.
+void UICollectionView::selectItem(bridge::NSIndexPath path, bool animated, NSUInteger position) {
+  const auto at = itemPathOf(path);
+  if (at && !(counts().has(*at) && allowsSelection())) return;
+  if (!at || !allowsMultipleSelection()) _selection.deselectAll();
+  if (!at) return;
+  _selection.set(*at, true);
+  if (position != none) scrollToItem(path, position, animated);
+}
+
+void UICollectionView::deselectItem(bridge::NSIndexPath path, bool) {
+  if (const auto at = itemPathOf(path)) _selection.set(*at, false);
+}
+
+void UICollectionView::showSelected(ItemPath path, bool isSelected) const {
+  if (const auto cell = _cells.cellAt(path)) cell.setSelected(isSelected);
 }
 
 }  // namespace desktop::uikit

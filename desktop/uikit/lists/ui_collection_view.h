@@ -5,32 +5,21 @@
 // into sight, both by message.
 #pragma once
 
-#include <map>
-#include <set>
-
 #include "bridge/block.h"
 #include "bridge/bound.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/lists/index_path.h"
-#include "desktop/uikit/lists/reuse_pool.h"
+#include "desktop/uikit/lists/collection/collection_cells.h"
+#include "desktop/uikit/lists/collection/collection_data_source.h"
+#include "desktop/uikit/lists/collection/collection_delegate.h"
+#include "desktop/uikit/lists/collection/collection_layout.h"
+#include "desktop/uikit/lists/item_press.h"
+#include "desktop/uikit/lists/item_selection.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 namespace desktop::uikit {
 
 class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrollView> {
  public:
-  // What is shown: an item, or a supplementary view of a kind.
-  struct Element {
-    std::string kind;  // empty: an item
-    ItemPath path;
-    bool operator==(const Element&) const = default;
-    std::strong_ordering operator<=>(const Element& other) const {
-      const auto byKind = kind <=> other.kind;
-      return std::is_neq(byKind) ? byKind : path <=> other.path;
-    }
-  };
-  using Views = std::map<Element, bridge::Owned<bridge::UIView>>;
-
   enum ScrollPosition : NSUInteger {
     none = 0,
     top = 1,
@@ -42,121 +31,96 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   };
 
   using Bound::Bound;
-  ~UICollectionView();
   static Class classObject();
 
-  NSInteger numberOfSections();
-  NSInteger numberOfItems(NSInteger section);
+  NSInteger numberOfSections() { return counts().sections(); }
+  NSInteger numberOfItems(NSInteger section) { return counts().items(section); }
   // Counts and layout are asked for anew and all cells go back before the next layout; nothing is
   // selected.
   void reloadData();
-  // What the layout said no longer holds.
-  void layoutBecameInvalid();
 
   // Nil where there is none.
   handles::UICollectionViewCell cellForItem(bridge::NSIndexPath path) const;
   bridge::NSIndexPath indexPathForItemAt(CGPoint point);
   bridge::NSIndexPath indexPathForCell(bridge::UIView cell) const;
-  const std::set<ItemPath>& selectedItems() const { return _selected; }
+  const std::set<ItemPath>& selectedItems() const { return _selection.paths(); }
   // In sight, items before supplementary views.
-  const Views& views() const { return _views; }
+  const CollectionCells::Shown::Views& views() const { return _cells.shown().all(); }
 
  private:
+  using Attributes = handles::UICollectionViewLayoutAttributes;
   bridge::UICollectionView me() const { return bridge::UICollectionView(self().get()); }
 
-  // Making, and what of it is asked and set.
+  // What is bound of making it, and of what is set.
   bridge::UIView initWithFrame(CGRect frame);
   bridge::UIView initWithFrameAndLayout(CGRect frame, bridge::UICollectionViewLayout layout);
   bridge::NSObject dataSource() const { return _dataSource; }
   void setDataSource(bridge::NSObject source);
-  bridge::NSObject delegate() const { return UIScrollView::of(self()).delegate(); }
-  bridge::UICollectionViewLayout collectionViewLayout() const { return _layout; }
+  bridge::UICollectionViewLayout collectionViewLayout() const { return _layout.object(); }
   void setCollectionViewLayout(bridge::UICollectionViewLayout layout);
   void setCollectionViewLayoutAnimated(bridge::UICollectionViewLayout layout, bool animated);
-  bool allowsSelection() const { return _allowsSelection; }
-  void setAllowsSelection(bool allows);
-  bool allowsMultipleSelection() const { return _allowsMultipleSelection; }
-  void setAllowsMultipleSelection(bool allows);
+  bool allowsSelection() const { return _selection.isAllowed(); }
+  void setAllowsSelection(bool allows) { _selection.allow(allows); }
+  bool allowsMultipleSelection() const { return _selection.isMultipleAllowed(); }
+  void setAllowsMultipleSelection(bool allows) { _selection.allowMultiple(allows); }
   bridge::UIView backgroundView() const { return _backgroundView; }
   void setBackgroundView(bridge::UIView view);
 
-  // Counts and layout.
-  bool has(ItemPath path);
-  void count();
-  void prepare();
-  void askAboutNewBounds();
-  handles::UICollectionViewLayoutAttributes attributesForItem(bridge::NSIndexPath path);
-  handles::UICollectionViewLayoutAttributes attributesForSupplementary(bridge::NSString kind,
-                                                                       bridge::NSIndexPath path);
-  std::map<Element, handles::UICollectionViewLayoutAttributes> attributesIn(CGRect rect);
-  std::optional<ItemPath> itemAt(CGPoint point);
+  // Of what there is, and where.
+  Attributes attributesForItem(bridge::NSIndexPath path);
+  Attributes attributesForSupplementary(bridge::NSString kind, bridge::NSIndexPath path);
   void scrollToItem(bridge::NSIndexPath path, NSUInteger position, bool animated);
-
-  // Views come and go.
   void layoutSubviews();
-  void placeViews();
-  static void place(bridge::UIView view, handles::UICollectionViewLayoutAttributes attributes);
-  void show(const Element& element, handles::UICollectionViewLayoutAttributes attributes);
-  void showState(ItemPath path, bridge::UIView cell) const;
-  bridge::Owned<bridge::UIView> viewFromSource(const Element& element);
-  void recycle(const Element& element, bridge::UIView view);
-  void recycleAll();
-  void insert(bridge::UIView view, NSInteger zIndex);
+  bridge::NSArray visibleCells() const { return _cells.ofKind({}); }
+  bridge::NSArray visibleItems() const { return _cells.indexPaths(); }
+  bridge::UIView supplementaryView(bridge::NSString kind, bridge::NSIndexPath path) const;
+  bridge::NSArray visibleSupplementaryViews(bridge::NSString kind) const;
   void registerCellClass(Class aClass, bridge::NSString identifier);
   void registerSupplementaryClass(Class aClass, bridge::NSString kind, bridge::NSString identifier);
   bridge::UIView dequeueCell(bridge::NSString identifier, bridge::NSIndexPath path);
   bridge::UIView dequeueSupplementary(bridge::NSString kind, bridge::NSString identifier,
                                       bridge::NSIndexPath path);
-  bridge::UIView dequeue(const std::string& key, bridge::NSString identifier, Class fallback,
-                         CGRect frame);
-  bridge::NSArray visibleCells() const;
-  bridge::NSArray visibleItems() const;
-  bridge::NSArray visibleViews(const std::string& kind) const;
-  bridge::UIView supplementaryView(bridge::NSString kind, bridge::NSIndexPath path) const;
-  bridge::NSArray visibleSupplementaryViews(bridge::NSString kind) const;
 
-  // Changes.
+  // Of changes. They are shown at once, without animation.
   void insertItems(bridge::NSArray paths);
   void deleteItems(bridge::NSArray paths);
   void reloadItems(bridge::NSArray paths);
   void sectionsChange(bridge::Object sections);
   void performBatchUpdates(const bridge::BlockHeader* updates,
                            const bridge::BlockHeader* completion);
-  void contentsChange();
 
-  // Touch and selection.
+  // Of touch and selection.
   void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
   void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
   void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
   void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
-  void release();
-  void tap(ItemPath path);
-  void select(ItemPath path);
-  void deselect(ItemPath path);
-  void deselectAll();
-  handles::UICollectionViewCell cellAt(ItemPath path) const;
   bridge::NSArray indexPathsForSelectedItems() const;
   void selectItem(bridge::NSIndexPath path, bool animated, NSUInteger position);
   void deselectItem(bridge::NSIndexPath path, bool animated);
-  void setSelected(ItemPath path, bool isSelected);
+
+  // How the parts work together.
+  CollectionDataSource source() const { return {_dataSource, self()}; }
+  CollectionDelegate delegate() const { return {UIScrollView::of(self()).delegate(), self()}; }
+  const ItemCounts& counts();
+  CollectionLayout::Has has();
+  void prepare();
+  std::optional<ItemPath> itemAt(CGPoint point);
+  void show(const CollectionElement& element, Attributes attributes);
+  void recycle(const CollectionElement& element, bridge::UIView view);
+  void contentsChange();
+  void layoutBecameInvalid();
+  void release();
+  void showSelected(ItemPath path, bool isSelected) const;
 
   bridge::NSObject _dataSource;  // borrowed
-  bridge::Owned<bridge::UICollectionViewLayout> _layout;
   bridge::Owned<bridge::UIView> _backgroundView;
-  bool _allowsSelection = true;
-  bool _allowsMultipleSelection = false;
-
-  std::vector<NSInteger> _counts;  // of items, a section each
-  bool _isUncounted = true;
-  bool _isCounting = false;
-  bool _isUnprepared = true;
-  unsigned long _generation = 0;  // of counts and layout: what is asked meanwhile may change both
-  CGRect _preparedBounds;
-  Views _views;
-  ReusePool _pool;
-
-  std::set<ItemPath> _selected;
-  std::optional<ItemPath> _pressed;
+  ItemCounts _counts;
+  Inquiry _counting;
+  CollectionLayout _layout;
+  CollectionCells _cells;
+  ItemPress _press;
+  ItemSelection _selection{
+      [this](ItemPath path, bool isSelected) { showSelected(path, isSelected); }};
 };
 
 }  // namespace desktop::uikit

@@ -2,7 +2,6 @@
 #include "desktop/uikit/lists/ui_collection_view_layout.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/lists/ui_collection_view.h"
 
 namespace desktop::uikit {
 
@@ -24,8 +23,14 @@ Class UICollectionViewLayout::classObject() {
   return made;
 }
 
+void UICollectionViewLayout::belongTo(bridge::UICollectionView view,
+                                      std::function<void()> becameInvalid) {
+  _collectionView = view;
+  _becameInvalid = std::move(becameInvalid);
+}
+
 void UICollectionViewLayout::invalidateLayout() {
-  if (_collectionView) UICollectionView::of(_collectionView).layoutBecameInvalid();
+  if (_becameInvalid) _becameInvalid();
 }
 
 }  // namespace desktop::uikit

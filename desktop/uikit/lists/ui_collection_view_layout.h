@@ -6,6 +6,8 @@
 // lies needs no memory for items.
 #pragma once
 
+#include <functional>
+
 #include "bridge/bound.h"
 #include "bridge/uikit/ui_lists.h"
 
@@ -16,9 +18,11 @@ class UICollectionViewLayout : public bridge::Bound<UICollectionViewLayout, brid
   using Bound::Bound;
   static Class classObject();
 
-  // Whose layout it is, or nil; set by the collection view, borrowed.
+  // Whose layout it is, or nil; borrowed.
   bridge::UICollectionView collectionView() const { return _collectionView; }
-  void setCollectionView(bridge::UICollectionView view) { _collectionView = view; }
+  // Takes it away from the view that it belonged to. This one, which may be nil, hears when what
+  // the layout said no longer holds.
+  void belongTo(bridge::UICollectionView view, std::function<void()> becameInvalid);
 
  private:
   void prepareLayout() {}
@@ -33,6 +37,7 @@ class UICollectionViewLayout : public bridge::Bound<UICollectionViewLayout, brid
   void invalidateLayout();
 
   bridge::UICollectionView _collectionView;  // borrowed
+  std::function<void()> _becameInvalid;
 };
 
 }  // namespace desktop::uikit

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+//
+// What a collection asks its data source, which need not answer.
+#pragma once
+
+#include "bridge/uikit/ui_lists.h"
+#include "desktop/uikit/lists/collection/collection_element.h"
+#include "desktop/uikit/lists/collection/item_counts.h"
+
+namespace desktop::uikit {
+
+class CollectionDataSource {
+ public:
+  // Both are borrowed; the source may be nil.
+  CollectionDataSource(bridge::NSObject source, bridge::UIView collection)
+      : _source(source), _collection(collection) {}
+
+  ItemCounts counts() const;
+  // An empty cell for an item for which the source has none; of another element it may be nil.
+  bridge::Owned<bridge::UIView> view(const CollectionElement& element) const;
+
+ private:
+  bridge::Owned<bridge::UIView> cell(ItemPath path) const;
+
+  bridge::NSObject _source;
+  bridge::UIView _collection;
+};
+
+}  // namespace desktop::uikit

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+//
+// What a collection asks and tells its delegate, which need not answer.
+#pragma once
+
+#include "bridge/uikit/ui_lists.h"
+#include "desktop/uikit/lists/index_path.h"
+
+namespace desktop::uikit {
+
+class CollectionDelegate {
+ public:
+  // Both are borrowed; the delegate may be nil.
+  CollectionDelegate(bridge::NSObject delegate, bridge::UIView collection)
+      : _delegate(delegate), _collection(collection) {}
+
+  void willDisplay(bridge::UIView cell, ItemPath path) const;
+  void didEndDisplaying(bridge::UIView cell, ItemPath path) const;
+
+  // Allowed where it does not say.
+  bool shouldHighlight(ItemPath path) const;
+  bool shouldSelect(ItemPath path) const;
+  bool shouldDeselect(ItemPath path) const;
+  void didHighlight(ItemPath path) const;
+  void didUnhighlight(ItemPath path) const;
+  void didSelect(ItemPath path) const;
+  void didDeselect(ItemPath path) const;
+
+ private:
+  bridge::NSObject _delegate;
+  bridge::UIView _collection;
+};
+
+}  // namespace desktop::uikit
