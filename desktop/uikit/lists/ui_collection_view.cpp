@@ -114,8 +114,8 @@ bridge::UIView UICollectionView::initWithFrameAndLayout(CGRect frame,
 }
 
 void UICollectionView::setDataSource(bridge::NSObject source) {
-  if (source == _dataSource) return;
-  _dataSource = source;
+  if (source == dataSource()) return;
+  _dataSource.setObject(source);
   reloadData();
 }
 
@@ -142,7 +142,7 @@ void UICollectionView::setBackgroundView(bridge::UIView view) {
 // What there is, and where it lies.
 
 const ItemCounts& UICollectionView::counts() {
-  if (_counting.renew([this] { _counts = source().counts(); }))
+  if (_counting.renew([this] { _counts = _dataSource.counts(); }))
     _selection.keepOnly([this](ItemPath path) { return _counts.has(path); });
   return _counts;
 }
@@ -223,7 +223,7 @@ void UICollectionView::layoutSubviews() {
 void UICollectionView::show(const CollectionElement& element, Attributes attributes) {
   const bridge::AutoreleasePool pool;
   const Inquiry::Pass pass = _layout.pass();
-  const View view = source().view(element);
+  const View view = _dataSource.view(element);
   if (!view || !pass.holds()) return;
   _cells.show(element, view);
   stage().animator.withoutAnimation([&] {
@@ -237,13 +237,13 @@ void UICollectionView::show(const CollectionElement& element, Attributes attribu
       insertElement(UIView::of(self()), view, UICollectionReusableView::of(view.get()).zIndex(),
                     _backgroundView);
   });
-  if (element.isItem()) delegate().willDisplay(view, element.path);
+  if (element.isItem()) _delegate.willDisplay(view, element.path);
 }
 
 void UICollectionView::recycle(const CollectionElement& element, bridge::UIView view) {
   const bridge::AutoreleasePool pool;
   _cells.putAway(view);
-  if (element.isItem()) delegate().didEndDisplaying(view, element.path);
+  if (element.isItem()) _delegate.didEndDisplaying(view, element.path);
 }
 
 void UICollectionView::registerCellClass(Class aClass, bridge::NSString identifier) {
@@ -340,10 +340,10 @@ void UICollectionView::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
   const bridge::UITouch touch = touchOf(touches);
   if (!touch || !_selection.isAllowed()) return;
   const auto path = itemAt(touch.locationIn(self()));
-  if (!path || !delegate().shouldHighlight(*path)) return;
+  if (!path || !_delegate.shouldHighlight(*path)) return;
   _press.begin(*path);
   if (const auto cell = _cells.cellAt(*path)) cell.setHighlighted(true);
-  delegate().didHighlight(*path);
+  _delegate.didHighlight(*path);
 }
 
 // Ends a press without any effect.
@@ -351,7 +351,7 @@ void UICollectionView::release() {
   const auto pressed = _press.end();
   if (!pressed) return;
   if (const auto cell = _cells.cellAt(*pressed)) cell.setHighlighted(false);
-  delegate().didUnhighlight(*pressed);
+  _delegate.didUnhighlight(*pressed);
 }
 
 void UICollectionView::touchesMoved(bridge::NSSet touches, bridge::UIEvent) {
@@ -362,7 +362,7 @@ void UICollectionView::touchesEnded(bridge::NSSet touches, bridge::UIEvent) {
   const View kept = View::retain(self());
   const auto tapped = _press.tappedBy([&] { return itemAt(touchOf(touches).locationIn(self())); });
   release();
-  if (tapped) _selection.tap(*tapped, delegate(), has());
+  if (tapped) _selection.tap(*tapped, _delegate, has());
 }
 
 void UICollectionView::touchesCancelled(bridge::NSSet, bridge::UIEvent) {

@@ -54,7 +54,7 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   // What is bound of making it, and of what is set.
   bridge::UIView initWithFrame(CGRect frame);
   bridge::UIView initWithFrameAndLayout(CGRect frame, bridge::UICollectionViewLayout layout);
-  bridge::NSObject dataSource() const { return _dataSource; }
+  bridge::NSObject dataSource() const { return _dataSource.object(); }
   void setDataSource(bridge::NSObject source);
   bridge::UICollectionViewLayout collectionViewLayout() const { return _layout.object(); }
   void setCollectionViewLayout(bridge::UICollectionViewLayout layout);
@@ -99,8 +99,6 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   void deselectItem(bridge::NSIndexPath path, bool animated);
 
   // How the parts work together.
-  CollectionDataSource source() const { return {_dataSource, self()}; }
-  CollectionDelegate delegate() const { return {UIScrollView::of(self()).delegate(), self()}; }
   const ItemCounts& counts();
   CollectionLayout::Has has();
   void prepare();
@@ -112,7 +110,8 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   void release();
   void showSelected(ItemPath path, bool isSelected) const;
 
-  bridge::NSObject _dataSource;  // borrowed
+  CollectionDataSource _dataSource{self()};
+  CollectionDelegate _delegate{self()};
   bridge::Owned<bridge::UIView> _backgroundView;
   ItemCounts _counts;
   Inquiry _counting;

@@ -11,9 +11,11 @@ namespace desktop::uikit {
 
 class CollectionDataSource {
  public:
-  // Both are borrowed; the source may be nil.
-  CollectionDataSource(bridge::NSObject source, bridge::UIView collection)
-      : _source(source), _collection(collection) {}
+  // Borrowed, as the source is.
+  explicit CollectionDataSource(bridge::UIView collection) : _collection(collection) {}
+
+  bridge::NSObject object() const { return _source; }
+  void setObject(bridge::NSObject source) { _source = source; }
 
   ItemCounts counts() const;
   // An empty cell for an item for which the source has none; of another element it may be nil.
@@ -22,8 +24,8 @@ class CollectionDataSource {
  private:
   bridge::Owned<bridge::UIView> cell(ItemPath path) const;
 
-  bridge::NSObject _source;
   bridge::UIView _collection;
+  bridge::NSObject _source;
 };
 
 }  // namespace desktop::uikit

@@ -2,51 +2,56 @@
 #include "desktop/uikit/lists/collection/collection_delegate.h"
 
 #include "desktop/uikit/base/optional_message.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 namespace desktop::uikit {
 
+bridge::NSObject CollectionDelegate::delegate() const {
+  return UIScrollView::of(_collection).delegate();
+}
+
 void CollectionDelegate::willDisplay(bridge::UIView cell, ItemPath path) const {
-  told<"collectionView:willDisplayCell:forItemAtIndexPath:">(_delegate, _collection, cell,
+  told<"collectionView:willDisplayCell:forItemAtIndexPath:">(delegate(), _collection, cell,
                                                              indexPathOf(path));
 }
 
 void CollectionDelegate::didEndDisplaying(bridge::UIView cell, ItemPath path) const {
-  told<"collectionView:didEndDisplayingCell:forItemAtIndexPath:">(_delegate, _collection, cell,
+  told<"collectionView:didEndDisplayingCell:forItemAtIndexPath:">(delegate(), _collection, cell,
                                                                   indexPathOf(path));
 }
 
 bool CollectionDelegate::shouldHighlight(ItemPath path) const {
-  return asked<bool, "collectionView:shouldHighlightItemAtIndexPath:">(_delegate, _collection,
+  return asked<bool, "collectionView:shouldHighlightItemAtIndexPath:">(delegate(), _collection,
                                                                        indexPathOf(path))
       .value_or(true);
 }
 
 bool CollectionDelegate::shouldSelect(ItemPath path) const {
-  return asked<bool, "collectionView:shouldSelectItemAtIndexPath:">(_delegate, _collection,
+  return asked<bool, "collectionView:shouldSelectItemAtIndexPath:">(delegate(), _collection,
                                                                     indexPathOf(path))
       .value_or(true);
 }
 
 bool CollectionDelegate::shouldDeselect(ItemPath path) const {
-  return asked<bool, "collectionView:shouldDeselectItemAtIndexPath:">(_delegate, _collection,
+  return asked<bool, "collectionView:shouldDeselectItemAtIndexPath:">(delegate(), _collection,
                                                                       indexPathOf(path))
       .value_or(true);
 }
 
 void CollectionDelegate::didHighlight(ItemPath path) const {
-  told<"collectionView:didHighlightItemAtIndexPath:">(_delegate, _collection, indexPathOf(path));
+  told<"collectionView:didHighlightItemAtIndexPath:">(delegate(), _collection, indexPathOf(path));
 }
 
 void CollectionDelegate::didUnhighlight(ItemPath path) const {
-  told<"collectionView:didUnhighlightItemAtIndexPath:">(_delegate, _collection, indexPathOf(path));
+  told<"collectionView:didUnhighlightItemAtIndexPath:">(delegate(), _collection, indexPathOf(path));
 }
 
 void CollectionDelegate::didSelect(ItemPath path) const {
-  told<"collectionView:didSelectItemAtIndexPath:">(_delegate, _collection, indexPathOf(path));
+  told<"collectionView:didSelectItemAtIndexPath:">(delegate(), _collection, indexPathOf(path));
 }
 
 void CollectionDelegate::didDeselect(ItemPath path) const {
-  told<"collectionView:didDeselectItemAtIndexPath:">(_delegate, _collection, indexPathOf(path));
+  told<"collectionView:didDeselectItemAtIndexPath:">(delegate(), _collection, indexPathOf(path));
 }
 
 }  // namespace desktop::uikit

@@ -10,9 +10,8 @@ namespace desktop::uikit {
 
 class CollectionDelegate {
  public:
-  // Both are borrowed; the delegate may be nil.
-  CollectionDelegate(bridge::NSObject delegate, bridge::UIView collection)
-      : _delegate(delegate), _collection(collection) {}
+  // Borrowed. The delegate is that of the scroll view that a collection is.
+  explicit CollectionDelegate(bridge::UIView collection) : _collection(collection) {}
 
   void willDisplay(bridge::UIView cell, ItemPath path) const;
   void didEndDisplaying(bridge::UIView cell, ItemPath path) const;
@@ -27,7 +26,8 @@ class CollectionDelegate {
   void didDeselect(ItemPath path) const;
 
  private:
-  bridge::NSObject _delegate;
+  bridge::NSObject delegate() const;
+
   bridge::UIView _collection;
 };
 
