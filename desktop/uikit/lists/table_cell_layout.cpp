@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/uikit/lists/ui_table_view_cell.h"
-
 namespace desktop::uikit {
 namespace {
 
@@ -59,11 +57,11 @@ CellFrames layOutCell(const CellParts& parts) {
   const CGFloat left = cellTextInset(parts.image);
   const CGFloat right = std::max(parts.content.width - parts.rightMargin, left);
   const bool hasDetail = parts.detail.width > 0;
-  if (parts.style == UITableViewCell::value1) {
+  if (parts.style == CellParts::value1) {
     sideBySide(parts, left, right, frames);
-  } else if (parts.style == UITableViewCell::value2) {
+  } else if (parts.style == CellParts::value2) {
     inColumns(parts, left, right, frames);
-  } else if (parts.style == UITableViewCell::subtitle && hasDetail) {
+  } else if (parts.style == CellParts::subtitle && hasDetail) {
     aboveEachOther(parts, left, right, frames);
   } else {
     frames.text = centered(left, right - left, parts.text, parts.content.height);

@@ -9,8 +9,10 @@ namespace desktop::uikit {
 
 // What there is to place, in points. An empty size stands for something that is not there.
 struct CellParts {
-  NSInteger style = 0;  // UITableViewCell::Style
-  CGSize content;       // of the content view
+  // The platform's: one label; a second at the right edge; in two columns; above each other.
+  enum Style : NSInteger { plain = 0, value1 = 1, value2 = 2, subtitle = 3 };
+  NSInteger style = plain;
+  CGSize content;  // of the content view
   CGFloat rightMargin = 16;
   CGSize image;
   CGSize text;  // as much room as the labels would like

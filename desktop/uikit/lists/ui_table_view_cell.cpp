@@ -10,7 +10,6 @@
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/handles.h"
-#include "desktop/uikit/lists/table_cell_layout.h"
 #include "desktop/uikit/text/ui_font.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -96,6 +95,15 @@ Class UITableViewCell::classObject() {
           .method<"drawContentOn:", &UITableViewCell::drawContent>()
           .build();
   return made;
+}
+
+bridge::Owned<bridge::UITableViewCell> UITableViewCell::make(Class aClass,
+                                                             bridge::NSString identifier) {
+  const auto made = bridge::Owned<bridge::Object>::adopt(
+      bridge::send<bridge::Object, "initWithStyle:reuseIdentifier:">(
+          bridge::send<id, "alloc">(aClass), NSInteger{plain}, identifier));
+  return bridge::Owned<bridge::UITableViewCell>::retain(
+      bridge::as<bridge::UITableViewCell>(made.get()));
 }
 
 bridge::UIView UITableViewCell::initWithFrame(CGRect frame) {

@@ -8,23 +8,17 @@
 #include "bridge/uikit/ui_lists.h"
 #include "desktop/uikit/graphics/color.h"
 #include "desktop/uikit/handles.h"
+#include "desktop/uikit/lists/table/row_separators.h"
+#include "desktop/uikit/lists/table_cell_layout.h"
 
 namespace desktop::uikit {
 
 class Canvas;
 
-// The hairlines of a row: which edges have one, and how far the lower one stays from the left.
-struct RowSeparators {
-  bool above = false;
-  bool below = false;
-  CGFloat insetBelow = 0;  // points
-  Color color = colors::separator;
-  bool operator==(const RowSeparators&) const = default;
-};
-
 class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
  public:
-  enum Style : NSInteger { plain = 0, value1 = 1, value2 = 2, subtitle = 3 };
+  using Style = CellParts::Style;
+  using enum CellParts::Style;
   enum Accessory : NSInteger {
     noAccessory = 0,
     disclosureIndicator = 1,
@@ -36,6 +30,9 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
 
   using Bound::Bound;
   static Class classObject();
+
+  // A new one of a class below this.
+  static bridge::Owned<bridge::UITableViewCell> make(Class aClass, bridge::NSString identifier);
 
   NSInteger style() const { return _style; }
   // Nil where the cell is never used again.

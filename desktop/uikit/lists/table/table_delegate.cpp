@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/uikit/lists/table/table_delegate.h"
+
+#include "desktop/uikit/base/optional_message.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
+
+namespace desktop::uikit {
+
+bridge::NSObject TableDelegate::delegate() const {
+  return UIScrollView::of(_table).delegate();
+}
+
+bool TableDelegate::hasRowHeights() const {
+  return bridge::respondsTo<"tableView:heightForRowAtIndexPath:">(delegate());
+}
+
+CGFloat TableDelegate::rowHeight(ItemPath path) const {
+  return bridge::send<CGFloat, "tableView:heightForRowAtIndexPath:">(delegate(), _table,
+                                                                     indexPathOf(path));
+}
+
+std::optional<CGFloat> TableDelegate::titleHeight(TitlePlace place) const {
+  return place.isHeader() ? asked<CGFloat, "tableView:heightForHeaderInSection:">(
+                                delegate(), _table, place.section)
+                          : asked<CGFloat, "tableView:heightForFooterInSection:">(
+                                delegate(), _table, place.section);
+}
+
+bridge::UIView TableDelegate::titleView(TitlePlace place) const {
+  const auto view = place.isHeader() ? asked<bridge::Object, "tableView:viewForHeaderInSection:">(
+                                           delegate(), _table, place.section)
+                                     : asked<bridge::Object, "tableView:viewForFooterInSection:">(
+                                           delegate(), _table, place.section);
+  return bridge::as<bridge::UIView>(view.value_or(bridge::Object()));
+}
+
+void TableDelegate::willDisplay(bridge::UITableViewCell cell, ItemPath path) const {
+  told<"tableView:willDisplayCell:forRowAtIndexPath:">(delegate(), _table, cell, indexPathOf(path));
+}
+
+void TableDelegate::didEndDisplaying(bridge::UITableViewCell cell, ItemPath path) const {
+  told<"tableView:didEndDisplayingCell:forRowAtIndexPath:">(delegate(), _table, cell,
+                                                            indexPathOf(path));
+}
+
+bool TableDelegate::shouldHighlight(ItemPath path) const {
+  return asked<bool, "tableView:shouldHighlightRowAtIndexPath:">(delegate(), _table,
+                                                                 indexPathOf(path))
+      .value_or(true);
+}
+
+std::optional<ItemPath> TableDelegate::willSelect(ItemPath path) const {
+  const auto instead = asked<bridge::Object, "tableView:willSelectRowAtIndexPath:">(
+      delegate(), _table, indexPathOf(path));
+  return instead ? itemPathOf(*instead) : path;
+}
+
+void TableDelegate::didSelect(ItemPath path) const {
+  told<"tableView:didSelectRowAtIndexPath:">(delegate(), _table, indexPathOf(path));
+}
+
+void TableDelegate::didDeselect(ItemPath path) const {
+  told<"tableView:didDeselectRowAtIndexPath:">(delegate(), _table, indexPathOf(path));
+}
+
+bool TableDelegate::shouldShowMenu(ItemPath path) const {
+  return asked<bool, "tableView:shouldShowMenuForRowAtIndexPath:">(delegate(), _table,
+                                                                   indexPathOf(path))
+      .value_or(false);
+}
+
+bool TableDelegate::canPerform(SEL action, ItemPath path) const {
+  return asked<bool, "tableView:canPerformAction:forRowAtIndexPath:withSender:">(
+             delegate(), _table, action, indexPathOf(path),
+             UIMenuController::sharedMenuController())
+      .value_or(false);
+}
+
+void TableDelegate::perform(SEL action, ItemPath path) const {
+  told<"tableView:performAction:forRowAtIndexPath:withSender:">(
+      delegate(), _table, action, indexPathOf(path), UIMenuController::sharedMenuController());
+}
+
+}  // namespace desktop::uikit
