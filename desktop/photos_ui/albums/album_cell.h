@@ -5,7 +5,7 @@
 
 #include "bridge/bound.h"
 #include "desktop/library/albums.h"
-#include "desktop/photos_ui/grid/pu_photo_view.h"
+#include "desktop/photos_ui/cells/pu_photo_view.h"
 
 namespace desktop::photos_ui {
 

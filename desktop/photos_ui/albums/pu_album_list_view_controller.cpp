@@ -4,9 +4,9 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/albums/album_cell.h"
 #include "desktop/photos_ui/albums/problem_list.h"
+#include "desktop/photos_ui/albums/pu_photos_album_view_controller.h"
 #include "desktop/photos_ui/base/large_title.h"
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/grid/pu_photos_album_view_controller.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/views/ui_view.h"
 

@@ -3,8 +3,8 @@
 // What a grid shows of its items, and what a tap on one does.
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/grid/grid_titles.h"
-#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 

@@ -7,8 +7,8 @@
 #include <algorithm>
 
 #include "desktop/photos_ui/albums/pu_album_list_view_controller.h"
+#include "desktop/photos_ui/albums/pu_photos_album_view_controller.h"
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/grid/pu_photos_album_view_controller.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
 #include "desktop/photos_ui/one_up/one_up.h"

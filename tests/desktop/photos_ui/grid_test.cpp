@@ -5,9 +5,9 @@
 
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/cells/video_badge.h"
 #include "desktop/photos_ui/grid/selection_title.h"
-#include "desktop/photos_ui/grid/video_badge.h"
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/screen.h"

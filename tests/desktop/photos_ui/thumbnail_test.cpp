@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/pictures/serve_decoder.h"
 #include "desktop/uikit/graphics/ui_image.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/pu_cloud_shared_album_view_controller.h"
+#include "desktop/photos_ui/albums/pu_cloud_shared_album_view_controller.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "model/utf8.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/cell_marks.h"
+#include "desktop/photos_ui/cells/cell_marks.h"
 
 #include <algorithm>
 

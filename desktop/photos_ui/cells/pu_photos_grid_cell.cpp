@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/photos_ui/grid/cell_marks.h"
+#include "desktop/photos_ui/cells/cell_marks.h"
 #include "desktop/uikit/lists/ui_collection_view_cell.h"
 #include "desktop/uikit/views/ui_view.h"
 

@@ -8,7 +8,7 @@
 #include "bridge/bound.h"
 #include "bridge/photos.h"
 #include "desktop/library/library_item.h"
-#include "desktop/photos_ui/grid/picture_ticket.h"
+#include "desktop/photos_ui/cells/picture_ticket.h"
 #include "desktop/uikit/handles.h"
 
 namespace desktop::photos_ui {

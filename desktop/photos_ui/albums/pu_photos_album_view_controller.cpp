@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/pu_photos_album_view_controller.h"
+#include "desktop/photos_ui/albums/pu_photos_album_view_controller.h"
 
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/photos_ui/albums/pu_cloud_shared_album_view_controller.h"
+#include "desktop/photos_ui/albums/pu_photos_panorama_view_controller.h"
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/grid/pu_cloud_shared_album_view_controller.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
-#include "desktop/photos_ui/grid/pu_photos_panorama_view_controller.h"
 #include "desktop/photos_ui/grid/selection_title.h"
 
 namespace desktop::photos_ui {

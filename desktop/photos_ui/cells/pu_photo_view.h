@@ -5,7 +5,7 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
-#include "desktop/photos_ui/grid/pu_photo_view_content_helper.h"
+#include "desktop/photos_ui/cells/pu_photo_view_content_helper.h"
 
 namespace desktop::uikit {
 class Canvas;

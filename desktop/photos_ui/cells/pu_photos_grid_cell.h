@@ -4,7 +4,7 @@
 #pragma once
 
 #include "bridge/bound.h"
-#include "desktop/photos_ui/grid/pu_photo_view.h"
+#include "desktop/photos_ui/cells/pu_photo_view.h"
 #include "desktop/uikit/handles.h"
 
 namespace desktop::photos_ui {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/pu_photo_view.h"
+#include "desktop/photos_ui/cells/pu_photo_view.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/picture_ticket.h"
+#include "desktop/photos_ui/cells/picture_ticket.h"
 
 #include "desktop/photos_ui/base/photos_host.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/pu_photos_panorama_view_controller.h"
+#include "desktop/photos_ui/albums/pu_photos_panorama_view_controller.h"
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"

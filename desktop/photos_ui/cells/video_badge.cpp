@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/video_badge.h"
+#include "desktop/photos_ui/cells/video_badge.h"
 
 #include <cmath>
 

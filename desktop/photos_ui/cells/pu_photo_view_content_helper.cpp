@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/pu_photo_view_content_helper.h"
+#include "desktop/photos_ui/cells/pu_photo_view_content_helper.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/grid/text_banner.h"
-#include "desktop/photos_ui/grid/video_badge.h"
+#include "desktop/photos_ui/cells/text_banner.h"
+#include "desktop/photos_ui/cells/video_badge.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/views/ui_image_view.h"

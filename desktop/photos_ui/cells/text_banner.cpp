@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/grid/text_banner.h"
+#include "desktop/photos_ui/cells/text_banner.h"
 
 #include <algorithm>
 #include <cctype>
