@@ -5,7 +5,7 @@
 
 #include "bridge/uikit.h"
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
 #include "desktop/uikit/base/screen.h"

@@ -10,8 +10,10 @@
 #include "desktop/faces/foundation/foundation_runtime.h"
 #include "desktop/faces/movie/avfoundation_runtime.h"
 #include "desktop/loader/extension_loader.h"
+#include "desktop/photos_ui/base/library_observer.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/photos_ui/photos_ui.h"
 #include "desktop/runtime/darwin_notifications.h"
 #include "desktop/runtime/debug_log.h"
 #include "desktop/script/script_runner.h"
@@ -90,7 +92,7 @@ void PhotoApplication::openLibrary() {
   if (library) {
     _library = *std::move(library);
     _library->onChange(
-        [](const library::LibraryChange& change) { photos_ui::libraryChanged(change); });
+        [](const library::LibraryChange& change) { photos_ui::tellLibraryObservers(change); });
   } else {
     photos_ui::host().libraryProblem = folder + ": " + library.error().reason;
     complain(photos_ui::host().libraryProblem);

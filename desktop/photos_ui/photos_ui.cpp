@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/photos_ui.h"
+
 #include "desktop/faces/photos/photos_runtime.h"
 #include "desktop/photos_ui/albums/album_cell.h"
 #include "desktop/photos_ui/albums/problem_list.h"
@@ -7,7 +9,6 @@
 #include "desktop/photos_ui/albums/pu_photos_album_view_controller.h"
 #include "desktop/photos_ui/albums/pu_photos_panorama_view_controller.h"
 #include "desktop/photos_ui/base/message_view.h"
-#include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/cell_marks.h"
 #include "desktop/photos_ui/cells/pu_photo_view.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
@@ -59,11 +60,6 @@ constexpr Class (*classes[])() = {
 };
 
 }  // namespace
-
-PhotosHost& host() {
-  static auto& made = *new PhotosHost;
-  return made;
-}
 
 void registerPhotosUI() {
   faces::registerPhotos();

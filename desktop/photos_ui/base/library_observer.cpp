@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "desktop/photos_ui/navigation/navigation.h"
-
 namespace desktop::photos_ui {
 namespace {
 
@@ -25,7 +23,7 @@ LibraryObserver::~LibraryObserver() {
 }
 
 // Who is told may end others.
-void libraryChanged(const library::LibraryChange& change) {
+void tellLibraryObservers(const library::LibraryChange& change) {
   const auto all = observers();
   for (LibraryObserver* const observer : all)
     if (std::ranges::find(observers(), observer) != observers().end())

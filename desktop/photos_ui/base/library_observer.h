@@ -17,4 +17,7 @@ class LibraryObserver {
   virtual void libraryChanged(const library::LibraryChange& change) = 0;
 };
 
+// Tells all observers what changed in the library.
+void tellLibraryObservers(const library::LibraryChange& change);
+
 }  // namespace desktop::photos_ui

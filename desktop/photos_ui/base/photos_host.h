@@ -19,8 +19,4 @@ struct PhotosHost {
 // Of this process; set by the application before it shows anything.
 PhotosHost& host();
 
-// Registers the classes of this room, so that they are found by name; once, whatever number of
-// calls. A host does it before it maps extensions.
-void registerPhotosUI();
-
 }  // namespace desktop::photos_ui

@@ -13,7 +13,7 @@
 #include "desktop/photos_ui/base/message_view.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/grid/grid_titles.h"
-#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -221,7 +221,7 @@ void PUPhotosGridViewController::libraryChanged(const library::LibraryChange& ch
 }
 
 void PUPhotosGridViewController::open(std::size_t index, bool animated) {
-  const auto shown = makeOneUp(_list, index, Presentation::ordinary);
+  const auto shown = PUOneUpViewController::make(_list, index, Presentation::ordinary);
   self().navigationController().push(
       shown, animated ? bridge::UIViewController::animated : bridge::UIViewController::immediately);
 }

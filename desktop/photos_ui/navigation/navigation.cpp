@@ -11,7 +11,7 @@
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
-#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
@@ -210,7 +210,8 @@ Outcome openItem(long index) {
 Outcome peekItem(long index) {
   const auto grid = gridWithItem(index);
   if (!grid) return grid.error();
-  tabs().present(makeOneUp((*grid)->list(), static_cast<std::size_t>(index), Presentation::preview),
+  tabs().present(PUOneUpViewController::make((*grid)->list(), static_cast<std::size_t>(index),
+                                             Presentation::preview),
                  UIViewController::immediately, {});
   prepare();
   return std::nullopt;

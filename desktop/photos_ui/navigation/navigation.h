@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "bridge/uikit.h"
-#include "desktop/library/photo_library.h"
 #include "model/result.h"
 
 namespace desktop::photos_ui {
@@ -17,9 +16,6 @@ using Outcome = std::optional<model::Error>;
 
 // The tab bar with Photos and Albums.
 bridge::Owned<bridge::UIViewController> makeRootController();
-
-// What changed in the library reaches the controllers on show.
-void libraryChanged(const library::LibraryChange& change);
 
 Outcome openPhotos();
 Outcome openAlbums();

@@ -13,7 +13,7 @@ constexpr CGFloat zoomStep = 1.5;
 
 bool PUOneUpViewController::page(std::size_t index) {
   const std::size_t from = pages().goal();
-  if (index >= _items->size() || index == from) return false;
+  if (index >= _items.list()->size() || index == from) return false;
   pages().show(index, index + 1 == from || index == from + 1);
   return true;
 }
@@ -42,7 +42,7 @@ bool PUOneUpViewController::zoom(OneUpAction action) {
 }
 
 bool PUOneUpViewController::perform(OneUpAction action) {
-  if (!_tilingView || _items->isEmpty()) return false;
+  if (!_tilingView || _items.list()->isEmpty()) return false;
   switch (action) {
     case OneUpAction::next:
       return page(pages().goal() + 1);
@@ -51,7 +51,7 @@ bool PUOneUpViewController::perform(OneUpAction action) {
     case OneUpAction::first:
       return page(0);
     case OneUpAction::last:
-      return page(_items->size() - 1);
+      return page(_items.list()->size() - 1);
     case OneUpAction::play: {
       const bool isVideo = currentItem() && currentItem()->isVideo();
       if (isVideo) bridge::send<void, "playTouched:">(pages().currentPage(), bridge::NSObject());
@@ -60,6 +60,11 @@ bool PUOneUpViewController::perform(OneUpAction action) {
     default:
       return zoom(action);
   }
+}
+
+bool performOneUpAction(bridge::UIViewController controller, OneUpAction action) {
+  return bridge::isKindOf(controller, PUOneUpViewController::classObject()) &&
+         PUOneUpViewController::of(controller).perform(action);
 }
 
 }  // namespace desktop::photos_ui

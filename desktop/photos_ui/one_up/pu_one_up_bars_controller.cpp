@@ -2,7 +2,6 @@
 #include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
 
 #include "bridge/class_builder.h"
-#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "foundation/calendar_text.h"
 #include "foundation/local_time.h"
 
@@ -29,9 +28,11 @@ Class PUOneUpBarsController::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::NSObject> PUOneUpBarsController::make(bridge::UIViewController oneUp) {
+bridge::Owned<bridge::NSObject> PUOneUpBarsController::make(bridge::UIViewController oneUp,
+                                                            const BrowsedItems& items) {
   auto made = bridge::Owned<bridge::NSObject>::adopt(send<bridge::NSObject, "new">(classObject()));
   of(made.get())._oneUp = oneUp;
+  of(made.get())._items = &items;
   of(made.get()).makeToolbarItems();
   return made;
 }
@@ -47,13 +48,13 @@ void PUOneUpBarsController::update() const {
 }
 
 void PUOneUpBarsController::updateBars() {
-  const library::ItemPointer item = PUOneUpViewController::of(_oneUp).currentItem();
+  const library::ItemPointer item = _items->current();
   _oneUp.navigationItem().setTitle(NSString::make(item ? titleOf(*item) : ""));
 }
 
 // What is shared of a photo is where its file lies.
 void PUOneUpBarsController::shareTouched(bridge::NSObject sender) {
-  const library::ItemPointer item = PUOneUpViewController::of(_oneUp).currentItem();
+  const library::ItemPointer item = _items->current();
   if (!item) return;
   const auto sheet =
       bridge::UIActivityViewController::withItems(bridge::NSArray::of(NSString::make(item->path)));

@@ -5,6 +5,7 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "desktop/photos_ui/one_up/browsed_items.h"
 
 namespace desktop::photos_ui {
 
@@ -13,8 +14,9 @@ class PUOneUpBarsController : public bridge::Bound<PUOneUpBarsController, bridge
   using Bound::Bound;
   static Class classObject();
 
-  // Of a single-photo controller, which outlives it.
-  static bridge::Owned<bridge::NSObject> make(bridge::UIViewController oneUp);
+  // Of a single-photo controller and the items that it shows, which outlive it.
+  static bridge::Owned<bridge::NSObject> make(bridge::UIViewController oneUp,
+                                              const BrowsedItems& items);
   // Brings the bars up to what is on show now; by message, for extensions to follow.
   void update() const;
 
@@ -24,6 +26,7 @@ class PUOneUpBarsController : public bridge::Bound<PUOneUpBarsController, bridge
   void shareTouched(bridge::NSObject sender);
 
   bridge::UIViewController _oneUp;  // borrowed
+  const BrowsedItems* _items = nullptr;
 };
 
 }  // namespace desktop::photos_ui

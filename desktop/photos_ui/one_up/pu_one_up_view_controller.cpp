@@ -65,9 +65,8 @@ bridge::Owned<bridge::UIViewController> PUOneUpViewController::make(ItemListPoin
   auto made = bridge::Owned<bridge::UIViewController>::adopt(
       send<bridge::UIViewController, "new">(classObject()));
   PUOneUpViewController& controller = of(made.get());
-  controller._items = std::move(items);
+  controller._items.set(std::move(items), index);
   controller._presentation = presentation;
-  controller._index = index;
   if (presentation == Presentation::preview)
     send<void, "setModalPresentationStyle:">(made.get(), overFullScreen);
   send<void, "setHidesBottomBarWhenPushed:">(made.get(), true);
@@ -79,12 +78,8 @@ bridge::UIViewController PUOneUpViewController::init() {
   const auto object = super<bridge::UIViewController, "init">();
   _layout = bridge::Owned<bridge::NSObject>::adopt(
       send<bridge::NSObject, "new">(PUOneUpTilingLayout::classObject()));
-  _bars = PUOneUpBarsController::make(bridge::UIViewController(self().get()));
+  _bars = PUOneUpBarsController::make(bridge::UIViewController(self().get()), _items);
   return object;
-}
-
-library::ItemPointer PUOneUpViewController::currentItem() const {
-  return _index < _items->size() ? _items->at(_index) : nullptr;
 }
 
 void PUOneUpViewController::viewDidLoad() {
@@ -97,7 +92,7 @@ void PUOneUpViewController::viewDidLoad() {
   send<void, "_setTilingView:">(self(), tiling.get());
   pages().pageChanged = [this](std::size_t page) { moved(page); };
   pages().pageHidden = [](bridge::UIView page) { PUOneUpPhotoView::of(page).zoomTo(1, {}, false); };
-  showItems(_items, _index);
+  showItems(_items.list(), _items.index());
   if (!isPreview) return;
   const auto beside =
       makeRecognizer<UITapGestureRecognizer>(self(), bridge::selector<"handleTapBeside:">());
@@ -162,17 +157,17 @@ void PUOneUpViewController::showItems(ItemListPointer items, std::size_t index) 
   const auto makePage = [items](std::size_t page) {
     return PUOneUpPhotoView::make(items->at(page));
   };
-  _items = std::move(items);
+  _items.set(std::move(items), index);
   setCurrent(index);
   if (before && currentItem() == before)
-    pages().replaceOtherPages(_items->size(), index, makePage);
+    pages().replaceOtherPages(_items.list()->size(), index, makePage);
   else
-    pages().setPages(_items->size(), index, makePage);
+    pages().setPages(_items.list()->size(), index, makePage);
 }
 
 void PUOneUpViewController::setCurrent(std::size_t index) {
-  _index = index;
-  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items->pathOf(index));
+  _items.goTo(index);
+  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items.currentPath());
 }
 
 void PUOneUpViewController::moved(std::size_t index) {
@@ -205,11 +200,9 @@ void PUOneUpViewController::viewWillDisappear(bool animated) {
 
 bridge::PUAssetReference PUOneUpViewController::assetReference(bridge::NSIndexPath path,
                                                                bridge::PUOneUpTilingLayout) const {
-  const auto place = uikit::itemPathOf(path);
-  const auto index = place ? _items->indexOf(*place) : std::nullopt;
-  if (!index || !host().library) return {};
-  return faces::PUAssetReference::make(faces::PHAsset::make(*host().library, _items->at(*index)),
-                                       path);
+  const library::ItemPointer item = _items.at(path);
+  if (!item || !host().library) return {};
+  return faces::PUAssetReference::make(faces::PHAsset::make(*host().library, item), path);
 }
 
 void PUOneUpViewController::handleTap(bridge::UIGestureRecognizer) {
@@ -253,12 +246,10 @@ void PUOneUpViewController::showStatusBar(bool shown) {
 // What is shown stays on show where its file is still there; otherwise what comes next is.
 void PUOneUpViewController::libraryChanged(const library::LibraryChange&) {
   if (!host().library || !_tilingView) return;
-  std::vector<library::ItemPointer> left;
-  for (const library::ItemPointer& item : _items->items())
-    if (const library::ItemPointer now = host().library->itemOf(item->uuid)) left.push_back(now);
-  if (left == _items->items()) return;
-  const auto items = std::make_shared<const ItemList>(std::move(left));
-  const auto place = items->placeAfterChange(*_items, _index);
+  const auto items =
+      _items.listAfterChange([](const std::string& uuid) { return host().library->itemOf(uuid); });
+  if (!items) return;
+  const auto place = items->placeAfterChange(*_items.list(), _items.index());
   showItems(items, place.value_or(0));
   PUOneUpBarsController::of(_bars.get()).update();
   if (!place) leave();

@@ -5,12 +5,15 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
-#include "desktop/photos_ui/base/item_list.h"
 #include "desktop/photos_ui/base/library_observer.h"
-#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/photos_ui/one_up/browsed_items.h"
+#include "desktop/photos_ui/one_up/one_up_action.h"
 #include "desktop/photos_ui/one_up/pu_tiling_view.h"
 
 namespace desktop::photos_ui {
+
+// Ordinary is by itself, with bars; a preview is a look at it, as a card over the grid.
+enum class Presentation { ordinary, preview };
 
 // The tiling view is also in the field `_tilingView`, where extensions read it.
 class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge::UIViewController>,
@@ -20,12 +23,13 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   ~PUOneUpViewController() override;
   static Class classObject();
 
+  // For a list of items, at one of them, numbered from 0 through all sections; +1.
   static bridge::Owned<bridge::UIViewController> make(ItemListPointer items, std::size_t index,
                                                       Presentation presentation);
 
   // Null where nothing is left to show.
-  library::ItemPointer currentItem() const;
-  std::size_t currentIndex() const { return _index; }
+  library::ItemPointer currentItem() const { return _items.current(); }
+  std::size_t currentIndex() const { return _items.index(); }
   // What extensions ask which item is on show.
   bridge::PUOneUpTilingLayout layout() const {
     return bridge::PUOneUpTilingLayout(_layout.get().get());
@@ -63,8 +67,7 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   bool zoom(OneUpAction action);
   void leave();
 
-  ItemListPointer _items = std::make_shared<ItemList>();
-  std::size_t _index = 0;
+  BrowsedItems _items;
   Presentation _presentation = Presentation::ordinary;
   bridge::Owned<bridge::NSObject> _layout;
   bridge::Owned<bridge::NSObject> _bars;
@@ -72,5 +75,8 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   bool _areBarsShown = true;
   bool _hasStatusBar = false;  // while the bars are hidden: whether it comes back with them
 };
+
+// Whether the controller is a single photo and did something.
+bool performOneUpAction(bridge::UIViewController controller, OneUpAction action);
 
 }  // namespace desktop::photos_ui

@@ -5,8 +5,10 @@
 #include <ctime>
 
 #include "desktop/faces/photos/ph_asset.h"
+#include "desktop/photos_ui/base/library_observer.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/photos_ui/photos_ui.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/base/screen.h"
@@ -60,7 +62,7 @@ void LibraryScreenTest::open() {
   auto opened = library::PhotoLibrary::open(folder.path(), foundation::DeviceRoot(_root.path()));
   if (opened) {
     library = *std::move(opened);
-    library->onChange([](const library::LibraryChange& change) { libraryChanged(change); });
+    library->onChange([](const library::LibraryChange& change) { tellLibraryObservers(change); });
     library->waitAndDeliver();
   } else {
     host().libraryProblem = folder.path() + ": " + opened.error().reason;

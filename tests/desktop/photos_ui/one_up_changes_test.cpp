@@ -3,7 +3,7 @@
 // A single photo whose library changes while it is open.
 #include <gmock/gmock.h>
 
-#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 

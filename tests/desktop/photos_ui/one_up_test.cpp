@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/one_up/one_up.h"
-
 #include <gmock/gmock.h>
 
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/navigation/navigation.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controllers/ui_activity_view_controller.h"
 #include "desktop/uikit/graphics/color.h"

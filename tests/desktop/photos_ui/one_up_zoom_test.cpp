@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include "desktop/photos_ui/one_up/one_up.h"
+#include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/screen.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/one_up/browsed_items.h"
+
+namespace desktop::photos_ui {
+
+library::ItemPointer BrowsedItems::current() const {
+  return _index < _list->size() ? _list->at(_index) : nullptr;
+}
+
+library::ItemPointer BrowsedItems::at(bridge::NSIndexPath path) const {
+  const auto place = uikit::itemPathOf(path);
+  const auto index = place ? _list->indexOf(*place) : std::nullopt;
+  return index ? _list->at(*index) : nullptr;
+}
+
+void BrowsedItems::set(ItemListPointer list, std::size_t index) {
+  _list = std::move(list);
+  _index = index;
+}
+
+ItemListPointer BrowsedItems::listAfterChange(const ItemNow& itemNow) const {
+  std::vector<library::ItemPointer> left;
+  for (const library::ItemPointer& item : _list->items())
+    if (library::ItemPointer now = itemNow(item->uuid)) left.push_back(std::move(now));
+  return left == _list->items() ? nullptr : std::make_shared<const ItemList>(std::move(left));
+}
+
+}  // namespace desktop::photos_ui
