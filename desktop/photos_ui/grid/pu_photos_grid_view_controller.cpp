@@ -1,20 +1,24 @@
 // SPDX-License-Identifier: MIT
 //
-// The class, and its life from loading to changes of the library. Where one is in the grid is kept
-// by pu_photos_grid_place.cpp; the items are shown by pu_photos_grid_items.cpp, and selected by
-// pu_photos_grid_selection.cpp.
+// The controller asks its contents for a list, has its parts show that, and tells them what it is
+// told: of a new width, of scrolling, of touches and of changes of the library. What nobody sees
+// waits until it is seen. A list is replaced in one go: place and selection are taken down before,
+// as items, and found again in the new list.
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "bridge/class_builder.h"
+#include "desktop/faces/photos/ph_asset.h"
 #include "desktop/photos_ui/base/large_title.h"
 #include "desktop/photos_ui/base/message_view.h"
+#include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
+#include "desktop/photos_ui/grid/grid_metrics.h"
 #include "desktop/photos_ui/grid/grid_titles.h"
+#include "desktop/photos_ui/grid/select_button.h"
+#include "desktop/photos_ui/grid/selection_title.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/base/screen.h"
+#include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -62,18 +66,10 @@ bridge::Owned<bridge::UIViewController> PUPhotosGridViewController::make(Class a
       bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(aClass)));
   PUPhotosGridViewController& grid = of(made.get());
   grid._contents = std::move(contents);
-  grid._staysAtEnd = grid._contents.startsAtEnd;
+  grid._place.setStartsAtEnd(grid._contents.startsAtEnd);
   bridge::send<void, "setTitle:">(made.get(), NSString::make(grid._contents.title));
   useLargeTitle(made, grid._contents.hasLargeTitle);
   return made;
-}
-
-// The collection may outlive its controller, and asks no one then.
-PUPhotosGridViewController::~PUPhotosGridViewController() {
-  bridge::send<void, "setDelegate:">(_collectionView.get(), bridge::NSObject());
-  bridge::send<void, "setDataSource:">(_collectionView.get(), bridge::NSObject());
-  _swipeRecognizer->setDelegate({});
-  if (_layout) layout().setDelegate({});
 }
 
 void PUPhotosGridViewController::load() {
@@ -85,40 +81,10 @@ void PUPhotosGridViewController::viewDidLoad() {
   super<void, "viewDidLoad">();
   const bridge::UIView view = self().view();
   view.setBackgroundColor(bridge::UIColor::whiteColor());
-  _layout = PUSectionedGridLayout::make();
-  layout().setDelegate(me());
-  layout().setHeaderHeight(_contents.hasHeaders ? GridHeader::height : 0);
-  _collectionView = makeCollectionView(view.bounds());
-  view.addSubview(_collectionView);
-  _swipeRecognizer = bridge::Owned<bridge::UIGestureRecognizer>::retain(
-      uikit::handles::makeRecognizer<uikit::handles::UIPanGestureRecognizer>(
-          me(), bridge::selector<"_handleSwipeSelectionGesture:">())
-          .get());
-  _swipeRecognizer->setDelegate(me());
-  _collectionView->addGestureRecognizer(_swipeRecognizer);
-  updateBarItems();
-}
-
-bridge::Owned<bridge::UICollectionView> PUPhotosGridViewController::makeCollectionView(
-    CGRect frame) {
-  auto made = bridge::Owned<bridge::UICollectionView>::adopt(
-      bridge::send<bridge::UICollectionView, "initWithFrame:collectionViewLayout:">(
-          bridge::send<id, "alloc">(bridge::UICollectionView::classObject()), frame,
-          bridge::UICollectionViewLayout(_layout.get().get())));
-  made->setBackgroundColor(bridge::UIColor::whiteColor());
-  made->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
-  bridge::send<void, "setAlwaysBounceVertical:">(made.get(), true);
-  bridge::send<void, "registerClass:forCellWithReuseIdentifier:">(
-      made.get(), PUPhotosGridCell::classObject(), NSString::make("PUPhotosGridCell"));
-  const auto registerTitle = [&](Class aClass, const char* kind) {
-    bridge::send<void, "registerClass:forSupplementaryViewOfKind:withReuseIdentifier:">(
-        made.get(), aClass, NSString::make(kind), NSString::make(kind));
-  };
-  registerTitle(GridHeader::classObject(), PUSectionedGridLayout::headerKind);
-  registerTitle(GridFooter::classObject(), PUSectionedGridLayout::footerKind);
-  bridge::send<void, "setDelegate:">(made.get(), bridge::NSObject(me().get()));
-  bridge::send<void, "setDataSource:">(made.get(), bridge::NSObject(me().get()));
-  return made;
+  _grid.make(me(), view.bounds(), _contents.hasHeaders ? GridHeader::height : 0);
+  view.addSubview(_grid.view());
+  _selection.addRecognizer(me(), bridge::selector<"_handleSwipeSelectionGesture:">());
+  updateSelectButton();
 }
 
 void PUPhotosGridViewController::viewWillAppear(bool animated) {
@@ -131,78 +97,41 @@ void PUPhotosGridViewController::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
   const CGFloat width = self().view().bounds().size.width;
   if (width == _measuredWidth) return;
-  const auto place = _measuredWidth > 0 ? anchor() : std::nullopt;
+  const auto place = _measuredWidth > 0 ? _place.anchor() : std::nullopt;
   bridge::send<void, "updateLayoutMetrics">(self());
-  if (place && !_staysAtEnd) restore(*place);
+  if (place) _place.restore(*place);
 }
 
 void PUPhotosGridViewController::viewDidLayoutSubviews() {
   super<void, "viewDidLayoutSubviews">();
-  if (_staysAtEnd) placeAtEnd();
+  _place.stayAtEnd();
 }
 
-// As many more columns as a wider view has room for.
 void PUPhotosGridViewController::updateLayoutMetrics() {
-  constexpr CGFloat uprightWidth = 375;  // points
-  const CGFloat width = self().view().bounds().size.width;
-  _measuredWidth = width;
-  const CGFloat usual = uprightWidth / _contents.columns;
-  const CGFloat fitting = std::floor((width + layout().interItemSpacing()) / usual);
-  const NSInteger columns =
-      _contents.columns == 1
-          ? 1
-          : std::max<NSInteger>(_contents.columns, static_cast<NSInteger>(fitting));
+  _measuredWidth = self().view().bounds().size.width;
+  const auto [columns, itemSize] =
+      gridMetrics(_contents, _measuredWidth, layout().interItemSpacing(), uikit::stage().scale);
   layout().setColumnsPerRow(columns);
-  bridge::send<void, "setItemSize:">(_layout.get(), stockItemSize(width, columns));
-}
-
-// On whole pixels.
-CGSize PUPhotosGridViewController::stockItemSize(CGFloat width, NSInteger columns) const {
-  const CGFloat scale = uikit::screen().scale;
-  const auto count = static_cast<CGFloat>(columns);
-  const CGFloat gaps = layout().interItemSpacing() * (count - 1);
-  const CGFloat side = std::floor((width - gaps) / count * scale) / scale;
-  return {side, std::round(side * _contents.heightByWidth * scale) / scale};
-}
-
-void PUPhotosGridViewController::setFooterText(std::string text) {
-  layout().setFooterHeight(text.empty() ? 0 : GridFooter::height);
-  if (text == _footerText) return;
-  _footerText = std::move(text);
-  const bridge::UIView shown =
-      bridge::send<bridge::UIView, "supplementaryViewForElementKind:atIndexPath:">(
-          _collectionView.get(), NSString::make(PUSectionedGridLayout::footerKind),
-          uikit::indexPathOf({0, 0}));
-  if (shown) GridFooter::of(shown).show(_footerText);
-}
-
-void PUPhotosGridViewController::updateMessage() {
-  if (_list->isEmpty() != static_cast<bool>(_message)) {
-    _message = _list->isEmpty() ? MessageView::make() : bridge::Owned<bridge::UIView>();
-    bridge::send<void, "setBackgroundView:">(_collectionView.get(), _message.get());
-  }
-  if (_message) showWhyEmpty(_message);
+  bridge::send<void, "setItemSize:">(layout().self(), itemSize);
 }
 
 void PUPhotosGridViewController::refresh() {
-  if (!_collectionView) return;
-  const auto place = anchor();
-  const ItemListPointer before = _list;
-  const auto selected = selectedItems();
+  if (!collectionView()) return;
+  const auto place = _place.anchor();
+  const ItemListPointer before = list();
+  const auto selected = _selection.items();
   const ItemListPointer next = _contents.list ? _contents.list() : nullptr;
   _isStale = false;
-  undoSwipe();
-  _list = next ? next : std::make_shared<ItemList>();
-  bridge::send<void, "reloadData">(_collectionView.get());
-  selectAgain(selected);
-  if (_staysAtEnd) {
-    placeAtEnd();
-  } else if (place) {
-    if (const auto index = _list->placeAfterChange(*before, place->index))
-      restore({*index, place->y});
+  _selection.undoSwipe();
+  _grid.show(next ? next : std::make_shared<ItemList>());
+  _selection.selectAgain(selected);
+  _place.stayAtEnd();
+  if (place) {
+    if (const auto index = list()->placeAfterChange(*before, place->index))
+      _place.restore({*index, place->y});
   }
   updateMessage();
-  updateBarItems();
+  updateSelectButton();
   updateTitle();
 }
 
@@ -211,7 +140,7 @@ void PUPhotosGridViewController::libraryChanged(const library::LibraryChange& ch
   const bool areItemsChanged = !change.inserted.empty() || !change.removed.empty() ||
                                !change.updated.empty() || change.areAlbumsChanged;
   if (areItemsChanged) _isStale = true;
-  if (!_collectionView || !uikit::UIView::of(_collectionView.get()).window()) return;
+  if (!collectionView() || !uikit::UIView::of(collectionView()).window()) return;
   if (areItemsChanged) {
     refresh();
     bridge::send<void, "libraryWasShown">(self());
@@ -220,10 +149,117 @@ void PUPhotosGridViewController::libraryChanged(const library::LibraryChange& ch
   }
 }
 
+void PUPhotosGridViewController::updateMessage() {
+  if (list()->isEmpty() != static_cast<bool>(_message)) {
+    _message = list()->isEmpty() ? MessageView::make() : bridge::Owned<bridge::UIView>();
+    bridge::send<void, "setBackgroundView:">(collectionView(), _message.get());
+  }
+  if (_message) showWhyEmpty(_message);
+}
+
 void PUPhotosGridViewController::open(std::size_t index, bool animated) {
-  const auto shown = PUOneUpViewController::make(_list, index, Presentation::ordinary);
+  const auto shown = PUOneUpViewController::make(list(), index, Presentation::ordinary);
   self().navigationController().push(
       shown, animated ? bridge::UIViewController::animated : bridge::UIViewController::immediately);
+}
+
+NSInteger PUPhotosGridViewController::numberOfSections(bridge::UICollectionView) const {
+  return _grid.sectionCount();
+}
+
+NSInteger PUPhotosGridViewController::numberOfItems(bridge::UICollectionView,
+                                                    NSInteger section) const {
+  return _grid.itemCount(section);
+}
+
+bridge::UIView PUPhotosGridViewController::cellForItem(bridge::UICollectionView view,
+                                                       bridge::NSIndexPath path) {
+  return _grid.cell(view, path);
+}
+
+bridge::UIView PUPhotosGridViewController::supplementaryView(bridge::UICollectionView view,
+                                                             bridge::NSString kind,
+                                                             bridge::NSIndexPath path) {
+  return _grid.title(view, kind, path);
+}
+
+void PUPhotosGridViewController::didEndDisplaying(bridge::UICollectionView, bridge::UIView cell,
+                                                  bridge::NSIndexPath) {
+  if (bridge::isKindOf(cell, PUPhotosGridCell::classObject()))
+    PUPhotosGridCell::of(cell).content().stopLoading();
+}
+
+void PUPhotosGridViewController::didSelect(bridge::UICollectionView view,
+                                           bridge::NSIndexPath path) {
+  if (isEditing()) return updateTitle();
+  bridge::send<void, "deselectItemAtIndexPath:animated:">(view, path, false);
+  if (const auto index = _grid.indexOf(path)) open(*index, true);
+}
+
+void PUPhotosGridViewController::didDeselect(bridge::UICollectionView, bridge::NSIndexPath) {
+  updateTitle();
+}
+
+void PUPhotosGridViewController::didScroll(bridge::UIView) {
+  _place.scrolled();
+}
+
+bool PUPhotosGridViewController::shouldBegin(bridge::UIGestureRecognizer recognizer) const {
+  return _selection.shouldBegin(recognizer);
+}
+
+// The title tells how many there are once the finger has moved on.
+void PUPhotosGridViewController::handleSwipeSelection(bridge::UIGestureRecognizer recognizer) {
+  if (_selection.follow(recognizer)) updateTitle();
+}
+
+bridge::PHAsset PUPhotosGridViewController::assetAt(bridge::NSIndexPath path) const {
+  const auto item = _grid.itemAt(path);
+  return item && host().library ? faces::PHAsset::make(*host().library, item) : bridge::PHAsset();
+}
+
+bool PUPhotosGridViewController::isEditing() const {
+  return uikit::UIViewController::of(self()).isEditing();
+}
+
+void PUPhotosGridViewController::setEditing(bool editing, bool animated) {
+  super<void, "setEditing:animated:">(editing, animated);
+  self().view();
+  _selection.setOn(editing);
+  updateSelectButton();
+  updateTitle();
+}
+
+void PUPhotosGridViewController::beginSelecting(bridge::Object) {
+  bridge::send<void, "setEditing:animated:">(self(), true, true);
+}
+
+void PUPhotosGridViewController::endSelecting(bridge::Object) {
+  bridge::send<void, "setEditing:animated:">(self(), false, true);
+}
+
+void PUPhotosGridViewController::updateSelectButton() {
+  const bool isUseful = _contents.allowsSelecting && !list()->isEmpty();
+  showSelectButton(self(), isEditing() ? SelectButton::cancel
+                           : isUseful  ? SelectButton::select
+                                       : SelectButton::none);
+}
+
+void PUPhotosGridViewController::updateTitle() {
+  self().navigationItem().setTitle(isEditing() ? me().localizedSelectionTitle()
+                                               : NSString::make(_contents.title));
+}
+
+bridge::NSArray PUPhotosGridViewController::selectedAssets() const {
+  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+  if (host().library)
+    for (const auto& item : _selection.items())
+      all->add(faces::PHAsset::make(*host().library, item));
+  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+}
+
+NSString PUPhotosGridViewController::localizedSelectionTitle() const {
+  return NSString::make(selectionTitle(_selection.items()));
 }
 
 }  // namespace desktop::photos_ui

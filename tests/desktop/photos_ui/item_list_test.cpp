@@ -3,18 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/desktop/photos_ui/sample_items.h"
+
 namespace desktop::photos_ui {
 namespace {
 
-using library::ItemPointer;
-
-ItemPointer item(const std::string& name, double date) {
-  return std::make_shared<library::LibraryItem>(library::LibraryItem{
-      .path = "/" + name, .uuid = "uuid of " + name, .modificationDate = {date}});
-}
-
 ItemList sample() {
-  return ItemList({item("a", 1), item("b", 2), item("c", 2), item("d", 5)},
+  return ItemList({sampleItem("a", 1), sampleItem("b", 2), sampleItem("c", 2), sampleItem("d", 5)},
                   {{"first", 0, 1}, {"second", 1, 3}});
 }
 
@@ -34,21 +29,21 @@ TEST(ItemList, HasNoPlaceForWhatIsNotInIt) {
        {uikit::ItemPath{0, 1}, {1, 3}, {2, 0}, {-1, 0}, {0, -1}, {1L << 40, 1L << 40}})
     EXPECT_FALSE(list.indexOf(path)) << path.section << " " << path.item;
   EXPECT_FALSE(ItemList().pathOf(0));
-  EXPECT_FALSE(list.find(*item("e", 2)));
+  EXPECT_FALSE(list.find(*sampleItem("e", 2)));
 }
 
 TEST(ItemList, FindsAFileThatGotAnotherDate) {
   const ItemList list = sample();
-  EXPECT_EQ(list.find(*item("c", 2)), 2U);
-  EXPECT_EQ(list.find(*item("c", 77)), 2U);
+  EXPECT_EQ(list.find(*sampleItem("c", 2)), 2U);
+  EXPECT_EQ(list.find(*sampleItem("c", 77)), 2U);
 }
 
 TEST(ItemList, StaysAtTheNextItemThatIsLeft) {
   const ItemList before = sample();
-  const ItemList after({item("a", 1), item("d", 5)});
+  const ItemList after({sampleItem("a", 1), sampleItem("d", 5)});
   EXPECT_EQ(after.placeAfterChange(before, 0), 0U);
   EXPECT_EQ(after.placeAfterChange(before, 1), 1U);
-  EXPECT_EQ(ItemList({item("a", 1)}).placeAfterChange(before, 3), 0U);
+  EXPECT_EQ(ItemList({sampleItem("a", 1)}).placeAfterChange(before, 3), 0U);
   EXPECT_FALSE(ItemList().placeAfterChange(before, 0));
   EXPECT_FALSE(after.placeAfterChange(before, 4));
 }

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/grid/grid_selection.h"
+
+#include <cmath>
+
+namespace desktop::photos_ui {
+
+GridSelection::~GridSelection() {
+  _recognizer->setDelegate({});
+}
+
+const std::set<uikit::ItemPath>& GridSelection::paths() const {
+  static const std::set<uikit::ItemPath> nothing;
+  return _isOn && _grid.view() ? _grid.viewState().selectedItems() : nothing;
+}
+
+std::vector<library::ItemPointer> GridSelection::items() const {
+  std::vector<library::ItemPointer> items;
+  for (const uikit::ItemPath path : paths())
+    if (const auto index = _grid.list()->indexOf(path)) items.push_back(_grid.list()->at(*index));
+  return items;
+}
+
+void GridSelection::setOn(bool isOn) {
+  _isOn = isOn;
+  undoSwipe();
+  const auto selected = _grid.viewState().selectedItems();
+  for (const uikit::ItemPath path : selected)
+    bridge::send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), uikit::indexPathOf(path),
+                                                            false);
+  bridge::send<void, "setAllowsMultipleSelection:">(_grid.view(), isOn);
+}
+
+void GridSelection::select(std::size_t index, bool isSelected) const {
+  const auto path = _grid.list()->pathOf(index);
+  if (!path || paths().contains(*path) == isSelected) return;
+  const auto shown = uikit::indexPathOf(*path);
+  if (isSelected)
+    bridge::send<void, "selectItemAtIndexPath:animated:scrollPosition:">(_grid.view(), shown, false,
+                                                                         NSUInteger{0});
+  else
+    bridge::send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), shown, false);
+}
+
+void GridSelection::selectAgain(const std::vector<library::ItemPointer>& items) {
+  for (const auto& item : items)
+    if (const auto index = _grid.list()->find(*item)) select(*index, true);
+}
+
+void GridSelection::addRecognizer(bridge::NSObject owner, SEL handler) {
+  _recognizer = bridge::Owned<bridge::UIGestureRecognizer>::retain(
+      uikit::handles::makeRecognizer<uikit::handles::UIPanGestureRecognizer>(owner, handler).get());
+  _recognizer->setDelegate(owner);
+  _grid.view().addGestureRecognizer(_recognizer);
+}
+
+// A swipe goes across; scrolling goes down.
+bool GridSelection::shouldBegin(bridge::UIGestureRecognizer recognizer) const {
+  if (recognizer != _recognizer.get()) return true;
+  if (!_isOn) return false;
+  const uikit::handles::UIPanGestureRecognizer pan(recognizer.get());
+  const CGPoint way = pan.translationIn(_grid.view());
+  return std::abs(way.x) >= std::abs(way.y);
+}
+
+std::optional<std::size_t> GridSelection::indexAt(CGPoint point) const {
+  return _grid.indexOf(_grid.view().indexPathForItemAt(point));
+}
+
+SwipeSelection::Select GridSelection::selecting() const {
+  return [this](std::size_t index, bool isSelected) { select(index, isSelected); };
+}
+
+// A swipe is recognised when the finger has moved already: it began where that came down.
+void GridSelection::beginSwipe(bridge::UIGestureRecognizer recognizer) {
+  const uikit::handles::UIPanGestureRecognizer pan(recognizer.get());
+  const CGPoint way = pan.translationIn(_grid.view());
+  const CGPoint now = recognizer.locationIn(_grid.view());
+  const auto first = indexAt({now.x - way.x, now.y - way.y});
+  if (!first) return;
+  std::set<std::size_t> selected;
+  for (const uikit::ItemPath each : paths())
+    if (const auto index = _grid.list()->indexOf(each)) selected.insert(*index);
+  _swipe.emplace(*first, std::move(selected));
+}
+
+bool GridSelection::follow(bridge::UIGestureRecognizer recognizer) {
+  using Recognizer = bridge::UIGestureRecognizer;
+  const Recognizer::State state = recognizer.state();
+  if (state == Recognizer::began) beginSwipe(recognizer);
+  if (!_swipe) return false;
+  if (state == Recognizer::cancelled)
+    undoSwipe();
+  else if (const auto index = indexAt(recognizer.locationIn(_grid.view())))
+    _swipe->goTo(*index, selecting());
+  if (state == Recognizer::ended) _swipe.reset();
+  return state != Recognizer::began;
+}
+
+void GridSelection::undoSwipe() {
+  if (!_swipe) return;
+  _swipe->undo(selecting());
+  _swipe.reset();
+}
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+//
+// Which items of a grid are selected in select mode, by taps or by swipes.
+#pragma once
+
+#include <set>
+#include <vector>
+
+#include "desktop/photos_ui/grid/grid_collection.h"
+#include "desktop/photos_ui/grid/swipe_selection.h"
+
+namespace desktop::photos_ui {
+
+class GridSelection {
+ public:
+  // Of a grid that outlives it.
+  explicit GridSelection(const GridCollection& grid) : _grid(grid) {}
+  GridSelection(const GridSelection&) = delete;
+  GridSelection& operator=(const GridSelection&) = delete;
+  ~GridSelection();
+
+  // Begins or ends select mode; nothing is selected then. REQUIRES: the grid's view is made.
+  void setOn(bool isOn);
+  bool isEmpty() const { return paths().empty(); }
+  // In the order of the list; none outside select mode.
+  std::vector<library::ItemPointer> items() const;
+  // Selects those that are still in the list, as files.
+  void selectAgain(const std::vector<library::ItemPointer>& items);
+
+  // The owner is the delegate of the swipe's recogniser, which is added to the view, and gets its
+  // messages.
+  void addRecognizer(bridge::NSObject owner, SEL handler);
+  // Whether a recogniser may begin, also one of somebody else.
+  bool shouldBegin(bridge::UIGestureRecognizer recognizer) const;
+  // Whether a finger that swipes has moved on or left.
+  bool follow(bridge::UIGestureRecognizer recognizer);
+  // What a swipe that is under way did is undone, and it ends.
+  void undoSwipe();
+
+ private:
+  const std::set<uikit::ItemPath>& paths() const;
+  void select(std::size_t index, bool isSelected) const;
+  SwipeSelection::Select selecting() const;
+  void beginSwipe(bridge::UIGestureRecognizer recognizer);
+  std::optional<std::size_t> indexAt(CGPoint point) const;
+
+  const GridCollection& _grid;
+  bridge::Owned<bridge::UIGestureRecognizer> _recognizer;
+  std::optional<SwipeSelection> _swipe;
+  bool _isOn = false;
+};
+
+}  // namespace desktop::photos_ui

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/grid/select_button.h"
+
+namespace desktop::photos_ui {
+
+using bridge::NSString;
+using bridge::UIBarButtonItem;
+
+namespace {
+
+NSString titleOf(SelectButton button) {
+  switch (button) {
+    case SelectButton::none:
+      break;
+    case SelectButton::select:
+      return NSString::make("Select");
+    case SelectButton::cancel:
+      return NSString::make("Cancel");
+  }
+  return {};
+}
+
+bool isShown(NSString title, bridge::NSArray items) {
+  if (!title) return !items;
+  return items.count() > 0 && title.isEqualToString(bridge::send<NSString, "title">(items.at(0)));
+}
+
+}  // namespace
+
+void showSelectButton(bridge::UIViewController grid, SelectButton button) {
+  const bridge::UINavigationItem bar = grid.navigationItem();
+  const NSString title = titleOf(button);
+  if (isShown(title, bar.rightBarButtonItems())) return;
+  if (!title) return bar.setRightBarButtonItems({});
+  const auto item = button == SelectButton::cancel
+                        ? UIBarButtonItem::withTitle(title, UIBarButtonItem::done, grid,
+                                                     bridge::selector<"endSelecting:">())
+                        : UIBarButtonItem::withTitle(title, UIBarButtonItem::plain, grid,
+                                                     bridge::selector<"beginSelecting:">());
+  bar.setRightBarButtonItems(bridge::NSArray::of(item.get()));
+}
+
+}  // namespace desktop::photos_ui
