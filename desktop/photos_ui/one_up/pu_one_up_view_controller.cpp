@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
+//
+// The controller goes through items: when a page turns, the library changes or a tap comes it has
+// its parts follow, and then the bars, always by message and last, since extensions add to both.
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "bridge/class_builder.h"
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/faces/photos/pu_asset_reference.h"
 #include "desktop/photos_ui/base/large_title.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/one_up/preview_card.h"
 #include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
-#include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
 #include "desktop/photos_ui/one_up/pu_one_up_tiling_layout.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
@@ -25,10 +27,14 @@ using uikit::handles::makeRecognizer;
 using uikit::handles::UITapGestureRecognizer;
 
 constexpr NSInteger overFullScreen = 5;  // UIModalPresentationOverFullScreen
-constexpr CGFloat cardMargin = 16;       // points, around a preview
-constexpr CGFloat cardRadius = 12;       // points
-constexpr CGFloat leastCardHeight = 96;  // points
-constexpr double barsTime = 0.25;        // seconds
+
+// As wide and high as the item is; a square where its shape is not known.
+CGSize shapeOf(const library::ItemPointer& item) {
+  if (!host().library || !item) return {1, 1};
+  const auto& facts = host().library->facts(*item);
+  if (!facts || (*facts)->pixelWidth == 0 || (*facts)->pixelHeight == 0) return {1, 1};
+  return {static_cast<CGFloat>((*facts)->pixelWidth), static_cast<CGFloat>((*facts)->pixelHeight)};
+}
 
 }  // namespace
 
@@ -55,7 +61,6 @@ Class PUOneUpViewController::classObject() {
 }
 
 PUOneUpViewController::~PUOneUpViewController() {
-  if (_tilingView) pages().pageChanged = nullptr;
   bridge::setObjectField(self(), "_tilingView", {});
 }
 
@@ -90,8 +95,7 @@ void PUOneUpViewController::viewDidLoad() {
   const auto tiling = makeTilingView();
   me().addSubview(tiling);
   send<void, "_setTilingView:">(self(), tiling.get());
-  pages().pageChanged = [this](std::size_t page) { moved(page); };
-  pages().pageHidden = [](bridge::UIView page) { PUOneUpPhotoView::of(page).zoomTo(1, {}, false); };
+  _pages.onChange([this](std::size_t page) { moved(page); });
   showItems(_items.list(), _items.index());
   if (!isPreview) return;
   const auto beside =
@@ -101,15 +105,9 @@ void PUOneUpViewController::viewDidLoad() {
 }
 
 bridge::Owned<bridge::UIView> PUOneUpViewController::makeTilingView() {
-  auto tiling = bridge::Owned<bridge::UIView>::adopt(send<bridge::UIView, "initWithFrame:">(
-      send<id, "alloc">(PUTilingView::classObject()), me().bounds()));
-  const bool isPreview = isPresentedForPreview();
-  send<void, "setPagingEnabled:">(tiling.get(), true);
-  send<void, "setShowsHorizontalScrollIndicator:">(tiling.get(), false);
-  send<void, "setContentInsetAdjustmentBehavior:">(tiling.get(), NSInteger{2});
-  if (isPreview) {
-    tiling->setBackgroundColor(bridge::UIColor::whiteColor());
-    tiling->layer().setCornerRadius(cardRadius);
+  auto tiling = PhotoPages::makeView(me().bounds());
+  if (isPresentedForPreview()) {
+    dressAsCard(tiling);
     send<void, "setScrollEnabled:">(tiling.get(), false);
     return tiling;
   }
@@ -122,80 +120,58 @@ bridge::Owned<bridge::UIView> PUOneUpViewController::makeTilingView() {
   return tiling;
 }
 
-// As high as the photo is at a width; a square where its shape is not known.
-CGFloat PUOneUpViewController::cardHeight(CGFloat width) const {
-  if (!host().library || !currentItem()) return width;
-  const auto& facts = host().library->facts(*currentItem());
-  if (!facts || (*facts)->pixelWidth == 0 || (*facts)->pixelHeight == 0) return width;
-  return width * static_cast<CGFloat>((*facts)->pixelHeight) /
-         static_cast<CGFloat>((*facts)->pixelWidth);
-}
-
-// A preview is a card in the middle of what it was called from, as large as there is room.
-CGRect PUOneUpViewController::cardFrame() const {
+CGRect PUOneUpViewController::pagesFrame() const {
   const CGRect all = me().bounds();
-  if (!isPresentedForPreview()) return all;
-  const CGFloat width = all.size.width - 2 * cardMargin;
-  const CGFloat height = std::max(cardHeight(width), leastCardHeight);
-  const CGFloat factor = std::min(1.0, (all.size.height - 4 * cardMargin) / height);
-  const CGSize size = {width * factor, height * factor};
-  return {{(all.size.width - size.width) / 2, (all.size.height - size.height) / 2}, size};
+  return isPresentedForPreview() ? cardFrame(all, shapeOf(currentItem())) : all;
 }
 
 void PUOneUpViewController::viewWillLayoutSubviews() {
-  if (_tilingView) _tilingView->setFrame(cardFrame());
+  _pages.view().setFrame(pagesFrame());
 }
 
 // The message is also how extensions learn of the view.
 void PUOneUpViewController::setTilingView(bridge::UIView view) {
-  _tilingView = bridge::Owned<bridge::UIView>::retain(view);
+  _pages.setView(view);
   bridge::setObjectField(self(), "_tilingView", view);
 }
 
 void PUOneUpViewController::showItems(ItemListPointer items, std::size_t index) {
-  const library::ItemPointer before = currentItem();
-  const auto makePage = [items](std::size_t page) {
-    return PUOneUpPhotoView::make(items->at(page));
-  };
   _items.set(std::move(items), index);
-  setCurrent(index);
-  if (before && currentItem() == before)
-    pages().replaceOtherPages(_items.list()->size(), index, makePage);
-  else
-    pages().setPages(_items.list()->size(), index, makePage);
-}
-
-void PUOneUpViewController::setCurrent(std::size_t index) {
-  _items.goTo(index);
-  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items.currentPath());
+  tellLayout();
+  _pages.show(_items);
 }
 
 void PUOneUpViewController::moved(std::size_t index) {
-  setCurrent(index);
+  _items.goTo(index);
+  tellLayout();
+  updateBars();
+}
+
+void PUOneUpViewController::tellLayout() const {
+  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items.currentPath());
+}
+
+void PUOneUpViewController::updateBars() const {
   PUOneUpBarsController::of(_bars.get()).update();
 }
 
 void PUOneUpViewController::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
-  if (!isPresentedForPreview()) PUOneUpBarsController::of(_bars.get()).update();
+  if (!isPresentedForPreview()) updateBars();
 }
 
 void PUOneUpViewController::viewDidAppear(bool animated) {
   super<void, "viewDidAppear:">(animated);
   if (isPresentedForPreview()) return;
-  send<void, "setToolbarHidden:animated:">(
-      bridge::UIViewController(self().get()).navigationController(), !_areBarsShown, animated);
-  PUOneUpBarsController::of(_bars.get()).update();
+  _visibility.showToolbar(animated);
+  updateBars();
 }
 
 void PUOneUpViewController::viewWillDisappear(bool animated) {
   super<void, "viewWillDisappear:">(animated);
   if (isPresentedForPreview()) return;
   showBars(true, animated);
-  const auto navigation = bridge::UIViewController(self().get()).navigationController();
-  const auto top = send<bridge::UIViewController, "topViewController">(navigation);
-  if (top != bridge::UIViewController(self().get()))
-    send<void, "setToolbarHidden:animated:">(navigation, true, animated);
+  _visibility.hideToolbarForAnother(animated);
 }
 
 bridge::PUAssetReference PUOneUpViewController::assetReference(bridge::NSIndexPath path,
@@ -206,7 +182,7 @@ bridge::PUAssetReference PUOneUpViewController::assetReference(bridge::NSIndexPa
 }
 
 void PUOneUpViewController::handleTap(bridge::UIGestureRecognizer) {
-  showBars(!_areBarsShown, true);
+  showBars(!_visibility.areShown(), true);
 }
 
 void PUOneUpViewController::handleTapBeside(bridge::UIGestureRecognizer) {
@@ -215,43 +191,22 @@ void PUOneUpViewController::handleTapBeside(bridge::UIGestureRecognizer) {
 
 bool PUOneUpViewController::shouldReceiveTouch(bridge::UIGestureRecognizer,
                                                bridge::UITouch touch) const {
-  return !bridge::contains(cardFrame(), touch.locationIn(me()));
+  return !bridge::contains(pagesFrame(), touch.locationIn(me()));
 }
 
-// Without bars a photo stands on black, as in the dark.
 void PUOneUpViewController::showBars(bool shown, bool animated) {
-  if (shown == _areBarsShown) return;
-  _areBarsShown = shown;
-  showStatusBar(shown);
-  const bridge::UIViewController controller(self().get());
-  const auto navigation = controller.navigationController();
-  send<void, "setNavigationBarHidden:animated:">(navigation, !shown, animated);
-  send<void, "setToolbarHidden:animated:">(navigation, !shown, animated);
-  const bridge::UIView view = me();
-  bridge::UIView::animate(animated ? barsTime : 0, bridge::Block<void()>([view, shown] {
-                            view.setBackgroundColor(shown ? bridge::UIColor::whiteColor()
-                                                          : bridge::UIColor::blackColor());
-                          }));
-  PUOneUpBarsController::of(_bars.get()).update();
-}
-
-void PUOneUpViewController::showStatusBar(bool shown) {
-  bool& isShown = uikit::application().statusBar.isShown;
-  if (shown)
-    isShown = _hasStatusBar;
-  else
-    _hasStatusBar = std::exchange(isShown, false);
+  if (_visibility.show(shown, animated)) updateBars();
 }
 
 // What is shown stays on show where its file is still there; otherwise what comes next is.
 void PUOneUpViewController::libraryChanged(const library::LibraryChange&) {
-  if (!host().library || !_tilingView) return;
+  if (!host().library || !_pages.view()) return;
   const auto items =
       _items.listAfterChange([](const std::string& uuid) { return host().library->itemOf(uuid); });
   if (!items) return;
   const auto place = items->placeAfterChange(*_items.list(), _items.index());
   showItems(items, place.value_or(0));
-  PUOneUpBarsController::of(_bars.get()).update();
+  updateBars();
   if (!place) leave();
 }
 
@@ -266,6 +221,11 @@ void PUOneUpViewController::leave() {
   if (place != stack.begin() && place != stack.end())
     send<bridge::NSArray, "popToViewController:animated:">(navigation, std::prev(place)->get(),
                                                            true);
+}
+
+bool performOneUpAction(bridge::UIViewController controller, OneUpAction action) {
+  return bridge::isKindOf(controller, PUOneUpViewController::classObject()) &&
+         PUOneUpViewController::of(controller).perform(action);
 }
 
 }  // namespace desktop::photos_ui

@@ -6,9 +6,10 @@
 #include "bridge/bound.h"
 #include "bridge/photos.h"
 #include "desktop/photos_ui/base/library_observer.h"
+#include "desktop/photos_ui/one_up/bars_visibility.h"
 #include "desktop/photos_ui/one_up/browsed_items.h"
 #include "desktop/photos_ui/one_up/one_up_action.h"
-#include "desktop/photos_ui/one_up/pu_tiling_view.h"
+#include "desktop/photos_ui/one_up/photo_pages.h"
 
 namespace desktop::photos_ui {
 
@@ -34,19 +35,25 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   bridge::PUOneUpTilingLayout layout() const {
     return bridge::PUOneUpTilingLayout(_layout.get().get());
   }
-  bool perform(OneUpAction action);
+  // Whether it did something.
+  bool perform(OneUpAction action) { return _pages.perform(action); }
 
  private:
+  // As a controller.
   bridge::UIViewController init();
   void viewDidLoad();
+  void viewWillLayoutSubviews();
   void viewWillAppear(bool animated);
   void viewDidAppear(bool animated);
   void viewWillDisappear(bool animated);
+
+  // For extensions.
   bool isPresentedForPreview() const { return _presentation == Presentation::preview; }
   bridge::PUAssetReference assetReference(bridge::NSIndexPath path,
                                           bridge::PUOneUpTilingLayout layout) const;
   void setTilingView(bridge::UIView view);
   bridge::NSObject barsController() const { return _bars; }
+
   void handleTap(bridge::UIGestureRecognizer recognizer);
   void handleTapBeside(bridge::UIGestureRecognizer recognizer);
   bool shouldReceiveTouch(bridge::UIGestureRecognizer recognizer, bridge::UITouch touch) const;
@@ -54,26 +61,20 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
 
   bridge::UIView me() const { return bridge::UIViewController(self().get()).view(); }
   bridge::Owned<bridge::UIView> makeTilingView();
-  CGRect cardFrame() const;
-  void viewWillLayoutSubviews();
-  PUTilingView& pages() const { return PUTilingView::of(_tilingView.get()); }
-  CGFloat cardHeight(CGFloat width) const;
+  CGRect pagesFrame() const;
   void showItems(ItemListPointer items, std::size_t index);
-  void setCurrent(std::size_t index);
   void moved(std::size_t index);
+  void tellLayout() const;
+  void updateBars() const;
   void showBars(bool shown, bool animated);
-  void showStatusBar(bool shown);
-  bool page(std::size_t index);
-  bool zoom(OneUpAction action);
   void leave();
 
-  BrowsedItems _items;
   Presentation _presentation = Presentation::ordinary;
+  BrowsedItems _items;
+  PhotoPages _pages;
+  BarsVisibility _visibility{self()};
   bridge::Owned<bridge::NSObject> _layout;
   bridge::Owned<bridge::NSObject> _bars;
-  bridge::Owned<bridge::UIView> _tilingView;
-  bool _areBarsShown = true;
-  bool _hasStatusBar = false;  // while the bars are hidden: whether it comes back with them
 };
 
 // Whether the controller is a single photo and did something.

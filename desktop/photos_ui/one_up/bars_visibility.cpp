@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/one_up/bars_visibility.h"
+
+#include <utility>
+
+#include "desktop/uikit/application/stage.h"
+
+namespace desktop::photos_ui {
+
+using bridge::send;
+
+bool BarsVisibility::show(bool shown, bool animated) {
+  constexpr double time = 0.25;  // seconds
+  if (shown == _areShown) return false;
+  _areShown = shown;
+  showStatusBar(shown);
+  const auto navigation = _controller.navigationController();
+  send<void, "setNavigationBarHidden:animated:">(navigation, !shown, animated);
+  send<void, "setToolbarHidden:animated:">(navigation, !shown, animated);
+  const bridge::UIView view = _controller.view();
+  bridge::UIView::animate(animated ? time : 0, bridge::Block<void()>([view, shown] {
+                            view.setBackgroundColor(shown ? bridge::UIColor::whiteColor()
+                                                          : bridge::UIColor::blackColor());
+                          }));
+  return true;
+}
+
+void BarsVisibility::showToolbar(bool animated) const {
+  send<void, "setToolbarHidden:animated:">(_controller.navigationController(), !_areShown,
+                                           animated);
+}
+
+void BarsVisibility::hideToolbarForAnother(bool animated) const {
+  const auto navigation = _controller.navigationController();
+  if (send<bridge::UIViewController, "topViewController">(navigation) != _controller)
+    send<void, "setToolbarHidden:animated:">(navigation, true, animated);
+}
+
+void BarsVisibility::showStatusBar(bool shown) {
+  bool& isShown = uikit::stage().statusBar.isShown;
+  if (shown)
+    isShown = _hasStatusBar;
+  else
+    _hasStatusBar = std::exchange(isShown, false);
+}
+
+}  // namespace desktop::photos_ui

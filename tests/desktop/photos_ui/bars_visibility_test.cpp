@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/photos_ui/one_up/bars_visibility.h"
+
+#include "desktop/uikit/controllers/ui_navigation_controller.h"
+#include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/views/ui_view.h"
+#include "tests/desktop/uikit/stage_test.h"
+
+namespace desktop::photos_ui {
+namespace {
+
+// Plain controllers in a navigation; the second one has the bars.
+class BarsVisibilityTest : public uikit::StageTest {
+ protected:
+  BarsVisibilityTest() {
+    _navigation->push(_first, bridge::UIViewController::immediately);
+    _navigation->push(_second, bridge::UIViewController::immediately);
+    window().setRootViewController(_navigation);
+    uikit::stage().statusBar.isShown = true;
+  }
+
+  uikit::UINavigationController& navigation() const {
+    return uikit::UINavigationController::of(_navigation.get());
+  }
+  uikit::Color background() const { return uikit::UIView::of(_second->view()).backgroundColor(); }
+
+ private:
+  const bridge::Owned<bridge::UINavigationController> _navigation =
+      bridge::makeNew<bridge::UINavigationController>();
+  const bridge::Owned<bridge::UIViewController> _first =
+      bridge::makeNew<bridge::UIViewController>();
+  const bridge::Owned<bridge::UIViewController> _second =
+      bridge::makeNew<bridge::UIViewController>();
+
+ protected:
+  BarsVisibility bars{_second.get()};
+};
+
+TEST_F(BarsVisibilityTest, HidesAllBarsAndShowsThemAgain) {
+  EXPECT_FALSE(bars.show(true, false)) << "they are on show";
+  for (int time = 0; time < 2; ++time) {
+    EXPECT_TRUE(bars.show(false, false));
+    EXPECT_FALSE(bars.areShown());
+    EXPECT_TRUE(navigation().isNavigationBarHidden());
+    EXPECT_TRUE(navigation().isToolbarHidden());
+    EXPECT_FALSE(uikit::stage().statusBar.isShown);
+    EXPECT_EQ(background(), uikit::colors::black);
+    EXPECT_FALSE(bars.show(false, false)) << "they are hidden";
+    EXPECT_TRUE(bars.show(true, false));
+    EXPECT_FALSE(navigation().isNavigationBarHidden());
+    EXPECT_FALSE(navigation().isToolbarHidden());
+    EXPECT_TRUE(uikit::stage().statusBar.isShown);
+    EXPECT_EQ(background(), uikit::colors::white);
+  }
+}
+
+TEST_F(BarsVisibilityTest, BringsNoStatusBarWhereThereWasNone) {
+  uikit::stage().statusBar.isShown = false;
+  bars.show(false, false);
+  bars.show(true, false);
+  EXPECT_FALSE(uikit::stage().statusBar.isShown);
+}
+
+TEST_F(BarsVisibilityTest, HasAToolbarWhileItsControllerIsOnTop) {
+  EXPECT_TRUE(navigation().isToolbarHidden());
+  bars.showToolbar(false);
+  EXPECT_FALSE(navigation().isToolbarHidden());
+  bars.hideToolbarForAnother(false);
+  EXPECT_FALSE(navigation().isToolbarHidden()) << "its controller is still on top";
+}
+
+TEST_F(BarsVisibilityTest, ShowsNoToolbarWithHiddenBars) {
+  bars.show(false, false);
+  bars.showToolbar(false);
+  EXPECT_TRUE(navigation().isToolbarHidden());
+}
+
+}  // namespace
+}  // namespace desktop::photos_ui
