@@ -110,7 +110,7 @@ void PUPhotosGridViewController::viewDidLayoutSubviews() {
 void PUPhotosGridViewController::updateLayoutMetrics() {
   _measuredWidth = self().view().bounds().size.width;
   const auto [columns, itemSize] =
-      gridMetrics(_contents, _measuredWidth, layout().interItemSpacing(), uikit::stage().scale);
+      gridMetrics(_contents, _measuredWidth, layout().interItemSpacing(), uikit::screen().scale);
   layout().setColumnsPerRow(columns);
   bridge::send<void, "setItemSize:">(layout().self(), itemSize);
 }

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/application/application.h"
 
 namespace desktop::photos_ui {
 
@@ -37,7 +37,7 @@ void BarsVisibility::hideToolbarForAnother(bool animated) const {
 }
 
 void BarsVisibility::showStatusBar(bool shown) {
-  bool& isShown = uikit::stage().statusBar.isShown;
+  bool& isShown = uikit::application().statusBar.isShown;
   if (shown)
     isShown = _hasStatusBar;
   else

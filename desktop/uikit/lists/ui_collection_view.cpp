@@ -9,11 +9,11 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
-#include "desktop/uikit/application/stage.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/lists/collection/collection_placing.h"
 #include "desktop/uikit/lists/ui_collection_reusable_view.h"
 #include "desktop/uikit/scrolling/scroll_target.h"
+#include "desktop/uikit/views/animator.h"
 
 namespace desktop::uikit {
 namespace {
@@ -226,7 +226,7 @@ void UICollectionView::show(const CollectionElement& element, Attributes attribu
   const View view = _dataSource.view(element);
   if (!view || !pass.holds()) return;
   _cells.show(element, view);
-  stage().animator.withoutAnimation([&] {
+  animator().withoutAnimation([&] {
     placeElement(view, attributes);
     if (element.isItem()) {
       const handles::UICollectionViewCell cell(view.get().get());

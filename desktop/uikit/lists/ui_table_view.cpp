@@ -15,6 +15,7 @@
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 #include "desktop/uikit/scrolling/scroll_target.h"
 #include "desktop/uikit/touch/ui_touch.h"
+#include "desktop/uikit/views/animator.h"
 
 namespace desktop::uikit {
 namespace {
@@ -294,7 +295,7 @@ void UITableView::showRow(ItemPath path, CGRect frame) {
   const auto cell = _dataSource.cell(path);
   if (!pass.holds()) return;
   _cells.show(path, cell);
-  stage().animator.withoutAnimation([&] {
+  animator().withoutAnimation([&] {
     cell->setFrame(frame);
     styleCell(cell, path);
     bridge::send<void, "setSelected:animated:">(cell, _selected == path, false);
@@ -373,7 +374,7 @@ void UITableView::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
 void UITableView::press(ItemPath path, Seconds since) {
   _press.begin(path);
   highlight(path, true);
-  _longPress.callAfter(since + longPressTime - stage().scheduler.now(), [this] { pressWasLong(); });
+  _longPress.callAfter(since + longPressTime - scheduler().now(), [this] { pressWasLong(); });
 }
 
 // Ends a press without any effect.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/photos_ui/one_up/bars_visibility.h"
 
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -16,7 +17,7 @@ class BarsVisibilityTest : public uikit::StageTest {
     _navigation->push(_first, bridge::UIViewController::immediately);
     _navigation->push(_second, bridge::UIViewController::immediately);
     window().setRootViewController(_navigation);
-    uikit::stage().statusBar.isShown = true;
+    uikit::application().statusBar.isShown = true;
   }
 
   uikit::UINavigationController& navigation() const {
@@ -43,22 +44,22 @@ TEST_F(BarsVisibilityTest, HidesAllBarsAndShowsThemAgain) {
     EXPECT_FALSE(bars.areShown());
     EXPECT_TRUE(navigation().isNavigationBarHidden());
     EXPECT_TRUE(navigation().isToolbarHidden());
-    EXPECT_FALSE(uikit::stage().statusBar.isShown);
+    EXPECT_FALSE(uikit::application().statusBar.isShown);
     EXPECT_EQ(background(), uikit::colors::black);
     EXPECT_FALSE(bars.show(false, false)) << "they are hidden";
     EXPECT_TRUE(bars.show(true, false));
     EXPECT_FALSE(navigation().isNavigationBarHidden());
     EXPECT_FALSE(navigation().isToolbarHidden());
-    EXPECT_TRUE(uikit::stage().statusBar.isShown);
+    EXPECT_TRUE(uikit::application().statusBar.isShown);
     EXPECT_EQ(background(), uikit::colors::white);
   }
 }
 
 TEST_F(BarsVisibilityTest, BringsNoStatusBarWhereThereWasNone) {
-  uikit::stage().statusBar.isShown = false;
+  uikit::application().statusBar.isShown = false;
   bars.show(false, false);
   bars.show(true, false);
-  EXPECT_FALSE(uikit::stage().statusBar.isShown);
+  EXPECT_FALSE(uikit::application().statusBar.isShown);
 }
 
 TEST_F(BarsVisibilityTest, HasAToolbarWhileItsControllerIsOnTop) {

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "desktop/photos_ui/photos_ui.h"
+#include "desktop/uikit/application/application.h"
 #include "tests/desktop/photos_ui/sample_items.h"
 #include "tests/desktop/uikit/stage_test.h"
 
@@ -31,7 +32,7 @@ class PhotoPagesTest : public uikit::StageTest {
   }
   bool perform(OneUpAction action) {
     const bool isDone = pages.perform(action);
-    uikit::stage().advance(1);
+    uikit::application().advance(1);
     return isDone;
   }
   bridge::UIView currentPage() const { return PUTilingView::of(pages.view()).currentPage(); }

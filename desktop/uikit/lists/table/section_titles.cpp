@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "desktop/uikit/application/stage.h"
+#include "desktop/uikit/views/animator.h"
 
 namespace desktop::uikit {
 namespace {
@@ -42,7 +42,7 @@ void SectionTitles::follow(const std::map<TitlePlace, CGRect>& wanted, Inquiry::
         const View view = View::retain(make(place));
         if (!view || !pass.holds()) return;
         _shown.show(place, view);
-        stage().animator.withoutAnimation([&] { view->setFrame(frame); });
+        animator().withoutAnimation([&] { view->setFrame(frame); });
         table.addSubview(view);
       });
 }
