@@ -43,6 +43,7 @@
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
+#include "desktop/uikit/scrolling/ui_scroll_view_pan_gesture_recognizer.h"
 #include "desktop/uikit/text/ns_paragraph_style.h"
 #include "desktop/uikit/text/ui_font.h"
 #include "desktop/uikit/touch/ui_event.h"

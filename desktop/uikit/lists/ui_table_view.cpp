@@ -322,9 +322,9 @@ void UITableView::styleCells() const {
 }
 
 void UITableView::placeTitles() {
-  const CGFloat top = inSight().top + UIScrollView::of(self()).adjustedContentInset().top;
+  const CGFloat sightTop = inSight().top + UIScrollView::of(self()).adjustedContentInset().top;
   std::map<TitlePlace, CGRect> wanted;
-  for (const auto& [place, band] : titlesIn(_geometry, inSight(), top, isGrouped()))
+  for (const auto& [place, band] : titlesIn(_geometry, inSight(), sightTop, isGrouped()))
     wanted[place] = across(band);
   _titles.follow(wanted, Inquiry::Pass(_measuring), self(),
                  [this](TitlePlace place) { return titleView(place); });

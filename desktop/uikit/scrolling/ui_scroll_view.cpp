@@ -1,24 +1,36 @@
 // SPDX-License-Identifier: MIT
 //
-// Where the content is. How fingers move it is in ui_scroll_view_panning.cpp.
+// Content moves in three ways: it is set to an offset, a finger drags it, or it travels by itself,
+// after the finger or to where it was told to go. All three end in setContentOffset:, which tells
+// the delegate; what is set by others stops what moves by itself. A drag ends in a travel, which a
+// tick moves on in steps of a frame until it is there or a finger comes.
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/graphics/encodings.h"
+#include "desktop/uikit/scrolling/scroll_target.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
+#include "desktop/uikit/touch/ui_pan_gesture_recognizer.h"
 
 namespace desktop::uikit {
 namespace {
 
+using State = bridge::UIGestureRecognizer::State;
+
+constexpr Seconds frame = 1.0 / 60;
 constexpr Seconds scrollTime = 0.3;
 
-// One direction of clamping: from the inset before the content as far as the content reaches
-// beyond the room.
-CGFloat clampedTo(CGFloat offset, CGFloat before, CGFloat content, CGFloat after, CGFloat room) {
-  return std::clamp(offset, -before, std::max(-before, content + after - room));
+bool isFinite(CGPoint point) {
+  return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+CGPoint onPixels(CGPoint point) {
+  const CGFloat scale = stage().scale;
+  return {std::round(point.x * scale) / scale, std::round(point.y * scale) / scale};
 }
 
 }  // namespace
@@ -78,7 +90,13 @@ UIScrollView::UIScrollView(id self) : Bound(self) {
       bridge::send<handles::UIPanGestureRecognizer, "initWithTarget:action:">(
           bridge::send<id, "alloc">(UIScrollViewPanGestureRecognizer::classObject()), self,
           bridge::selector<"handlePan:">()));
+  UIScrollViewPanGestureRecognizer::of(_pan.get())
+      .setFingers({[this] { return fingerDown(); }, [this] { fingerGone(); }});
   me().addGestureRecognizer(_pan);
+}
+
+UIScrollView::~UIScrollView() {
+  UIScrollViewPanGestureRecognizer::of(_pan.get()).setFingers({});
 }
 
 CGPoint UIScrollView::contentOffset() const {
@@ -87,94 +105,79 @@ CGPoint UIScrollView::contentOffset() const {
 
 void UIScrollView::setContentOffset(CGPoint offset) {
   if (!std::isfinite(offset.x) || !std::isfinite(offset.y)) return;
-  if (!_isMovingItself) stopMotion();
+  if (!_isMovingItself) stop();
   UIView& view = UIView::of(self());
   const CGRect before = view.bounds();
   view.setBounds({offset, before.size});
   if (view.bounds() == before) return;
   view.setNeedsLayout();
-  if (bridge::respondsTo<"scrollViewDidScroll:">(_delegate))
-    bridge::send<void, "scrollViewDidScroll:">(_delegate, self());
+  told<"scrollViewDidScroll:">(_delegate, self());
 }
 
 void UIScrollView::setContentOffsetAnimated(CGPoint offset, bool animated) {
   const CGPoint from = contentOffset();
-  const bool isGoing = animated && UIView::of(self()).window() && std::isfinite(offset.x) &&
-                       std::isfinite(offset.y) && offset != from;
+  const bool isGoing =
+      animated && UIView::of(self()).window() && isFinite(offset) && offset != from;
   if (!isGoing) return bridge::send<void, "setContentOffset:">(self(), offset);
-  start({ScrollMotion::easing(from.x, offset.x, scrollTime),
-         ScrollMotion::easing(from.y, offset.y, scrollTime), scheduler().now(), false});
+  start(ScrollTravel::easing(from, offset, scrollTime));
 }
 
 // Content that became smaller is not left behind.
 void UIScrollView::setContentSize(CGSize size) {
   if (!std::isfinite(size.width) || !std::isfinite(size.height)) size = {};
-  if (size == _contentSize) return;
-  _contentSize = size;
-  if (_isDragging || _motion) return;
+  if (size == _content.size) return;
+  _content.size = size;
+  if (isDragging() || _travel) return;
   const CGPoint inside = clamped(contentOffset());
   if (inside != contentOffset()) bridge::send<void, "setContentOffset:">(self(), inside);
 }
 
 void UIScrollView::setContentInset(EdgeInsets insets) {
-  _contentInset = insets;
-  adjustInset();
+  const EdgeInsets before = adjustedContentInset();
+  _content.inset = insets;
+  followInset(before);
 }
 
 void UIScrollView::setSafeArea(EdgeInsets area) {
-  _safeArea = area;
-  adjustInset();
+  const EdgeInsets before = adjustedContentInset();
+  _content.safeArea = area;
+  followInset(before);
 }
 
 void UIScrollView::setAdjustmentBehavior(NSInteger behavior) {
-  _adjustmentBehavior = behavior;
-  adjustInset();
+  const EdgeInsets before = adjustedContentInset();
+  _content.adjustment = behavior;
+  followInset(before);
 }
 
 // What stood at its top stays there.
-void UIScrollView::adjustInset() {
-  constexpr NSInteger never = 2;
-  EdgeInsets insets = _contentInset;
-  if (_adjustmentBehavior != never) {
-    insets.top += _safeArea.top;
-    insets.left += _safeArea.left;
-    insets.bottom += _safeArea.bottom;
-    insets.right += _safeArea.right;
-  }
-  if (insets == _adjustedInset) return;
-  const CGPoint before = contentOffset();
-  const bool wasAtTop = before.y == -_adjustedInset.top;
-  _adjustedInset = insets;
-  if (wasAtTop) bridge::send<void, "setContentOffset:">(self(), CGPoint{before.x, -insets.top});
-}
-
-CGPoint UIScrollView::clamped(CGPoint offset) const {
-  return {clampedTo(offset.x, _adjustedInset.left, _contentSize.width, _adjustedInset.right,
-                    room().width),
-          clampedTo(offset.y, _adjustedInset.top, _contentSize.height, _adjustedInset.bottom,
-                    room().height)};
+void UIScrollView::followInset(const EdgeInsets& before) {
+  const EdgeInsets after = adjustedContentInset();
+  const CGPoint offset = contentOffset();
+  if (after != before && offset.y == -before.top)
+    bridge::send<void, "setContentOffset:">(self(), CGPoint{offset.x, -after.top});
 }
 
 void UIScrollView::setScrollEnabled(bool enabled) {
   if (enabled == _isScrollEnabled) return;
   _isScrollEnabled = enabled;
-  if (!enabled && _isDragging) UIGestureRecognizer::of(_pan.get()).leaveTouches();
+  if (!enabled && isDragging()) UIGestureRecognizer::of(_pan.get()).leaveTouches();
 }
 
 bool UIScrollView::scrollBy(CGPoint distance) {
   const CGPoint before = contentOffset();
   const CGPoint after = clamped(before + distance);
-  if (!_isScrollEnabled || _isDragging || after == before) return false;
+  if (!_isScrollEnabled || isDragging() || after == before) return false;
   bridge::send<void, "setContentOffset:">(self(), after);
   showIndicators();
   return true;
 }
 
 void UIScrollView::scrollRectToVisible(CGRect rect, bool animated) {
-  const CGRect seen = UIView::of(self()).bounds();
-  CGPoint offset = seen.origin;
-  offset.x = std::max(std::min(offset.x, rect.origin.x), right(rect) - seen.size.width);
-  offset.y = std::max(std::min(offset.y, rect.origin.y), bottom(rect) - seen.size.height);
+  const auto [from, size] = UIView::of(self()).bounds();
+  const CGPoint offset = {
+      offsetShowing(rect.origin.x, rect.size.width, {from.x, size.width}, ShownAt::nearest),
+      offsetShowing(rect.origin.y, rect.size.height, {from.y, size.height}, ShownAt::nearest)};
   setContentOffsetAnimated(clamped(offset), animated);
 }
 
@@ -182,6 +185,190 @@ void UIScrollView::scrollRectToVisible(CGRect rect, bool animated) {
 bridge::UIView UIScrollView::hitTest(CGPoint point, bridge::UIEvent event) {
   const auto hit = super<bridge::UIView, "hitTest:withEvent:">(point, event);
   return hit && isDecelerating() ? me() : hit;
+}
+
+// A finger on it.
+
+UIScrollViewPanGestureRecognizer::Ways UIScrollView::freeWays() const {
+  const CGSize content = _content.whole();
+  const bool across = content.width > room().width || (_bounces && _alwaysBounceHorizontal);
+  const bool down = content.height > room().height || (_bounces && _alwaysBounceVertical);
+  return {_isScrollEnabled && across, _isScrollEnabled && down};
+}
+
+bool UIScrollView::delaysTouches() const {
+  const auto ways = freeWays();
+  return _delaysContentTouches && (ways.across || ways.down);
+}
+
+UIScrollViewPanGestureRecognizer::Ways UIScrollView::fingerDown() {
+  const auto ways = freeWays();
+  _isTracking = true;
+  if (isDecelerating()) {
+    stop();
+    told<"scrollViewDidEndDecelerating:">(_delegate, me());
+  }
+  return ways;
+}
+
+// What a finger stopped between two pages, or beyond the end, goes on without it.
+void UIScrollView::fingerGone() {
+  if (!std::exchange(_isTracking, false) || isDragging() || _travel) return;
+  _drag.letGoAt(contentOffset());
+  const ScrollTravel travel = travelWith({});
+  if (travel.duration() > 0) start(travel);
+}
+
+void UIScrollView::handlePan(handles::UIPanGestureRecognizer recognizer) {
+  switch (recognizer.state()) {
+    case State::began:
+      beginDragging();
+      return drag();
+    case State::changed:
+      return drag();
+    case State::ended:
+      return endDragging(false);
+    default:
+      return endDragging(true);
+  }
+}
+
+void UIScrollView::beginDragging() {
+  stop();
+  const auto& pan = UIPanGestureRecognizer::of(_pan.get());
+  _drag.begin(contentOffset(), pan.translationIn({}), pan.velocityIn({}),
+              _isDirectionalLockEnabled);
+  told<"scrollViewWillBeginDragging:">(_delegate, me());
+}
+
+// Of a way, or a velocity, what the content can follow.
+CGPoint UIScrollView::followed(CGPoint way) const {
+  const auto ways = freeWays();
+  return _drag.along(way, ways.across, ways.down);
+}
+
+void UIScrollView::drag() {
+  if (!isDragging()) return;
+  const CGPoint way = followed(UIPanGestureRecognizer::of(_pan.get()).translationIn(me()));
+  moveTo(_content.pulledTo(_drag.start() - way, room(), _bounces));
+}
+
+void UIScrollView::endDragging(bool isCancelled) {
+  if (!_drag.end()) return;
+  CGPoint velocity;
+  if (!isCancelled)
+    velocity = CGPoint{} - followed(UIPanGestureRecognizer::of(_pan.get()).velocityIn(me()));
+  ScrollTravel travel = travelWith(velocity);
+  const CGPoint wanted = wantedEnd(velocity, travel.end());
+  if (wanted != travel.end()) travel = ScrollTravel::springing(contentOffset(), velocity, wanted);
+  const bool goesOn = travel.duration() > 0 && UIView::of(self()).window();
+  if (goesOn) start(travel);
+  told<"scrollViewDidEndDragging:willDecelerate:">(_delegate, me(), goesOn);
+  if (goesOn && isDecelerating()) told<"scrollViewWillBeginDecelerating:">(_delegate, me());
+  if (!goesOn) moveTo(clamped(contentOffset()));
+}
+
+// Where the delegate wants the content to come to rest that would do so at an end; velocities are
+// told in points a millisecond.
+CGPoint UIScrollView::wantedEnd(CGPoint velocity, CGPoint end) const {
+  told<"scrollViewWillEndDragging:withVelocity:targetContentOffset:">(
+      _delegate, me(), CGPoint{velocity.x / 1000, velocity.y / 1000}, &end);
+  return isFinite(end) ? end : contentOffset();
+}
+
+// It moves by itself.
+
+ScrollTravel UIScrollView::travelWith(CGPoint velocity) const {
+  const CGPoint from = contentOffset();
+  if (!_isPagingEnabled)
+    return ScrollTravel::coasting(from, velocity, clamped({-HUGE_VAL, -HUGE_VAL}),
+                                  clamped({HUGE_VAL, HUGE_VAL}), _bounces);
+  const CGPoint to = clamped(_drag.pageNear(from, velocity, room()));
+  return ScrollTravel::springing(
+      from, {to.x == from.x ? 0 : velocity.x, to.y == from.y ? 0 : velocity.y}, to);
+}
+
+void UIScrollView::start(ScrollTravel travel) {
+  travel.start = stage().scheduler.now();
+  _travel = travel;
+  _tick.callAfter(frame, [this] { tick(); });
+}
+
+// Content that nobody sees any longer stays where it is.
+void UIScrollView::tick() {
+  if (!_travel) return;
+  const auto kept = bridge::Owned<bridge::UIView>::retain(me());
+  if (!UIView::of(self()).window()) return stop();
+  const Seconds time = stage().scheduler.now() - _travel->start;
+  if (time >= _travel->duration()) return finish();
+  _tick.callAfter(frame, [this] { tick(); });
+  moveTo(_travel->at(time));
+}
+
+// The content may have become another while it moved.
+void UIScrollView::finish() {
+  const bool wasCoasting = _travel->isCoasting;
+  const CGPoint end = _travel->end();
+  stop();
+  moveTo(wasCoasting ? clamped(onPixels(end)) : end);
+  if (wasCoasting) {
+    told<"scrollViewDidEndDecelerating:">(_delegate, me());
+  } else {
+    told<"scrollViewDidEndScrollingAnimation:">(_delegate, me());
+  }
+}
+
+void UIScrollView::stop() {
+  _travel.reset();
+  _tick.cancel();
+}
+
+void UIScrollView::moveTo(CGPoint offset) {
+  const bool wasMovingItself = std::exchange(_isMovingItself, true);
+  bridge::send<void, "setContentOffset:">(self(), offset);
+  _isMovingItself = wasMovingItself;
+  showIndicators();
+}
+
+// The bars at its edges.
+
+void UIScrollView::setShowsVerticalIndicator(bool shows) {
+  _indicators.setShowsVertical(shows);
+  UIView::of(self()).setNeedsDisplay();
+}
+
+void UIScrollView::setShowsHorizontalIndicator(bool shows) {
+  _indicators.setShowsHorizontal(shows);
+  UIView::of(self()).setNeedsDisplay();
+}
+
+ScrollIndicators::Bars UIScrollView::bars() const {
+  return _indicators.bars(UIView::of(self()).bounds(), _content);
+}
+
+double UIScrollView::indicatorAlpha() const {
+  return _indicators.alpha(stage().scheduler.now(), isDragging());
+}
+
+void UIScrollView::drawIndicators(Canvas& canvas) const {
+  ScrollIndicators::draw(canvas, bars(), indicatorAlpha());
+}
+
+void UIScrollView::showIndicators() {
+  const auto [vertical, horizontal] = bars();
+  if ((isEmpty(vertical) && isEmpty(horizontal)) || !UIView::of(self()).window()) return;
+  _indicators.show(stage().scheduler.now());
+  fadeIndicators();
+  _fade.callAfter(ScrollIndicators::shownFor, [this] { fadeIndicators(); });
+}
+
+// Asks for the bars to be painted again, until they are gone.
+void UIScrollView::fadeIndicators() {
+  const UIView& view = UIView::of(self());
+  if (!view.window()) return;
+  for (const CGRect& bar : bars())
+    if (!isEmpty(bar)) stage().damage.add(apply(view.toScreen(), bar));
+  if (indicatorAlpha() > 0) _fade.callAfter(frame, [this] { fadeIndicators(); });
 }
 
 }  // namespace desktop::uikit
