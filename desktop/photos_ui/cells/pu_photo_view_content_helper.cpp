@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Showing an item takes the thumbnail where it is at hand, and otherwise asks for it and shows
+// nothing meanwhile; another item, or leaving the screen, takes the question back. Mark and word
+// are placed only when the view got another size, since extensions move them.
 #include "desktop/photos_ui/cells/pu_photo_view_content_helper.h"
 
 #include <algorithm>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// A layout pass asks once how wide each column is, by message, as extensions change that, and then
+// adds up where each section begins. Every other question is arithmetic on these: an item's row and
+// column follow from its number, and the rows in a rectangle from the height of one.
 #include "desktop/photos_ui/grid/pu_sectioned_grid_layout.h"
 
 #include <algorithm>

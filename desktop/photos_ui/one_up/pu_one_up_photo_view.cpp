@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// All frames follow from the room, the picture's shape and the zoom: whatever changes one of them
+// arranges all. A small picture is asked for first, one of the room's pixels once the shape is
+// known, and a larger one for a closer look; what comes replaces what is shown, place and zoom
+// stay.
 #include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
 
 #include <algorithm>
@@ -56,10 +61,6 @@ Class PUOneUpPhotoView::classObject() {
           .method<"playTouched:", &PUOneUpPhotoView::playTouched>()
           .build();
   return made;
-}
-
-PUOneUpPhotoView::~PUOneUpPhotoView() {
-  if (_ticket && host().pictures) host().pictures->cancel(*_ticket);
 }
 
 bridge::Owned<bridge::UIView> PUOneUpPhotoView::make(library::ItemPointer item) {
@@ -159,13 +160,12 @@ void PUOneUpPhotoView::arrange() {
 void PUOneUpPhotoView::load(CGSize pixels, pictures::Priority priority) {
   if (!host().pictures || isWithin(pixels, _asked)) return;
   _asked = pixels;
-  if (_ticket) host().pictures->cancel(*_ticket);
   const auto side = [](CGFloat length) {
     return static_cast<int>(std::clamp(std::ceil(length), 1.0, greatestSide));
   };
-  _ticket = host().pictures->request(
-      _item->path, {side(pixels.width), side(pixels.height), pictures::Request::Fit::fit}, priority,
-      [this](const pictures::Outcome& outcome) { show(outcome); });
+  _ticket.request(_item->path,
+                  {side(pixels.width), side(pixels.height), pictures::Request::Fit::fit}, priority,
+                  [this](const pictures::Outcome& outcome) { show(outcome); });
 }
 
 void PUOneUpPhotoView::loadForRoom() {
@@ -180,7 +180,6 @@ void PUOneUpPhotoView::loadForZoom() {
 }
 
 void PUOneUpPhotoView::show(const pictures::Outcome& outcome) {
-  _ticket.reset();
   if (!outcome.picture) {
     if (_pictureSize.width <= 0) showFailure(outcome.reason);
     return;

@@ -4,11 +4,9 @@
 // closer. The picture comes in steps: what is quickly at hand first.
 #pragma once
 
-#include <optional>
-
 #include "bridge/bound.h"
 #include "desktop/library/library_item.h"
-#include "desktop/pictures/picture_loader.h"
+#include "desktop/photos_ui/cells/picture_ticket.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 namespace desktop::photos_ui {
@@ -16,7 +14,6 @@ namespace desktop::photos_ui {
 class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::UIScrollView> {
  public:
   using Bound::Bound;
-  ~PUOneUpPhotoView();
   static Class classObject();
 
   static bridge::Owned<bridge::UIView> make(library::ItemPointer item);
@@ -53,7 +50,7 @@ class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::
   bridge::Owned<uikit::handles::UIImageView> _imageView;
   bridge::Owned<bridge::UILabel> _failure;
   bridge::Owned<bridge::UIButton> _playButton;
-  std::optional<pictures::Ticket> _ticket;
+  PictureTicket _ticket;
   CGSize _pictureSize;  // pixels of what is shown
   CGSize _asked;        // pixels of the box that was asked for last
   CGSize _laidOut;      // the room at the last layout
