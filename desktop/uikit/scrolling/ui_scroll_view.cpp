@@ -11,6 +11,7 @@
 #include "bridge/class_builder.h"
 #include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/scrolling/scroll_target.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
@@ -29,7 +30,7 @@ bool isFinite(CGPoint point) {
 }
 
 CGPoint onPixels(CGPoint point) {
-  const CGFloat scale = stage().scale;
+  const CGFloat scale = screen().scale;
   return {std::round(point.x * scale) / scale, std::round(point.y * scale) / scale};
 }
 
@@ -289,7 +290,7 @@ ScrollTravel UIScrollView::travelWith(CGPoint velocity) const {
 }
 
 void UIScrollView::start(ScrollTravel travel) {
-  travel.start = stage().scheduler.now();
+  travel.start = scheduler().now();
   _travel = travel;
   _tick.callAfter(frame, [this] { tick(); });
 }
@@ -299,7 +300,7 @@ void UIScrollView::tick() {
   if (!_travel) return;
   const auto kept = bridge::Owned<bridge::UIView>::retain(me());
   if (!UIView::of(self()).window()) return stop();
-  const Seconds time = stage().scheduler.now() - _travel->start;
+  const Seconds time = scheduler().now() - _travel->start;
   if (time >= _travel->duration()) return finish();
   _tick.callAfter(frame, [this] { tick(); });
   moveTo(_travel->at(time));
@@ -347,7 +348,7 @@ ScrollIndicators::Bars UIScrollView::bars() const {
 }
 
 double UIScrollView::indicatorAlpha() const {
-  return _indicators.alpha(stage().scheduler.now(), isDragging());
+  return _indicators.alpha(scheduler().now(), isDragging());
 }
 
 void UIScrollView::drawIndicators(Canvas& canvas) const {
@@ -357,7 +358,7 @@ void UIScrollView::drawIndicators(Canvas& canvas) const {
 void UIScrollView::showIndicators() {
   const auto [vertical, horizontal] = bars();
   if ((isEmpty(vertical) && isEmpty(horizontal)) || !UIView::of(self()).window()) return;
-  _indicators.show(stage().scheduler.now());
+  _indicators.show(scheduler().now());
   fadeIndicators();
   _fade.callAfter(ScrollIndicators::shownFor, [this] { fadeIndicators(); });
 }
@@ -367,7 +368,7 @@ void UIScrollView::fadeIndicators() {
   const UIView& view = UIView::of(self());
   if (!view.window()) return;
   for (const CGRect& bar : bars())
-    if (!isEmpty(bar)) stage().damage.add(apply(view.toScreen(), bar));
+    if (!isEmpty(bar)) screen().damage.add(apply(view.toScreen(), bar));
   if (indicatorAlpha() > 0) _fade.callAfter(frame, [this] { fadeIndicators(); });
 }
 
