@@ -5,12 +5,11 @@
 
 #include <string>
 
+#include "foundation/date_style.h"
 #include "foundation/local_time.h"
 #include "foundation/locale.h"
 
 namespace foundation {
-
-enum class CalendarUnit { day, month, year };
 
 // In en_US "Sep 30, 2018" (the platform's medium date style without a time), "September 2018",
 // "2018"; otherwise in the customs of the locale.

@@ -5,13 +5,12 @@
 
 #include <string>
 
+#include "foundation/date_style.h"
 #include "foundation/local_time.h"
 #include "foundation/locale.h"
 #include "model/value.h"
 
 namespace foundation {
-
-enum class DateStyle { shortDate, mediumDate };
 
 // Date in the given style and time in the medium style: in en_US
 // "Sep 30, 2018 at 2:03:11 PM" (medium) and "9/30/18, 2:03:11 PM" (short). The time zone is that

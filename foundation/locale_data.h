@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/calendar_text.h"
-#include "foundation/date_text.h"
+#include "foundation/date_style.h"
 #include "foundation/locale.h"
+#include "model/civil_time.h"
 
 namespace foundation {
 

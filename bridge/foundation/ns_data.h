@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "bridge/foundation/ns_string.h"
+#include "bridge/foundation/ns_object.h"
 
 namespace bridge {
 
@@ -19,11 +19,6 @@ struct NSData : NSObject {
   const void* bytes() const { return send<const void*, "bytes">(*this); }
   // The bytes, borrowed from the object.
   std::string_view view() const { return {static_cast<const char*>(bytes()), length()}; }
-  // The bytes read as UTF-8; nil where they are none.
-  Owned<NSString> utf8Text() const {
-    return makeWith<NSString, "initWithData:encoding:">(NSString::classObject(), *this,
-                                                        NSUInteger{4});
-  }
 };
 
 struct NSDate : NSObject {

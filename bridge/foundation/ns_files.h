@@ -5,6 +5,7 @@
 
 #include "bridge/foundation/ns_collections.h"
 #include "bridge/foundation/ns_data.h"
+#include "bridge/foundation/ns_string.h"
 
 namespace bridge {
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/foundation/ns_data.h"
+#include "bridge/foundation/ns_string.h"
 
 namespace bridge {
 

@@ -16,6 +16,10 @@ NSString NSString::make(std::string_view utf8) {
   return made.autorelease();
 }
 
+Owned<NSString> NSString::makeOfUtf8(NSData data) {
+  return makeWith<NSString, "initWithData:encoding:">(classObject(), data, utf8Encoding);
+}
+
 std::string NSString::utf8() const {
   const auto data =
       send<NSData, "dataUsingEncoding:allowLossyConversion:">(*this, utf8Encoding, true);

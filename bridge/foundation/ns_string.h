@@ -8,6 +8,8 @@
 
 namespace bridge {
 
+struct NSData;
+
 // Lengths and indices are in UTF-16 units.
 struct NSString : NSObject {
   using NSObject::NSObject;
@@ -15,6 +17,8 @@ struct NSString : NSObject {
 
   // The text, which may hold zeros. Autoreleased; nil where it is not valid UTF-8.
   static NSString make(std::string_view utf8);
+  // The bytes read as UTF-8; nil where they are none.
+  static Owned<NSString> makeOfUtf8(NSData data);
 
   // The text as UTF-8: empty for nil, U+FFFD or '?' for what has no form in it.
   std::string utf8() const;

@@ -3,6 +3,7 @@
 
 #include "desktop/script/node_parts.h"
 #include "desktop/script/tree_dump.h"
+#include "desktop/script/view_dump.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/controllers/ui_activity_view_controller.h"

@@ -3,10 +3,7 @@
 // What is on the screen, as JSON.
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
 #include <string>
-
-#include "bridge/uikit/ui_view.h"
 
 namespace desktop::script {
 
@@ -15,8 +12,5 @@ namespace desktop::script {
 // told as it is shown now. The presentation names every controller from the window's to the
 // top-most, each container before what it shows. Always valid UTF-8.
 std::string dumpScreen();
-
-// One view and everything in it.
-nlohmann::ordered_json dumpView(bridge::UIView view);
 
 }  // namespace desktop::script

@@ -6,8 +6,9 @@
 #include <optional>
 #include <string>
 
-#include "foundation/calendar_text.h"
-#include "foundation/date_text.h"
+#include "foundation/date_style.h"
+#include "foundation/locale.h"
+#include "model/civil_time.h"
 
 namespace foundation {
 

@@ -19,7 +19,7 @@ constexpr KindRow kinds[] = {
 };
 
 NSString dataText(NSData data) {
-  if (auto text = data.utf8Text()) return text.autorelease();
+  if (auto text = NSString::makeOfUtf8(data)) return text.autorelease();
   return data.description();
 }
 

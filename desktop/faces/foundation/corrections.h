@@ -4,8 +4,6 @@
 // called once.
 #pragma once
 
-#include "desktop/faces/foundation/foundation_runtime.h"
-
 namespace desktop::faces {
 
 void correctByteCounts();
@@ -16,8 +14,5 @@ void correctLinks();
 void correctNumbers();
 void correctStrings();
 void correctMainBundle();
-
-// What correctFoundation was last given.
-const FoundationOptions& currentOptions();
 
 }  // namespace desktop::faces

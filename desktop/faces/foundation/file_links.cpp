@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/faces/foundation/file_links.h"
 
-#include "desktop/faces/foundation/corrections.h"
+#include "desktop/faces/foundation/foundation_options.h"
 #include "foundation/file_url.h"
 
 namespace desktop::faces {

@@ -9,6 +9,7 @@
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/corrections.h"
+#include "desktop/faces/foundation/foundation_options.h"
 #include "desktop/faces/foundation/replacement.h"
 #include "foundation/property_list.h"
 #include "foundation/shown_path.h"

@@ -7,11 +7,6 @@
 namespace desktop::faces {
 namespace {
 
-FoundationOptions& keptOptions() {
-  static auto& kept = *new FoundationOptions;
-  return kept;
-}
-
 bool replaceMethods() {
   const bridge::AutoreleasePool pool;
   correctByteCounts();
@@ -27,12 +22,8 @@ bool replaceMethods() {
 
 }  // namespace
 
-const FoundationOptions& currentOptions() {
-  return keptOptions();
-}
-
 void correctFoundation(const FoundationOptions& options) {
-  keptOptions() = options;
+  currentOptions() = options;
   static const bool replaced = replaceMethods();
   static_cast<void>(replaced);
 }

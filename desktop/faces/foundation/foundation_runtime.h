@@ -5,16 +5,9 @@
 // bundle's identifier, and paths of the phone's file system.
 #pragma once
 
-#include <string>
-
-#include "foundation/device_root.h"
+#include "desktop/faces/foundation/foundation_options.h"
 
 namespace desktop::faces {
-
-struct FoundationOptions {
-  foundation::DeviceRoot root = foundation::DeviceRoot::ofUser();  // where "/var/mobile" lies
-  std::string bundleIdentifier;  // of the main bundle; empty: Foundation's own answer
-};
 
 // Replaces the methods in question on Foundation's own classes, once, and takes the options into
 // use, each time. Locale and time zone are the process's: the locale is asked for when texts are

@@ -3,6 +3,7 @@
 // A program outside an application bundle has no identifier; the host states its own.
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/corrections.h"
+#include "desktop/faces/foundation/foundation_options.h"
 #include "desktop/faces/foundation/replacement.h"
 
 namespace desktop::faces {

@@ -9,7 +9,6 @@
 
 #include "media/movie/tracks/elementary_stream.h"
 #include "media/movie/tracks/linear_sound.h"
-#include "media/movie/tracks/sample_description.h"
 #include "media/movie/tracks/sound_fields.h"
 
 namespace media::movie {

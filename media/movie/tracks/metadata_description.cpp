@@ -6,7 +6,6 @@
 #include "media/movie/tracks/metadata_description.h"
 
 #include "media/movie/boxes/limits.h"
-#include "media/movie/tracks/sample_description.h"
 #include "model/number_text.h"
 #include "model/utf8.h"
 

@@ -57,11 +57,4 @@ std::vector<FormatDescription> parseSampleDescriptions(io::ByteView table, Sampl
   return descriptions;
 }
 
-void setVerbatimEntry(model::Dictionary& extensions, const SampleEntry& entry) {
-  const char* key = entry.format == FileFormat::quickTime ? "VerbatimSampleDescription"
-                                                          : "VerbatimISOSampleEntry";
-  const auto bytes = entry.box.whole.bytes();
-  extensions[key] = model::Data(bytes.begin(), bytes.end());
-}
-
 }  // namespace media::movie

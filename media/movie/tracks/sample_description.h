@@ -15,8 +15,4 @@ namespace media::movie {
 std::vector<model::FormatDescription> parseSampleDescriptions(io::ByteView table,
                                                               SampleEntry track);
 
-// The bytes of an entry as the platform keeps them beside what it understood: under
-// "VerbatimSampleDescription" for QuickTime, "VerbatimISOSampleEntry" for ISO files.
-void setVerbatimEntry(model::Dictionary& extensions, const SampleEntry& entry);
-
 }  // namespace media::movie

@@ -18,4 +18,8 @@ struct SampleEntry {
   std::uint32_t mediaTimeScale = 0;  // ticks a second of the track
 };
 
+// The bytes of an entry as the platform keeps them beside what it understood: under
+// "VerbatimSampleDescription" for QuickTime, "VerbatimISOSampleEntry" for ISO files.
+void setVerbatimEntry(model::Dictionary& extensions, const SampleEntry& entry);
+
 }  // namespace media::movie

@@ -11,7 +11,6 @@
 #include "media/movie/boxes/mac_roman.h"
 #include "media/movie/tracks/colour_tags.h"
 #include "media/movie/tracks/picture_boxes.h"
-#include "media/movie/tracks/sample_description.h"
 #include "media/movie/tracks/video_usability.h"
 
 namespace media::movie {

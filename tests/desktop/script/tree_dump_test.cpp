@@ -6,6 +6,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "desktop/script/view_dump.h"
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "tests/desktop/uikit/application_test.h"

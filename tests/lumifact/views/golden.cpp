@@ -7,7 +7,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
-#include "desktop/script/tree_dump.h"
+#include "desktop/script/view_dump.h"
 
 namespace lumifact {
 namespace {
