@@ -9,11 +9,28 @@ target_compile_options(room_flags INTERFACE
     # are none (GCC bugs 105329 and 105562); the other builds keep both warnings.
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict;-Wno-maybe-uninitialized>)
 
-# room_library(NAME alias::name SOURCES a.cpp ... [DEPENDS lib ...] [PRIVATE_DEPENDS lib ...])
+# room_rule(NAME [SOURCES a.cpp ...] [FOLDERS folder ...] [MAY_INCLUDE path ...])
+# What the files of the current folder may include: each other, and the folders and single headers
+# after MAY_INCLUDE. FOLDERS are the room's own folders in their order: each may include those before
+# it, and the room's own files, "." where they are not last, stand above all. Of two rooms in one
+# folder the second holds the SOURCES and headers that it lists. tests/rooms checks the rules.
+function(room_rule name)
+  cmake_parse_arguments(RULE "" "" "SOURCES;FOLDERS;MAY_INCLUDE" ${ARGN})
+  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+  string(JOIN " " may_include ${RULE_MAY_INCLUDE})
+  string(JOIN " " folders ${RULE_FOLDERS})
+  string(JOIN " " files ${RULE_SOURCES})
+  set_property(GLOBAL APPEND_STRING PROPERTY ROOM_RULES
+    "room ${name} ${folder}\nmay-include ${may_include}\nfolders ${folders}\nfiles ${files}\n")
+endfunction()
+
+# room_library(NAME alias::name SOURCES a.cpp ... [FOLDERS folder ...] [MAY_INCLUDE path ...]
+#              [DEPENDS lib ...] [PRIVATE_DEPENDS lib ...])
 # A static library whose headers are included by their path from the repository's root. All of them
-# are listed in the global property ROOM_LIBRARIES.
+# are listed in the global property ROOM_LIBRARIES. FOLDERS and MAY_INCLUDE are those of room_rule.
 function(room_library name alias)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;FOLDERS;MAY_INCLUDE;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+  room_rule(${name} SOURCES ${ROOM_SOURCES} FOLDERS ${ROOM_FOLDERS} MAY_INCLUDE ${ROOM_MAY_INCLUDE})
   add_library(${name} STATIC ${ROOM_SOURCES})
   set_property(GLOBAL APPEND PROPERTY ROOM_LIBRARIES ${name})
   add_library(${alias} ALIAS ${name})
@@ -28,7 +45,7 @@ set(ROOM_MODULE_DIR ${CMAKE_INSTALL_LIBDIR}/desktop-modules)
 
 # room_module(NAME SOURCES a.cpp ... [DEPENDS lib ...])
 # NAME.so, which programs map when they first need it, and with it the libraries that it links (see
-# desktop/io/on_demand_module.h). It shows no symbol but its own.
+# io/on_demand_module.h). It shows no symbol but its own.
 function(room_module name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;DEPENDS" ${ARGN})
   add_library(${name} MODULE ${ROOM_SOURCES})
