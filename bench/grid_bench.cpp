@@ -17,7 +17,7 @@
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/photos_ui.h"
-#include "desktop/pictures/serve_decoder.h"
+#include "desktop/pictures/workers/serve_decoder.h"
 #include "desktop/render/renderer.h"
 #include "desktop/render/screen_picture.h"
 #include "desktop/uikit/application/application.h"

@@ -18,9 +18,9 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/pictures/decode_picture.h"
+#include "desktop/pictures/decoders/decode_picture.h"
 #include "desktop/pictures/picture_loader.h"
-#include "desktop/pictures/serve_decoder.h"
+#include "desktop/pictures/workers/serve_decoder.h"
 #include "samples/formats/heic_file.h"
 #include "samples/formats/jpeg_file.h"
 #include "samples/formats/png_file.h"

@@ -8,7 +8,7 @@
 
 #include "apps/photohost/options.h"
 #include "apps/photohost/photo_application.h"
-#include "desktop/pictures/serve_decoder.h"
+#include "desktop/pictures/workers/serve_decoder.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 
 namespace desktop::loader {
 

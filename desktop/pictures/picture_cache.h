@@ -9,7 +9,7 @@
 #include <map>
 #include <string>
 
-#include "desktop/pictures/picture.h"
+#include "desktop/pictures/pixels/picture.h"
 
 namespace desktop::pictures {
 

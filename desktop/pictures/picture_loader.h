@@ -20,9 +20,9 @@
 #include <string>
 #include <vector>
 
-#include "desktop/pictures/decoder_pool.h"
-#include "desktop/pictures/outcome.h"
 #include "desktop/pictures/picture_cache.h"
+#include "desktop/pictures/workers/decoder_pool.h"
+#include "desktop/pictures/workers/outcome.h"
 
 namespace desktop::pictures {
 

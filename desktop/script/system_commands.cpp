@@ -5,7 +5,7 @@
 
 #include "desktop/runtime/darwin_notifications.h"
 #include "foundation/notification_core.h"
-#include "foundation/property_list_edit.h"
+#include "foundation/property_lists/property_list_edit.h"
 
 namespace desktop::script {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "model/description.h"
 
 using namespace foundation;

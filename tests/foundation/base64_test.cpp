@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "foundation/base64.h"
+#include "foundation/property_lists/base64.h"
 
 #include <gtest/gtest.h>
 

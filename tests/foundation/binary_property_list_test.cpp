@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "foundation/binary_property_list.h"
+#include "foundation/property_lists/binary_property_list.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "foundation/property_list_edit.h"
+#include "foundation/property_lists/property_list_edit.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <thread>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "tests/support/temporary_folder.h"
 
 namespace foundation {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

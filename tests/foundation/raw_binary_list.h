@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 
 namespace foundation {
 

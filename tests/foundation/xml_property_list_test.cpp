@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "foundation/xml_property_list.h"
+#include "foundation/property_lists/xml_property_list.h"
 
 #include <gtest/gtest.h>
 

@@ -8,7 +8,7 @@
 #include "apps/lumifact/files/line_reader.h"
 #include "apps/lumifact/json/parse_answer.h"
 #include "apps/lumifact/terminal/console.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 
 namespace lumifact::tool {
 

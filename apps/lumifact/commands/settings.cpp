@@ -5,7 +5,7 @@
 #include "apps/lumifact/texts/environment.h"
 #include "apps/lumifact/texts/setting_text.h"
 #include "foundation/notification_core.h"
-#include "foundation/property_list_edit.h"
+#include "foundation/property_lists/property_list_edit.h"
 #include "model/description.h"
 
 namespace lumifact::tool {

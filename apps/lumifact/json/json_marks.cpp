@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-#include "foundation/base64.h"
+#include "foundation/property_lists/base64.h"
 #include "model/civil_time.h"
 #include "model/number_text.h"
 

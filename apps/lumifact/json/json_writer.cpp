@@ -6,7 +6,7 @@
 #include "apps/lumifact/json/json_marks.h"
 #include "apps/lumifact/json/json_object.h"
 #include "apps/lumifact/terminal/terminal_text.h"
-#include "foundation/base64.h"
+#include "foundation/property_lists/base64.h"
 #include "model/number_text.h"
 #include "model/utf8.h"
 

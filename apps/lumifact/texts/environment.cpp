@@ -3,7 +3,7 @@
 
 #include "foundation/collation.h"
 #include "foundation/paths.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 
 namespace lumifact::tool {
 

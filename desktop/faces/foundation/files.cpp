@@ -11,7 +11,7 @@
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/foundation_options.h"
 #include "desktop/faces/foundation/replacement.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "foundation/shown_path.h"
 
 namespace desktop::faces {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "bridge/uikit.h"
-#include "desktop/pictures/picture.h"
+#include "desktop/pictures/pixels/picture.h"
 
 namespace desktop::photos_ui {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/pictures/ffmpeg/frame_decoder.h"
 
-#include "desktop/pictures/limits.h"
+#include "desktop/pictures/pixels/limits.h"
 
 namespace desktop::pictures {
 

@@ -8,8 +8,8 @@ extern "C" {
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/pictures/limits.h"
-#include "desktop/pictures/orientation.h"
+#include "desktop/pictures/pixels/limits.h"
+#include "desktop/pictures/pixels/orientation.h"
 
 namespace desktop::pictures {
 

@@ -11,7 +11,7 @@ extern "C" {
 #include <memory>
 #include <optional>
 
-#include "desktop/pictures/picture.h"
+#include "desktop/pictures/pixels/picture.h"
 
 namespace desktop::pictures {
 

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "desktop/pictures/tile_decoder.h"
+#include "desktop/pictures/decoders/tile_decoder.h"
 
 namespace desktop::pictures {
 

@@ -6,7 +6,7 @@
 #include "desktop/pictures/ffmpeg/frame_decoder.h"
 #include "desktop/pictures/ffmpeg/frame_picture.h"
 #include "desktop/pictures/ffmpeg/hevc_tiles.h"
-#include "desktop/pictures/limits.h"
+#include "desktop/pictures/pixels/limits.h"
 
 namespace desktop::pictures {
 

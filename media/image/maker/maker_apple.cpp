@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "media/image/ifd/tag_table.h"
 #include "media/image/ifd/tiff_ifd.h"
 #include "model/number_text.h"

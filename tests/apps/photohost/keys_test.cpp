@@ -13,7 +13,7 @@
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/photos_ui/one_up/pu_one_up_photo_view.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
-#include "desktop/pictures/serve_decoder.h"
+#include "desktop/pictures/workers/serve_decoder.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controls/ui_button.h"
 #include "desktop/uikit/lists/ui_collection_view.h"

@@ -10,7 +10,7 @@
 #include <fstream>
 
 #include "desktop/loader/extension_filter.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 
 namespace desktop::loader {
 namespace {

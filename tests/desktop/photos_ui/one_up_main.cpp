@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "desktop/pictures/serve_decoder.h"
+#include "desktop/pictures/workers/serve_decoder.h"
 
 int main(int argc, char** argv) {
   using namespace desktop::pictures;

@@ -9,7 +9,7 @@
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/pictures/serve_decoder.h"
+#include "desktop/pictures/workers/serve_decoder.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/lists/ui_collection_view.h"
 #include "tests/desktop/photos_ui/library_screen.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/decode_picture.h"
+#include "desktop/pictures/decoders/decode_picture.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/decoder_messages.h"
+#include "desktop/pictures/workers/decoder_messages.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "desktop/pictures/limits.h"
+#include "desktop/pictures/pixels/limits.h"
 
 namespace desktop::pictures {
 

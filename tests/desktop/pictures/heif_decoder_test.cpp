@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/heif_decoder.h"
+#include "desktop/pictures/decoders/heif_decoder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/heif_tiles.h"
+#include "desktop/pictures/decoders/heif_tiles.h"
 
 #include <gtest/gtest.h>
 

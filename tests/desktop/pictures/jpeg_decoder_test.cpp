@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/jpeg_decoder.h"
+#include "desktop/pictures/decoders/jpeg_decoder.h"
 
 #include <gmock/gmock.h>
 
@@ -10,7 +10,7 @@
 
 #include <cstdlib>
 
-#include "desktop/pictures/limits.h"
+#include "desktop/pictures/pixels/limits.h"
 #include "samples/formats/jpeg_file.h"
 #include "samples/metadata/camera_exif.h"
 #include "samples/metadata/icc_profile.h"

@@ -14,8 +14,8 @@
 #include <thread>
 #include <vector>
 
-#include "desktop/pictures/decode_picture.h"
-#include "desktop/pictures/serve_decoder.h"
+#include "desktop/pictures/decoders/decode_picture.h"
+#include "desktop/pictures/workers/serve_decoder.h"
 
 namespace desktop::pictures {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/orientation.h"
+#include "desktop/pictures/pixels/orientation.h"
 
 #include <gmock/gmock.h>
 

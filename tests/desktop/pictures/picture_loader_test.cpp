@@ -12,7 +12,7 @@
 #include <set>
 #include <thread>
 
-#include "desktop/pictures/sanitizer.h"
+#include "desktop/pictures/workers/sanitizer.h"
 #include "samples/formats/bmp_file.h"
 #include "tests/desktop/pictures/test_files.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/row_scaler.h"
+#include "desktop/pictures/pixels/row_scaler.h"
 
 #include <gmock/gmock.h>
 

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <map>
 
-#include "desktop/pictures/decode_picture.h"
+#include "desktop/pictures/decoders/decode_picture.h"
 #include "media/facts/asset_facts.h"
 
 namespace desktop::pictures {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/target_size.h"
+#include "desktop/pictures/pixels/target_size.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "desktop/pictures/limits.h"
+#include "desktop/pictures/pixels/limits.h"
 
 namespace desktop::pictures {
 

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "desktop/pictures/picture.h"
+#include "desktop/pictures/pixels/picture.h"
 #include "samples/formats/byte_writer.h"
 #include "samples/pictures/picture.h"
 

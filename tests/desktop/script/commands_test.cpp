@@ -10,7 +10,7 @@
 #include "desktop/script/system_commands.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/base/screen.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "tests/desktop/uikit/application_test.h"
 #include "tests/desktop/uikit/touch_probes.h"
 #include "tests/support/temporary_folder.h"

@@ -12,7 +12,7 @@
 #include <string>
 
 #include "bridge/bound.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "tests/lumifact/loader/loaded_extension.h"
 
 namespace lumifact::host {

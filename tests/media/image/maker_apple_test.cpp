@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "media/image/blocks/limits.h"
 #include "model/description.h"
 #include "tests/support/tiff_builder.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "tests/apps/lumifact/tool_runner.h"
 #include "tests/support/temporary_folder.h"
 

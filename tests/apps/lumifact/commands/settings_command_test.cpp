@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "tests/apps/lumifact/tool_runner.h"
 #include "tests/support/temporary_folder.h"
 

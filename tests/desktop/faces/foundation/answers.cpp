@@ -6,7 +6,7 @@
 
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 
 namespace desktop::faces {
 namespace {

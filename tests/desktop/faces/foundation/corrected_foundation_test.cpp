@@ -10,7 +10,7 @@
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/foundation_runtime.h"
-#include "foundation/property_list.h"
+#include "foundation/property_lists/property_list.h"
 #include "tests/desktop/faces/foundation/answers.h"
 
 namespace desktop::faces {

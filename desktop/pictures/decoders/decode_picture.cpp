@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/pictures/decoders/decode_picture.h"
+
+#include <algorithm>
+#include <array>
+#include <exception>
+#include <string_view>
+
+#include "desktop/pictures/decoders/ffmpeg_frames.h"
+#include "desktop/pictures/decoders/heif_decoder.h"
+#include "desktop/pictures/decoders/jpeg_decoder.h"
+#include "desktop/pictures/decoders/qt_decoder.h"
+#include "desktop/pictures/decoders/raw_decoder.h"
+#include "io/byte_source.h"
+#include "media/image/image_type.h"
+#include "media/movie/other_containers.h"
+
+namespace desktop::pictures {
+
+namespace {
+
+// A file that is being decoded.
+struct File {
+  const std::string& path;
+  io::ByteSource& source;
+  const Request& request;
+};
+using Decode = model::Result<Picture> (*)(const File& file);
+
+template <auto decode>
+model::Result<Picture> with(const File& file) {
+  return decode(file.source, file.request);
+}
+
+model::Result<Picture> asJpeg(const File& file) {
+  return decodeJpeg(file.source, file.request);
+}
+
+template <const char* const& format>
+model::Result<Picture> withQt(const File& file) {
+  return decodeWithQt(format, file.source, file.request);
+}
+
+model::Result<Picture> asVideo(const File& file) {
+  return decodeVideoFrame(file.path, file.source, file.request);
+}
+
+struct Kind {
+  std::string_view type;  // uniform type identifier
+  Decode decode;
+};
+
+constexpr const char* png = "png";
+constexpr const char* gif = "gif";
+constexpr const char* bmp = "bmp";
+constexpr const char* tiff = "tiff";
+constexpr const char* webp = "webp";
+
+constexpr Kind kinds[] = {
+    {"public.jpeg", asJpeg},
+    {"public.heic", with<decodeHeif>},
+    {"public.heif", with<decodeHeif>},
+    {"public.avif", with<decodeHeif>},
+    {"public.png", withQt<png>},
+    {"com.compuserve.gif", withQt<gif>},
+    {"com.microsoft.bmp", withQt<bmp>},
+    {"public.tiff", withQt<tiff>},
+    {"org.webmproject.webp", withQt<webp>},
+    {"com.adobe.raw-image", with<decodeRaw>},
+    {"com.nikon.raw-image", with<decodeRaw>},
+    {"com.canon.cr2-raw-image", with<decodeRaw>},
+    {"com.sony.arw-raw-image", with<decodeRaw>},
+    {"com.apple.quicktime-movie", asVideo},
+    {"public.mpeg-4", asVideo},
+    {"com.apple.m4v-video", asVideo},
+    {"public.3gpp", asVideo},
+    {"org.matroska.mkv", asVideo},
+    {"org.webmproject.webm", asVideo},
+    {"public.avi", asVideo},
+};
+
+model::Result<Picture> decodeFile(const File& file) {
+  std::array<std::uint8_t, 512> head{};
+  const auto count = file.source.readAt(0, head);
+  if (!count) return count.error();
+  if (*count == 0) return model::Error{"empty file"};
+  const io::ByteView bytes(std::span<const std::uint8_t>(head).first(*count));
+  const auto type = media::image::uniformTypeIdentifier(bytes, file.path);
+  const auto* kind = std::ranges::find(kinds, type, &Kind::type);
+  if (kind != std::end(kinds)) return kind->decode(file);
+  const auto isVideo = media::movie::isOtherContainer(file.source);
+  if (isVideo && *isVideo) return asVideo(file);
+  return model::Error{"not a picture or video"};
+}
+
+}  // namespace
+
+model::Result<Picture> decodePicture(const std::string& path, const Request& request) {
+  if (request.maxWidth <= 0 || request.maxHeight <= 0) return model::Error{"no size asked for"};
+  const auto source = io::FileSource::open(path);
+  if (!source) return source.error();
+  try {
+    return decodeFile({path, **source, request});
+  } catch (const std::exception& exception) {
+    return model::Error{exception.what()};
+  }
+}
+
+}  // namespace desktop::pictures

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/pictures/decoders/ffmpeg_frames.h"
+
+#include "io/on_demand_module.h"
+
+namespace desktop::pictures {
+
+model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
+                                        const Request& request) {
+  static const auto decode = reinterpret_cast<DecodeFrameWithFfmpeg>(
+      io::functionOfModule(ffmpegFramesModule, ffmpegFramesFunction));
+  if (decode == nullptr) return model::Error{"no reader for videos is installed"};
+  Picture picture;
+  if (decode(name.c_str(), &source, &request, &picture) != 0)
+    return model::Error{"no frame of the video can be decoded"};
+  return picture;
+}
+
+}  // namespace desktop::pictures

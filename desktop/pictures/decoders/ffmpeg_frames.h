@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+//
+// The door to FFmpeg for frames: a module of our own that is mapped, with FFmpeg behind it, when
+// the first video is met.
+#pragma once
+
+#include <string>
+
+#include "desktop/pictures/pixels/picture.h"
+#include "io/byte_source.h"
+#include "model/result.h"
+
+namespace desktop::pictures {
+
+// The first frame of a video that can be decoded, turned as its track says and with square pixels.
+// `name` is a hint to the kind of the file; it is not opened. Fails where FFmpeg knows nothing of
+// the file, takes too long, or, like the module, is not installed. REQUIRES: the request is not
+// empty.
+model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
+                                        const Request& request);
+
+// The module's function, under its C name. Fills the picture and returns 0, or returns another
+// number and leaves it as it is.
+extern "C" {
+using DecodeFrameWithFfmpeg = int (*)(const char* name, io::ByteSource* source,
+                                      const Request* request, Picture* picture);
+}
+inline constexpr char ffmpegFramesModule[] = "desktop_ffmpeg_frames.so";
+inline constexpr char ffmpegFramesFunction[] = "desktopDecodeFrameWithFfmpeg";
+
+}  // namespace desktop::pictures
