@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// Two forms of a value: its plain text, as it stands alone in a line, and its description inside a
+// container, where texts are quoted unless they are letters and digits only. Containers are written
+// into one string from the outside in, each level four blanks further right, so the time is in
+// proportion to the text.
 #include "model/description.h"
 
 #include <algorithm>

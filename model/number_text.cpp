@@ -1,4 +1,10 @@
 // SPDX-License-Identifier: MIT
+//
+// The shortest text that reads back as the same number. Whole numbers and everyday decimals are
+// found by arithmetic on integers; the rest by printing more and more digits until they read back,
+// which C's printf and strtod do, as the device's library has no to_chars for reals. Both follow
+// the C locale of the host, so what they print is taken apart by digits, and what they read gets
+// the locale's point.
 #include "model/number_text.h"
 
 #include <array>

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// Commands that name items, albums and levels, over what photos_ui offers by name. Each begins when
+// the screen is at rest; the steps of a swipe do not wait, as a finger stays down between them.
+// "tap" and "long-press" of all scripts take an item here too: a command of the same name is put
+// before the one that takes points.
 #include "apps/photohost/host_commands.h"
 
 #include <cmath>

@@ -1,4 +1,10 @@
 // SPDX-License-Identifier: MIT
+//
+// A folder is read as a whole and compared with what was known of it: both lists are sorted by name
+// and walked side by side, and the observer is told of what only one of them has, or what differs.
+// Reading says how far down it goes: a changed folder alone with what is new in it, or everything.
+// A folder that is gone takes all below it along, item by item, so the observer never has to know
+// the tree.
 #include "desktop/library/folder_tree.h"
 
 #include <sys/stat.h>

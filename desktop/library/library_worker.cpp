@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// One thread with one loop: wait until a folder changed, somebody asks or a reading is due; read;
+// post what is different. Changes are collected for a while before they are read, and readings are
+// kept apart by ten times what the last one took, so a busy folder never takes more than a tenth of
+// a processor. Folders beyond what inotify watches are covered by reading everything now and then.
 #include "desktop/library/library_worker.h"
 
 #include <poll.h>

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// The library's state belongs to the thread that shows it; the worker and the finder of panoramas
+// only leave news in a box. deliverChanges takes all of it at once: steps of one item become one
+// change (it came, went, or is another now), the sorted items are merged with the sorted changes in
+// one walk, and the listener hears of the whole after everything is in place.
 #include "desktop/library/photo_library.h"
 
 #include <dirent.h>

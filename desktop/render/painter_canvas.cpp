@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// Everything is painted at once by a QPainter, but for groups (views that are seen through as a
+// whole): a group is painted on a picture of its own, as large as the clip, and laid over what is
+// below when its state is restored. The transform and the clip in pixels are kept beside Qt's, as
+// each group's painter starts afresh, and for asking what lies out of sight.
 #include "desktop/render/painter_canvas.h"
 
 #include <QPainterPath>

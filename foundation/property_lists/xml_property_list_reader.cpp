@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// pugixml takes the text apart; here elements become values by their names. The tree of elements is
+// walked with a budget of depth and entries, and what no list may hold (an unknown element, a key
+// without a value, text between elements) makes all of it damaged rather than partly read.
 #include <charconv>
 #include <pugixml.hpp>
 #include <utility>

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// A page shows one container of the report, below the rows of extra data that the first page has. A
+// row whose value is a container leads to a page of the same class for that one. Everything is
+// answered when the table asks for it, row by row, from the objects that the page was made with.
+// The selectors are those that other programs know the class by.
 #include "lumifact/views/lumifact_view_controller.h"
 
 #include <limits>

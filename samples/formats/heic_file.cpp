@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// A phone's HEIC: the picture as a grid of tiles that are coded each by itself, a thumbnail beside
+// it, and metadata as items that describe the grid. Items are collected first, with their
+// properties and bytes; where they lie is known only when all of them are, and is written in front
+// of them.
 #include "samples/formats/heic_file.h"
 
 #include "samples/coding/video_encoder.h"

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Signature, chunks, end: each chunk with its length before and its check sum behind it. The
+// picture is one deflated chunk of rows, all with the same filter; what programs add to their files
+// stands before it, in the order in which they write it.
 #include "samples/formats/png_file.h"
 
 #include <cmath>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// A film is painted, coded and put into tracks here, then laid out by samples/movies. Painting is
+// what takes long, so a scene is painted a few times only and panned over. Sound is one soft tone;
+// timed metadata is one value for the whole length, as a phone's still-image time is.
 #include "samples/library/film.h"
 
 #include <cmath>

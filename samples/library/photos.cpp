@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// One row a photo: where it lies, what is painted, in which format, and what its camera says of it.
+// Fields that a row leaves out are those of a plain photo; nothing here computes.
 #include "samples/library/cameras.h"
 #include "samples/library/items.h"
 #include "samples/library/places.h"

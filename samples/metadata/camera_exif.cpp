@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// The three directories of a camera's file, put together from one row of the library: what Exif
+// requires, then what phones or what cameras with lenses add. Exposure is given three times, as
+// time and aperture and in the units of the additive system, which are computed from the first two.
 #include "samples/metadata/camera_exif.h"
 
 #include <cmath>

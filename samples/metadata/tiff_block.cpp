@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// A directory is filled first and written afterwards. Its values are kept as numbers, since their
+// bytes depend on the byte order of the block. Writing leaves the offsets of larger values,
+// directories and attachments open until these have found their places behind the table.
 #include "samples/metadata/tiff_block.h"
 
 #include <algorithm>

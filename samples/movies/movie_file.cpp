@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Two layouts: as recorded, with the samples first and the movie header behind them, and for
+// streaming, with the header first. In the second the header says where samples lie that follow it,
+// so it is built once to learn its size and once more with the right places.
 #include "samples/movies/movie_file.h"
 
 #include <algorithm>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// An entry is fixed fields, then boxes. QuickTime and ISO files differ in both: versions of the
+// sound entry, lists of atoms with an end of four zero bytes, names of colours. Each function
+// writes one kind of entry for both, and asks which of the two it is where they part.
 #include "samples/movies/sample_descriptions.h"
 
 #include <bit>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Samples of all tracks are cut into chunks of some length and put one after another by time, as a
+// player wants to read them. The tables then say the same in the file's form: runs of equal
+// durations and offsets, chunks with equal numbers of samples, sizes, and the places of the chunks.
 #include "samples/movies/sample_table.h"
 
 #include <algorithm>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// "trak" from the outside in: header, edit list, media with its handlers, and the sample table at
+// the bottom. QuickTime has boxes that ISO files do not know (apertures, a second handler, "gmin");
+// they are written for its files alone.
 #include "samples/movies/track_boxes.h"
 
 #include <array>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Each scene is painted from the back to the front: sky, what lies far away, water, then what
+// stands near, smaller and paler with distance. Chance comes from fixed seeds, so a scene is the
+// same each time; `phase` moves what would move in a film.
 #include <cmath>
 
 #include "samples/pictures/buildings.h"

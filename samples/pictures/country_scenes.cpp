@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// Each scene goes from the sky to the foreground, ridge after ridge, with mist between them; plants
+// in front are drawn one by one. Chance comes from fixed seeds, so a scene is the same each time.
 #include <cmath>
 
 #include "samples/pictures/land.h"

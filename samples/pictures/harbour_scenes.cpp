@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// Huts and towers are drawn from their feet upwards, so a scene places them by where they stand;
+// what stands at the water is painted before the water, which mirrors it. `phase` moves the waves.
 #include <cmath>
 
 #include "samples/pictures/land.h"

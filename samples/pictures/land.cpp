@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Land is a line across the picture, a height for each column, and what lies below it is shaded by
+// a relief that is computed from noise at each pixel: steeper towards the light is brighter,
+// further away is mistier. Trees stand along such a line, each from its own chance.
 #include "samples/pictures/land.h"
 
 #include <cmath>

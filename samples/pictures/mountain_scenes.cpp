@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// Each scene is a sky, ridge lines with single peaks or domes raised from them, and what lies below
+// each line, painted from the furthest to the nearest. Water mirrors what was painted above it.
 #include "samples/pictures/land.h"
 #include "samples/pictures/noise.h"
 #include "samples/pictures/positions.h"

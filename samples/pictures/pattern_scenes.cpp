@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// Pictures without depth: cells of a grid, each filled by its own chance from a few colours, and a
+// screen of symbols and digits. Shapes have soft edges, so the patterns survive being scaled.
 #include <array>
 #include <cmath>
 

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// Sky first, then water that mirrors it, then what rolls in or stands in front: breakers, palms
+// from their foot to their leaves. `phase` moves the waves, so that scenes can be films.
 #include <cmath>
 
 #include "samples/pictures/land.h"

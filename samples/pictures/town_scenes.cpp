@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Houses and towers stand in rows from the furthest to the nearest; what is wet or water is painted
+// after what it mirrors. `phase` moves the tram, the waves and the lamps, so that scenes can be
+// films.
 #include <cmath>
 
 #include "samples/pictures/buildings.h"

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// The two directions beside each other, a pair of functions a structure: treeOf... writes every
+// field, its opposite takes those that are there. A FieldReader keeps the first complaint and
+// ignores what is asked of it afterwards, so a reader asks for all fields and looks for an error
+// once, at its end.
 #include "apps/lumifact/json/media_asset_json.h"
 
 #include <algorithm>

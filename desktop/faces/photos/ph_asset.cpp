@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// An asset holds the library's item, which the walk of the folder knows, and reaches back into the
+// library for everything that only the file tells: the first such question reads the file, and the
+// library's cache keeps the answer. Where the library is gone or the file cannot be read, the
+// answers are those of an asset without metadata.
 #include "desktop/faces/photos/ph_asset.h"
 
 #include <algorithm>

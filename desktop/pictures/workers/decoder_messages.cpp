@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// A message is a fixed head of numbers and one text behind it, in one packet of a socket that keeps
+// packets whole. Pixels are too many for it: they lie in a memory file whose descriptor travels
+// with the answer, and are read, never mapped, since a worker could cut the file while it is looked
+// at. Nothing of an answer is believed: sizes are checked, descriptors beyond the first are closed.
 #include "desktop/pictures/workers/decoder_messages.h"
 
 #include <sys/mman.h>

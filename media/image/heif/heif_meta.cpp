@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// The child boxes of "meta" become lists once: items, references, properties. Which properties an
+// item has and where its bytes lie are looked up in their own boxes when somebody asks, since a
+// picture has hundreds of tiles and only few items are asked about. Counts are taken from the file
+// as they are; each walk ends where its bytes do, or at the limits of this room.
 #include "media/image/heif/heif_meta.h"
 
 #include <algorithm>

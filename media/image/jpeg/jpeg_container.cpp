@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// The segments are walked up to the first scan. What they say of the picture goes into the
+// properties at once; blocks of metadata (Exif, XMP, Photoshop's, the profile) may be cut over
+// several segments, so only their places are kept, in pieces, and read together when the walk is
+// over. Of what is there twice the first counts.
 #include "media/image/jpeg/jpeg_container.h"
 
 #include <algorithm>

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// XMP writes every value as text: fractions with a slash, dates in the ISO's form, coordinates as
+// "degrees,minutesN". Each conversion answers none for a text of another form, so that such a
+// property is left out and never shown as zero. Those from a value to a value share one signature,
+// which lets a row of a table name one.
 #include "media/image/xmp/xmp_conversions.h"
 
 #include <algorithm>

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// The outermost boxes are walked by their headers alone, eight or sixteen bytes each, so a film of
+// gigabytes costs a few reads. The first box decides whether this is a movie at all and by which
+// rules; the walk then notes the movie header and the fragments. A file is told to be damaged only
+// if it claims to be a movie: other bytes may look like a box by chance.
 #include "media/movie/boxes/movie_layout.h"
 
 #include <algorithm>

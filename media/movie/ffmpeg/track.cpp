@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// FFmpeg's own structures, as its demuxer fills them without decoding, put under the names and into
+// the units of the readers of our own: bits a second, frames a second, and a description with the
+// extensions that these give.
 #include "media/movie/ffmpeg/track.h"
 
 #include <cstdlib>

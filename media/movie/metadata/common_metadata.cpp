@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// One fact may stand in up to four places: QuickTime's metadata, iTunes', user data, 3GPP's boxes.
+// All are walked in whatever order the file has them, and each find is offered with the rank of its
+// place and key; a better one replaces it. A value is read only when it would win, and within a
+// budget of bytes for the whole file, as pictures of covers can be large.
 #include "media/movie/metadata/common_metadata.h"
 
 #include <map>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// A value says its own type: a well-known number in QuickTime's and iTunes' "data" boxes, a
+// language in front of the text in user data, a layout of its own in each of 3GPP's boxes. Bytes of
+// an unknown type stay bytes; what is cut short is no value.
 #include "media/movie/metadata/metadata_value.h"
 
 #include <algorithm>

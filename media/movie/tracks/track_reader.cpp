@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// A table says which boxes of a track are wanted and where they nest; one walk collects them, and
+// only then are they read, in the order in which they need each other: the header, the kind of
+// media, the descriptions, the samples. Samples of fragments are added later, so what depends on
+// their sums (duration, rates) is worked out when the track is finished.
 #include "media/movie/tracks/track_reader.h"
 
 #include <limits>
