@@ -12,7 +12,7 @@ target_compile_options(room_flags INTERFACE
 # room_rule(NAME [SOURCES a.cpp ...] [FOLDERS folder ...] [MAY_INCLUDE path ...])
 # What the files of the current folder may include: each other, and the folders and single headers
 # after MAY_INCLUDE. FOLDERS are the room's own folders in their order: each may include those before
-# it, and the room's own files, "." where they are not last, stand above all. Of two rooms in one
+# it, and the room's own files (".") stand above all where the line does not place them. Of two rooms in one
 # folder the second holds the SOURCES and headers that it lists. tests/rooms checks the rules.
 function(room_rule name)
   cmake_parse_arguments(RULE "" "" "SOURCES;FOLDERS;MAY_INCLUDE" ${ARGN})
