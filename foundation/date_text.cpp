@@ -11,8 +11,8 @@ namespace foundation {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> monthNames = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+constexpr std::array<std::string_view, 12> shortMonthNames = {
+    "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
 std::string twoDigits(int number) {
   return model::paddedIntegerText(number, 2);
@@ -20,7 +20,7 @@ std::string twoDigits(int number) {
 
 // "MMM d, y"
 std::string mediumDate(const model::CivilTime& time) {
-  std::string text(monthNames[static_cast<std::size_t>(time.month - 1)]);
+  std::string text(shortMonthNames[static_cast<std::size_t>(time.month - 1)]);
   text.append(" ").append(model::integerText(time.day));
   return text.append(", ").append(model::integerText(time.year));
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "model/digits.h"
 #include "model/number_text.h"
 
 namespace model {
@@ -12,10 +13,6 @@ namespace {
 
 bool isBlank(char character) {
   return character == ' ' || (character >= '\t' && character <= '\r');
-}
-
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
 }
 
 // The integer at the front of a text (blanks, a sign, digits), saturating.

@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "model/digits.h"
 #include "model/shortest_decimal.h"
 
 namespace model {
@@ -97,10 +98,6 @@ std::string textOf(const Decimal& decimal, bool negative) {
   }
   const auto split = static_cast<std::size_t>(whole);
   return text.append(digits.substr(0, split)).append(".").append(digits.substr(split));
-}
-
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
 }
 
 bool isSign(char character) {

@@ -9,10 +9,6 @@ namespace {
 
 using bridge::send;
 
-bool isA(bridge::Object object, const char* className) {
-  return bridge::isKindOf(object, objc_getClass(className));
-}
-
 void addText(const char* key, bridge::NSString text, Json& node) {
   if (text) node[key] = text.utf8();
 }
@@ -82,6 +78,10 @@ constexpr Row rows[] = {
 };
 
 }  // namespace
+
+bool isA(bridge::Object object, const char* className) {
+  return bridge::isKindOf(object, objc_getClass(className));
+}
 
 std::string classNameOf(bridge::Object object) {
   return object ? class_getName(object_getClass(object.get())) : "";

@@ -12,6 +12,8 @@
 namespace desktop::script {
 
 std::string classNameOf(bridge::Object object);
+// Whether it is of that class or a subclass; no where the class is unknown.
+bool isA(bridge::Object object, const char* className);
 
 // Text, font, editing, accessory and so on, of the classes that have them.
 void addClassParts(bridge::UIView view, Json& node);

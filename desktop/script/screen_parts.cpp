@@ -15,10 +15,6 @@ namespace {
 
 using bridge::send;
 
-bool isA(bridge::Object object, const char* className) {
-  return bridge::isKindOf(object, objc_getClass(className));
-}
-
 Json textOrNull(bridge::NSString text) {
   return text ? Json(text.utf8()) : Json();
 }

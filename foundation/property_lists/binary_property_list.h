@@ -12,6 +12,9 @@
 
 namespace foundation {
 
+// From 1970-01-01, where our dates start, to 2001-01-01, where the form's do.
+constexpr double secondsTo2001 = 978307200;
+
 // Whether the bytes say that they are a binary property list.
 bool isBinaryPropertyList(io::ByteView bytes);
 

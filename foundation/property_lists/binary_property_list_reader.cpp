@@ -17,7 +17,6 @@ namespace foundation {
 namespace {
 
 constexpr std::size_t trailerSize = 32;
-constexpr double secondsTo2001 = 978307200;  // from 1970-01-01 to 2001-01-01
 
 model::Error damaged() {
   return {"damaged binary property list"};

@@ -14,8 +14,6 @@ namespace foundation {
 
 namespace {
 
-constexpr double secondsTo2001 = 978307200;  // from 1970-01-01 to 2001-01-01
-
 void appendNumber(std::string& bytes, std::uint64_t number, std::size_t size) {
   for (std::size_t index = size; index > 0; --index) {
     bytes += static_cast<char>(number >> (8 * (index - 1)) & 0xFF);

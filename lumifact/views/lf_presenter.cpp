@@ -8,7 +8,7 @@
 namespace lumifact {
 namespace {
 
-constexpr CGFloat paragraphSpacing = 1.0;
+constexpr CGFloat messageSpacing = 1.0;
 constexpr CGFloat borderWhite = 210.0 / 255.0;
 
 constexpr FixedString initialiser = "initWithMessage:mapString:offsetHeight:fontSize:";
@@ -90,7 +90,7 @@ void LFPresenter::makeTextView() {
 void LFPresenter::showText() const {
   const UIFont font = UIFont::named(NSString::make("Courier"), _fontSize);
   _textView->setAttributedText(
-      hangingText(_messageText, font, paragraphSpacing, headIndentFor(_fontSize)).get());
+      hangingText(_messageText, font, messageSpacing, headIndentFor(_fontSize)).get());
   // A border of no width: its colour is there for whoever gives it one.
   _textView->layer().setBorderColor(UIColor::white(borderWhite, 1.0).cgColor());
   _textView->setFrame({{0, 0}, self().view().frame().size});

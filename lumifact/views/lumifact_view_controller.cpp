@@ -14,7 +14,7 @@
 namespace lumifact {
 namespace {
 
-constexpr FixedString initialiser =
+constexpr FixedString tableInitialiser =
     "initWithStyle:tableData:extraData:mapType:mapString:dataTitle:";
 
 // A grouped table leaves a gap above its rows unless it has a header of some height.
@@ -43,7 +43,7 @@ Class LumifactViewController::classObject() {
   using Self = LumifactViewController;
   static const Class made =
       ClassBuilder<Self>("LumifactViewController")
-          .method<initialiser, &Self::initWithStyle>()
+          .method<tableInitialiser, &Self::initWithStyle>()
           .method<"viewDidLoad", &Self::viewDidLoad>()
           .method<"numberOfSectionsInTableView:", &Self::numberOfSections>()
           .method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>()
@@ -65,7 +65,7 @@ Class LumifactViewController::classObject() {
 }
 
 Owned<UIViewController> LumifactViewController::make(const Contents& contents) {
-  return makeWith<UIViewController, initialiser>(
+  return makeWith<UIViewController, tableInitialiser>(
       classObject(), NSInteger{UITableView::grouped}, contents.tableData, contents.extraData,
       contents.mapType, contents.mapLink, contents.title);
 }

@@ -14,7 +14,7 @@ namespace desktop::uikit {
 namespace {
 
 // In points.
-constexpr CGFloat fontSize = 10;
+constexpr CGFloat tabFontSize = 10;
 constexpr CGFloat pictureMiddle = 18;
 constexpr CGFloat labelTop = 34;
 constexpr CGFloat labelHeight = 12;
@@ -36,7 +36,7 @@ TabBarButton::TabBarButton(id self) : Bound(self), _label(bridge::makeView<bridg
 
 bridge::UIView TabBarButton::initWithFrame(CGRect frame) {
   const auto object = super<bridge::UIView, "initWithFrame:">(frame);
-  _label->setFont(bridge::UIFont::systemFont(fontSize));
+  _label->setFont(bridge::UIFont::systemFont(tabFontSize));
   _label->setTextAlignment(bridge::alignCenter);
   self().addSubview(_label);
   self().addTarget(self(), bridge::selector<"_press:">(), bridge::touchUpInside);

@@ -37,7 +37,7 @@ std::optional<model::Value> commentValue(const TiffField& field) {
   return text ? std::optional<model::Value>(*std::move(text)) : std::nullopt;
 }
 
-constexpr TagRow rows[] = {
+constexpr TagRow exifRows[] = {
     {0x829A, "ExposureTime", realValue},
     {0x829D, "FNumber", realValue},
     {0x8822, "ExposureProgram", integerValue},
@@ -107,16 +107,16 @@ constexpr TagRow rows[] = {
     {0xA435, "LensSerialNumber", textValue},
     {0xA500, "Gamma", realValue},
 };
-static_assert(tagsAscend(rows));
+static_assert(tagsAscend(exifRows));
 
 }  // namespace
 
 std::span<const TagRow> exifTags() {
-  return rows;
+  return exifRows;
 }
 
 void readExifSection(TiffStructure& structure, const Ifd& exif, model::Dictionary& properties) {
-  readTags(structure, exif, rows, "{Exif}", properties);
+  readTags(structure, exif, exifRows, "{Exif}", properties);
 }
 
 }  // namespace media::image

@@ -58,7 +58,7 @@ std::optional<model::Value> codedTextValue(const TiffField& field) {
   return text ? std::optional<model::Value>(*std::move(text)) : std::nullopt;
 }
 
-constexpr TagRow rows[] = {
+constexpr TagRow gpsRows[] = {
     {0x00, "GPSVersion", integerArray},
     {0x01, "LatitudeRef", textValue},
     {0x02, "Latitude", degreesValue},
@@ -92,16 +92,16 @@ constexpr TagRow rows[] = {
     {0x1E, "Differential", integerValue},
     {0x1F, "HPositioningError", realValue},
 };
-static_assert(tagsAscend(rows));
+static_assert(tagsAscend(gpsRows));
 
 }  // namespace
 
 std::span<const TagRow> gpsTags() {
-  return rows;
+  return gpsRows;
 }
 
 void readGpsSection(TiffStructure& structure, const Ifd& gps, model::Dictionary& properties) {
-  readTags(structure, gps, rows, "{GPS}", properties);
+  readTags(structure, gps, gpsRows, "{GPS}", properties);
 }
 
 }  // namespace media::image

@@ -23,7 +23,7 @@ std::optional<model::Value> copyrightValue(const TiffField& field) {
   return model::Value(model::utf8OrLatin1(photographer) + ", " + model::utf8OrLatin1(editor));
 }
 
-constexpr TagRow rows[] = {
+constexpr TagRow tiffRows[] = {
     {0x0103, "Compression", integerValue},
     {0x0106, "PhotometricInterpretation", integerValue},
     {0x010D, "DocumentName", textValue},
@@ -45,7 +45,7 @@ constexpr TagRow rows[] = {
     {0x0143, "TileLength", integerValue},
     {0x8298, "Copyright", copyrightValue},
 };
-static_assert(tagsAscend(rows));
+static_assert(tagsAscend(tiffRows));
 
 void liftOrientation(model::Dictionary& properties) {
   const model::Value* tiff = model::find(properties, "{TIFF}");
@@ -59,11 +59,11 @@ void liftOrientation(model::Dictionary& properties) {
 }  // namespace
 
 std::span<const TagRow> tiffTags() {
-  return rows;
+  return tiffRows;
 }
 
 void readTiffSection(TiffStructure& structure, const Ifd& first, model::Dictionary& properties) {
-  readTags(structure, first, rows, "{TIFF}", properties);
+  readTags(structure, first, tiffRows, "{TIFF}", properties);
   liftOrientation(properties);
 }
 

@@ -15,7 +15,7 @@ struct NamespaceRow {
   XmpNamespace space;
 };
 
-constexpr NamespaceRow rows[] = {
+constexpr NamespaceRow namespaceRows[] = {
     {"http://cipa.jp/exif/1.0/", XmpNamespace::exifEx},
     {"http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/", XmpNamespace::iptcCore},
     {"http://iptc.org/std/Iptc4xmpExt/2008-02-29/", XmpNamespace::iptcExt},
@@ -37,7 +37,7 @@ constexpr NamespaceRow rows[] = {
 }  // namespace
 
 XmpNamespace xmpNamespace(std::string_view uri) {
-  for (const NamespaceRow& row : rows) {
+  for (const NamespaceRow& row : namespaceRows) {
     if (row.uri == uri) return row.space;
   }
   return XmpNamespace::other;

@@ -7,7 +7,7 @@ namespace media::movie {
 
 namespace {
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 model::Error damaged() {
   return {"damaged compressed movie header"};

@@ -11,7 +11,7 @@ namespace media::movie {
 
 namespace {
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 // A duration whose bits are all set means "not known".
 std::uint64_t knownDuration(io::ByteView bytes, std::uint64_t offset, bool isWide) {

@@ -20,7 +20,7 @@ using model::FourCharCode;
 using model::fourCharCode;
 using model::Value;
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 // The best value of each fact so far.
 class Items {

@@ -19,7 +19,7 @@ namespace {
 
 using model::Value;
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 std::optional<Value> nonEmpty(std::string text) {
   if (text.empty()) return std::nullopt;

@@ -19,7 +19,7 @@ using model::AudioStreamDescription;
 using model::FourCharCode;
 using model::fourCharCode;
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 constexpr FourCharCode mpegLayer3 = fourCharCode(".mp3");
 

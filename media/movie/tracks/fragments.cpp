@@ -10,7 +10,7 @@ namespace media::movie {
 
 namespace {
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 std::uint32_t flagsOf(io::ByteView fullBox) {
   return fullBox.u32(0, big).value_or(0) & 0xFFFFFF;

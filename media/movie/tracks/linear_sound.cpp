@@ -11,7 +11,7 @@ using model::AudioStreamDescription;
 using model::FourCharCode;
 using model::fourCharCode;
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 constexpr std::uint32_t signedBig = linearIsSigned | linearIsBigEndian;
 constexpr std::uint32_t floatBig = linearIsFloat | linearIsBigEndian;
 

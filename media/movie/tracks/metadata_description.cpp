@@ -17,7 +17,7 @@ using model::Data;
 using model::Dictionary;
 using model::fourCharCode;
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 Data dataOf(io::ByteView bytes) {
   return {bytes.bytes().begin(), bytes.bytes().end()};

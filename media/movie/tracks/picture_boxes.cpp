@@ -14,7 +14,7 @@ namespace {
 using model::Dictionary;
 using model::fourCharCode;
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 void setPixelAspectRatio(Dictionary& extensions, io::ByteView payload) {
   const auto across = payload.u32(0, big);

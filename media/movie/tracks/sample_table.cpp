@@ -9,7 +9,7 @@ namespace media::movie {
 
 namespace {
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 io::ByteRange behind(const io::IsoBox& box, std::uint64_t headerSize) {
   return {std::min(box.payload.begin + headerSize, box.payload.end), box.payload.end};

@@ -7,7 +7,7 @@ namespace media::movie {
 
 namespace {
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 void takeFirstVersion(SoundFields& fields, io::ByteView bytes) {
   constexpr std::int16_t variableCompression = -2;

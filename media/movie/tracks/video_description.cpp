@@ -21,7 +21,7 @@ using model::Dictionary;
 using model::fourCharCode;
 using model::Value;
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 // The compressor's name: a Pascal string in 32 bytes. Some writers leave the length out.
 std::string compressorName(const SampleEntry& entry) {

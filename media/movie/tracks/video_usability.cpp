@@ -16,7 +16,7 @@ namespace media::movie {
 
 namespace {
 
-constexpr auto big = io::ByteOrder::big;
+using io::ByteOrder::big;
 
 // The unit without its header and without emulation prevention bytes (00 00 03).
 std::vector<std::uint8_t> rawPayload(io::ByteView unit, std::size_t headerSize) {
