@@ -39,14 +39,32 @@ install_packages() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build_preset PRESET [TARGET...]: configures once, then builds. Prints nothing when it succeeds.
+# show_progress: says how far the ninja is whose output it reads: on one line of a terminal, else a
+# line for every tenth.
+show_progress() {
+  local line done total tenth=0
+  while IFS= read -r line; do
+    [[ $line =~ ^\[([0-9]+)/([0-9]+)\] ]] || continue
+    done=${BASH_REMATCH[1]} total=${BASH_REMATCH[2]}
+    if [ -t 2 ]; then
+      printf '\r  %d of %d steps' "$done" "$total" >&2
+    elif ((done * 10 / total > tenth)); then
+      tenth=$((done * 10 / total))
+      echo "  $((tenth * 10)) %" >&2
+    fi
+  done
+  if [ -t 2 ]; then printf '\r\e[K' >&2; fi
+}
+
+# build_preset PRESET [TARGET...]: configures once, then builds. Says how far it is, and prints the
+# build's own output when it fails.
 build_preset() {
   local preset=$1 log
   shift
   log=$(mktemp)
   echo "Building ($preset) ..." >&2
   if ! { { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
-    cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
+    cmake --build --preset "$preset" ${1:+--target "$@"}; } 2>&1 | tee "$log" | show_progress; then
     cat "$log" >&2
     rm -f "$log"
     return 1
