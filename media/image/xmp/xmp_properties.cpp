@@ -89,7 +89,7 @@ constexpr std::string_view inTiff = "{TIFF}";
 using enum XmpNamespace;
 
 // By namespace, then by name.
-constexpr XmpRow rows[] = {
+constexpr XmpRow xmpRows[] = {
     {{aux, "Firmware"}, inAux, "Firmware", as<xmpText>},
     {{aux, "FlashCompensation"}, inAux, "FlashCompensation", as<xmpRealValue>},
     {{aux, "ImageNumber"}, inAux, "ImageNumber", as<xmpInteger>},
@@ -248,8 +248,8 @@ constexpr bool isBefore(XmpName left, XmpName right) {
 }
 
 consteval bool namesAscend() {
-  for (std::size_t index = 1; index < std::size(rows); ++index) {
-    if (!isBefore(rows[index - 1].name, rows[index].name)) return false;
+  for (std::size_t index = 1; index < std::size(xmpRows); ++index) {
+    if (!isBefore(xmpRows[index - 1].name, xmpRows[index].name)) return false;
   }
   return true;
 }
@@ -258,8 +258,8 @@ static_assert(namesAscend());
 }  // namespace
 
 const XmpRow* xmpRow(XmpName name) {
-  const auto* row = std::ranges::lower_bound(rows, name, isBefore, &XmpRow::name);
-  return row != std::end(rows) && row->name == name ? row : nullptr;
+  const auto* row = std::ranges::lower_bound(xmpRows, name, isBefore, &XmpRow::name);
+  return row != std::end(xmpRows) && row->name == name ? row : nullptr;
 }
 
 }  // namespace media::image

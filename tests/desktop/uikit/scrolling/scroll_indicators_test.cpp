@@ -30,7 +30,9 @@ TEST(ScrollIndicators, WhatIsPulledBeyondTheEndPressesItTogether) {
 }
 
 TEST(ScrollIndicators, ThereAreNoneForContentThatIsSeenWhole) {
-  const auto bars = ScrollIndicators().bars({{0, 0}, {100, 106}}, {.size = {100, 106}});
+  ScrollContent small;
+  small.size = {100, 106};
+  const auto bars = ScrollIndicators().bars({{0, 0}, {100, 106}}, small);
   EXPECT_TRUE(isEmpty(bars[0]));
   EXPECT_TRUE(isEmpty(bars[1]));
 }
@@ -38,7 +40,8 @@ TEST(ScrollIndicators, ThereAreNoneForContentThatIsSeenWhole) {
 TEST(ScrollIndicators, EachCanBeTurnedOff) {
   ScrollIndicators indicators;
   const CGRect seen = {{0, 0}, {106, 106}};
-  const ScrollContent large{.size = {300, 300}};
+  ScrollContent large;
+  large.size = {300, 300};
   EXPECT_FALSE(isEmpty(indicators.bars(seen, large)[1]));
   indicators.setShowsHorizontal(false);
   EXPECT_TRUE(isEmpty(indicators.bars(seen, large)[1]));
