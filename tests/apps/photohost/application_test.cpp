@@ -70,8 +70,9 @@ TEST(Application, SaysNothingWhereAllIsWell) {
 TEST(Application, ASwipeIsEndedByAnyCommandThatLiftsTheFinger) {
   Host host;
   host.run(
-      "tap \"Select\"\nwait 1\ntouch-down 187 300\ntouch-up\nexpect \"1 Photo Selected\"\n"
-      "touch-down 187 300\ntouch-up\nexpect \"Select Items\"\n"
+      "open album City\nwait 1\ntap \"Select\"\nwait 1\n"
+      "touch-down 235 110\ntouch-up\nwait 1\nexpect \"1 Photo Selected\"\n"
+      "touch-down 235 110\ntouch-up\nwait 1\nexpect \"Select Items\"\n"
       "swipe-begin 0\ntouch-up\nwait 1\nexpect \"1 Photo Selected\"\n"
       "swipe-move 2\nwait 1\nexpect \"1 Photo Selected\"\n");
 }
