@@ -11,9 +11,9 @@ namespace desktop::uikit {
 struct ScrollContent {
   enum Adjustment : NSInteger { automatic = 0, never = 2 };
 
-  CGSize size;
-  EdgeInsets inset;
-  EdgeInsets safeArea;               // what bars take at the edges
+  CGSize size{};
+  EdgeInsets inset{};
+  EdgeInsets safeArea{};             // what bars take at the edges
   NSInteger adjustment = automatic;  // whether the safe area counts
 
   // The insets that count.

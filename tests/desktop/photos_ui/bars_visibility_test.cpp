@@ -5,13 +5,13 @@
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::photos_ui {
 namespace {
 
 // Plain controllers in a navigation; the second one has the bars.
-class BarsVisibilityTest : public uikit::StageTest {
+class BarsVisibilityTest : public uikit::ApplicationTest {
  protected:
   BarsVisibilityTest() {
     _navigation->push(_first, bridge::UIViewController::immediately);

@@ -9,7 +9,7 @@
 #include "desktop/photos_ui/grid/grid_selection.h"
 #include "desktop/photos_ui/photos_ui.h"
 #include "tests/desktop/photos_ui/sample_items.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::photos_ui {
 
@@ -44,7 +44,7 @@ class GridOwner : public bridge::Bound<GridOwner, bridge::NSObject> {
 
 // A window of 375 by 667 points with a grid in it: rows of four items, one point apart, of which
 // the window shows about seven.
-class GridPartTest : public uikit::StageTest {
+class GridPartTest : public uikit::ApplicationTest {
  protected:
   GridPartTest() {
     registerPhotosUI();

@@ -6,7 +6,7 @@
 #include "desktop/photos_ui/photos_ui.h"
 #include "desktop/uikit/application/application.h"
 #include "tests/desktop/photos_ui/sample_items.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::photos_ui {
 namespace {
@@ -15,7 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // Pages in a window; pictures are not asked for.
-class PhotoPagesTest : public uikit::StageTest {
+class PhotoPagesTest : public uikit::ApplicationTest {
  protected:
   PhotoPagesTest() {
     registerPhotosUI();

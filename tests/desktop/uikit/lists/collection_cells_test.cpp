@@ -4,12 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "desktop/uikit/lists/ui_collection_view_cell.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
 
-class CollectionCellsTest : public StageTest {
+class CollectionCellsTest : public ApplicationTest {
  protected:
   static bridge::NSString text(const char* text) { return bridge::NSString::make(text); }
   CollectionCells::View cell() {

@@ -8,7 +8,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/uikit/lists/ui_collection_view_layout_attributes.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -49,7 +49,7 @@ class PairLayout : public bridge::Bound<PairLayout, bridge::UICollectionViewLayo
   }
 };
 
-class CollectionLayoutTest : public StageTest {
+class CollectionLayoutTest : public ApplicationTest {
  protected:
   CollectionLayoutTest() {
     layout.replace(object, {}, [this] {

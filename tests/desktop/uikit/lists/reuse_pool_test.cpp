@@ -5,7 +5,7 @@
 
 #include "desktop/uikit/lists/ui_collection_reusable_view.h"
 #include "desktop/uikit/lists/ui_collection_view_cell.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -16,7 +16,7 @@ View makeReusable(Class aClass) {
   return View::adopt(bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(aClass)));
 }
 
-class ReusePoolTest : public StageTest {
+class ReusePoolTest : public ApplicationTest {
  protected:
   bridge::UIView dequeue(const std::string& identifier) {
     return pool.dequeue(identifier, [this](Class registered) {

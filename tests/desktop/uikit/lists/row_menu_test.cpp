@@ -6,14 +6,14 @@
 
 #include <optional>
 
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
 
 using testing::ElementsAre;
 
-class RowMenuTest : public StageTest {
+class RowMenuTest : public ApplicationTest {
  protected:
   std::vector<MenuCommand> commands(const std::string& allowed) {
     return RowMenu::commands(

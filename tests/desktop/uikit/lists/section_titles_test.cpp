@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "desktop/uikit/views/ui_view.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
@@ -41,7 +41,7 @@ TEST(TitlesIn, APlainHeaderStaysInSightAsLongAsItsSection) {
   EXPECT_EQ(firstHeader(95), (Band{80, 20}));
 }
 
-class SectionTitlesTest : public StageTest {
+class SectionTitlesTest : public ApplicationTest {
  protected:
   void follow(const std::map<TitlePlace, CGRect>& wanted) {
     titles.follow(wanted, Inquiry::Pass(inquiry), table, [this](TitlePlace) -> bridge::UIView {

@@ -4,12 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "desktop/uikit/lists/ui_table_view_cell.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::uikit {
 namespace {
 
-class TableCellsTest : public StageTest {
+class TableCellsTest : public ApplicationTest {
  protected:
   static bridge::NSString row() { return bridge::NSString::make("row"); }
   static TableCells::Cell cell() {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
-#include "tests/desktop/uikit/stage_test.h"
+#include "tests/desktop/uikit/application_test.h"
 #include "tests/desktop/uikit/table_source.h"
 
 namespace desktop::uikit {
@@ -42,7 +42,7 @@ bridge::Owned<bridge::NSObject> make() {
 }
 
 // Measures without a table: any scroll view has a delegate.
-class TableMeasuringTest : public StageTest {
+class TableMeasuringTest : public ApplicationTest {
  protected:
   TableMeasuringTest() { source.setObject(sourceObject); }
 
