@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// The order counts: Foundation is corrected and the platform's classes are there before extensions
+// are mapped, so that hooks find what they replace; then the library opens, and only then is
+// anything shown. A window's main loop takes over, or a script on a clock of its own.
 #include "apps/photohost/photo_application.h"
 
 #include <iostream>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Qt tells of time, size, mouse and keys; the application hears of them as time that passes, a
+// screen of a size, and a finger. A timer makes frames while something moves or waits; a frame
+// prepares the views, then paints only what is damaged into a picture that the window keeps.
 #include "desktop/render/window.h"
 
 #include <QKeyEvent>

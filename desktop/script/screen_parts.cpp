@@ -2,7 +2,6 @@
 #include "desktop/script/screen_parts.h"
 
 #include "desktop/script/node_parts.h"
-#include "desktop/script/tree_dump.h"
 #include "desktop/script/view_dump.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"

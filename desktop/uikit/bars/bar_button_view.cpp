@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// The view of one bar item: a control that shows what its item says at that moment, asked anew by
+// `refresh`. A picture stands before a title, a title before the name of a system item; what it
+// measures and what it paints come from the same three.
 #include "desktop/uikit/bars/bar_button_view.h"
 
 #include <algorithm>

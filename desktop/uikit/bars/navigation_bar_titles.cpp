@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Both titles show the item on top. The ordinary one shares its bar: the back button takes its
+// place at the left first, the buttons at the right theirs, and the title stands in the middle of
+// the bar or as near to it as they leave room. The large one has a row of its own.
 #include "desktop/uikit/bars/navigation_bar_titles.h"
 
 #include <algorithm>

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// An item is a plain record; whoever shows it is told of each change by `changed`. Pressing it
+// sends its action up from the responder where it was pressed.
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 
 #include <cmath>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// The bar keeps a stack of items and shows the one on top through two views, an ordinary title and
+// a large one. Everything that changes, from items to colours, ends in `itemsChanged` or
+// `updateBackground`, which set those views anew.
 #include "desktop/uikit/bars/ui_navigation_bar.h"
 
 #include <algorithm>

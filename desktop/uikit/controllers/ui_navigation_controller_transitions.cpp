@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// How one screen of the stack takes another's place.
+// How one screen of the stack takes another's place. A transition holds both controllers until its
+// animation ends; what is under way is over at once when the next one begins, so two never run
+// together, and appearance messages always come in pairs.
 #include <algorithm>
 
 #include "desktop/uikit/bars/ui_navigation_bar.h"

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// One child is selected and lies in the view; selecting another takes the one so far away first,
+// each with its appearance messages. The bar stands over the view and goes below it where the
+// screen on show hides it.
 #include "desktop/uikit/controllers/ui_tab_bar_controller.h"
 
 #include <algorithm>

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// What a button shows is kept by state (normal, highlighted, disabled, selected); `valueFor` finds
+// what counts now, falling back to normal. Label and image view are made when they are first needed
+// and brought up to date by `update` after every change.
 #include "desktop/uikit/controls/ui_button.h"
 
 #include <algorithm>

@@ -1,4 +1,9 @@
 // SPDX-License-Identifier: MIT
+//
+// A control follows one finger: down on it, in and out of its surroundings with some allowance, and
+// up, and sends the events of each step to its targets. A target of nil is looked for upwards from
+// the control. Targets are not kept; a list that changes while it is told does not go on telling
+// who left it.
 #include "desktop/uikit/controls/ui_control.h"
 
 #include <algorithm>

@@ -15,8 +15,8 @@
 #include "desktop/uikit/lists/table/table_cells.h"
 #include "desktop/uikit/lists/table/table_data_source.h"
 #include "desktop/uikit/lists/table/table_delegate.h"
+#include "desktop/uikit/lists/table/table_geometry.h"
 #include "desktop/uikit/lists/table/table_measuring.h"
-#include "desktop/uikit/lists/table_geometry.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 namespace desktop::uikit {

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Labels, picture and accessory are made when they are first asked for. A change only asks for
+// layout; where things then lie is said by the cell layout, and accessory and separators are
+// painted. Selection and highlight colour the background and the labels in one place.
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 
 #include <algorithm>

@@ -9,7 +9,7 @@
 #include "desktop/uikit/graphics/color.h"
 #include "desktop/uikit/handles.h"
 #include "desktop/uikit/lists/table/row_separators.h"
-#include "desktop/uikit/lists/table_cell_layout.h"
+#include "desktop/uikit/lists/table/table_cell_layout.h"
 
 namespace desktop::uikit {
 

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// One view serves alerts and sheets: boxes for text and buttons over a dimmed screen. Everything is
+// measured for the width that there is, then placed in the middle or at the bottom; what is too
+// long for the screen scrolls. It knows actions and a closure for the choice, no controller.
 #include "desktop/uikit/overlays/alert_view.h"
 
 #include <algorithm>

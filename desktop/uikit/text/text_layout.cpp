@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Breaking and measuring. Finding places, and painting, is in text_layout_places.cpp.
+// Breaking and measuring. A text is broken by pieces when they are looked at; the heights of the
+// others are estimated and refined as they come into sight, so that a long text is there at once.
+// Finding places, and painting, is in text_layout_places.cpp.
 #include "desktop/uikit/text/text_layout.h"
 
 #include <algorithm>

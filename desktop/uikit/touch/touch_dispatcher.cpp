@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Each finger that comes down begins a session; sessions stay until all recognisers that took part
+// have decided, also after the finger left. At the end of a turn those that are done are taken out,
+// again and again until nothing moves on, since one recogniser's decision frees another.
 #include "desktop/uikit/touch/touch_dispatcher.h"
 
 #include <algorithm>

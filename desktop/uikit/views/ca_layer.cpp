@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// A layer keeps plain values and says `changed` where one is set to another; a view's own layer
+// takes its frame and bounds from the view. Colours and paths are kept as the references that were
+// given, so that they are answered unchanged.
 #include "desktop/uikit/views/ca_layer.h"
 
 #include <algorithm>

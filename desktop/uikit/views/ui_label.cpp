@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What a label shows, and how. Where its lines stand is in ui_label_lines.cpp.
+// What a label shows, and how. Setters stop where nothing changes; else the lines are made anew
+// when they are next asked for, and the label is painted again. Where its lines stand is in
+// ui_label_lines.cpp.
 #include "desktop/uikit/views/ui_label.h"
 
 #include <algorithm>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Who is whose subview, and which gestures a view has.
+// Who is whose subview, and which gestures a view has. A view keeps its subviews alive and knows
+// its superview without keeping it. Coming and going is told before and after, and a view that
+// leaves the window ends what was under way: animations and touches.
 #include <algorithm>
 
 #include "desktop/uikit/views/animator.h"

@@ -8,7 +8,7 @@
 #include <map>
 
 #include "bridge/uikit/ui_lists.h"
-#include "desktop/uikit/lists/table_geometry.h"
+#include "desktop/uikit/lists/table/table_geometry.h"
 #include "desktop/uikit/lists/ui_table_view_header_footer_view.h"
 #include "desktop/uikit/lists/views_in_sight.h"
 

@@ -6,7 +6,7 @@
 
 #include "desktop/uikit/lists/table/table_data_source.h"
 #include "desktop/uikit/lists/table/table_delegate.h"
-#include "desktop/uikit/lists/table_geometry.h"
+#include "desktop/uikit/lists/table/table_geometry.h"
 
 namespace desktop::uikit {
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "desktop/uikit/graphics/ui_image.h"
-#include "desktop/uikit/lists/table_cell_layout.h"
+#include "desktop/uikit/lists/table/table_cell_layout.h"
 #include "desktop/uikit/views/ui_view.h"
 #include "tests/desktop/uikit/application_test.h"
 

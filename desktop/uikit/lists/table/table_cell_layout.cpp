@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/lists/table_cell_layout.h"
+#include "desktop/uikit/lists/table/table_cell_layout.h"
 
 #include <algorithm>
 #include <cmath>

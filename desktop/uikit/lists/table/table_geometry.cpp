@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/uikit/lists/table_geometry.h"
+#include "desktop/uikit/lists/table/table_geometry.h"
 
 #include <algorithm>
 #include <cmath>
