@@ -2,7 +2,7 @@
 //
 // Where the lines of a label stand, and painting them. The text is laid out in the width that there
 // is; as many lines stay as the label may show and has room for, and the last one is cut. Where the
-// font may shrink, sizes are tried until it fits. The outcome is kept until text or room change.
+// font may shrink, the size that fits is looked for. The outcome is kept until text or room change.
 #include <algorithm>
 #include <cmath>
 
