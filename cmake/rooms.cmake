@@ -12,8 +12,8 @@ target_compile_options(room_flags INTERFACE
 # room_rule(NAME [SOURCES a.cpp ...] [FOLDERS folder ...] [MAY_INCLUDE path ...])
 # What the files of the current folder may include: each other, and the folders and single headers
 # after MAY_INCLUDE. FOLDERS are the room's own folders in their order: each may include those before
-# it, and the room's own files (".") stand above all where the line does not place them. Of two rooms in one
-# folder the second holds the SOURCES and headers that it lists. tests/rooms checks the rules.
+# it, and the room's own files (".") stand above all where the line does not place them. Of two rooms
+# in one folder the second holds the SOURCES and headers that it lists. tests/rooms checks the rules.
 function(room_rule name)
   cmake_parse_arguments(RULE "" "" "SOURCES;FOLDERS;MAY_INCLUDE" ${ARGN})
   file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
@@ -24,8 +24,7 @@ function(room_rule name)
     "room ${name} ${folder}\nmay-include ${may_include}\nfolders ${folders}\nfiles ${files}\n")
 endfunction()
 
-# Reading headers takes most of a compiler's time, so up to eight sources of a folder are compiled as
-# one; names that are local to a file differ within its folder then, and lint checks each source by
+# Sources of a folder read much the same headers, so up to eight of them are compiled as one; names that are local to a file differ within its folder then, and lint checks each source by
 # itself. A compiler cache does better with every source alone, and so does whoever works on one file
 # for long (the debug preset). A source given as ALONE stays apart, as its local names are those of
 # its neighbours.
