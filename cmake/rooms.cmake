@@ -24,10 +24,11 @@ function(room_rule name)
     "room ${name} ${folder}\nmay-include ${may_include}\nfolders ${folders}\nfiles ${files}\n")
 endfunction()
 
-# Sources of a folder read much the same headers, so up to eight of them are compiled as one; names that are local to a file differ within its folder then, and lint checks each source by
-# itself. A compiler cache does better with every source alone, and so does whoever works on one file
-# for long (the debug preset). A source given as ALONE stays apart, as its local names are those of
-# its neighbours.
+# Sources of a folder read much the same headers, so up to eight of them are compiled as one; names
+# that are local to a file differ within its folder then, and lint checks each source by itself. A
+# compiler cache does better with every source alone, and so does whoever works on one file for long
+# (the debug preset). A source given as ALONE stays apart, as its local names are those of its
+# neighbours.
 if(NOT DEFINED CMAKE_UNITY_BUILD AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_UNITY_BUILD ON)
 endif()
