@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "bridge/runtime/autorelease_pool.h"
+#include "bridge/uikit.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/photos_ui.h"
@@ -23,7 +24,6 @@
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/base/screen.h"
-#include "desktop/uikit/handles.h"
 
 namespace {
 
@@ -82,11 +82,10 @@ photos_ui::ItemListPointer listOf(std::vector<library::ItemPointer> items, bool 
 bridge::Owned<bridge::UIViewController> show(const photos_ui::ItemListPointer& list,
                                              bool hasSections) {
   uikit::resetApplication();
-  auto grid = photos_ui::PUPhotosGridViewController::make(
-      photos_ui::PUPhotosGridViewController::classObject(),
+  auto grid = photos_ui::PUPhotosGridViewControllerState::make(
+      photos_ui::PUPhotosGridViewControllerState::classObject(),
       {.title = "Moments", .list = [list] { return list; }, .hasHeaders = hasSections});
-  const auto window =
-      bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(uikit::screen().size));
+  const auto window = bridge::makeView<bridge::UIWindow>(uikit::rectOfSize(uikit::screen().size));
   window->setRootViewController(bridge::UINavigationController::withRoot(grid).get());
   window->makeKeyAndVisible();
   return grid;
@@ -100,7 +99,7 @@ void scrollingGrid(benchmark::State& state) {
   const bool hasSections = state.range(0) != 0;
   const auto grid = show(listOf(files.items(), hasSections), hasSections);
   const bridge::UICollectionView view =
-      photos_ui::PUPhotosGridViewController::of(grid.get()).collectionView();
+      photos_ui::PUPhotosGridViewControllerState::of(grid.get()).collectionView();
   render::ScreenPicture screen;
   double y = 0;
   std::vector<double> times;  // milliseconds

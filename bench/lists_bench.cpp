@@ -5,12 +5,12 @@
 // 16.7 ms in all.
 #include <benchmark/benchmark.h>
 
+#include "bridge/uikit.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/application/window_painter.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/views/view_painter.h"
 #include "tests/desktop/uikit/collection_source.h"
 #include "tests/desktop/uikit/table_source.h"
@@ -48,7 +48,7 @@ bridge::Owned<bridge::NSObject> make() {
 class ShownView {
  public:
   explicit ShownView(bridge::UIView list) : _list(bridge::Owned<bridge::UIView>::retain(list)) {
-    const auto window = bridge::makeView<handles::UIWindow>(rectOfSize(screen().size));
+    const auto window = bridge::makeView<bridge::UIWindow>(rectOfSize(screen().size));
     window->makeKeyAndVisible();
     window->addSubview(list);
     application().prepareFrame();
@@ -57,7 +57,7 @@ class ShownView {
   // Shows the next frame, so many points further down, from the top again at the end.
   void scroll(CGFloat points) {
     const bridge::AutoreleasePool pool;
-    const handles::UIScrollView scroll(_list.get().get());
+    const bridge::UIScrollView scroll(_list.get().get());
     CGFloat y = scroll.contentOffset().y + points;
     if (y > scroll.contentSize().height - screen().size.height) y = 0;
     scroll.setContentOffset({0, y});
@@ -86,7 +86,7 @@ bridge::Owned<bridge::UIView> makeTable(bridge::NSObject source) {
   auto view =
       bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:style:">(
           bridge::send<id, "alloc">(bridge::UITableView::classObject()), rectOfSize(screen().size),
-          NSInteger{UITableView::grouped}));
+          NSInteger{bridge::UITableView::grouped}));
   bridge::send<void, "setDataSource:">(view, source);
   return view;
 }

@@ -12,7 +12,6 @@
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/base/screen.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "desktop/uikit/text/utf16.h"
 
@@ -21,7 +20,7 @@ namespace {
 using bridge::NSString;
 using desktop::uikit::application;
 using desktop::uikit::screen;
-using desktop::uikit::UIScrollView;
+using desktop::uikit::UIScrollViewState;
 
 constexpr std::size_t reportUnits = 10'000'000;
 constexpr double scale = 2;
@@ -52,7 +51,7 @@ class ShownView {
   ShownView() {
     desktop::uikit::resetApplication();
     const CGRect whole = desktop::uikit::rectOfSize(screen().size);
-    const auto window = bridge::makeView<desktop::uikit::handles::UIWindow>(whole);
+    const auto window = bridge::makeView<bridge::UIWindow>(whole);
     window->makeKeyAndVisible();
     view = bridge::makeView<bridge::UITextView>(whole);
     view->setBackgroundColor(bridge::UIColor::whiteColor());
@@ -68,7 +67,7 @@ class ShownView {
     picture.update(scale);
   }
 
-  UIScrollView& scroll() const { return UIScrollView::of(view.get()); }
+  UIScrollViewState& scroll() const { return UIScrollViewState::of(view.get()); }
 
   const bridge::AutoreleasePool pool;
   bridge::Owned<bridge::UITextView> view;

@@ -53,7 +53,11 @@ Class registerClass(const ClassRecord& record, BoundClass& binding);
 
 namespace class_builder_detail {
 
+// The object is one more, or one less, of its class and of those above it.
 void countObject(BoundClass& binding, long change);
+
+// The class that the state at the top of the C++ classes is bound below.
+Class foreignSuperclass(const BoundClass& binding);
 
 // A C++ member function as the C function that the runtime calls.
 template <typename T, auto Member>
@@ -108,18 +112,19 @@ struct MethodThunk<T, Member> : Thunk<T, MemberCall<T, Member>, R, Arguments...>
 template <typename T, typename R, typename... Arguments, R (*Function)(Arguments...)>
 struct MethodThunk<T, Function> : Thunk<T, FunctionCall<Function>, R, Arguments...> {};
 
-// allocWithZone: of the class: the superclass's, then the C++ state is made in place.
+// allocWithZone: of the class: that of the first class which is not bound in C++, then the state is
+// made in place, superclasses' parts first.
 template <typename T>
 id allocate(id self, SEL command, void* zone) {
   BoundClass& binding = T::binding;
-  const Class superMetaclass = object_getClass(rawObject(binding.superclass));
-  const id object = dispatchSuper<id>(self, superMetaclass, command, zone);
+  const Class superclass = foreignSuperclass(binding);
+  const id object = dispatchSuper<id>(self, object_getClass(rawObject(superclass)), command, zone);
   if (!object) return nullptr;
   try {
     new (reinterpret_cast<char*>(object) + binding.stateOffset) T(object);
   } catch (const std::exception& exception) {
     logCaught(exception.what());
-    superSend<void, "dealloc">(object, binding.superclass);
+    superSend<void, "dealloc">(object, superclass);
     return nullptr;
   }
   countObject(binding, 1);
@@ -132,7 +137,7 @@ void deallocate(id self, SEL command) {
   BoundClass& binding = T::binding;
   T::of(self).~T();
   countObject(binding, -1);
-  dispatchSuper<void>(self, binding.superclass, command);
+  dispatchSuper<void>(self, foreignSuperclass(binding), command);
 }
 
 }  // namespace class_builder_detail
@@ -145,6 +150,10 @@ class ClassBuilder {
     using namespace class_builder_detail;
     static_assert(alignof(T) <= alignof(std::max_align_t),
                   "The state of a bound class lies inside an object from the common allocator.");
+    static_assert(Handle<typename T::Superclass> || !std::is_polymorphic_v<T>,
+                  "A table of virtual functions would come before the state that is inherited.");
+    static_assert(Handle<typename T::Superclass> || alignof(T) == alignof(typename T::Superclass),
+                  "A state that inherits another stands where that one would.");
     _record.name = name;
     _record.superclass = T::Superclass::classObject();
     _record.size = sizeof(T);
@@ -170,7 +179,8 @@ class ClassBuilder {
   }
 
   // A field that others read by its name, as bridge/runtime/fields.h does: an object ("@") or a
-  // selector (":"), nil at first. What a destructor leaves in it is not released.
+  // selector (":"), nil at first. What a destructor leaves in it is not released. A class whose
+  // state inherits another's and that has fields can have no state inherit its own.
   ClassBuilder& field(const char* name, const char* encoding) {
     _record.fields.push_back({name, encoding});
     return *this;

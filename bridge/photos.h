@@ -70,11 +70,10 @@ struct PUPhotoView : UIView {
   }
 };
 
-struct PUPhotosGridCell : UIView {
-  using UIView::UIView;
+struct PUPhotosGridCell : UICollectionViewCell {
+  using UICollectionViewCell::UICollectionViewCell;
   static Class classObject() { return classNamed<"PUPhotosGridCell">(); }
 
-  UIView contentView() const { return send<UIView, "contentView">(*this); }
   PUPhotoView photoContentView() const { return send<PUPhotoView, "photoContentView">(*this); }
 };
 

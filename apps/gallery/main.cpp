@@ -41,7 +41,7 @@ int run(int count, char** arguments) {
   app.add_option("--scale", scale, "Pixels a point")->check(CLI::Range(1.0, 3.0));
   CLI11_PARSE(app, count, arguments);
 
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   render::Renderer renderer(count, arguments,
                             picture.empty() ? render::Display::real : render::Display::none);
   faces::correctFoundation({});

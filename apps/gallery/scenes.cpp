@@ -11,7 +11,6 @@
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/base/screen.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "lumifact/views/lf_presenter.h"
 #include "lumifact/views/lumifact_pop_up_view_controller.h"
@@ -50,8 +49,7 @@ void longPress(std::string_view text) {
 
 // An empty screen that others are presented on.
 bridge::UIViewController makeRoot() {
-  const auto window = bridge::makeView<desktop::uikit::handles::UIWindow>(
-      desktop::uikit::rectOfSize(screen().size));
+  const auto window = bridge::makeView<bridge::UIWindow>(desktop::uikit::rectOfSize(screen().size));
   const auto root = bridge::makeNew<bridge::UIViewController>();
   root->view().setBackgroundColor(bridge::UIColor::white(0.85, 1));
   window->setRootViewController(root);

@@ -89,36 +89,36 @@ bool leaveFullScreenOrGoBack(QWindow& window) {
 }
 
 bool copySelection() {
-  const bridge::UIResponder responder = uikit::UIResponder::firstResponder();
-  if (!bridge::respondsTo<"copy:">(responder)) return false;
-  bridge::send<void, "copy:">(responder, bridge::Object());
+  const UIResponder responder = uikit::UIResponderState::firstResponder();
+  if (!respondsTo<"copy:">(responder)) return false;
+  send<void, "copy:">(responder, Object());
   return true;
 }
 
-bool isInfoButton(bridge::UIView view) {
-  if (!bridge::isKindOf(view, uikit::UIButton::classObject())) return false;
-  const auto type = uikit::UIButton::of(view).type();
-  return type >= uikit::UIButton::detailDisclosure && type <= uikit::UIButton::infoDark &&
-         bridge::send<bool, "isEnabled">(view) && !uikit::UIView::of(view).isHidden();
+bool isInfoButton(UIView view) {
+  if (!isKindOf(view, uikit::UIButtonState::classObject())) return false;
+  const auto type = uikit::UIButtonState::of(view).type();
+  return type >= uikit::UIButtonState::detailDisclosure && type <= uikit::UIButtonState::infoDark &&
+         send<bool, "isEnabled">(view) && !uikit::UIViewState::of(view).isHidden();
 }
 
-bool pressInfoButtonOf(const uikit::UINavigationItem::Items& items) {
+bool pressInfoButtonOf(const uikit::UINavigationItemState::Items& items) {
   const auto found = std::ranges::find_if(items, [](const auto& item) {
-    const auto& state = uikit::UIBarButtonItem::of(item.get());
+    const auto& state = uikit::UIBarButtonItemState::of(item.get());
     return state.isEnabled() && isInfoButton(state.customView());
   });
   if (found == items.end()) return false;
-  const auto button = uikit::UIBarButtonItem::of(found->get()).customView();
-  bridge::send<void, "sendActionsForControlEvents:">(button, NSUInteger{bridge::touchUpInside});
+  const auto button = uikit::UIBarButtonItemState::of(found->get()).customView();
+  send<void, "sendActionsForControlEvents:">(button, NSUInteger{touchUpInside});
   return true;
 }
 
 }  // namespace
 
 bool pressInfoButton() {
-  const bridge::UIViewController shown = photos_ui::oneUpOnShow();
+  const UIViewController shown = photos_ui::oneUpOnShow();
   if (!shown || !shown.navigationController()) return false;
-  const auto& items = uikit::UINavigationItem::of(shown.navigationItem());
+  const auto& items = uikit::UINavigationItemState::of(shown.navigationItem());
   return pressInfoButtonOf(items.leftItems()) || pressInfoButtonOf(items.rightItems());
 }
 

@@ -13,7 +13,6 @@
 #include "bridge/block.h"
 #include "bridge/uikit.h"
 #include "desktop/uikit/application/application.h"
-#include "desktop/uikit/handles.h"
 
 namespace photohost {
 namespace {
@@ -33,8 +32,7 @@ void copyText(const std::string& text) {
 
 UIViewController topController() {
   if (application().windows.empty()) return {};
-  auto top =
-      desktop::uikit::handles::UIWindow(application().windows.front()->get()).rootViewController();
+  auto top = bridge::UIWindow(application().windows.front()->get()).rootViewController();
   while (const auto next = bridge::send<UIViewController, "presentedViewController">(top))
     top = next;
   return top;

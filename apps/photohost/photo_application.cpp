@@ -11,6 +11,7 @@
 #include "apps/photohost/main_loop.h"
 #include "apps/photohost/outside.h"
 #include "bridge/foundation.h"
+#include "bridge/uikit.h"
 #include "desktop/faces/foundation/foundation_runtime.h"
 #include "desktop/faces/movie/avfoundation_runtime.h"
 #include "desktop/loader/extension_loader.h"
@@ -28,7 +29,6 @@
 #include "desktop/uikit/base/outside.h"
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/base/screen.h"
-#include "desktop/uikit/handles.h"
 #include "foundation/notification_core.h"
 
 namespace photohost {
@@ -106,8 +106,8 @@ void PhotoApplication::openLibrary() {
 }
 
 void PhotoApplication::showWindow() {
-  const bridge::AutoreleasePool pool;
-  const auto window = bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(screen().size));
+  const AutoreleasePool pool;
+  const auto window = bridge::makeView<UIWindow>(uikit::rectOfSize(screen().size));
   window->setRootViewController(photos_ui::makeRootController().get());
   window->makeKeyAndVisible();
 }

@@ -33,6 +33,7 @@ const char* method_getTypeEncoding(Method method);
 // Fields.
 Ivar class_getInstanceVariable(Class aClass, const char* name);
 std::ptrdiff_t ivar_getOffset(Ivar field);
+std::size_t class_getInstanceSize(Class aClass);
 const char* ivar_getTypeEncoding(Ivar field);
 
 // Classes made at run time.

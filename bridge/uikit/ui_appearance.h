@@ -88,4 +88,9 @@ inline CGSize sizeWithAttributes(NSString text, NSDictionary attributes) {
   return send<CGSize, "sizeWithAttributes:">(text, attributes);
 }
 
+struct NSParagraphStyle : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"NSParagraphStyle">(); }
+};
+
 }  // namespace bridge

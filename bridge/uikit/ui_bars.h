@@ -57,4 +57,11 @@ struct UINavigationBar : UIView {
   void setTintColor(UIColor color) const { send<void, "setTintColor:">(*this, color); }
 };
 
+struct UIToolbar : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UIToolbar">(); }
+
+  void setItems(NSArray items) const { send<void, "setItems:">(*this, items); }
+};
+
 }  // namespace bridge

@@ -132,4 +132,30 @@ struct UIApplication : UIResponder {
   bool openURL(NSURL url) const { return send<bool, "openURL:">(*this, url); }
 };
 
+struct UIWindow : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UIWindow">(); }
+
+  UIViewController rootViewController() const {
+    return send<UIViewController, "rootViewController">(*this);
+  }
+  void setRootViewController(UIViewController controller) const {
+    send<void, "setRootViewController:">(*this, controller);
+  }
+  void makeKeyAndVisible() const { send<void, "makeKeyAndVisible">(*this); }
+};
+
+struct UITabBarController : UIViewController {
+  using UIViewController::UIViewController;
+  static Class classObject() { return classNamed<"UITabBarController">(); }
+
+  void setViewControllers(NSArray controllers) const {
+    send<void, "setViewControllers:">(*this, controllers);
+  }
+  UIViewController selectedViewController() const {
+    return send<UIViewController, "selectedViewController">(*this);
+  }
+  void setSelectedIndex(NSUInteger index) const { send<void, "setSelectedIndex:">(*this, index); }
+};
+
 }  // namespace bridge

@@ -12,6 +12,24 @@ enum LineBreakMode : NSInteger { breakByClipping = 2 };
 enum ControlState : NSUInteger { stateNormal = 0, stateHighlighted = 1 };
 enum ControlEvents : NSUInteger { touchUpInside = 64 };
 
+struct UIScrollView : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UIScrollView">(); }
+
+  CGPoint contentOffset() const { return send<CGPoint, "contentOffset">(*this); }
+  void setContentOffset(CGPoint offset) const { send<void, "setContentOffset:">(*this, offset); }
+  CGSize contentSize() const { return send<CGSize, "contentSize">(*this); }
+  void setContentSize(CGSize size) const { send<void, "setContentSize:">(*this, size); }
+};
+
+struct UIImageView : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UIImageView">(); }
+
+  UIImage image() const { return send<UIImage, "image">(*this); }
+  void setImage(UIImage image) const { send<void, "setImage:">(*this, image); }
+};
+
 struct UILabel : UIView {
   using UIView::UIView;
   static Class classObject() { return classNamed<"UILabel">(); }
@@ -78,8 +96,8 @@ struct UITextRange : NSObject {
   UITextPosition end() const { return send<UITextPosition, "end">(*this); }
 };
 
-struct UITextView : UIView {
-  using UIView::UIView;
+struct UITextView : UIScrollView {
+  using UIScrollView::UIScrollView;
   static Class classObject() { return classNamed<"UITextView">(); }
 
   NSString text() const { return send<NSString, "text">(*this); }
@@ -93,7 +111,6 @@ struct UITextView : UIView {
   void setEditable(bool editable) const { send<void, "setEditable:">(*this, editable); }
   // Not retained.
   void setDelegate(NSObject delegate) const { send<void, "setDelegate:">(*this, delegate); }
-  CGSize contentSize() const { return send<CGSize, "contentSize">(*this); }
 
   // Nil where nothing is selected; nil clears the selection.
   UITextRange selectedTextRange() const { return send<UITextRange, "selectedTextRange">(*this); }

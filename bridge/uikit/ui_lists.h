@@ -39,8 +39,8 @@ struct UITableViewCell : UIView {
   }
 };
 
-struct UITableView : UIView {
-  using UIView::UIView;
+struct UITableView : UIScrollView {
+  using UIScrollView::UIScrollView;
   static Class classObject() { return classNamed<"UITableView">(); }
 
   enum Style : NSInteger { grouped = 1 };
@@ -62,8 +62,8 @@ struct UITableViewController : UIViewController {
   UITableView tableView() const { return send<UITableView, "tableView">(*this); }
 };
 
-struct UICollectionView : UIView {
-  using UIView::UIView;
+struct UICollectionView : UIScrollView {
+  using UIScrollView::UIScrollView;
   static Class classObject() { return classNamed<"UICollectionView">(); }
 
   // Nil where there is no item.
@@ -80,6 +80,36 @@ struct UICollectionViewLayout : NSObject {
   static Class classObject() { return classNamed<"UICollectionViewLayout">(); }
 
   void invalidateLayout() const { send<void, "invalidateLayout">(*this); }
+};
+
+// An element of a collection; `frame` in the collection view's coordinates.
+struct UICollectionViewLayoutAttributes : NSObject {
+  using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UICollectionViewLayoutAttributes">(); }
+
+  CGRect frame() const { return send<CGRect, "frame">(*this); }
+  void setFrame(CGRect frame) const { send<void, "setFrame:">(*this, frame); }
+  void setZIndex(NSInteger index) const { send<void, "setZIndex:">(*this, index); }
+};
+
+struct UICollectionReusableView : UIView {
+  using UIView::UIView;
+  static Class classObject() { return classNamed<"UICollectionReusableView">(); }
+
+  void prepareForReuse() const { send<void, "prepareForReuse">(*this); }
+  void applyLayoutAttributes(UICollectionViewLayoutAttributes attributes) const {
+    send<void, "applyLayoutAttributes:">(*this, attributes);
+  }
+};
+
+struct UICollectionViewCell : UICollectionReusableView {
+  using UICollectionReusableView::UICollectionReusableView;
+  static Class classObject() { return classNamed<"UICollectionViewCell">(); }
+
+  UIView contentView() const { return send<UIView, "contentView">(*this); }
+  bool isSelected() const { return send<bool, "isSelected">(*this); }
+  void setSelected(bool selected) const { send<void, "setSelected:">(*this, selected); }
+  void setHighlighted(bool highlighted) const { send<void, "setHighlighted:">(*this, highlighted); }
 };
 
 }  // namespace bridge

@@ -122,4 +122,29 @@ struct UIScreen : NSObject {
   CGRect bounds() const { return send<CGRect, "bounds">(*this); }
 };
 
+// A new recogniser of a handle's class with a target, which it does not keep; +1.
+template <Handle T>
+Owned<T> makeRecognizer(NSObject target, SEL action) {
+  return makeWith<T, "initWithTarget:action:">(T::classObject(), target, action);
+}
+
+struct UITapGestureRecognizer : UIGestureRecognizer {
+  using UIGestureRecognizer::UIGestureRecognizer;
+  static Class classObject() { return classNamed<"UITapGestureRecognizer">(); }
+
+  void setNumberOfTapsRequired(NSUInteger taps) const {
+    send<void, "setNumberOfTapsRequired:">(*this, taps);
+  }
+};
+
+struct UIPanGestureRecognizer : UIGestureRecognizer {
+  using UIGestureRecognizer::UIGestureRecognizer;
+  static Class classObject() { return classNamed<"UIPanGestureRecognizer">(); }
+
+  CGPoint translationIn(UIView view) const {
+    return send<CGPoint, "translationInView:">(*this, view);
+  }
+  CGPoint velocityIn(UIView view) const { return send<CGPoint, "velocityInView:">(*this, view); }
+};
+
 }  // namespace bridge

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "bridge/runtime/autorelease_pool.h"
+#include "desktop/platform.h"
 #include "desktop/render/painter_canvas.h"
 #include "desktop/uikit/application/window_painter.h"
 #include "desktop/uikit/base/screen.h"
@@ -38,7 +39,7 @@ CGRect wholePixels(CGRect rect, double scale) {
 }
 
 void paintScreen(QImage& image, double scale, CGRect inside, ShadowCache& shadows) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   PainterCanvas canvas(image, scale, inside, shadows);
   canvas.fill(inside, uikit::colors::black, 0);
   uikit::paintWindows(canvas);

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "bridge/runtime/autorelease_pool.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/base/screen.h"
@@ -62,7 +63,7 @@ void Window::wake() {
 }
 
 void Window::takeTurn() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   if (turn) turn();
   scheduler().advanceTo(static_cast<double>(_clock.elapsed()) / 1000);
   application().prepareFrame();
@@ -150,7 +151,7 @@ void Window::wheelEvent(QWheelEvent* event) {
 }
 
 void Window::keyPressEvent(QKeyEvent* event) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   event->setAccepted(keyPressed && keyPressed(*event));
   wake();
 }

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "bridge/runtime/send.h"
+#include "desktop/platform.h"
 
 namespace desktop::runtime {
 namespace {
@@ -26,12 +27,12 @@ struct Association {
 using Associations = std::unordered_map<const void*, Association>;
 
 void releaseValue(const Association& association) {
-  if (association.policy & retained) bridge::send<void, "release">(association.value);
+  if (association.policy & retained) send<void, "release">(association.value);
 }
 
 id acquireValue(id value, std::uintptr_t policy) {
-  if ((policy & copied) == copied) return bridge::send<id, "copy">(value);
-  if (policy & retained) return bridge::send<id, "retain">(value);
+  if ((policy & copied) == copied) return send<id, "copy">(value);
+  if (policy & retained) return send<id, "retain">(value);
   return value;
 }
 
@@ -57,7 +58,7 @@ class AssociationTable {
     const auto found = ofOwner->second.find(key);
     if (found == ofOwner->second.end()) return nullptr;
     const auto [value, policy] = found->second;
-    if (policy & atomicGetter) bridge::send<id, "autorelease">(bridge::send<id, "retain">(value));
+    if (policy & atomicGetter) send<id, "autorelease">(send<id, "retain">(value));
     return value;
   }
 
@@ -92,8 +93,7 @@ void deallocWithAssociations(id self, SEL command) {
 
 template <std::atomic<Dealloc>& Stock>
 void watchRootClass(const char* name) {
-  const Method dealloc =
-      class_getInstanceMethod(objc_getClass(name), bridge::selector<"dealloc">());
+  const Method dealloc = class_getInstanceMethod(objc_getClass(name), selector<"dealloc">());
   if (!dealloc) return;
   Stock = reinterpret_cast<Dealloc>(method_getImplementation(dealloc));
   method_setImplementation(dealloc, reinterpret_cast<IMP>(&deallocWithAssociations<Stock>));

@@ -2,6 +2,7 @@
 //
 // Autorelease pools under the names that compilers call; here a pool is Foundation's own object.
 #include "bridge/runtime/class_lookup.h"
+#include "desktop/platform.h"
 
 void* objc_autoreleasePoolPush() {
   const Class poolClass = bridge::classNamed<"NSAutoreleasePool">();

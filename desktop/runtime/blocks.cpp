@@ -12,6 +12,7 @@
 #include <cstring>
 
 #include "bridge/block_layout.h"
+#include "desktop/platform.h"
 
 using bridge::BlockDescriptor;
 using bridge::BlockHeader;

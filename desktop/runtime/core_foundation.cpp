@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bridge/corefoundation.h"
 #include "bridge/runtime/send.h"
+#include "desktop/platform.h"
 
 double kCFCoreFoundationVersionNumber = 1556.0;
 

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "bridge/runtime.h"
+#include "desktop/platform.h"
 #include "foundation/notification_core.h"
 
 namespace desktop::runtime {
@@ -24,20 +25,19 @@ CFNotificationCenterRef centreReference() {
   return reinterpret_cast<CFNotificationCenterRef>(&centre());
 }
 
-bridge::Object makeString(const std::string& text) {
-  return bridge::send<bridge::Object, "stringWithUTF8String:">(bridge::classNamed<"NSString">(),
-                                                               text.c_str());
+Object makeString(const std::string& text) {
+  return send<Object, "stringWithUTF8String:">(classNamed<"NSString">(), text.c_str());
 }
 
 std::string textOf(CFStringRef string) {
-  const char* text = bridge::send<const char*, "UTF8String">(bridge::fromCFString(string));
+  const char* text = send<const char*, "UTF8String">(fromCFString(string));
   return text ? text : "";
 }
 
 void call(const DarwinObserver& observer) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   observer.callback(centreReference(), const_cast<void*>(observer.observer),
-                    bridge::toCFString(makeString(observer.name)), observer.object, nullptr);
+                    toCFString(makeString(observer.name)), observer.object, nullptr);
 }
 
 void listen(const DarwinObserver& observer) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "bridge/corefoundation.h"
+#include "desktop/platform.h"
 
 namespace desktop::runtime {
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "bridge/gnu/debug_log_sink.h"
+#include "desktop/platform.h"
 
 namespace desktop::runtime {
 namespace {

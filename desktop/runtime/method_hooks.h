@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "bridge/runtime/objc.h"
+#include "desktop/platform.h"
 
 namespace desktop::runtime {
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 
 namespace desktop::script {

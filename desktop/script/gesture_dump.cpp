@@ -4,10 +4,10 @@
 
 namespace desktop::script {
 
-void addGestures(const uikit::UIView& view, Json& node) {
+void addGestures(const uikit::UIViewState& view, Json& node) {
   for (const auto& recognizer : view.gestureRecognizers()) {
     Json actions = Json::array();
-    for (const auto& action : uikit::UIGestureRecognizer::of(recognizer.get()).actions())
+    for (const auto& action : uikit::UIGestureRecognizerState::of(recognizer.get()).actions())
       actions.push_back(sel_getName(action.action));
     node["gestures"].push_back({{"class", classNameOf(recognizer.get())}, {"actions", actions}});
   }

@@ -8,11 +8,11 @@
 namespace desktop::script {
 namespace {
 
-void addColor(Json& json, const char* key, const bridge::Owned<bridge::Object>& color) {
-  if (color) json[key] = jsonOf(uikit::UIColor::valueOf(color.get()));
+void addColor(Json& json, const char* key, const Owned<Object>& color) {
+  if (color) json[key] = jsonOf(uikit::UIColorState::valueOf(color.get()));
 }
 
-Json styleOf(const uikit::CALayer::Style& style) {
+Json styleOf(const uikit::CALayerState::Style& style) {
   Json json = Json::object();
   if (style.cornerRadius != 0) json["cornerRadius"] = style.cornerRadius;
   if (style.borderWidth != 0) json["borderWidth"] = style.borderWidth;
@@ -24,25 +24,25 @@ Json styleOf(const uikit::CALayer::Style& style) {
     json["shadowOffset"] = jsonOf(style.shadowOffset);
     json["shadowRadius"] = style.shadowRadius;
   }
-  if (const uikit::Path* path = uikit::UIBezierPath::valueOf(style.shadowPath.get()))
+  if (const uikit::Path* path = uikit::UIBezierPathState::valueOf(style.shadowPath.get()))
     json["shadowPath"] = jsonOf(path->bounds());
   return json;
 }
 
-Json sublayerOf(bridge::CALayer layer);
+Json sublayerOf(CALayer layer);
 
-void addSublayers(bridge::CALayer layer, Json& json) {
-  for (const auto& sublayer : uikit::CALayer::of(layer).sublayers())
+void addSublayers(CALayer layer, Json& json) {
+  for (const auto& sublayer : uikit::CALayerState::of(layer).sublayers())
     json["sublayers"].push_back(sublayerOf(sublayer.get()));
 }
 
-Json sublayerOf(bridge::CALayer layer) {
-  const uikit::CALayer& state = uikit::CALayer::of(layer);
+Json sublayerOf(CALayer layer) {
+  const uikit::CALayerState& state = uikit::CALayerState::of(layer);
   Json json = {{"class", classNameOf(layer)}, {"frame", jsonOf(state.frame())}};
   json.update(styleOf(state.style()));
-  if (bridge::isKindOf(layer, uikit::CAGradientLayer::classObject())) {
+  if (isKindOf(layer, uikit::CAGradientLayerState::classObject())) {
     json["colors"] = Json::array();
-    for (const uikit::Color color : uikit::CAGradientLayer::of(layer).colors())
+    for (const uikit::Color color : uikit::CAGradientLayerState::of(layer).colors())
       json["colors"].push_back(jsonOf(color));
   }
   addSublayers(layer, json);
@@ -51,8 +51,8 @@ Json sublayerOf(bridge::CALayer layer) {
 
 }  // namespace
 
-void addLayer(bridge::CALayer layer, Json& node) {
-  Json json = styleOf(uikit::CALayer::of(layer).style());
+void addLayer(CALayer layer, Json& node) {
+  Json json = styleOf(uikit::CALayerState::of(layer).style());
   addSublayers(layer, json);
   if (!json.empty()) node["layer"] = std::move(json);
 }

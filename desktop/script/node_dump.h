@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "bridge/geometry.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
 
 namespace desktop::script {

@@ -6,20 +6,21 @@
 #include <string>
 
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/script/node_dump.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::script {
 
-std::string classNameOf(bridge::Object object);
+std::string classNameOf(Object object);
 // Whether it is of that class or a subclass; no where the class is unknown.
-bool isA(bridge::Object object, const char* className);
+bool isA(Object object, const char* className);
 
 // Text, font, editing, accessory and so on, of the classes that have them.
-void addClassParts(bridge::UIView view, Json& node);
+void addClassParts(UIView view, Json& node);
 // "layer", where anything of it differs from a plain layer's.
-void addLayer(bridge::CALayer layer, Json& node);
+void addLayer(CALayer layer, Json& node);
 // "gestures", where there are any.
-void addGestures(const uikit::UIView& view, Json& node);
+void addGestures(const uikit::UIViewState& view, Json& node);
 
 }  // namespace desktop::script

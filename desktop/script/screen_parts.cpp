@@ -12,92 +12,89 @@
 namespace desktop::script {
 namespace {
 
-using bridge::send;
-
-Json textOrNull(bridge::NSString text) {
+Json textOrNull(NSString text) {
   return text ? Json(text.utf8()) : Json();
 }
 
 // From the window's controller to what is presented last.
-std::vector<bridge::UIViewController> presentationChain() {
-  std::vector<bridge::UIViewController> chain;
+std::vector<UIViewController> presentationChain() {
+  std::vector<UIViewController> chain;
   if (uikit::application().windows.empty()) return chain;
-  auto controller = send<bridge::UIViewController, "rootViewController">(
-      uikit::application().windows.front().get());
+  auto controller =
+      send<UIViewController, "rootViewController">(uikit::application().windows.front().get());
   while (controller) {
     chain.push_back(controller);
-    controller = send<bridge::UIViewController, "presentedViewController">(controller);
+    controller = send<UIViewController, "presentedViewController">(controller);
   }
   return chain;
 }
 
 // What a container shows: the tab that is chosen, the top of a stack; nil for any other controller.
-bridge::UIViewController shownIn(bridge::UIViewController controller) {
+UIViewController shownIn(UIViewController controller) {
   if (isA(controller, "UITabBarController"))
-    return send<bridge::UIViewController, "selectedViewController">(controller);
+    return send<UIViewController, "selectedViewController">(controller);
   if (isA(controller, "UINavigationController"))
-    return send<bridge::UIViewController, "topViewController">(controller);
+    return send<UIViewController, "topViewController">(controller);
   return {};
 }
 
 // The navigation controller that shows in a controller: itself, or that of the tab on show.
-bridge::UINavigationController navigationIn(bridge::UIViewController controller) {
+UINavigationController navigationIn(UIViewController controller) {
   if (isA(controller, "UITabBarController")) controller = shownIn(controller);
-  if (isA(controller, "UINavigationController"))
-    return bridge::UINavigationController(controller.get());
+  if (isA(controller, "UINavigationController")) return UINavigationController(controller.get());
   return {};
 }
 
-Json barItem(bridge::Object item) {
+Json barItem(Object item) {
   Json json = {{"class", classNameOf(item)},
-               {"title", textOrNull(send<bridge::NSString, "title">(item))},
+               {"title", textOrNull(send<NSString, "title">(item))},
                {"width", send<CGFloat, "width">(item)},
                {"tag", send<NSInteger, "tag">(item)}};
-  const auto system = uikit::UIBarButtonItem::of(item).systemItem();
+  const auto system = uikit::UIBarButtonItemState::of(item).systemItem();
   json["systemItem"] = system ? Json(*system) : Json();
-  if (const auto view = send<bridge::UIView, "customView">(item)) json["view"] = dumpView(view);
+  if (const auto view = send<UIView, "customView">(item)) json["view"] = dumpView(view);
   return json;
 }
 
-Json barItems(bridge::NSArray items) {
+Json barItems(NSArray items) {
   Json json = Json::array();
   for (NSUInteger index = 0; index < items.count(); ++index)
     json.push_back(barItem(items.at(index)));
   return json;
 }
 
-Json navigation(bridge::UINavigationController controller) {
-  const auto top = send<bridge::UIViewController, "topViewController">(controller);
-  const bridge::UINavigationItem item = top.navigationItem();
-  const bridge::UINavigationBar bar = controller.navigationBar();
-  return {{"title", textOrNull(send<bridge::NSString, "title">(item))},
-          {"left", barItems(send<bridge::NSArray, "leftBarButtonItems">(item))},
+Json navigation(UINavigationController controller) {
+  const auto top = send<UIViewController, "topViewController">(controller);
+  const UINavigationItem item = top.navigationItem();
+  const UINavigationBar bar = controller.navigationBar();
+  return {{"title", textOrNull(send<NSString, "title">(item))},
+          {"left", barItems(send<NSArray, "leftBarButtonItems">(item))},
           {"right", barItems(item.rightBarButtonItems())},
           {"barStyle", bar.barStyle()},
-          {"tintColor", jsonOf(uikit::UIColor::valueOf(bar.tintColor()))}};
+          {"tintColor", jsonOf(uikit::UIColorState::valueOf(bar.tintColor()))}};
 }
 
-Json alert(bridge::UIViewController controller) {
+Json alert(UIViewController controller) {
   Json actions = Json::array();
-  const auto all = send<bridge::NSArray, "actions">(controller);
+  const auto all = send<NSArray, "actions">(controller);
   for (NSUInteger index = 0; index < all.count(); ++index)
-    actions.push_back({{"title", textOrNull(send<bridge::NSString, "title">(all.at(index)))},
+    actions.push_back({{"title", textOrNull(send<NSString, "title">(all.at(index)))},
                        {"style", send<NSInteger, "style">(all.at(index))}});
-  return {{"title", textOrNull(send<bridge::NSString, "title">(controller))},
-          {"message", textOrNull(send<bridge::NSString, "message">(controller))},
+  return {{"title", textOrNull(send<NSString, "title">(controller))},
+          {"message", textOrNull(send<NSString, "message">(controller))},
           {"actions", actions}};
 }
 
-Json sheet(bridge::UIViewController controller) {
+Json sheet(UIViewController controller) {
   Json items = Json::array();
-  const bridge::NSArray all = uikit::UIActivityViewController::of(controller).items();
+  const NSArray all = uikit::UIActivityViewControllerState::of(controller).items();
   for (NSUInteger index = 0; index < all.count(); ++index)
-    items.push_back(bridge::NSObject(all.at(index).get()).description().utf8());
+    items.push_back(NSObject(all.at(index).get()).description().utf8());
   return {{"items", items}};
 }
 
 Json menu() {
-  const auto& shared = uikit::UIMenuController::shared();
+  const auto& shared = uikit::UIMenuControllerState::shared();
   return shared.isVisible() ? Json(shared.titles()) : Json();
 }
 
@@ -106,7 +103,7 @@ Json menu() {
 void addControllers(Json& screen) {
   screen["presentation"] = Json::array();
   screen["navigation"] = screen["alert"] = screen["sheet"] = Json();
-  for (const bridge::UIViewController controller : presentationChain()) {
+  for (const UIViewController controller : presentationChain()) {
     for (auto shown = controller; shown; shown = shownIn(shown))
       screen["presentation"].push_back(classNameOf(shown));
     if (const auto found = navigationIn(controller)) screen["navigation"] = navigation(found);

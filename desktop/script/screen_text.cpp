@@ -17,8 +17,8 @@ class Collector {
  public:
   explicit Collector(std::vector<ScreenText>& found) : _found(found) {}
 
-  void visit(bridge::UIView view, CGRect seen) {
-    const uikit::UIView& state = uikit::UIView::of(view);
+  void visit(UIView view, CGRect seen) {
+    const uikit::UIViewState& state = uikit::UIViewState::of(view);
     const uikit::ViewAppearance shown = state.shown();
     if (state.isHidden() || shown.alpha < leastAlpha) return;
     const CGRect place = uikit::intersection(uikit::apply(state.toScreen(), shown.bounds), seen);
@@ -29,9 +29,9 @@ class Collector {
   }
 
  private:
-  void collect(bridge::UIView view, CGRect place) {
-    if (!bridge::respondsTo<"text">(view)) return;
-    const bridge::NSString text = bridge::send<bridge::NSString, "text">(view);
+  void collect(UIView view, CGRect place) {
+    if (!respondsTo<"text">(view)) return;
+    const NSString text = send<NSString, "text">(view);
     if (text && text.length() > 0) _found.push_back({text.utf8(), place});
   }
 
@@ -41,7 +41,7 @@ class Collector {
 }  // namespace
 
 std::vector<ScreenText> textsOnScreen() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   std::vector<ScreenText> found;
   Collector collector(found);
   for (const auto& window : uikit::application().windows)

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::script {
 

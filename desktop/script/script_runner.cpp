@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "bridge/runtime/autorelease_pool.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/views/animator.h"
 
@@ -21,7 +22,7 @@ ScriptRunner::Command ScriptRunner::command(std::string_view name) const {
 }
 
 ScriptRunner::Outcome ScriptRunner::runLine(std::string_view line) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   const auto words = wordsOf(line);
   if (!words) return words.error();
   if (words->empty()) return std::nullopt;

@@ -71,7 +71,7 @@ Outcome touchUp(Finger& finger, Arguments) {
 Outcome menu(Arguments words) {
   if (words.size() != 1) return model::Error{"menu takes the title of one of its commands"};
   settle();
-  auto& shown = uikit::UIMenuController::shared();
+  auto& shown = uikit::UIMenuControllerState::shared();
   const std::vector<std::string> titles = shown.titles();
   const auto chosen = std::ranges::find(titles, words[0].text);
   if (chosen == titles.end()) return model::Error{"the edit menu has no \"" + words[0].text + "\""};
@@ -82,7 +82,7 @@ Outcome menu(Arguments words) {
 
 Outcome type(Arguments words) {
   if (words.size() != 1 || words[0].text != "copy") return model::Error{"only copy can be typed"};
-  bridge::send<void, "copy:">(uikit::UIResponder::firstResponder(), bridge::Object());
+  send<void, "copy:">(uikit::UIResponderState::firstResponder(), Object());
   return std::nullopt;
 }
 

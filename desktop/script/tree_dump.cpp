@@ -23,7 +23,7 @@ std::string textOf(const Json& json) {
 }  // namespace
 
 std::string dumpScreen() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   Json screen;
   screen["screen"] = {{"width", uikit::screen().size.width},
                       {"height", uikit::screen().size.height}};

@@ -8,14 +8,14 @@
 namespace desktop::script {
 namespace {
 
-CGRect shownFrame(const uikit::UIView& view) {
+CGRect shownFrame(const uikit::UIViewState& view) {
   return uikit::apply(view.toSuperview(), view.shown().bounds);
 }
 
 }  // namespace
 
-Json dumpView(bridge::UIView view) {
-  const uikit::UIView& state = uikit::UIView::of(view);
+Json dumpView(UIView view) {
+  const uikit::UIViewState& state = uikit::UIViewState::of(view);
   const uikit::ViewAppearance shown = state.shown();
   Json node;
   node["class"] = classNameOf(view);

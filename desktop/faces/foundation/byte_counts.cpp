@@ -4,13 +4,11 @@
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/replacement.h"
+#include "desktop/platform.h"
 #include "foundation/byte_count.h"
 
 namespace desktop::faces {
 namespace {
-
-using bridge::NSByteCountFormatter;
-using bridge::NSString;
 
 id fileStyleText(long long byteCount) {
   static const foundation::Locale& locale =
@@ -18,7 +16,7 @@ id fileStyleText(long long byteCount) {
   return NSString::make(foundation::byteCountText(byteCount, locale)).get();
 }
 
-bridge::Stock<id(id, SEL, long long, NSInteger)> stockStringWithStyle;
+Stock<id(id, SEL, long long, NSInteger)> stockStringWithStyle;
 id NSByteCountFormatter_stringWithStyle(id self, SEL command, long long byteCount,
                                         NSInteger style) {
   if (style != NSByteCountFormatter::fileStyle)
@@ -27,9 +25,9 @@ id NSByteCountFormatter_stringWithStyle(id self, SEL command, long long byteCoun
 }
 
 // The other properties of a formatter are taken to be the defaults.
-bridge::Stock<id(id, SEL, long long)> stockString;
+Stock<id(id, SEL, long long)> stockString;
 id NSByteCountFormatter_string(id self, SEL command, long long byteCount) {
-  if (bridge::send<NSInteger, "countStyle">(self) != NSByteCountFormatter::fileStyle)
+  if (send<NSInteger, "countStyle">(self) != NSByteCountFormatter::fileStyle)
     return stockString(self, command, byteCount);
   return fileStyleText(byteCount);
 }

@@ -5,13 +5,14 @@
 #include "bridge/convert.h"
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/replacement.h"
+#include "desktop/platform.h"
 #include "model/description.h"
 
 namespace desktop::faces {
 namespace {
 
 id describe(id self) {
-  return bridge::NSString::make(model::description(bridge::toValue(bridge::Object(self)))).get();
+  return NSString::make(model::description(toValue(Object(self)))).get();
 }
 
 id collection_description(id self, SEL) {

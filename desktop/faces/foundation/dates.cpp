@@ -5,15 +5,12 @@
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/replacement.h"
+#include "desktop/platform.h"
 #include "foundation/date_text.h"
 #include "model/description.h"
 
 namespace desktop::faces {
 namespace {
-
-using bridge::NSDate;
-using bridge::NSDateFormatter;
-using bridge::NSString;
 
 // The pairs of styles that are worded here: a short or medium date with a medium time.
 bool isWordedHere(NSUInteger dateStyle, NSUInteger timeStyle) {
@@ -31,7 +28,7 @@ id worded(id date, NSUInteger dateStyle) {
   return NSString::make(foundation::dateText(moment, style, locale)).get();
 }
 
-bridge::Stock<id(id, SEL, id, NSUInteger, NSUInteger)> stockLocalizedString;
+Stock<id(id, SEL, id, NSUInteger, NSUInteger)> stockLocalizedString;
 id NSDateFormatter_localizedString(id self, SEL command, id date, NSUInteger dateStyle,
                                    NSUInteger timeStyle) {
   if (!date) return nullptr;
@@ -41,11 +38,11 @@ id NSDateFormatter_localizedString(id self, SEL command, id date, NSUInteger dat
 }
 
 // A format, locale or time zone that was set beside the styles is not looked at.
-bridge::Stock<id(id, SEL, id)> stockStringFromDate;
+Stock<id(id, SEL, id)> stockStringFromDate;
 id NSDateFormatter_stringFromDate(id self, SEL command, id date) {
   if (!date) return nullptr;
-  const auto dateStyle = bridge::send<NSUInteger, "dateStyle">(self);
-  if (!isWordedHere(dateStyle, bridge::send<NSUInteger, "timeStyle">(self)))
+  const auto dateStyle = send<NSUInteger, "dateStyle">(self);
+  if (!isWordedHere(dateStyle, send<NSUInteger, "timeStyle">(self)))
     return stockStringFromDate(self, command, date);
   return worded(date, dateStyle);
 }

@@ -6,7 +6,7 @@
 
 namespace desktop::faces {
 
-std::optional<std::string> fileOnDisk(bridge::NSURL link) {
+std::optional<std::string> fileOnDisk(NSURL link) {
   const auto path = foundation::pathOfFileUrl(link.absoluteString().utf8());
   if (!path) return std::nullopt;
   return currentOptions().root.onDisk(*path);

@@ -11,13 +11,12 @@
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/foundation_options.h"
 #include "desktop/faces/foundation/replacement.h"
+#include "desktop/platform.h"
 #include "foundation/property_lists/property_list.h"
 #include "foundation/shown_path.h"
 
 namespace desktop::faces {
 namespace {
-
-using bridge::NSString;
 
 // Where a path lies on disk; nil stays nil.
 std::string pathOnDisk(id path) {
@@ -27,13 +26,13 @@ id onDisk(id path) {
   return path ? NSString::make(pathOnDisk(path)).get() : nullptr;
 }
 
-bridge::Stock<BOOL(id, SEL, id)> stockFileExists;
+Stock<BOOL(id, SEL, id)> stockFileExists;
 BOOL NSFileManager_fileExists(id self, SEL command, id path) {
   return stockFileExists(self, command, onDisk(path)) ||
          (path && foundation::fileOfShownPath(pathOnDisk(path)).has_value());
 }
 
-bridge::Stock<BOOL(id, SEL, id, BOOL*)> stockFileExistsIsDirectory;
+Stock<BOOL(id, SEL, id, BOOL*)> stockFileExistsIsDirectory;
 BOOL NSFileManager_fileExistsIsDirectory(id self, SEL command, id path, BOOL* isDirectory) {
   return stockFileExistsIsDirectory(self, command, onDisk(path), isDirectory);
 }
@@ -45,40 +44,40 @@ id attributesOfShownPath(id path) {
   if (!file || ::lstat(file->c_str(), &status) != 0) return nullptr;
   const double modified = static_cast<double>(status.st_mtim.tv_sec) +
                           static_cast<double>(status.st_mtim.tv_nsec) / 1e9;
-  auto attributes = bridge::makeNew<bridge::NSMutableDictionary>();
-  attributes->set(bridge::NSNumber::withLongLong(status.st_size), NSString::make("NSFileSize"));
-  attributes->set(bridge::NSDate::withTimeIntervalSince1970(modified),
+  auto attributes = makeNew<NSMutableDictionary>();
+  attributes->set(NSNumber::withLongLong(status.st_size), NSString::make("NSFileSize"));
+  attributes->set(NSDate::withTimeIntervalSince1970(modified),
                   NSString::make("NSFileModificationDate"));
   return attributes.autorelease().get();
 }
 
-bridge::Stock<id(id, SEL, id, id*)> stockAttributes;
+Stock<id(id, SEL, id, id*)> stockAttributes;
 id NSFileManager_attributes(id self, SEL command, id path, id* error) {
   if (const id attributes = stockAttributes(self, command, onDisk(path), error)) return attributes;
   return attributesOfShownPath(path);
 }
 
-bridge::Stock<id(id, SEL, id)> stockContents;
+Stock<id(id, SEL, id)> stockContents;
 id NSFileManager_contents(id self, SEL command, id path) {
   return stockContents(self, command, onDisk(path));
 }
 
 // The collection in a property list file, or nil where the file holds none of the kind.
-bridge::Owned<bridge::Object> collectionIn(id path, model::Kind kind) {
+Owned<Object> collectionIn(id path, model::Kind kind) {
   if (!path) return {};
   const model::Result<foundation::PropertyList> list =
       foundation::readPropertyList(pathOnDisk(path));
   if (!list || list->root.kind() != kind) return {};
-  return bridge::toObject(list->root);
+  return toObject(list->root);
 }
 
 id initialised(id self, id withObject, bool isDictionary) {
   if (!withObject) {
-    bridge::send<void, "release">(self);
+    send<void, "release">(self);
     return nullptr;
   }
-  return isDictionary ? bridge::send<id, "initWithDictionary:">(self, withObject)
-                      : bridge::send<id, "initWithArray:">(self, withObject);
+  return isDictionary ? send<id, "initWithDictionary:">(self, withObject)
+                      : send<id, "initWithArray:">(self, withObject);
 }
 
 id NSDictionary_initWithContentsOfFile(id self, SEL, id path) {

@@ -3,12 +3,13 @@
 
 #include "bridge/runtime.h"
 #include "desktop/faces/foundation/corrections.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 namespace {
 
 bool replaceMethods() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   correctByteCounts();
   correctCollections();
   correctDates();

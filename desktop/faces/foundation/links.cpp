@@ -11,19 +11,17 @@
 namespace desktop::faces {
 namespace {
 
-using bridge::NSString;
-
-bridge::Stock<id(id, SEL, id)> stockURLWithString;
+Stock<id(id, SEL, id)> stockURLWithString;
 id NSURL_URLWithString(id self, SEL command, id text) {
   if (!text) return nullptr;
   if (const id link = stockURLWithString(self, command, text)) return link;
   return OpaqueLink::make(NSString(text).utf8()).get();
 }
 
-bridge::Stock<id(id, SEL)> stockPath;
+Stock<id(id, SEL)> stockPath;
 id NSURL_path(id self, SEL command) {
   if (const id path = stockPath(self, command)) return path;
-  const auto bytes = foundation::pathOfFileUrl(bridge::NSURL(self).absoluteString().utf8());
+  const auto bytes = foundation::pathOfFileUrl(NSURL(self).absoluteString().utf8());
   return bytes ? NSString::make(model::replacingInvalidUtf8(*bytes)).get() : nullptr;
 }
 

@@ -5,14 +5,12 @@
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/foundation_options.h"
 #include "desktop/faces/foundation/replacement.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 namespace {
 
-using bridge::NSBundle;
-using bridge::NSString;
-
-bridge::Stock<id(id, SEL)> stockBundleIdentifier;
+Stock<id(id, SEL)> stockBundleIdentifier;
 id NSBundle_bundleIdentifier(id self, SEL command) {
   const std::string& stated = currentOptions().bundleIdentifier;
   if (stated.empty() || NSBundle(self) != NSBundle::mainBundle())

@@ -7,14 +7,12 @@
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/replacement.h"
+#include "desktop/platform.h"
 #include "model/conversions.h"
 #include "model/number_text.h"
 
 namespace desktop::faces {
 namespace {
-
-using bridge::NSNumber;
-using bridge::NSString;
 
 // The double that a real number stands for: of a single-precision one, its own shortest decimal.
 double realOf(id self) {

@@ -5,12 +5,10 @@
 #include <functional>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 namespace {
-
-using bridge::NSString;
-using bridge::NSURL;
 
 bool isLetter(char character) {
   return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
@@ -43,7 +41,7 @@ bool isLink(std::string_view text) {
 }  // namespace
 
 Class OpaqueLink::classObject() {
-  static const Class made = bridge::ClassBuilder<OpaqueLink>("DesktopOpaqueLink")
+  static const Class made = ClassBuilder<OpaqueLink>("DesktopOpaqueLink")
                                 .method<"absoluteString", &OpaqueLink::absoluteString>()
                                 .method<"relativeString", &OpaqueLink::absoluteString>()
                                 .method<"description", &OpaqueLink::absoluteString>()
@@ -64,8 +62,8 @@ Class OpaqueLink::classObject() {
 NSURL OpaqueLink::make(std::string_view text) {
   if (!isLink(text)) return {};
   // What the superclass keeps has to be a link that it understands; nobody sees it.
-  auto link = bridge::Owned<NSURL>::adopt(bridge::send<NSURL, "initWithString:">(
-      bridge::send<id, "alloc">(classObject()), NSString::make("opaque:/")));
+  auto link = Owned<NSURL>::adopt(
+      send<NSURL, "initWithString:">(send<id, "alloc">(classObject()), NSString::make("opaque:/")));
   if (!link) return {};
   of(link.get().get())._text = text;
   return link.autorelease();
@@ -85,8 +83,8 @@ NSString OpaqueLink::query() const {
   return mark == std::string_view::npos ? NSString() : NSString::make(link.substr(mark + 1));
 }
 
-bool OpaqueLink::isEqual(bridge::Object other) const {
-  return bridge::as<NSURL>(other).absoluteString().utf8() == _text && bridge::as<NSURL>(other);
+bool OpaqueLink::isEqual(Object other) const {
+  return as<NSURL>(other).absoluteString().utf8() == _text && as<NSURL>(other);
 }
 
 unsigned long OpaqueLink::hash() const {

@@ -9,27 +9,28 @@
 
 #include "bridge/bound.h"
 #include "bridge/foundation.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 
-class OpaqueLink : public bridge::Bound<OpaqueLink, bridge::NSURL> {
+class OpaqueLink : public Bound<OpaqueLink, NSURL> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // A link of this text; nil where it has no scheme or holds what no link may hold. Autoreleased.
-  static bridge::NSURL make(std::string_view text);
+  static NSURL make(std::string_view text);
 
  private:
-  bridge::NSString absoluteString() const { return bridge::NSString::make(_text); }
-  bridge::NSString scheme() const;
-  bridge::NSString resourceSpecifier() const;
-  bridge::NSString query() const;
-  bridge::NSString emptyPath() const { return bridge::NSString::make(""); }
-  bridge::NSString noHost() const { return {}; }
-  bridge::NSURL itself() const { return self(); }
+  NSString absoluteString() const { return NSString::make(_text); }
+  NSString scheme() const;
+  NSString resourceSpecifier() const;
+  NSString query() const;
+  NSString emptyPath() const { return NSString::make(""); }
+  NSString noHost() const { return {}; }
+  NSURL itself() const { return self(); }
   bool isFileURL() const { return false; }
-  bool isEqual(bridge::Object other) const;
+  bool isEqual(Object other) const;
   unsigned long hash() const;
 
   std::string _text;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/hook.h"
+#include "desktop/platform.h"
 #include "desktop/runtime/method_hooks.h"
 
 namespace desktop::faces {
@@ -17,7 +18,7 @@ namespace desktop::faces {
 template <typename R, typename... Arguments>
 void replaceMethod(const char* className, const char* selector,
                    R (*replacement)(id, SEL, Arguments...),
-                   bridge::Stock<R(id, SEL, Arguments...)>& stock) {
+                   Stock<R(id, SEL, Arguments...)>& stock) {
   runtime::replaceMethod(objc_getClass(className), sel_registerName(selector),
                          reinterpret_cast<IMP>(replacement), stock.slot());
 }
@@ -26,7 +27,7 @@ void replaceMethod(const char* className, const char* selector,
 template <typename R, typename... Arguments>
 void replaceMethod(const char* className, const char* selector,
                    R (*replacement)(id, SEL, Arguments...)) {
-  bridge::Stock<R(id, SEL, Arguments...)> dropped;
+  Stock<R(id, SEL, Arguments...)> dropped;
   replaceMethod(className, selector, replacement, dropped);
 }
 
@@ -34,8 +35,8 @@ void replaceMethod(const char* className, const char* selector,
 template <typename R, typename... Arguments>
 void replaceClassMethod(const char* className, const char* selector,
                         R (*replacement)(id, SEL, Arguments...),
-                        bridge::Stock<R(id, SEL, Arguments...)>& stock) {
-  runtime::replaceMethod(object_getClass(bridge::rawObject(objc_getClass(className))),
+                        Stock<R(id, SEL, Arguments...)>& stock) {
+  runtime::replaceMethod(object_getClass(rawObject(objc_getClass(className))),
                          sel_registerName(selector), reinterpret_cast<IMP>(replacement),
                          stock.slot());
 }

@@ -5,13 +5,12 @@
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/corrections.h"
 #include "desktop/faces/foundation/replacement.h"
+#include "desktop/platform.h"
 #include "foundation/collation.h"
 #include "model/conversions.h"
 
 namespace desktop::faces {
 namespace {
-
-using bridge::NSString;
 
 NSInteger NSString_localizedCaseInsensitiveCompare(id self, SEL, id other) {
   static const model::KeyComparison& compare = *new model::KeyComparison(

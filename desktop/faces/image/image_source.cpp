@@ -8,28 +8,29 @@
 #include "bridge/convert.h"
 #include "bridge/imageio.h"
 #include "desktop/faces/foundation/file_links.h"
+#include "desktop/platform.h"
 #include "io/byte_source.h"
 
 namespace desktop::faces {
 namespace {
 
-class SourceObject : public bridge::Bound<SourceObject, bridge::NSObject> {
+class SourceObject : public Bound<SourceObject, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
-    static const Class made = bridge::ClassBuilder<SourceObject>("DesktopImageSource").build();
+    static const Class made = ClassBuilder<SourceObject>("DesktopImageSource").build();
     return made;
   }
 
   std::unique_ptr<io::FileSource> file;
 };
 
-CGImageSourceRef open(bridge::NSURL link) {
+CGImageSourceRef open(NSURL link) {
   const auto path = fileOnDisk(link);
   if (!path) return nullptr;
   auto file = io::FileSource::open(*path);
   if (!file) return nullptr;
-  const id source = bridge::send<id, "new">(SourceObject::classObject());
+  const id source = send<id, "new">(SourceObject::classObject());
   if (source) SourceObject::of(source).file = *std::move(file);
   return reinterpret_cast<CGImageSourceRef>(source);
 }
@@ -39,7 +40,7 @@ CFDictionaryRef copyFirstProperties(CGImageSourceRef source) {
       media::image::copyProperties(*SourceObject::of(reinterpret_cast<id>(source)).file);
   if (!properties || !*properties) return nullptr;
   const model::Value tree(**properties);
-  return reinterpret_cast<CFDictionaryRef>(bridge::toObject(tree).detach().get());
+  return reinterpret_cast<CFDictionaryRef>(toObject(tree).detach().get());
 }
 
 }  // namespace

@@ -5,62 +5,59 @@
 #include "desktop/faces/movie/av_metadata_item.h"
 #include "desktop/faces/movie/format_description.h"
 #include "desktop/faces/movie/media_time.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 
-using bridge::NSArray;
-using bridge::NSMutableArray;
-using bridge::NSObject;
-using bridge::Owned;
-
-Class AVAssetTrack::classObject() {
-  static const Class made = bridge::ClassBuilder<AVAssetTrack>("AVAssetTrack")
-                                .method<"trackID", &AVAssetTrack::trackID>()
-                                .method<"mediaType", &AVAssetTrack::mediaType>()
-                                .method<"formatDescriptions", &AVAssetTrack::formatDescriptions>()
-                                .method<"naturalSize", &AVAssetTrack::naturalSize>()
-                                .method<"preferredTransform", &AVAssetTrack::preferredTransform>()
-                                .method<"timeRange", &AVAssetTrack::timeRange>()
-                                .method<"estimatedDataRate", &AVAssetTrack::estimatedDataRate>()
-                                .method<"nominalFrameRate", &AVAssetTrack::nominalFrameRate>()
-                                .method<"minFrameDuration", &AVAssetTrack::minFrameDuration>()
-                                .method<"commonMetadata", &AVAssetTrack::commonMetadata>()
-                                .build();
+Class AVAssetTrackState::classObject() {
+  static const Class made =
+      ClassBuilder<AVAssetTrackState>("AVAssetTrack")
+          .method<"trackID", &AVAssetTrackState::trackID>()
+          .method<"mediaType", &AVAssetTrackState::mediaType>()
+          .method<"formatDescriptions", &AVAssetTrackState::formatDescriptions>()
+          .method<"naturalSize", &AVAssetTrackState::naturalSize>()
+          .method<"preferredTransform", &AVAssetTrackState::preferredTransform>()
+          .method<"timeRange", &AVAssetTrackState::timeRange>()
+          .method<"estimatedDataRate", &AVAssetTrackState::estimatedDataRate>()
+          .method<"nominalFrameRate", &AVAssetTrackState::nominalFrameRate>()
+          .method<"minFrameDuration", &AVAssetTrackState::minFrameDuration>()
+          .method<"commonMetadata", &AVAssetTrackState::commonMetadata>()
+          .build();
   return made;
 }
 
-Owned<NSObject> AVAssetTrack::make(const model::Track& track) {
-  auto made = Owned<NSObject>::adopt(bridge::send<NSObject, "new">(classObject()));
+Owned<NSObject> AVAssetTrackState::make(const model::Track& track) {
+  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
   if (!made) return made;
-  AVAssetTrack& state = of(made->get());
-  const auto formats = bridge::makeNew<NSMutableArray>();
+  AVAssetTrackState& state = of(made->get());
+  const auto formats = makeNew<NSMutableArray>();
   for (const model::FormatDescription& format : track.formatDescriptions) {
     formats->add(FormatDescription::make(format));
   }
   state._formatDescriptions = Owned<NSArray>::retain(formats);
-  state._commonMetadata = AVMetadataItem::makeAll(track.commonMetadata);
+  state._commonMetadata = AVMetadataItemState::makeAll(track.commonMetadata);
   state._facts = track;
   state._facts.formatDescriptions.clear();
   state._facts.commonMetadata.clear();
   return made;
 }
 
-Owned<NSArray> AVAssetTrack::makeAll(const std::vector<model::Track>& tracks) {
-  const auto array = bridge::makeNew<NSMutableArray>();
+Owned<NSArray> AVAssetTrackState::makeAll(const std::vector<model::Track>& tracks) {
+  const auto array = makeNew<NSMutableArray>();
   for (const model::Track& track : tracks) array->add(make(track));
   return Owned<NSArray>::retain(array);
 }
 
-CGAffineTransform AVAssetTrack::preferredTransform() const {
+CGAffineTransform AVAssetTrackState::preferredTransform() const {
   const model::AffineTransform& matrix = _facts.preferredTransform;
   return {matrix.a, matrix.b, matrix.c, matrix.d, matrix.tx, matrix.ty};
 }
 
-CMTimeRange AVAssetTrack::timeRange() const {
+CMTimeRange AVAssetTrackState::timeRange() const {
   return {.start = timeOfSeconds(0), .duration = timeOfSeconds(_facts.duration)};
 }
 
-CMTime AVAssetTrack::minFrameDuration() const {
+CMTime AVAssetTrackState::minFrameDuration() const {
   return _facts.minFrameDuration ? timeOfSeconds(*_facts.minFrameDuration) : CMTime();
 }
 

@@ -5,28 +5,30 @@
 
 #include <vector>
 
+#include "bridge/avfoundation.h"
 #include "bridge/bound.h"
 #include "bridge/foundation.h"
+#include "desktop/platform.h"
 #include "model/media_asset.h"
 
 namespace desktop::faces {
 
-class AVMetadataItem : public bridge::Bound<AVMetadataItem, bridge::NSObject> {
+class AVMetadataItemState : public Bound<AVMetadataItemState, NSObject, AVMetadataItem> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // An array of them; +1.
-  static bridge::Owned<bridge::NSArray> makeAll(const std::vector<model::MetadataItem>& items);
+  static Owned<NSArray> makeAll(const std::vector<model::MetadataItem>& items);
 
  private:
-  static bridge::Owned<bridge::NSObject> make(const model::MetadataItem& item);
+  static Owned<NSObject> make(const model::MetadataItem& item);
   // Nil for keys that are not common, and where there is no value.
-  bridge::NSString commonKey() const { return _commonKey; }
-  bridge::Object value() const { return _value; }
+  NSString commonKey() const { return _commonKey; }
+  Object value() const { return _value; }
 
-  bridge::Owned<bridge::NSString> _commonKey;
-  bridge::Owned<bridge::Object> _value;
+  Owned<NSString> _commonKey;
+  Owned<Object> _value;
 };
 
 }  // namespace desktop::faces

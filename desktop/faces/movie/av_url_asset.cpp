@@ -6,6 +6,7 @@
 #include "desktop/faces/movie/av_asset_track.h"
 #include "desktop/faces/movie/av_metadata_item.h"
 #include "desktop/faces/movie/media_time.h"
+#include "desktop/platform.h"
 #include "io/byte_source.h"
 #include "media/movie/media_source.h"
 
@@ -13,7 +14,7 @@ namespace desktop::faces {
 
 namespace {
 
-model::MediaAsset assetAt(bridge::NSURL url) {
+model::MediaAsset assetAt(NSURL url) {
   const auto path = fileOnDisk(url);
   if (!path) return {};
   const auto source = io::FileSource::open(*path);
@@ -25,45 +26,45 @@ model::MediaAsset assetAt(bridge::NSURL url) {
 
 }  // namespace
 
-Class AVURLAsset::classObject() {
-  static const Class made = bridge::ClassBuilder<AVURLAsset>("AVURLAsset")
-                                .classMethod<"URLAssetWithURL:options:", &AVURLAsset::withURL>()
-                                .method<"URL", &AVURLAsset::url>()
-                                .method<"tracks", &AVURLAsset::tracks>()
-                                .method<"commonMetadata", &AVURLAsset::commonMetadata>()
-                                .method<"duration", &AVURLAsset::duration>()
-                                .build();
+Class AVURLAssetState::classObject() {
+  static const Class made =
+      ClassBuilder<AVURLAssetState>("AVURLAsset")
+          .classMethod<"URLAssetWithURL:options:", &AVURLAssetState::withURL>()
+          .method<"URL", &AVURLAssetState::url>()
+          .method<"tracks", &AVURLAssetState::tracks>()
+          .method<"commonMetadata", &AVURLAssetState::commonMetadata>()
+          .method<"duration", &AVURLAssetState::duration>()
+          .build();
   return made;
 }
 
-bridge::NSObject AVURLAsset::withURL(bridge::NSURL url, bridge::NSDictionary) {
+NSObject AVURLAssetState::withURL(NSURL url, NSDictionary) {
   if (!url) return {};
-  auto made =
-      bridge::Owned<bridge::NSObject>::adopt(bridge::send<bridge::NSObject, "new">(classObject()));
-  if (made) of(made->get())._url = bridge::Owned<bridge::NSURL>::retain(url);
+  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
+  if (made) of(made->get())._url = Owned<NSURL>::retain(url);
   return made.autorelease();
 }
 
-bridge::NSArray AVURLAsset::tracks() {
+NSArray AVURLAssetState::tracks() {
   readOnce();
   return _tracks;
 }
 
-bridge::NSArray AVURLAsset::commonMetadata() {
+NSArray AVURLAssetState::commonMetadata() {
   readOnce();
   return _commonMetadata;
 }
 
-CMTime AVURLAsset::duration() {
+CMTime AVURLAssetState::duration() {
   readOnce();
   return timeOfSeconds(_duration);
 }
 
-void AVURLAsset::readOnce() {
+void AVURLAssetState::readOnce() {
   if (_tracks) return;
   const model::MediaAsset asset = assetAt(_url);
-  _tracks = AVAssetTrack::makeAll(asset.tracks);
-  _commonMetadata = AVMetadataItem::makeAll(asset.commonMetadata);
+  _tracks = AVAssetTrackState::makeAll(asset.tracks);
+  _commonMetadata = AVMetadataItemState::makeAll(asset.commonMetadata);
   _duration = asset.duration;
 }
 

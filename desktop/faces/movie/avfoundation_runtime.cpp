@@ -8,9 +8,9 @@
 namespace desktop::faces {
 
 void registerAVFoundation() {
-  AVMetadataItem::classObject();
-  AVAssetTrack::classObject();
-  AVURLAsset::classObject();
+  AVMetadataItemState::classObject();
+  AVAssetTrackState::classObject();
+  AVURLAssetState::classObject();
 }
 
 }  // namespace desktop::faces

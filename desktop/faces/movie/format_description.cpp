@@ -3,6 +3,7 @@
 
 #include "bridge/class_builder.h"
 #include "bridge/convert.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 
@@ -22,19 +23,17 @@ AudioStreamBasicDescription streamDescription(const model::AudioStreamDescriptio
 }  // namespace
 
 Class FormatDescription::classObject() {
-  static const Class made =
-      bridge::ClassBuilder<FormatDescription>("DesktopFormatDescription").build();
+  static const Class made = ClassBuilder<FormatDescription>("DesktopFormatDescription").build();
   return made;
 }
 
-bridge::Owned<bridge::NSObject> FormatDescription::make(const model::FormatDescription& facts) {
-  auto made =
-      bridge::Owned<bridge::NSObject>::adopt(bridge::send<bridge::NSObject, "new">(classObject()));
+Owned<NSObject> FormatDescription::make(const model::FormatDescription& facts) {
+  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
   if (!made) return made;
   FormatDescription& description = of(made->get());
   if (facts.audio) description.audio = streamDescription(*facts.audio);
   if (!facts.extensions.empty()) {
-    description.extensions = bridge::toObject(model::Value(facts.extensions));
+    description.extensions = toObject(model::Value(facts.extensions));
   }
   description.facts = facts;
   description.facts.extensions.clear();

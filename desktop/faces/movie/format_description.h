@@ -5,21 +5,22 @@
 
 #include "bridge/avfoundation.h"
 #include "bridge/bound.h"
+#include "desktop/platform.h"
 #include "model/media_asset.h"
 
 namespace desktop::faces {
 
-class FormatDescription : public bridge::Bound<FormatDescription, bridge::NSObject> {
+class FormatDescription : public Bound<FormatDescription, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // +1.
-  static bridge::Owned<bridge::NSObject> make(const model::FormatDescription& facts);
+  static Owned<NSObject> make(const model::FormatDescription& facts);
 
   model::FormatDescription facts;  // without its extensions
   AudioStreamBasicDescription audio;
-  bridge::Owned<bridge::Object> extensions;  // a dictionary, or nil where there are none
+  Owned<Object> extensions;  // a dictionary, or nil where there are none
 };
 
 }  // namespace desktop::faces

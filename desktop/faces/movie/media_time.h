@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/avfoundation.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 

@@ -2,26 +2,26 @@
 #include "desktop/faces/photos/cl_location.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 
-Class CLLocation::classObject() {
+Class CLLocationState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<CLLocation>("CLLocation")
-          .method<"initWithLatitude:longitude:", &CLLocation::initWithDegrees>()
-          .method<"coordinate", &CLLocation::coordinate>()
+      ClassBuilder<CLLocationState>("CLLocation")
+          .method<"initWithLatitude:longitude:", &CLLocationState::initWithDegrees>()
+          .method<"coordinate", &CLLocationState::coordinate>()
           .build();
   return made;
 }
 
-bridge::CLLocation CLLocation::make(const model::Location& place) {
-  auto made = bridge::Owned<bridge::CLLocation>::adopt(
-      bridge::send<bridge::CLLocation, "new">(classObject()));
+CLLocation CLLocationState::make(const model::Location& place) {
+  auto made = Owned<CLLocation>::adopt(send<CLLocation, "new">(classObject()));
   if (made) of(made->get())._coordinate = {place.latitude, place.longitude};
   return made.autorelease();
 }
 
-bridge::NSObject CLLocation::initWithDegrees(double latitude, double longitude) {
+NSObject CLLocationState::initWithDegrees(double latitude, double longitude) {
   _coordinate = {latitude, longitude};
   return self();
 }

@@ -5,23 +5,24 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "desktop/platform.h"
 #include "model/geometry.h"
 
 namespace desktop::faces {
 
-class CLLocation : public bridge::Bound<CLLocation, bridge::NSObject> {
+class CLLocationState : public Bound<CLLocationState, NSObject, CLLocation> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // Autoreleased.
-  static bridge::CLLocation make(const model::Location& place);
+  static CLLocation make(const model::Location& place);
 
  private:
-  bridge::CLLocationCoordinate2D coordinate() const { return _coordinate; }
-  bridge::NSObject initWithDegrees(double latitude, double longitude);
+  CLLocationCoordinate2D coordinate() const { return _coordinate; }
+  NSObject initWithDegrees(double latitude, double longitude);
 
-  bridge::CLLocationCoordinate2D _coordinate;
+  CLLocationCoordinate2D _coordinate;
 };
 
 }  // namespace desktop::faces

@@ -13,14 +13,11 @@
 #include "bridge/class_builder.h"
 #include "desktop/faces/photos/cl_location.h"
 #include "desktop/library/preview_files.h"
+#include "desktop/platform.h"
 #include "foundation/paths.h"
 #include "media/image/image_type.h"
 
 namespace desktop::faces {
-
-using bridge::NSDate;
-using bridge::NSString;
-using bridge::NSURL;
 
 namespace {
 
@@ -36,137 +33,136 @@ short orientation(const media::facts::AssetFacts& facts) {
 
 }  // namespace
 
-Class PHAsset::classObject() {
+Class PHAssetState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<PHAsset>("PHAsset")
-          .method<"uuid", &PHAsset::uuid>()
-          .method<"localIdentifier", &PHAsset::uuid>()
-          .method<"uniformTypeIdentifier", &PHAsset::uniformTypeIdentifier>()
-          .method<"isVideo", &PHAsset::isVideo>()
-          .method<"mediaType", &PHAsset::mediaType>()
-          .method<"pixelWidth", &PHAsset::pixelWidth>()
-          .method<"pixelHeight", &PHAsset::pixelHeight>()
-          .method<"duration", &PHAsset::duration>()
-          .method<"exifOrientation", &PHAsset::exifOrientation>()
-          .method<"creationDate", &PHAsset::creationDate>()
-          .method<"modificationDate", &PHAsset::modificationDate>()
-          .method<"location", &PHAsset::location>()
-          .method<"localizedGeoDescription", &PHAsset::localizedGeoDescription>()
-          .method<"mainFileURL", &PHAsset::mainFileURL>()
-          .method<"fileURLForFullsizeImage", &PHAsset::fileURLForFullsizeImage>()
-          .method<"fileURLForLargePreview", &PHAsset::fileURLForLargePreview>()
-          .method<"fileURLForMediumPreview", &PHAsset::fileURLForMediumPreview>()
-          .method<"isEqual:", &PHAsset::isEqual>()
-          .method<"hash", &PHAsset::hash>()
-          .method<"copyWithZone:", &PHAsset::copyWithZone>()
+      ClassBuilder<PHAssetState>("PHAsset")
+          .method<"uuid", &PHAssetState::uuid>()
+          .method<"localIdentifier", &PHAssetState::uuid>()
+          .method<"uniformTypeIdentifier", &PHAssetState::uniformTypeIdentifier>()
+          .method<"isVideo", &PHAssetState::isVideo>()
+          .method<"mediaType", &PHAssetState::mediaType>()
+          .method<"pixelWidth", &PHAssetState::pixelWidth>()
+          .method<"pixelHeight", &PHAssetState::pixelHeight>()
+          .method<"duration", &PHAssetState::duration>()
+          .method<"exifOrientation", &PHAssetState::exifOrientation>()
+          .method<"creationDate", &PHAssetState::creationDate>()
+          .method<"modificationDate", &PHAssetState::modificationDate>()
+          .method<"location", &PHAssetState::location>()
+          .method<"localizedGeoDescription", &PHAssetState::localizedGeoDescription>()
+          .method<"mainFileURL", &PHAssetState::mainFileURL>()
+          .method<"fileURLForFullsizeImage", &PHAssetState::fileURLForFullsizeImage>()
+          .method<"fileURLForLargePreview", &PHAssetState::fileURLForLargePreview>()
+          .method<"fileURLForMediumPreview", &PHAssetState::fileURLForMediumPreview>()
+          .method<"isEqual:", &PHAssetState::isEqual>()
+          .method<"hash", &PHAssetState::hash>()
+          .method<"copyWithZone:", &PHAssetState::copyWithZone>()
           .build();
   return made;
 }
 
-bridge::PHAsset PHAsset::make(const library::PhotoLibrary& library, library::ItemPointer item) {
-  auto made =
-      bridge::Owned<bridge::PHAsset>::adopt(bridge::send<bridge::PHAsset, "new">(classObject()));
+PHAsset PHAssetState::make(const library::PhotoLibrary& library, library::ItemPointer item) {
+  auto made = Owned<PHAsset>::adopt(send<PHAsset, "new">(classObject()));
   if (!made) return {};
-  PHAsset& asset = of(made->get());
+  PHAssetState& asset = of(made->get());
   asset._library = library.reference();
   asset._devicePath = library.root().onDevice(item->path);
   asset._item = std::move(item);
   return made.autorelease();
 }
 
-library::ItemPointer PHAsset::itemOf(bridge::Object asset) {
-  return bridge::isKindOf(asset, classObject()) ? of(asset.get())._item : nullptr;
+library::ItemPointer PHAssetState::itemOf(Object asset) {
+  return isKindOf(asset, classObject()) ? of(asset.get())._item : nullptr;
 }
 
-const media::facts::AssetFacts* PHAsset::facts() const {
+const media::facts::AssetFacts* PHAssetState::facts() const {
   const auto library = _library.lock();
   if (!library) return nullptr;
   const library::FactsCache::Facts& facts = library->facts(*_item);
   return facts ? facts->get() : nullptr;
 }
 
-NSString PHAsset::uniformTypeIdentifier() const {
+NSString PHAssetState::uniformTypeIdentifier() const {
   const media::facts::AssetFacts* known = facts();
   return NSString::make(known != nullptr ? known->uniformTypeIdentifier
                                          : media::image::uniformTypeIdentifier({}, _item->path));
 }
 
-bool PHAsset::isVideo() const {
+bool PHAssetState::isVideo() const {
   const media::facts::AssetFacts* known = facts();
   return known != nullptr ? known->isVideo : _item->isVideo();
 }
 
-NSUInteger PHAsset::pixelWidth() const {
+NSUInteger PHAssetState::pixelWidth() const {
   const media::facts::AssetFacts* known = facts();
   return known != nullptr ? static_cast<NSUInteger>(known->pixelWidth) : 0;
 }
 
-NSUInteger PHAsset::pixelHeight() const {
+NSUInteger PHAssetState::pixelHeight() const {
   const media::facts::AssetFacts* known = facts();
   return known != nullptr ? static_cast<NSUInteger>(known->pixelHeight) : 0;
 }
 
-double PHAsset::duration() const {
+double PHAssetState::duration() const {
   const media::facts::AssetFacts* known = facts();
   return known != nullptr ? known->duration : 0;
 }
 
-short PHAsset::exifOrientation() const {
+short PHAssetState::exifOrientation() const {
   const media::facts::AssetFacts* known = facts();
   if (known == nullptr) return 1;
   return orientation(*known);
 }
 
-NSDate PHAsset::creationDate() const {
+NSDate PHAssetState::creationDate() const {
   const media::facts::AssetFacts* known = facts();
   const model::Date date = known != nullptr ? known->creationDate : _item->modificationDate;
   return NSDate::withTimeIntervalSince1970(date.secondsSince1970);
 }
 
-NSDate PHAsset::modificationDate() const {
+NSDate PHAssetState::modificationDate() const {
   return NSDate::withTimeIntervalSince1970(_item->modificationDate.secondsSince1970);
 }
 
-bridge::CLLocation PHAsset::location() const {
+CLLocation PHAssetState::location() const {
   const media::facts::AssetFacts* known = facts();
   if (known == nullptr || !known->location) return {};
-  return CLLocation::make(*known->location);
+  return CLLocationState::make(*known->location);
 }
 
-NSString PHAsset::localizedGeoDescription() const {
+NSString PHAssetState::localizedGeoDescription() const {
   const media::facts::AssetFacts* known = facts();
   if (known == nullptr || !known->localizedGeoDescription) return {};
   return NSString::make(*known->localizedGeoDescription);
 }
 
-NSURL PHAsset::mainFileURL() const {
+NSURL PHAssetState::mainFileURL() const {
   return linkTo(_devicePath);
 }
 
-NSURL PHAsset::fileURLForFullsizeImage() const {
+NSURL PHAssetState::fileURLForFullsizeImage() const {
   return linkTo(library::previewFilesOf(_devicePath).fullsizeImage);
 }
 
-NSURL PHAsset::fileURLForLargePreview() const {
+NSURL PHAssetState::fileURLForLargePreview() const {
   return linkTo(library::previewFilesOf(_devicePath).largePreview);
 }
 
-NSURL PHAsset::fileURLForMediumPreview() const {
+NSURL PHAssetState::fileURLForMediumPreview() const {
   return linkTo(library::previewFilesOf(_devicePath).mediumPreview);
 }
 
-bool PHAsset::isEqual(bridge::Object other) const {
+bool PHAssetState::isEqual(Object other) const {
   const library::ItemPointer item = itemOf(other);
   return item && item->uuid == _item->uuid;
 }
 
-unsigned long PHAsset::hash() const {
+unsigned long PHAssetState::hash() const {
   return std::hash<std::string>()(_item->uuid);
 }
 
 // An asset never changes: its copy is itself, with a reference for the caller.
-bridge::Object PHAsset::copyWithZone(void*) {
-  return bridge::Owned<bridge::NSObject>::retain(self()).detach();
+Object PHAssetState::copyWithZone(void*) {
+  return Owned<NSObject>::retain(self()).detach();
 }
 
 }  // namespace desktop::faces

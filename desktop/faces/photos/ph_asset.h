@@ -10,10 +10,11 @@
 #include "bridge/bound.h"
 #include "bridge/photos.h"
 #include "desktop/library/photo_library.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 
-class PHAsset : public bridge::Bound<PHAsset, bridge::NSObject> {
+class PHAssetState : public Bound<PHAssetState, NSObject, PHAsset> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -21,33 +22,33 @@ class PHAsset : public bridge::Bound<PHAsset, bridge::NSObject> {
   // Autoreleased. Two of the same file are equal, also where the file has changed in between. When
   // the library is gone, an asset tells what it would of a file that cannot be read. REQUIRES: the
   // item is not null.
-  static bridge::PHAsset make(const library::PhotoLibrary& library, library::ItemPointer item);
+  static PHAsset make(const library::PhotoLibrary& library, library::ItemPointer item);
   // The item of an asset; null for other objects and nil.
-  static library::ItemPointer itemOf(bridge::Object asset);
+  static library::ItemPointer itemOf(Object asset);
 
  private:
   // Null where the file cannot be read, or the library is gone.
   const media::facts::AssetFacts* facts() const;
 
-  bridge::NSString uuid() const { return bridge::NSString::make(_item->uuid); }
-  bridge::NSString uniformTypeIdentifier() const;
+  NSString uuid() const { return NSString::make(_item->uuid); }
+  NSString uniformTypeIdentifier() const;
   bool isVideo() const;
   long mediaType() const { return isVideo() ? 2 : 1; }  // PHAssetMediaType
   NSUInteger pixelWidth() const;
   NSUInteger pixelHeight() const;
   double duration() const;
   short exifOrientation() const;
-  bridge::NSDate creationDate() const;
-  bridge::NSDate modificationDate() const;
-  bridge::CLLocation location() const;
-  bridge::NSString localizedGeoDescription() const;
-  bridge::NSURL mainFileURL() const;
-  bridge::NSURL fileURLForFullsizeImage() const;
-  bridge::NSURL fileURLForLargePreview() const;
-  bridge::NSURL fileURLForMediumPreview() const;
-  bool isEqual(bridge::Object other) const;
+  NSDate creationDate() const;
+  NSDate modificationDate() const;
+  CLLocation location() const;
+  NSString localizedGeoDescription() const;
+  NSURL mainFileURL() const;
+  NSURL fileURLForFullsizeImage() const;
+  NSURL fileURLForLargePreview() const;
+  NSURL fileURLForMediumPreview() const;
+  bool isEqual(Object other) const;
   unsigned long hash() const;
-  bridge::Object copyWithZone(void* zone);
+  Object copyWithZone(void* zone);
 
   std::weak_ptr<library::PhotoLibrary> _library;
   library::ItemPointer _item;

@@ -8,9 +8,9 @@
 namespace desktop::faces {
 
 void registerPhotos() {
-  CLLocation::classObject();
-  PHAsset::classObject();
-  PUAssetReference::classObject();
+  CLLocationState::classObject();
+  PHAssetState::classObject();
+  PUAssetReferenceState::classObject();
 }
 
 }  // namespace desktop::faces

@@ -5,23 +5,24 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "desktop/platform.h"
 
 namespace desktop::faces {
 
-class PUAssetReference : public bridge::Bound<PUAssetReference, bridge::NSObject> {
+class PUAssetReferenceState : public Bound<PUAssetReferenceState, NSObject, PUAssetReference> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // Autoreleased. The asset may be any object; it and the path are kept.
-  static bridge::PUAssetReference make(bridge::Object asset, bridge::NSIndexPath path);
+  static PUAssetReference make(Object asset, NSIndexPath path);
 
  private:
-  bridge::Object asset() const { return _asset; }
-  bridge::NSIndexPath indexPath() const { return _indexPath; }
+  Object asset() const { return _asset; }
+  NSIndexPath indexPath() const { return _indexPath; }
 
-  bridge::Owned<bridge::Object> _asset;
-  bridge::Owned<bridge::NSIndexPath> _indexPath;
+  Owned<Object> _asset;
+  Owned<NSIndexPath> _indexPath;
 };
 
 }  // namespace desktop::faces

@@ -3,6 +3,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/labels.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 
 namespace desktop::photos_ui {
@@ -24,33 +25,32 @@ std::string countOf(const library::Album& album) {
 
 Class AlbumCell::classObject() {
   static const Class made =
-      bridge::ClassBuilder<AlbumCell>("AlbumCell")
+      ClassBuilder<AlbumCell>("AlbumCell")
           .method<"initWithStyle:reuseIdentifier:", &AlbumCell::initWithStyle>()
           .method<"layoutSubviews", &AlbumCell::layoutSubviews>()
           .build();
   return made;
 }
 
-bridge::UITableViewCell AlbumCell::initWithStyle(NSInteger style, bridge::NSString identifier) {
-  const auto object =
-      super<bridge::UITableViewCell, "initWithStyle:reuseIdentifier:">(style, identifier);
+UITableViewCell AlbumCell::initWithStyle(NSInteger style, NSString identifier) {
+  const auto object = super<UITableViewCell, "initWithStyle:reuseIdentifier:">(style, identifier);
   if (!object) return {};
-  const bridge::UIView content = uikit::UITableViewCell::of(self()).contentView();
-  _photo = bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:">(
-      bridge::send<id, "alloc">(PUPhotoView::classObject()),
+  const UIView content = contentView();
+  _photo = Owned<UIView>::adopt(send<UIView, "initWithFrame:">(
+      send<id, "alloc">(PUPhotoViewState::classObject()),
       CGRect{{margin, (height - photoSide) / 2}, {photoSide, photoSide}}));
-  _title = makeLabel({.size = 17}, uikit::colors::black);
-  _count = makeLabel({.size = 13}, uikit::colors::secondaryText);
+  _title = photos_ui::makeLabel({.size = 17}, uikit::colors::black);
+  _count = photos_ui::makeLabel({.size = 13}, uikit::colors::secondaryText);
   content.addSubview(_photo);
   content.addSubview(_title);
   content.addSubview(_count);
-  self().setAccessoryType(bridge::UITableViewCell::disclosureIndicator);
+  self().setAccessoryType(UITableViewCell::disclosureIndicator);
   return object;
 }
 
 // The newest photo stands for all.
 void AlbumCell::show(const library::Album& album) {
-  PUPhotoView::of(_photo.get())
+  PUPhotoViewState::of(_photo.get())
       .content()
       .show(album.items.empty() ? nullptr : album.items.back(), {photoSide, photoSide});
   showText(_title, album.title);
@@ -59,7 +59,7 @@ void AlbumCell::show(const library::Album& album) {
 
 void AlbumCell::layoutSubviews() {
   super<void, "layoutSubviews">();
-  const CGSize room = uikit::UITableViewCell::of(self()).contentView().bounds().size;
+  const CGSize room = contentView().bounds().size;
   const CGFloat left = margin + photoSide + margin;
   const CGFloat width = std::max(0.0, room.width - left - margin);
   const CGFloat top = (room.height - titleHeight - countHeight) / 2;

@@ -6,10 +6,12 @@
 #include "bridge/bound.h"
 #include "desktop/library/albums.h"
 #include "desktop/photos_ui/cells/pu_photo_view.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/lists/ui_table_view_cell.h"
 
 namespace desktop::photos_ui {
 
-class AlbumCell : public bridge::Bound<AlbumCell, bridge::UITableViewCell> {
+class AlbumCell : public Bound<AlbumCell, uikit::UITableViewCellState> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -18,12 +20,12 @@ class AlbumCell : public bridge::Bound<AlbumCell, bridge::UITableViewCell> {
   void show(const library::Album& album);
 
  private:
-  bridge::UITableViewCell initWithStyle(NSInteger style, bridge::NSString identifier);
+  UITableViewCell initWithStyle(NSInteger style, NSString identifier);
   void layoutSubviews();
 
-  bridge::Owned<bridge::UIView> _photo;
-  bridge::Owned<bridge::UILabel> _title;
-  bridge::Owned<bridge::UILabel> _count;
+  Owned<UIView> _photo;
+  Owned<UILabel> _title;
+  Owned<UILabel> _count;
 };
 
 }  // namespace desktop::photos_ui

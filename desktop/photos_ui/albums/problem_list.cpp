@@ -4,13 +4,11 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/large_title.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 #include "model/utf8.h"
 
 namespace desktop::photos_ui {
-
-using bridge::NSString;
-using bridge::UITableViewCell;
 
 namespace {
 
@@ -26,7 +24,7 @@ std::string shown(const std::string& path, const std::string& folder) {
 
 Class ProblemList::classObject() {
   using Self = ProblemList;
-  static const Class made = bridge::ClassBuilder<Self>("ProblemList")
+  static const Class made = ClassBuilder<Self>("ProblemList")
                                 .method<"viewWillAppear:", &Self::viewWillAppear>()
                                 .method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>()
                                 .method<"tableView:heightForRowAtIndexPath:", &Self::heightForRow>()
@@ -35,10 +33,10 @@ Class ProblemList::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::UIViewController> ProblemList::make() {
-  auto made = bridge::Owned<bridge::UIViewController>::adopt(
-      bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(classObject())));
-  bridge::send<void, "setTitle:">(made.get(), NSString::make("Not Shown"));
+Owned<UIViewController> ProblemList::make() {
+  auto made = Owned<UIViewController>::adopt(
+      send<UIViewController, "init">(send<id, "alloc">(classObject())));
+  send<void, "setTitle:">(made.get(), NSString::make("Not Shown"));
   useLargeTitle(made, false);
   return made;
 }
@@ -57,25 +55,25 @@ void ProblemList::refresh() {
   if (const library::PhotoLibrary* const library = host().library)
     for (const auto& [path, reason] : library->problems())
       _problems.emplace_back(shown(path, library->folder()), reason);
-  bridge::send<void, "reloadData">(self().tableView());
+  send<void, "reloadData">(self().tableView());
 }
 
-NSInteger ProblemList::numberOfRows(bridge::UITableView, NSInteger) const {
+NSInteger ProblemList::numberOfRows(UITableView, NSInteger) const {
   return static_cast<NSInteger>(_problems.size());
 }
 
-CGFloat ProblemList::heightForRow(bridge::UITableView, bridge::NSIndexPath) const {
+CGFloat ProblemList::heightForRow(UITableView, NSIndexPath) const {
   return rowHeight;
 }
 
-UITableViewCell ProblemList::cellForRow(bridge::UITableView table, bridge::NSIndexPath path) const {
+UITableViewCell ProblemList::cellForRow(UITableView table, NSIndexPath path) const {
   const NSString identifier = NSString::make("problem");
   UITableViewCell cell = table.dequeueCell(identifier);
   if (!cell)
-    cell = bridge::Owned<UITableViewCell>::adopt(
-               bridge::send<UITableViewCell, "initWithStyle:reuseIdentifier:">(
-                   bridge::send<id, "alloc">(UITableViewCell::classObject()),
-                   NSInteger{uikit::UITableViewCell::subtitle}, identifier))
+    cell = Owned<UITableViewCell>::adopt(send<UITableViewCell, "initWithStyle:reuseIdentifier:">(
+                                             send<id, "alloc">(UITableViewCell::classObject()),
+                                             NSInteger{uikit::UITableViewCellState::subtitle},
+                                             identifier))
                .autorelease();
   const auto& [file, reason] = _problems[static_cast<std::size_t>(path.row())];
   cell.textLabel().setText(NSString::make(file));

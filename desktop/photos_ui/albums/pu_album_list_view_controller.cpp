@@ -3,31 +3,29 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/albums/album_cell.h"
+#include "desktop/photos_ui/albums/album_controllers.h"
 #include "desktop/photos_ui/albums/problem_list.h"
-#include "desktop/photos_ui/albums/pu_photos_album_view_controller.h"
 #include "desktop/photos_ui/base/large_title.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::photos_ui {
 
-using bridge::NSString;
-using bridge::UITableViewCell;
-
 namespace {
 
 constexpr CGFloat problemsHeight = 44;  // points
 
-void push(bridge::UIViewController from, bridge::UIViewController controller) {
-  from.navigationController().push(controller, bridge::UIViewController::animated);
+void push(UIViewController from, UIViewController controller) {
+  from.navigationController().push(controller, UIViewController::animated);
 }
 
 }  // namespace
 
 Class PUAlbumListViewController::classObject() {
   using Self = PUAlbumListViewController;
-  static const Class made = bridge::ClassBuilder<Self>("PUAlbumListViewController")
+  static const Class made = ClassBuilder<Self>("PUAlbumListViewController")
                                 .method<"viewDidLoad", &Self::viewDidLoad>()
                                 .method<"viewWillAppear:", &Self::viewWillAppear>()
                                 .method<"viewWillDisappear:", &Self::viewWillDisappear>()
@@ -39,19 +37,19 @@ Class PUAlbumListViewController::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::UIViewController> PUAlbumListViewController::make() {
-  auto made = bridge::Owned<bridge::UIViewController>::adopt(
-      bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(classObject())));
-  bridge::send<void, "setTitle:">(made.get(), NSString::make("Albums"));
+Owned<UIViewController> PUAlbumListViewController::make() {
+  auto made = Owned<UIViewController>::adopt(
+      send<UIViewController, "init">(send<id, "alloc">(classObject())));
+  send<void, "setTitle:">(made.get(), NSString::make("Albums"));
   useLargeTitle(made, true);
   return made;
 }
 
 void PUAlbumListViewController::viewDidLoad() {
   super<void, "viewDidLoad">();
-  bridge::send<void, "registerClass:forCellReuseIdentifier:">(
-      self().tableView(), AlbumCell::classObject(), NSString::make("album"));
-  self().tableView().setBackgroundColor(bridge::UIColor::whiteColor());
+  send<void, "registerClass:forCellReuseIdentifier:">(self().tableView(), AlbumCell::classObject(),
+                                                      NSString::make("album"));
+  self().tableView().setBackgroundColor(UIColor::whiteColor());
   if (host().library) host().library->findPanoramas();
 }
 
@@ -69,36 +67,33 @@ void PUAlbumListViewController::refresh() {
   library::PhotoLibrary* const library = host().library;
   _albums = library ? library->albums() : std::vector<library::Album>();
   _problemCount = library ? library->problems().size() : 0;
-  bridge::send<void, "reloadData">(self().tableView());
+  send<void, "reloadData">(self().tableView());
 }
 
 void PUAlbumListViewController::libraryChanged(const library::LibraryChange&) {
-  const bridge::UIView view = uikit::UIViewController::of(self()).viewIfLoaded();
-  if (view && uikit::UIView::of(view).window()) refresh();
+  const UIView view = viewIfLoaded();
+  if (view && uikit::UIViewState::of(view).window()) refresh();
 }
 
-NSInteger PUAlbumListViewController::numberOfRows(bridge::UITableView, NSInteger) const {
+NSInteger PUAlbumListViewController::numberOfRows(UITableView, NSInteger) const {
   return static_cast<NSInteger>(_albums.size()) + (_problemCount > 0 ? 1 : 0);
 }
 
-CGFloat PUAlbumListViewController::heightForRow(bridge::UITableView,
-                                                bridge::NSIndexPath path) const {
+CGFloat PUAlbumListViewController::heightForRow(UITableView, NSIndexPath path) const {
   const bool isAlbum = static_cast<std::size_t>(path.row()) < _albums.size();
   return isAlbum ? AlbumCell::height : problemsHeight;
 }
 
-UITableViewCell PUAlbumListViewController::cellForRow(bridge::UITableView table,
-                                                      bridge::NSIndexPath path) {
+UITableViewCell PUAlbumListViewController::cellForRow(UITableView table, NSIndexPath path) {
   const auto row = static_cast<std::size_t>(path.row());
   if (row >= _albums.size()) return problemsCell(table);
-  const auto cell =
-      bridge::send<UITableViewCell, "dequeueReusableCellWithIdentifier:forIndexPath:">(
-          table, NSString::make("album"), path);
+  const auto cell = send<UITableViewCell, "dequeueReusableCellWithIdentifier:forIndexPath:">(
+      table, NSString::make("album"), path);
   AlbumCell::of(cell).show(_albums[row]);
   return cell;
 }
 
-UITableViewCell PUAlbumListViewController::problemsCell(bridge::UITableView table) const {
+UITableViewCell PUAlbumListViewController::problemsCell(UITableView table) const {
   const NSString identifier = NSString::make("problems");
   UITableViewCell cell = table.dequeueCell(identifier);
   if (!cell) cell = UITableViewCell::make(UITableViewCell::value1, identifier).autorelease();
@@ -108,7 +103,7 @@ UITableViewCell PUAlbumListViewController::problemsCell(bridge::UITableView tabl
   return cell;
 }
 
-void PUAlbumListViewController::didSelectRow(bridge::UITableView, bridge::NSIndexPath path) {
+void PUAlbumListViewController::didSelectRow(UITableView, NSIndexPath path) {
   const auto row = static_cast<std::size_t>(path.row());
   push(self(), row < _albums.size() ? makeAlbumController(_albums[row]) : ProblemList::make());
 }

@@ -7,33 +7,36 @@
 #include "bridge/uikit.h"
 #include "desktop/library/albums.h"
 #include "desktop/photos_ui/base/library_observer.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/controllers/ui_table_view_controller.h"
 
 namespace desktop::photos_ui {
 
 class PUAlbumListViewController
-    : public bridge::Bound<PUAlbumListViewController, bridge::UITableViewController>,
-      private LibraryObserver {
+    : public Bound<PUAlbumListViewController, uikit::UITableViewControllerState> {
  public:
   using Bound::Bound;
   static Class classObject();
   // +1.
-  static bridge::Owned<bridge::UIViewController> make();
+  static Owned<UIViewController> make();
 
  private:
   void viewDidLoad();
   void viewWillAppear(bool animated);
   void viewWillDisappear(bool animated);
-  NSInteger numberOfRows(bridge::UITableView table, NSInteger section) const;
-  CGFloat heightForRow(bridge::UITableView table, bridge::NSIndexPath path) const;
-  bridge::UITableViewCell cellForRow(bridge::UITableView table, bridge::NSIndexPath path);
-  void didSelectRow(bridge::UITableView table, bridge::NSIndexPath path);
-  void libraryChanged(const library::LibraryChange& change) override;
+  NSInteger numberOfRows(UITableView table, NSInteger section) const;
+  CGFloat heightForRow(UITableView table, NSIndexPath path) const;
+  UITableViewCell cellForRow(UITableView table, NSIndexPath path);
+  void didSelectRow(UITableView table, NSIndexPath path);
+  void libraryChanged(const library::LibraryChange& change);
 
-  bridge::UITableViewCell problemsCell(bridge::UITableView table) const;
+  UITableViewCell problemsCell(UITableView table) const;
   void refresh();
 
   std::vector<library::Album> _albums;
   std::size_t _problemCount = 0;
+  LibraryObserver _observer{
+      [this](const library::LibraryChange& change) { libraryChanged(change); }};
 };
 
 }  // namespace desktop::photos_ui

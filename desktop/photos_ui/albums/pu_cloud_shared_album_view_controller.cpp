@@ -4,17 +4,16 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "model/utf8.h"
 
 namespace desktop::photos_ui {
 
-using bridge::NSString;
-
-Class PUCloudSharedAlbumViewController::classObject() {
-  using Self = PUCloudSharedAlbumViewController;
+Class PUCloudSharedAlbumViewControllerState::classObject() {
+  using Self = PUCloudSharedAlbumViewControllerState;
   static const Class made =
-      bridge::ClassBuilder<Self>("PUCloudSharedAlbumViewController")
+      ClassBuilder<Self>("PUCloudSharedAlbumViewController")
           .method<"collectionView:numberOfItemsInSection:", &Self::numberOfItems>()
           .method<"collectionView:cellForItemAtIndexPath:", &Self::cellForItem>()
           .method<"collectionView:shouldSelectItemAtIndexPath:", &Self::shouldSelect>()
@@ -22,42 +21,39 @@ Class PUCloudSharedAlbumViewController::classObject() {
   return made;
 }
 
-NSInteger PUCloudSharedAlbumViewController::numberOfItems(bridge::UICollectionView view,
-                                                          NSInteger section) const {
+NSInteger PUCloudSharedAlbumViewControllerState::numberOfItems(UICollectionView view,
+                                                               NSInteger section) const {
   return super<NSInteger, "collectionView:numberOfItemsInSection:">(view, section) + 1;
 }
 
-bool PUCloudSharedAlbumViewController::isAddCell(bridge::NSIndexPath path) const {
+bool PUCloudSharedAlbumViewControllerState::isAddCell(NSIndexPath path) const {
   const auto at = uikit::itemPathOf(path);
-  return at && !PUPhotosGridViewController::of(self()).list()->indexOf(*at);
+  return at && !list()->indexOf(*at);
 }
 
-bridge::UIView PUCloudSharedAlbumViewController::cellForItem(bridge::UICollectionView view,
-                                                             bridge::NSIndexPath path) {
-  const auto cell = super<bridge::UIView, "collectionView:cellForItemAtIndexPath:">(view, path);
-  if (isAddCell(path) && bridge::isKindOf(cell, PUPhotosGridCell::classObject()))
-    PUPhotosGridCell::of(cell).showAddSign();
+UIView PUCloudSharedAlbumViewControllerState::cellForItem(UICollectionView view, NSIndexPath path) {
+  const auto cell = super<UIView, "collectionView:cellForItemAtIndexPath:">(view, path);
+  if (isAddCell(path) && isKindOf(cell, PUPhotosGridCellState::classObject()))
+    PUPhotosGridCellState::of(cell).showAddSign();
   return cell;
 }
 
-bool PUCloudSharedAlbumViewController::shouldSelect(bridge::UICollectionView,
-                                                    bridge::NSIndexPath path) {
+bool PUCloudSharedAlbumViewControllerState::shouldSelect(UICollectionView, NSIndexPath path) {
   if (!isAddCell(path)) return true;
-  if (!uikit::UIViewController::of(self()).isEditing()) tellHowToAdd();
+  if (!uikit::UIViewControllerState::isEditing()) tellHowToAdd();
   return false;
 }
 
-void PUCloudSharedAlbumViewController::tellHowToAdd() {
-  const auto& items = PUPhotosGridViewController::of(self()).list()->items();
+void PUCloudSharedAlbumViewControllerState::tellHowToAdd() {
+  const auto& items = list()->items();
   if (items.empty()) return;
   const std::string folder = model::replacingInvalidUtf8(items.front()->folder());
-  const auto alert = bridge::UIAlertController::make(
+  const auto alert = UIAlertController::make(
       NSString::make("Add to This Album"),
       NSString::make("Photos and videos that are put into " + folder + " appear here."),
-      bridge::UIAlertController::alert);
-  alert.addAction(
-      bridge::UIAlertAction::make(NSString::make("OK"), bridge::UIAlertAction::cancel, {}));
-  self().present(alert, bridge::UIViewController::animated, {});
+      UIAlertController::alert);
+  alert.addAction(UIAlertAction::make(NSString::make("OK"), UIAlertAction::cancel, {}));
+  self().present(alert, UIViewController::animated, {});
 }
 
 }  // namespace desktop::photos_ui

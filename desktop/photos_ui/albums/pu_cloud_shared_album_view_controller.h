@@ -5,20 +5,23 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "desktop/photos_ui/albums/pu_photos_album_view_controller.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-class PUCloudSharedAlbumViewController
-    : public bridge::Bound<PUCloudSharedAlbumViewController, bridge::PUPhotosAlbumViewController> {
+class PUCloudSharedAlbumViewControllerState
+    : public Bound<PUCloudSharedAlbumViewControllerState, PUPhotosAlbumViewControllerState,
+                   PUCloudSharedAlbumViewController> {
  public:
   using Bound::Bound;
   static Class classObject();
 
  private:
-  NSInteger numberOfItems(bridge::UICollectionView view, NSInteger section) const;
-  bridge::UIView cellForItem(bridge::UICollectionView view, bridge::NSIndexPath path);
-  bool shouldSelect(bridge::UICollectionView view, bridge::NSIndexPath path);
-  bool isAddCell(bridge::NSIndexPath path) const;
+  NSInteger numberOfItems(UICollectionView view, NSInteger section) const;
+  UIView cellForItem(UICollectionView view, NSIndexPath path);
+  bool shouldSelect(UICollectionView view, NSIndexPath path);
+  bool isAddCell(NSIndexPath path) const;
   void tellHowToAdd();
 };
 

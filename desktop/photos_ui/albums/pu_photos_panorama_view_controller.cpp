@@ -3,6 +3,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
@@ -14,7 +15,7 @@ constexpr CGFloat panoramaSpacing = 2;  // points
 
 Class PUPhotosPanoramaViewController::classObject() {
   using Self = PUPhotosPanoramaViewController;
-  static const Class made = bridge::ClassBuilder<Self>("PUPhotosPanoramaViewController")
+  static const Class made = ClassBuilder<Self>("PUPhotosPanoramaViewController")
                                 .method<"viewWillAppear:", &Self::viewWillAppear>()
                                 .method<"viewWillDisappear:", &Self::viewWillDisappear>()
                                 .build();
@@ -24,7 +25,7 @@ Class PUPhotosPanoramaViewController::classObject() {
 // The class answers both messages itself, so that whoever extends them extends only these.
 void PUPhotosPanoramaViewController::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
-  PUPhotosGridViewController::of(self()).layout().setInterItemSpacing(panoramaSpacing);
+  layout().setInterItemSpacing(panoramaSpacing);
 }
 
 void PUPhotosPanoramaViewController::viewWillDisappear(bool animated) {

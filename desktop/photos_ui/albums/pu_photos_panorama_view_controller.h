@@ -5,11 +5,13 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
 class PUPhotosPanoramaViewController
-    : public bridge::Bound<PUPhotosPanoramaViewController, bridge::PUPhotosGridViewController> {
+    : public Bound<PUPhotosPanoramaViewController, PUPhotosGridViewControllerState> {
  public:
   using Bound::Bound;
   static Class classObject();

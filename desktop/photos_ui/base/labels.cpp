@@ -6,15 +6,15 @@
 
 namespace desktop::photos_ui {
 
-bridge::Owned<bridge::UILabel> makeLabel(const uikit::FontFace& face, uikit::Color color) {
-  auto label = bridge::makeView<bridge::UILabel>({});
-  label->setFont(uikit::UIFont::make(face));
-  label->setTextColor(uikit::UIColor::make(color));
+Owned<UILabel> makeLabel(const uikit::FontFace& face, uikit::Color color) {
+  auto label = bridge::makeView<UILabel>({});
+  label->setFont(uikit::UIFontState::make(face));
+  label->setTextColor(uikit::UIColorState::make(color));
   return label;
 }
 
-void showText(bridge::UILabel label, std::string_view text) {
-  if (label.text().utf8() != text) label.setText(bridge::NSString::make(text));
+void showText(UILabel label, std::string_view text) {
+  if (label.text().utf8() != text) label.setText(NSString::make(text));
 }
 
 }  // namespace desktop::photos_ui

@@ -5,10 +5,10 @@
 
 namespace desktop::photos_ui {
 
-void useLargeTitle(bridge::UIViewController controller, bool isLarge) {
-  using Item = uikit::UINavigationItem;
-  bridge::send<void, "setLargeTitleDisplayMode:">(controller.navigationItem(),
-                                                  NSInteger{isLarge ? Item::always : Item::never});
+void useLargeTitle(UIViewController controller, bool isLarge) {
+  using Item = uikit::UINavigationItemState;
+  send<void, "setLargeTitleDisplayMode:">(controller.navigationItem(),
+                                          NSInteger{isLarge ? Item::always : Item::never});
 }
 
 }  // namespace desktop::photos_ui

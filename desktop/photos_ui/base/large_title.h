@@ -4,9 +4,10 @@
 #pragma once
 
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-void useLargeTitle(bridge::UIViewController controller, bool isLarge);
+void useLargeTitle(UIViewController controller, bool isLarge);
 
 }  // namespace desktop::photos_ui

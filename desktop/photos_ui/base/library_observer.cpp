@@ -2,6 +2,7 @@
 #include "desktop/photos_ui/base/library_observer.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace desktop::photos_ui {
@@ -14,7 +15,7 @@ std::vector<LibraryObserver*>& observers() {
 
 }  // namespace
 
-LibraryObserver::LibraryObserver() {
+LibraryObserver::LibraryObserver(Told told) : _told(std::move(told)) {
   observers().push_back(this);
 }
 
@@ -26,8 +27,7 @@ LibraryObserver::~LibraryObserver() {
 void tellLibraryObservers(const library::LibraryChange& change) {
   const auto all = observers();
   for (LibraryObserver* const observer : all)
-    if (std::ranges::find(observers(), observer) != observers().end())
-      observer->libraryChanged(change);
+    if (std::ranges::find(observers(), observer) != observers().end()) observer->tell(change);
 }
 
 }  // namespace desktop::photos_ui

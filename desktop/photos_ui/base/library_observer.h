@@ -3,18 +3,25 @@
 // Who is told when the library changes, for as long as it lives.
 #pragma once
 
+#include <functional>
+
 #include "desktop/library/photo_library.h"
 
 namespace desktop::photos_ui {
 
 class LibraryObserver {
  public:
-  LibraryObserver();
-  virtual ~LibraryObserver();
+  using Told = std::function<void(const library::LibraryChange& change)>;
+
+  explicit LibraryObserver(Told told);
+  ~LibraryObserver();
   LibraryObserver(const LibraryObserver&) = delete;
   LibraryObserver& operator=(const LibraryObserver&) = delete;
 
-  virtual void libraryChanged(const library::LibraryChange& change) = 0;
+  void tell(const library::LibraryChange& change) const { _told(change); }
+
+ private:
+  Told _told;
 };
 
 // Tells all observers what changed in the library.

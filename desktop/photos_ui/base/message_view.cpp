@@ -4,6 +4,7 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/labels.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/views/ui_view.h"
 #include "model/utf8.h"
 
@@ -13,13 +14,13 @@ namespace {
 constexpr CGFloat margin = 32;  // points, at the sides
 constexpr CGFloat gap = 8;      // points
 
-CGFloat heightIn(bridge::UILabel label, CGFloat width) {
-  return bridge::send<CGSize, "sizeThatFits:">(label, CGSize{width, 0}).height;
+CGFloat heightIn(UILabel label, CGFloat width) {
+  return send<CGSize, "sizeThatFits:">(label, CGSize{width, 0}).height;
 }
 
-bridge::Owned<bridge::UILabel> makeLines(const uikit::FontFace& face) {
+Owned<UILabel> makeLines(const uikit::FontFace& face) {
   auto label = makeLabel(face, uikit::colors::secondaryText);
-  label->setTextAlignment(bridge::alignCenter);
+  label->setTextAlignment(alignCenter);
   label->setNumberOfLines(0);
   return label;
 }
@@ -34,21 +35,20 @@ std::string problemCount(std::size_t count) {
 }  // namespace
 
 Class MessageView::classObject() {
-  static const Class made = bridge::ClassBuilder<MessageView>("MessageView")
+  static const Class made = ClassBuilder<MessageView>("MessageView")
                                 .method<"initWithFrame:", &MessageView::initWithFrame>()
                                 .method<"layoutSubviews", &MessageView::layoutSubviews>()
                                 .build();
   return made;
 }
 
-bridge::Owned<bridge::UIView> MessageView::make() {
-  return bridge::Owned<bridge::UIView>::adopt(
-      bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(classObject())));
+Owned<UIView> MessageView::make() {
+  return Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
 }
 
-bridge::UIView MessageView::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  bridge::send<void, "setUserInteractionEnabled:">(self(), false);
+UIView MessageView::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  send<void, "setUserInteractionEnabled:">(self(), false);
   _title = makeLines({.size = 22});
   _reason = makeLines({.size = 15});
   self().addSubview(_title);
@@ -59,7 +59,7 @@ bridge::UIView MessageView::initWithFrame(CGRect frame) {
 void MessageView::show(std::string_view title, std::string_view reason) {
   showText(_title, title);
   showText(_reason, reason);
-  uikit::UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 void MessageView::layoutSubviews() {
@@ -73,7 +73,7 @@ void MessageView::layoutSubviews() {
   _reason->setFrame({{margin, top + titleHeight + gap}, {width, reasonHeight}});
 }
 
-void showWhyEmpty(bridge::UIView messageView) {
+void showWhyEmpty(UIView messageView) {
   MessageView& message = MessageView::of(messageView);
   library::PhotoLibrary* const library = host().library;
   if (!library) return message.show("Cannot Open Library", host().libraryProblem);

@@ -4,30 +4,32 @@
 #pragma once
 
 #include <string_view>
+#include "desktop/uikit/views/ui_view.h"
 
 #include "bridge/bound.h"
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-class MessageView : public bridge::Bound<MessageView, bridge::UIView> {
+class MessageView : public Bound<MessageView, uikit::UIViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
   // +1.
-  static bridge::Owned<bridge::UIView> make();
+  static Owned<UIView> make();
 
   void show(std::string_view title, std::string_view reason);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
 
-  bridge::Owned<bridge::UILabel> _title;
-  bridge::Owned<bridge::UILabel> _reason;
+  Owned<UILabel> _title;
+  Owned<UILabel> _reason;
 };
 
 // What stands where a list of the library's items is empty, as the library is now.
-void showWhyEmpty(bridge::UIView messageView);
+void showWhyEmpty(UIView messageView);
 
 }  // namespace desktop::photos_ui

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -46,16 +47,14 @@ void drawPlus(uikit::Canvas& canvas, CGRect bounds) {
 }  // namespace
 
 Class CellMark::classObject() {
-  static const Class made = bridge::ClassBuilder<CellMark>("CellMark")
-                                .method<"drawContentOn:", &CellMark::drawContent>()
-                                .build();
+  static const Class made =
+      ClassBuilder<CellMark>("CellMark").method<"drawContentOn:", &CellMark::drawContent>().build();
   return made;
 }
 
-bridge::Owned<bridge::UIView> CellMark::make(Kind kind) {
-  auto made = bridge::Owned<bridge::UIView>::adopt(
-      bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(classObject())));
-  bridge::send<void, "setUserInteractionEnabled:">(made.get(), false);
+Owned<UIView> CellMark::make(Kind kind) {
+  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
+  send<void, "setUserInteractionEnabled:">(made.get(), false);
   of(made.get()).setKind(kind);
   return made;
 }
@@ -63,11 +62,11 @@ bridge::Owned<bridge::UIView> CellMark::make(Kind kind) {
 void CellMark::setKind(Kind kind) {
   if (kind == _kind) return;
   _kind = kind;
-  uikit::UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
 void CellMark::drawContent(uikit::Canvas* canvas) const {
-  const CGRect bounds = uikit::UIView::of(self()).shown().bounds;
+  const CGRect bounds = shown().bounds;
   switch (_kind) {
     case Kind::pressed:
       canvas->fill(bounds, uikit::Color::white(0, 0.3), 0);

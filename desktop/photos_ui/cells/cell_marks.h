@@ -5,6 +5,8 @@
 
 #include "bridge/bound.h"
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 class Canvas;
@@ -12,7 +14,7 @@ class Canvas;
 
 namespace desktop::photos_ui {
 
-class CellMark : public bridge::Bound<CellMark, bridge::UIView> {
+class CellMark : public Bound<CellMark, uikit::UIViewState> {
  public:
   enum class Kind {
     pressed,   // darker, while a finger is on it
@@ -23,7 +25,7 @@ class CellMark : public bridge::Bound<CellMark, bridge::UIView> {
   using Bound::Bound;
   static Class classObject();
   // Takes no touches; +1.
-  static bridge::Owned<bridge::UIView> make(Kind kind);
+  static Owned<UIView> make(Kind kind);
 
   Kind kind() const { return _kind; }
   void setKind(Kind kind);

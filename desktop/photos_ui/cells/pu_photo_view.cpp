@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -41,38 +42,38 @@ void drawBrokenPicture(uikit::Canvas& canvas, CGRect room) {
 
 }  // namespace
 
-Class PUPhotoView::classObject() {
-  static const Class made = bridge::ClassBuilder<PUPhotoView>("PUPhotoView")
-                                .method<"initWithFrame:", &PUPhotoView::initWithFrame>()
-                                .method<"contentHelper", &PUPhotoView::contentHelper>()
-                                .method<"layoutSubviews", &PUPhotoView::layoutSubviews>()
-                                .method<"drawContentOn:", &PUPhotoView::drawContent>()
+Class PUPhotoViewState::classObject() {
+  static const Class made = ClassBuilder<PUPhotoViewState>("PUPhotoView")
+                                .method<"initWithFrame:", &PUPhotoViewState::initWithFrame>()
+                                .method<"contentHelper", &PUPhotoViewState::contentHelper>()
+                                .method<"layoutSubviews", &PUPhotoViewState::layoutSubviews>()
+                                .method<"drawContentOn:", &PUPhotoViewState::drawContent>()
                                 .build();
   return made;
 }
 
-PUPhotoView::~PUPhotoView() {
+PUPhotoViewState::~PUPhotoViewState() {
   if (_contentHelper) content().viewIsGone();
 }
 
-bridge::UIView PUPhotoView::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
+UIView PUPhotoViewState::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
   self().setClipsToBounds(true);
-  _contentHelper = PUPhotoViewContentHelper::make(self());
+  _contentHelper = PUPhotoViewContentHelperState::make(self());
   return self();
 }
 
-void PUPhotoView::layoutSubviews() {
+void PUPhotoViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
-  bridge::send<void, "layoutSubviewsOfContentView">(_contentHelper.get());
+  send<void, "layoutSubviewsOfContentView">(_contentHelper.get());
 }
 
 // What stands for a picture that is not there.
-void PUPhotoView::drawContent(uikit::Canvas* canvas) const {
-  using State = PUPhotoViewContentHelper::State;
+void PUPhotoViewState::drawContent(uikit::Canvas* canvas) const {
+  using State = PUPhotoViewContentHelperState::State;
   const State state = content().state();
   if (state != State::loading && state != State::failed) return;
-  const CGRect bounds = uikit::UIView::of(self()).shown().bounds;
+  const CGRect bounds = shown().bounds;
   canvas->fill(bounds, paper, 0);
   if (state == State::failed) drawBrokenPicture(*canvas, bounds);
 }

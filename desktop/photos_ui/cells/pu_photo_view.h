@@ -6,6 +6,8 @@
 #include "bridge/bound.h"
 #include "bridge/photos.h"
 #include "desktop/photos_ui/cells/pu_photo_view_content_helper.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 class Canvas;
@@ -13,23 +15,23 @@ class Canvas;
 
 namespace desktop::photos_ui {
 
-class PUPhotoView : public bridge::Bound<PUPhotoView, bridge::UIView> {
+class PUPhotoViewState : public Bound<PUPhotoViewState, uikit::UIViewState, PUPhotoView> {
  public:
   using Bound::Bound;
-  ~PUPhotoView();
+  ~PUPhotoViewState();
   static Class classObject();
 
-  bridge::PUPhotoViewContentHelper contentHelper() const { return _contentHelper; }
-  PUPhotoViewContentHelper& content() const {
-    return PUPhotoViewContentHelper::of(_contentHelper.get());
+  PUPhotoViewContentHelper contentHelper() const { return _contentHelper; }
+  PUPhotoViewContentHelperState& content() const {
+    return PUPhotoViewContentHelperState::of(_contentHelper.get());
   }
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
   void drawContent(uikit::Canvas* canvas) const;
 
-  bridge::Owned<bridge::PUPhotoViewContentHelper> _contentHelper;
+  Owned<PUPhotoViewContentHelper> _contentHelper;
 };
 
 }  // namespace desktop::photos_ui

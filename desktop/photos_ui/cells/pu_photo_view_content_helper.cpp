@@ -12,6 +12,7 @@
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/text_banner.h"
 #include "desktop/photos_ui/cells/video_badge.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/views/ui_image_view.h"
@@ -48,35 +49,34 @@ double durationOf(const library::LibraryItem& item) {
 
 }  // namespace
 
-Class PUPhotoViewContentHelper::classObject() {
+Class PUPhotoViewContentHelperState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<PUPhotoViewContentHelper>("PUPhotoViewContentHelper")
+      ClassBuilder<PUPhotoViewContentHelperState>("PUPhotoViewContentHelper")
           .field(bannerField, "@")
           .field(badgeField, "@")
-          .method<"contentView", &PUPhotoViewContentHelper::contentView>()
+          .method<"contentView", &PUPhotoViewContentHelperState::contentView>()
           .method<"layoutSubviewsOfContentView",
-                  &PUPhotoViewContentHelper::layoutSubviewsOfContentView>()
+                  &PUPhotoViewContentHelperState::layoutSubviewsOfContentView>()
           .build();
   return made;
 }
 
-PUPhotoViewContentHelper::~PUPhotoViewContentHelper() {
-  bridge::setObjectField(self(), bannerField, {});
-  bridge::setObjectField(self(), badgeField, {});
+PUPhotoViewContentHelperState::~PUPhotoViewContentHelperState() {
+  setObjectField(self(), bannerField, {});
+  setObjectField(self(), badgeField, {});
 }
 
-bridge::Owned<bridge::PUPhotoViewContentHelper> PUPhotoViewContentHelper::make(
-    bridge::UIView contentView) {
-  auto made = bridge::Owned<bridge::PUPhotoViewContentHelper>::adopt(
-      bridge::send<bridge::PUPhotoViewContentHelper, "new">(classObject()));
-  PUPhotoViewContentHelper& helper = of(made.get());
+Owned<PUPhotoViewContentHelper> PUPhotoViewContentHelperState::make(UIView contentView) {
+  auto made =
+      Owned<PUPhotoViewContentHelper>::adopt(send<PUPhotoViewContentHelper, "new">(classObject()));
+  PUPhotoViewContentHelperState& helper = of(made.get());
   helper._contentView = contentView;
-  helper._imageView = bridge::makeView<uikit::handles::UIImageView>({});
+  helper._imageView = bridge::makeView<UIImageView>({});
   contentView.addSubview(helper._imageView);
   return made;
 }
 
-void PUPhotoViewContentHelper::show(library::ItemPointer item, CGSize room) {
+void PUPhotoViewContentHelperState::show(library::ItemPointer item, CGSize room) {
   if (item == _item && room.width == _room.width && room.height == _room.height &&
       (_state == State::shown || _state == State::failed || _ticket.isWaiting()))
     return;
@@ -88,7 +88,7 @@ void PUPhotoViewContentHelper::show(library::ItemPointer item, CGSize room) {
   load();
 }
 
-void PUPhotoViewContentHelper::load() {
+void PUPhotoViewContentHelperState::load() {
   if (!_item || !host().pictures) {
     showPicture(nullptr);
     return setState(State::empty);
@@ -108,37 +108,37 @@ void PUPhotoViewContentHelper::load() {
                   });
 }
 
-void PUPhotoViewContentHelper::fail(const std::string& reason) {
+void PUPhotoViewContentHelperState::fail(const std::string& reason) {
   setState(State::failed);
   if (host().library) host().library->noteProblem(_item->path, reason);
 }
 
-void PUPhotoViewContentHelper::setState(State state) {
+void PUPhotoViewContentHelperState::setState(State state) {
   if (state == _state) return;
   _state = state;
-  if (_contentView) uikit::UIView::of(_contentView).setNeedsDisplay();
+  if (_contentView) uikit::UIViewState::of(_contentView).setNeedsDisplay();
 }
 
-void PUPhotoViewContentHelper::stopLoading() {
+void PUPhotoViewContentHelperState::stopLoading() {
   _ticket.cancel();
 }
 
-void PUPhotoViewContentHelper::viewIsGone() {
+void PUPhotoViewContentHelperState::viewIsGone() {
   _ticket.cancel();
   _contentView = {};
 }
 
-void PUPhotoViewContentHelper::showPicture(const pictures::SharedPicture& picture) {
+void PUPhotoViewContentHelperState::showPicture(const pictures::SharedPicture& picture) {
   if (picture == _picture) return;
   _picture = picture;
   const CGFloat scale = uikit::screen().scale;
-  _imageView->setImage(picture ? uikit::UIImage::make(picture, scale) : bridge::UIImage());
+  _imageView->setImage(picture ? uikit::UIImageState::make(picture, scale) : UIImage());
   _imageView->setFrame(pictureFrame());
 }
 
 // Covers the view, its middle in the middle. A picture that is as large as was asked for stands on
 // whole pixels unscaled: it is painted ten times as fast.
-CGRect PUPhotoViewContentHelper::pictureFrame() const {
+CGRect PUPhotoViewContentHelperState::pictureFrame() const {
   const CGRect room = _contentView.bounds();
   if (!_picture || uikit::isEmpty(room)) return room;
   const CGFloat scale = uikit::screen().scale;
@@ -154,52 +154,52 @@ CGRect PUPhotoViewContentHelper::pictureFrame() const {
   return frame;
 }
 
-void PUPhotoViewContentHelper::showBadge() {
+void PUPhotoViewContentHelperState::showBadge() {
   const bool isVideo = _item && _item->isVideo();
-  auto badge = bridge::UIView(bridge::objectField(self(), badgeField).get());
+  auto badge = UIView(objectField(self(), badgeField).get());
   if (!isVideo && !badge) return;
   if (!isVideo) return setExtra(badgeField, {});
   if (!badge) {
-    const auto made = bridge::Owned<bridge::UIView>::adopt(
-        bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(VideoBadge::classObject())));
+    const auto made =
+        Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(VideoBadge::classObject())));
     setExtra(badgeField, made);
     badge = made;
   }
   VideoBadge::of(badge).setDuration(durationOf(*_item));
 }
 
-void PUPhotoViewContentHelper::showBanner() {
+void PUPhotoViewContentHelperState::showBanner() {
   const std::string_view text = _item ? bannerTextFor(_item->name()) : std::string_view();
   if (text.empty()) {
-    if (bridge::objectField(self(), bannerField)) setExtra(bannerField, {});
+    if (objectField(self(), bannerField)) setExtra(bannerField, {});
     return;
   }
-  const auto made = bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "init">(
-      bridge::send<id, "alloc">(TextBannerView::classObject())));
-  TextBannerView::of(made.get()).setText(bridge::NSString::make(text));
+  const auto made =
+      Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(TextBannerView::classObject())));
+  TextBannerView::of(made.get()).setText(NSString::make(text));
   setExtra(bannerField, made);
 }
 
 // The view in a field, in place of the one before.
-void PUPhotoViewContentHelper::setExtra(const char* field, bridge::UIView view) {
-  bridge::UIView(bridge::objectField(self(), field).get()).removeFromSuperview();
-  bridge::setObjectField(self(), field, view);
+void PUPhotoViewContentHelperState::setExtra(const char* field, UIView view) {
+  UIView(objectField(self(), field).get()).removeFromSuperview();
+  setObjectField(self(), field, view);
   _contentView.addSubview(view);
   _arrangedSize = {};
-  if (_contentView) uikit::UIView::of(_contentView).setNeedsLayout();
+  if (_contentView) uikit::UIViewState::of(_contentView).setNeedsLayout();
 }
 
 // The mark and the word stay where somebody else moved them until they belong elsewhere.
-void PUPhotoViewContentHelper::layoutSubviewsOfContentView() {
+void PUPhotoViewContentHelperState::layoutSubviewsOfContentView() {
   const CGSize room = _contentView.bounds().size;
   _imageView->setFrame(pictureFrame());
   if (room.width == _arrangedSize.width && room.height == _arrangedSize.height) return;
   _arrangedSize = room;
-  const bridge::UIView badge(bridge::objectField(self(), badgeField).get());
+  const UIView badge(objectField(self(), badgeField).get());
   badge.setFrame({{0, room.height - VideoBadge::height}, {room.width, VideoBadge::height}});
-  const bridge::UIView banner(bridge::objectField(self(), bannerField).get());
-  const CGSize size = bridge::send<CGSize, "sizeThatFits:">(banner, room);
-  bridge::send<void, "setHidden:">(banner, room.width < leastBannerRoom);
+  const UIView banner(objectField(self(), bannerField).get());
+  const CGSize size = send<CGSize, "sizeThatFits:">(banner, room);
+  send<void, "setHidden:">(banner, room.width < leastBannerRoom);
   banner.setFrame({{bannerMargin, room.height - size.height - bannerMargin}, size});
 }
 

@@ -7,21 +7,23 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "bridge/uikit.h"
 #include "desktop/library/library_item.h"
 #include "desktop/photos_ui/cells/picture_ticket.h"
-#include "desktop/uikit/handles.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-class PUPhotoViewContentHelper : public bridge::Bound<PUPhotoViewContentHelper, bridge::NSObject> {
+class PUPhotoViewContentHelperState
+    : public Bound<PUPhotoViewContentHelperState, NSObject, PUPhotoViewContentHelper> {
  public:
   enum class State { empty, loading, shown, failed };
 
   using Bound::Bound;
-  ~PUPhotoViewContentHelper();
+  ~PUPhotoViewContentHelperState();
   static Class classObject();
   // For a view, which owns it; +1.
-  static bridge::Owned<bridge::PUPhotoViewContentHelper> make(bridge::UIView contentView);
+  static Owned<PUPhotoViewContentHelper> make(UIView contentView);
 
   // Shows an item, or nothing, in a room of the size in points; the picture covers all of it.
   void show(library::ItemPointer item, CGSize room);
@@ -33,7 +35,7 @@ class PUPhotoViewContentHelper : public bridge::Bound<PUPhotoViewContentHelper, 
   const library::ItemPointer& item() const { return _item; }
 
  private:
-  bridge::UIView contentView() const { return _contentView; }
+  UIView contentView() const { return _contentView; }
   void layoutSubviewsOfContentView();
   void load();
   void showPicture(const pictures::SharedPicture& picture);
@@ -42,10 +44,10 @@ class PUPhotoViewContentHelper : public bridge::Bound<PUPhotoViewContentHelper, 
   CGRect pictureFrame() const;
   void showBadge();
   void showBanner();
-  void setExtra(const char* field, bridge::UIView view);
+  void setExtra(const char* field, UIView view);
 
-  bridge::UIView _contentView;  // borrowed
-  bridge::Owned<uikit::handles::UIImageView> _imageView;
+  UIView _contentView;  // borrowed
+  Owned<UIImageView> _imageView;
   library::ItemPointer _item;
   CGSize _room;                      // points
   pictures::SharedPicture _picture;  // on show

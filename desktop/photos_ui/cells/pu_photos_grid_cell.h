@@ -4,35 +4,39 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "desktop/photos_ui/cells/pu_photo_view.h"
-#include "desktop/uikit/handles.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/lists/ui_collection_view_cell.h"
 
 namespace desktop::photos_ui {
 
-class PUPhotosGridCell
-    : public bridge::Bound<PUPhotosGridCell, uikit::handles::UICollectionViewCell> {
+class PUPhotosGridCellState
+    : public Bound<PUPhotosGridCellState, uikit::UICollectionViewCellState, PUPhotosGridCell> {
  public:
   using Bound::Bound;
   static Class classObject();
 
-  bridge::PUPhotoView photoContentView() const { return _photoView; }
-  PUPhotoViewContentHelper& content() const { return PUPhotoView::of(_photoView.get()).content(); }
+  PUPhotoView photoContentView() const { return _photoView; }
+  PUPhotoViewContentHelperState& content() const {
+    return PUPhotoViewState::of(_photoView.get()).content();
+  }
   // The size is the cell's, in points.
   void showItem(library::ItemPointer item, CGSize size);
   // The cell that stands for adding an item.
   void showAddSign();
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
   void prepareForReuse();
   void setSelected(bool selected);
   void setHighlighted(bool highlighted);
   void showCover();
 
-  bridge::Owned<bridge::PUPhotoView> _photoView;
-  bridge::Owned<bridge::UIView> _cover;  // over the photo while the cell is selected or touched
-  bridge::Owned<bridge::UIView> _addSign;
+  Owned<PUPhotoView> _photoView;
+  Owned<UIView> _cover;  // over the photo while the cell is selected or touched
+  Owned<UIView> _addSign;
 };
 
 }  // namespace desktop::photos_ui

@@ -7,6 +7,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/labels.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -22,7 +23,7 @@ constexpr std::string_view rawExtensions[] = {"arw", "cr2", "dng", "nef", "orf",
 }  // namespace
 
 Class TextBannerView::classObject() {
-  static const Class made = bridge::ClassBuilder<TextBannerView>("TextBannerView")
+  static const Class made = ClassBuilder<TextBannerView>("TextBannerView")
                                 .method<"initWithFrame:", &TextBannerView::initWithFrame>()
                                 .method<"text", &TextBannerView::text>()
                                 .method<"setText:", &TextBannerView::setText>()
@@ -31,26 +32,26 @@ Class TextBannerView::classObject() {
   return made;
 }
 
-bridge::UIView TextBannerView::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  bridge::send<void, "setUserInteractionEnabled:">(self(), false);
-  self().setBackgroundColor(uikit::UIColor::make(shade));
-  bridge::send<void, "setCornerRadius:">(self().layer(), CGFloat{3});
+UIView TextBannerView::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  send<void, "setUserInteractionEnabled:">(self(), false);
+  self().setBackgroundColor(uikit::UIColorState::make(shade));
+  send<void, "setCornerRadius:">(self().layer(), CGFloat{3});
   _label =
       makeLabel({.weight = uikit::FontWeight::semibold, .size = fontSize}, uikit::colors::white);
-  _label->setTextAlignment(bridge::alignCenter);
+  _label->setTextAlignment(alignCenter);
   _label->setFrame(self().bounds());
-  _label->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  _label->setAutoresizingMask(flexibleWidth | flexibleHeight);
   self().addSubview(_label);
   return self();
 }
 
-void TextBannerView::setText(bridge::NSString text) {
+void TextBannerView::setText(NSString text) {
   _label->setText(text);
 }
 
 CGSize TextBannerView::sizeThatFits(CGSize) const {
-  const CGSize text = bridge::send<CGSize, "sizeThatFits:">(_label.get(), CGSize{});
+  const CGSize text = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{});
   return {text.width + 2 * padding.width, text.height + 2 * padding.height};
 }
 

@@ -4,25 +4,27 @@
 #pragma once
 
 #include <string_view>
+#include "desktop/uikit/views/ui_view.h"
 
 #include "bridge/bound.h"
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-class TextBannerView : public bridge::Bound<TextBannerView, bridge::UIView> {
+class TextBannerView : public Bound<TextBannerView, uikit::UIViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
 
-  bridge::NSString text() const { return _label->text(); }
-  void setText(bridge::NSString text);
+  NSString text() const { return _label->text(); }
+  void setText(NSString text);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   CGSize sizeThatFits(CGSize size) const;
 
-  bridge::Owned<bridge::UILabel> _label;
+  Owned<UILabel> _label;
 };
 
 // What the banner of a file says by its name; empty where there is none.

@@ -5,6 +5,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/labels.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -46,7 +47,7 @@ std::string durationText(double seconds) {
 }
 
 Class VideoBadge::classObject() {
-  static const Class made = bridge::ClassBuilder<VideoBadge>("VideoBadge")
+  static const Class made = ClassBuilder<VideoBadge>("VideoBadge")
                                 .method<"initWithFrame:", &VideoBadge::initWithFrame>()
                                 .method<"layoutSubviews", &VideoBadge::layoutSubviews>()
                                 .method<"drawContentOn:", &VideoBadge::drawContent>()
@@ -54,9 +55,9 @@ Class VideoBadge::classObject() {
   return made;
 }
 
-bridge::UIView VideoBadge::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  bridge::send<void, "setUserInteractionEnabled:">(self(), false);
+UIView VideoBadge::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  send<void, "setUserInteractionEnabled:">(self(), false);
   _label = makeLabel({.size = fontSize}, uikit::colors::white);
   self().addSubview(_label);
   return self();
@@ -64,20 +65,20 @@ bridge::UIView VideoBadge::initWithFrame(CGRect frame) {
 
 void VideoBadge::setDuration(double seconds) {
   showText(_label, seconds > 0 ? durationText(seconds) : std::string());
-  uikit::UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 void VideoBadge::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize room = self().bounds().size;
-  const CGFloat width = bridge::send<CGSize, "sizeThatFits:">(_label.get(), CGSize{}).width;
+  const CGFloat width = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{}).width;
   _label->setFrame({{room.width - edge - width, 0}, {width, room.height}});
   const bool isCramped = width + cameraWidth + 3 * edge > room.width;
-  bridge::send<void, "setHidden:">(_label.get(), isCramped);
+  send<void, "setHidden:">(_label.get(), isCramped);
 }
 
 void VideoBadge::drawContent(uikit::Canvas* canvas) const {
-  const CGRect bounds = uikit::UIView::of(self()).shown().bounds;
+  const CGRect bounds = shown().bounds;
   constexpr uikit::Color shade[] = {uikit::Color::white(0, 0), uikit::Color::white(0, 0.6)};
   canvas->gradient(bounds, shade, {0.5, 0}, {0.5, 1}, 0);
   drawCamera(*canvas, {edge, (bounds.size.height - 8) / 2});

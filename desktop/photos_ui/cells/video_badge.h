@@ -5,6 +5,8 @@
 
 #include "bridge/bound.h"
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 class Canvas;
@@ -15,7 +17,7 @@ namespace desktop::photos_ui {
 // "0:09", "12:34" or "1:02:03"; whole seconds, of which there is at least one.
 std::string durationText(double seconds);
 
-class VideoBadge : public bridge::Bound<VideoBadge, bridge::UIView> {
+class VideoBadge : public Bound<VideoBadge, uikit::UIViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -25,11 +27,11 @@ class VideoBadge : public bridge::Bound<VideoBadge, bridge::UIView> {
   void setDuration(double seconds);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
   void drawContent(uikit::Canvas* canvas) const;
 
-  bridge::Owned<bridge::UILabel> _label;
+  Owned<UILabel> _label;
 };
 
 }  // namespace desktop::photos_ui

@@ -9,6 +9,7 @@
 #include "bridge/photos.h"
 #include "desktop/photos_ui/base/item_list.h"
 #include "desktop/photos_ui/grid/pu_sectioned_grid_layout.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/ui_collection_view.h"
 
 namespace desktop::photos_ui {
@@ -23,13 +24,17 @@ class GridCollection {
 
   // Makes the view. The owner is the delegate of view and layout and the view's data source; it
   // passes on what it is asked.
-  void make(bridge::NSObject owner, CGRect frame, CGFloat headerHeight);
+  void make(NSObject owner, CGRect frame, CGFloat headerHeight);
   // Nil until it is made.
-  bridge::UICollectionView view() const { return _view; }
+  UICollectionView view() const { return _view; }
   // REQUIRES: the view is made.
-  uikit::UICollectionView& viewState() const { return uikit::UICollectionView::of(_view.get()); }
-  uikit::UIScrollView& scroll() const { return uikit::UIScrollView::of(_view.get()); }
-  PUSectionedGridLayout& layout() const { return PUSectionedGridLayout::of(_layout.get()); }
+  uikit::UICollectionViewState& viewState() const {
+    return uikit::UICollectionViewState::of(_view.get());
+  }
+  uikit::UIScrollViewState& scroll() const { return uikit::UIScrollViewState::of(_view.get()); }
+  PUSectionedGridLayoutState& layout() const {
+    return PUSectionedGridLayoutState::of(_layout.get());
+  }
   // Has the layout place the items as they are now, without making their cells.
   void measure() const;
 
@@ -40,24 +45,23 @@ class GridCollection {
   void setFooterText(std::string text);
 
   // None, or null, for a path of no item of the list.
-  std::optional<std::size_t> indexOf(bridge::NSIndexPath path) const;
-  library::ItemPointer itemAt(bridge::NSIndexPath path) const;
+  std::optional<std::size_t> indexOf(NSIndexPath path) const;
+  library::ItemPointer itemAt(NSIndexPath path) const;
 
   // What the data source answers.
   NSInteger sectionCount() const;
   NSInteger itemCount(NSInteger section) const;
-  bridge::UIView cell(bridge::UICollectionView view, bridge::NSIndexPath path) const;
-  bridge::UIView title(bridge::UICollectionView view, bridge::NSString kind,
-                       bridge::NSIndexPath path) const;
+  UIView cell(UICollectionView view, NSIndexPath path) const;
+  UIView title(UICollectionView view, NSString kind, NSIndexPath path) const;
 
  private:
   void registerClasses() const;
-  void showHeader(bridge::UIView header, std::size_t section) const;
+  void showHeader(UIView header, std::size_t section) const;
 
   ItemListPointer _list = std::make_shared<ItemList>();
   std::string _footerText;
-  bridge::Owned<bridge::PUSectionedGridLayout> _layout;
-  bridge::Owned<bridge::UICollectionView> _view;
+  Owned<PUSectionedGridLayout> _layout;
+  Owned<UICollectionView> _view;
 };
 
 }  // namespace desktop::photos_ui

@@ -5,6 +5,7 @@
 
 #include "bridge/runtime/types.h"
 #include "desktop/photos_ui/grid/grid_contents.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 

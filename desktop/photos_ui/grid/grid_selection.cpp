@@ -26,9 +26,8 @@ void GridSelection::setOn(bool isOn) {
   undoSwipe();
   const auto selected = _grid.viewState().selectedItems();
   for (const uikit::ItemPath path : selected)
-    bridge::send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), uikit::indexPathOf(path),
-                                                            false);
-  bridge::send<void, "setAllowsMultipleSelection:">(_grid.view(), isOn);
+    send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), uikit::indexPathOf(path), false);
+  send<void, "setAllowsMultipleSelection:">(_grid.view(), isOn);
 }
 
 void GridSelection::select(std::size_t index, bool isSelected) const {
@@ -36,10 +35,10 @@ void GridSelection::select(std::size_t index, bool isSelected) const {
   if (!path || paths().contains(*path) == isSelected) return;
   const auto shown = uikit::indexPathOf(*path);
   if (isSelected)
-    bridge::send<void, "selectItemAtIndexPath:animated:scrollPosition:">(_grid.view(), shown, false,
-                                                                         NSUInteger{0});
+    send<void, "selectItemAtIndexPath:animated:scrollPosition:">(_grid.view(), shown, false,
+                                                                 NSUInteger{0});
   else
-    bridge::send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), shown, false);
+    send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), shown, false);
 }
 
 void GridSelection::selectAgain(const std::vector<library::ItemPointer>& items) {
@@ -47,18 +46,18 @@ void GridSelection::selectAgain(const std::vector<library::ItemPointer>& items) 
     if (const auto index = _grid.list()->find(*item)) select(*index, true);
 }
 
-void GridSelection::addRecognizer(bridge::NSObject owner, SEL handler) {
-  _recognizer = bridge::Owned<bridge::UIGestureRecognizer>::retain(
-      uikit::handles::makeRecognizer<uikit::handles::UIPanGestureRecognizer>(owner, handler).get());
+void GridSelection::addRecognizer(NSObject owner, SEL handler) {
+  _recognizer = Owned<UIGestureRecognizer>::retain(
+      makeRecognizer<UIPanGestureRecognizer>(owner, handler).get());
   _recognizer->setDelegate(owner);
   _grid.view().addGestureRecognizer(_recognizer);
 }
 
 // A swipe goes across; scrolling goes down.
-bool GridSelection::shouldBegin(bridge::UIGestureRecognizer recognizer) const {
+bool GridSelection::shouldBegin(UIGestureRecognizer recognizer) const {
   if (recognizer != _recognizer.get()) return true;
   if (!_isOn) return false;
-  const uikit::handles::UIPanGestureRecognizer pan(recognizer.get());
+  const UIPanGestureRecognizer pan(recognizer.get());
   const CGPoint way = pan.translationIn(_grid.view());
   return std::abs(way.x) >= std::abs(way.y);
 }
@@ -72,8 +71,8 @@ SwipeSelection::Select GridSelection::selecting() const {
 }
 
 // A swipe is recognised when the finger has moved already: it began where that came down.
-void GridSelection::beginSwipe(bridge::UIGestureRecognizer recognizer) {
-  const uikit::handles::UIPanGestureRecognizer pan(recognizer.get());
+void GridSelection::beginSwipe(UIGestureRecognizer recognizer) {
+  const UIPanGestureRecognizer pan(recognizer.get());
   const CGPoint way = pan.translationIn(_grid.view());
   const CGPoint now = recognizer.locationIn(_grid.view());
   const auto first = indexAt({now.x - way.x, now.y - way.y});
@@ -84,8 +83,8 @@ void GridSelection::beginSwipe(bridge::UIGestureRecognizer recognizer) {
   _swipe.emplace(*first, std::move(selected));
 }
 
-bool GridSelection::follow(bridge::UIGestureRecognizer recognizer) {
-  using Recognizer = bridge::UIGestureRecognizer;
+bool GridSelection::follow(UIGestureRecognizer recognizer) {
+  using Recognizer = UIGestureRecognizer;
   const Recognizer::State state = recognizer.state();
   if (state == Recognizer::began) beginSwipe(recognizer);
   if (!_swipe) return false;

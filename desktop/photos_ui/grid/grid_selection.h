@@ -29,11 +29,11 @@ class GridSelection {
 
   // The owner is the delegate of the swipe's recogniser, which is added to the view, and gets its
   // messages.
-  void addRecognizer(bridge::NSObject owner, SEL handler);
+  void addRecognizer(NSObject owner, SEL handler);
   // Whether a recogniser may begin, also one of somebody else.
-  bool shouldBegin(bridge::UIGestureRecognizer recognizer) const;
+  bool shouldBegin(UIGestureRecognizer recognizer) const;
   // Whether a finger that swipes has moved on or left.
-  bool follow(bridge::UIGestureRecognizer recognizer);
+  bool follow(UIGestureRecognizer recognizer);
   // What a swipe that is under way did is undone, and it ends.
   void undoSwipe();
 
@@ -41,11 +41,11 @@ class GridSelection {
   const std::set<uikit::ItemPath>& paths() const;
   void select(std::size_t index, bool isSelected) const;
   SwipeSelection::Select selecting() const;
-  void beginSwipe(bridge::UIGestureRecognizer recognizer);
+  void beginSwipe(UIGestureRecognizer recognizer);
   std::optional<std::size_t> indexAt(CGPoint point) const;
 
   const GridCollection& _grid;
-  bridge::Owned<bridge::UIGestureRecognizer> _recognizer;
+  Owned<UIGestureRecognizer> _recognizer;
   std::optional<SwipeSelection> _swipe;
   bool _isOn = false;
 };

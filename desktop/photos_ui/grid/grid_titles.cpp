@@ -3,6 +3,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/labels.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -17,16 +18,16 @@ constexpr CGFloat belowTitles = 5;  // points
 }  // namespace
 
 Class GridHeader::classObject() {
-  static const Class made = bridge::ClassBuilder<GridHeader>("GridHeader")
+  static const Class made = ClassBuilder<GridHeader>("GridHeader")
                                 .method<"initWithFrame:", &GridHeader::initWithFrame>()
                                 .method<"layoutSubviews", &GridHeader::layoutSubviews>()
                                 .build();
   return made;
 }
 
-bridge::UIView GridHeader::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  self().setBackgroundColor(uikit::UIColor::make(uikit::colors::white));
+UIView GridHeader::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  self().setBackgroundColor(uikit::UIColorState::make(uikit::colors::white));
   _title = makeLabel({.weight = uikit::FontWeight::semibold, .size = 17}, uikit::colors::black);
   _detail = makeLabel({.size = 12}, uikit::colors::secondaryText);
   self().addSubview(_title);
@@ -37,7 +38,7 @@ bridge::UIView GridHeader::initWithFrame(CGRect frame) {
 void GridHeader::show(std::string_view title, std::string_view detail) {
   showText(_title, title);
   showText(_detail, detail);
-  uikit::UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 void GridHeader::layoutSubviews() {
@@ -51,18 +52,18 @@ void GridHeader::layoutSubviews() {
 }
 
 Class GridFooter::classObject() {
-  static const Class made = bridge::ClassBuilder<GridFooter>("GridFooter")
+  static const Class made = ClassBuilder<GridFooter>("GridFooter")
                                 .method<"initWithFrame:", &GridFooter::initWithFrame>()
                                 .build();
   return made;
 }
 
-bridge::UIView GridFooter::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
+UIView GridFooter::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
   _label = makeLabel({.weight = uikit::FontWeight::semibold, .size = 17}, uikit::colors::black);
-  _label->setTextAlignment(bridge::alignCenter);
+  _label->setTextAlignment(alignCenter);
   _label->setFrame(self().bounds());
-  _label->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  _label->setAutoresizingMask(flexibleWidth | flexibleHeight);
   self().addSubview(_label);
   return self();
 }

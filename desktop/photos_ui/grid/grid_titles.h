@@ -4,14 +4,16 @@
 #pragma once
 
 #include <string_view>
+#include "desktop/uikit/lists/ui_collection_reusable_view.h"
 
 #include "bridge/bound.h"
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
 // A title, and where there is another line, that below it in smaller letters.
-class GridHeader : public bridge::Bound<GridHeader, uikit::handles::UICollectionReusableView> {
+class GridHeader : public Bound<GridHeader, uikit::UICollectionReusableViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -20,15 +22,15 @@ class GridHeader : public bridge::Bound<GridHeader, uikit::handles::UICollection
   void show(std::string_view title, std::string_view detail);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
 
-  bridge::Owned<bridge::UILabel> _title;
-  bridge::Owned<bridge::UILabel> _detail;
+  Owned<UILabel> _title;
+  Owned<UILabel> _detail;
 };
 
 // One line in the middle.
-class GridFooter : public bridge::Bound<GridFooter, uikit::handles::UICollectionReusableView> {
+class GridFooter : public Bound<GridFooter, uikit::UICollectionReusableViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -37,9 +39,9 @@ class GridFooter : public bridge::Bound<GridFooter, uikit::handles::UICollection
   void show(std::string_view text);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
 
-  bridge::Owned<bridge::UILabel> _label;
+  Owned<UILabel> _label;
 };
 
 }  // namespace desktop::photos_ui

@@ -17,6 +17,7 @@
 #include "desktop/photos_ui/grid/select_button.h"
 #include "desktop/photos_ui/grid/selection_title.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -24,12 +25,10 @@
 
 namespace desktop::photos_ui {
 
-using bridge::NSString;
-
-Class PUPhotosGridViewController::classObject() {
-  using Self = PUPhotosGridViewController;
+Class PUPhotosGridViewControllerState::classObject() {
+  using Self = PUPhotosGridViewControllerState;
   static const Class made =
-      bridge::ClassBuilder<Self>("PUPhotosGridViewController")
+      ClassBuilder<Self>("PUPhotosGridViewController")
           .method<"viewDidLoad", &Self::viewDidLoad>()
           .method<"viewWillAppear:", &Self::viewWillAppear>()
           .method<"viewWillLayoutSubviews", &Self::viewWillLayoutSubviews>()
@@ -60,62 +59,61 @@ Class PUPhotosGridViewController::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::UIViewController> PUPhotosGridViewController::make(Class aClass,
-                                                                         GridContents contents) {
-  auto made = bridge::Owned<bridge::UIViewController>::adopt(
-      bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(aClass)));
-  PUPhotosGridViewController& grid = of(made.get());
+Owned<UIViewController> PUPhotosGridViewControllerState::make(Class aClass, GridContents contents) {
+  auto made =
+      Owned<UIViewController>::adopt(send<UIViewController, "init">(send<id, "alloc">(aClass)));
+  PUPhotosGridViewControllerState& grid = of(made.get());
   grid._contents = std::move(contents);
   grid._place.setStartsAtEnd(grid._contents.startsAtEnd);
-  bridge::send<void, "setTitle:">(made.get(), NSString::make(grid._contents.title));
+  send<void, "setTitle:">(made.get(), NSString::make(grid._contents.title));
   useLargeTitle(made, grid._contents.hasLargeTitle);
   return made;
 }
 
-void PUPhotosGridViewController::load() {
+void PUPhotosGridViewControllerState::load() {
   self().view();
   if (_isStale) refresh();
 }
 
-void PUPhotosGridViewController::viewDidLoad() {
+void PUPhotosGridViewControllerState::viewDidLoad() {
   super<void, "viewDidLoad">();
-  const bridge::UIView view = self().view();
-  view.setBackgroundColor(bridge::UIColor::whiteColor());
-  _grid.make(me(), view.bounds(), _contents.hasHeaders ? GridHeader::height : 0);
+  const UIView view = self().view();
+  view.setBackgroundColor(UIColor::whiteColor());
+  _grid.make(self(), view.bounds(), _contents.hasHeaders ? GridHeader::height : 0);
   view.addSubview(_grid.view());
-  _selection.addRecognizer(me(), bridge::selector<"_handleSwipeSelectionGesture:">());
+  _selection.addRecognizer(self(), selector<"_handleSwipeSelectionGesture:">());
   updateSelectButton();
 }
 
-void PUPhotosGridViewController::viewWillAppear(bool animated) {
+void PUPhotosGridViewControllerState::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
   load();
 }
 
 // Another width is another grid: what was at the top stays there.
-void PUPhotosGridViewController::viewWillLayoutSubviews() {
+void PUPhotosGridViewControllerState::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
   const CGFloat width = self().view().bounds().size.width;
   if (width == _measuredWidth) return;
   const auto place = _measuredWidth > 0 ? _place.anchor() : std::nullopt;
-  bridge::send<void, "updateLayoutMetrics">(self());
+  send<void, "updateLayoutMetrics">(self());
   if (place) _place.restore(*place);
 }
 
-void PUPhotosGridViewController::viewDidLayoutSubviews() {
+void PUPhotosGridViewControllerState::viewDidLayoutSubviews() {
   super<void, "viewDidLayoutSubviews">();
   _place.stayAtEnd();
 }
 
-void PUPhotosGridViewController::updateLayoutMetrics() {
+void PUPhotosGridViewControllerState::updateLayoutMetrics() {
   _measuredWidth = self().view().bounds().size.width;
   const auto [columns, itemSize] =
       gridMetrics(_contents, _measuredWidth, layout().interItemSpacing(), uikit::screen().scale);
   layout().setColumnsPerRow(columns);
-  bridge::send<void, "setItemSize:">(layout().self(), itemSize);
+  send<void, "setItemSize:">(layout().self(), itemSize);
 }
 
-void PUPhotosGridViewController::refresh() {
+void PUPhotosGridViewControllerState::refresh() {
   if (!collectionView()) return;
   const auto place = _place.anchor();
   const ItemListPointer before = list();
@@ -136,93 +134,89 @@ void PUPhotosGridViewController::refresh() {
 }
 
 // What nobody sees is brought up to date when it is seen.
-void PUPhotosGridViewController::libraryChanged(const library::LibraryChange& change) {
+void PUPhotosGridViewControllerState::libraryChanged(const library::LibraryChange& change) {
   const bool areItemsChanged = !change.inserted.empty() || !change.removed.empty() ||
                                !change.updated.empty() || change.areAlbumsChanged;
   if (areItemsChanged) _isStale = true;
-  if (!collectionView() || !uikit::UIView::of(collectionView()).window()) return;
+  if (!collectionView() || !uikit::UIViewState::of(collectionView()).window()) return;
   if (areItemsChanged) {
     refresh();
-    bridge::send<void, "libraryWasShown">(self());
+    send<void, "libraryWasShown">(self());
   } else {
     updateMessage();
   }
 }
 
-void PUPhotosGridViewController::updateMessage() {
+void PUPhotosGridViewControllerState::updateMessage() {
   if (list()->isEmpty() != static_cast<bool>(_message)) {
-    _message = list()->isEmpty() ? MessageView::make() : bridge::Owned<bridge::UIView>();
-    bridge::send<void, "setBackgroundView:">(collectionView(), _message.get());
+    _message = list()->isEmpty() ? MessageView::make() : Owned<UIView>();
+    send<void, "setBackgroundView:">(collectionView(), _message.get());
   }
   if (_message) showWhyEmpty(_message);
 }
 
-void PUPhotosGridViewController::open(std::size_t index, bool animated) {
-  const auto shown = PUOneUpViewController::make(list(), index, Presentation::ordinary);
+void PUPhotosGridViewControllerState::open(std::size_t index, bool animated) {
+  const auto shown = PUOneUpViewControllerState::make(list(), index, Presentation::ordinary);
   self().navigationController().push(
-      shown, animated ? bridge::UIViewController::animated : bridge::UIViewController::immediately);
+      shown, animated ? UIViewController::animated : UIViewController::immediately);
 }
 
-NSInteger PUPhotosGridViewController::numberOfSections(bridge::UICollectionView) const {
+NSInteger PUPhotosGridViewControllerState::numberOfSections(UICollectionView) const {
   return _grid.sectionCount();
 }
 
-NSInteger PUPhotosGridViewController::numberOfItems(bridge::UICollectionView,
-                                                    NSInteger section) const {
+NSInteger PUPhotosGridViewControllerState::numberOfItems(UICollectionView,
+                                                         NSInteger section) const {
   return _grid.itemCount(section);
 }
 
-bridge::UIView PUPhotosGridViewController::cellForItem(bridge::UICollectionView view,
-                                                       bridge::NSIndexPath path) {
+UIView PUPhotosGridViewControllerState::cellForItem(UICollectionView view, NSIndexPath path) {
   return _grid.cell(view, path);
 }
 
-bridge::UIView PUPhotosGridViewController::supplementaryView(bridge::UICollectionView view,
-                                                             bridge::NSString kind,
-                                                             bridge::NSIndexPath path) {
+UIView PUPhotosGridViewControllerState::supplementaryView(UICollectionView view, NSString kind,
+                                                          NSIndexPath path) {
   return _grid.title(view, kind, path);
 }
 
-void PUPhotosGridViewController::didEndDisplaying(bridge::UICollectionView, bridge::UIView cell,
-                                                  bridge::NSIndexPath) {
-  if (bridge::isKindOf(cell, PUPhotosGridCell::classObject()))
-    PUPhotosGridCell::of(cell).content().stopLoading();
+void PUPhotosGridViewControllerState::didEndDisplaying(UICollectionView, UIView cell, NSIndexPath) {
+  if (isKindOf(cell, PUPhotosGridCellState::classObject()))
+    PUPhotosGridCellState::of(cell).content().stopLoading();
 }
 
-void PUPhotosGridViewController::didSelect(bridge::UICollectionView view,
-                                           bridge::NSIndexPath path) {
+void PUPhotosGridViewControllerState::didSelect(UICollectionView view, NSIndexPath path) {
   if (isEditing()) return updateTitle();
-  bridge::send<void, "deselectItemAtIndexPath:animated:">(view, path, false);
+  send<void, "deselectItemAtIndexPath:animated:">(view, path, false);
   if (const auto index = _grid.indexOf(path)) open(*index, true);
 }
 
-void PUPhotosGridViewController::didDeselect(bridge::UICollectionView, bridge::NSIndexPath) {
+void PUPhotosGridViewControllerState::didDeselect(UICollectionView, NSIndexPath) {
   updateTitle();
 }
 
-void PUPhotosGridViewController::didScroll(bridge::UIView) {
+void PUPhotosGridViewControllerState::didScroll(UIView) {
   _place.scrolled();
 }
 
-bool PUPhotosGridViewController::shouldBegin(bridge::UIGestureRecognizer recognizer) const {
+bool PUPhotosGridViewControllerState::shouldBegin(UIGestureRecognizer recognizer) const {
   return _selection.shouldBegin(recognizer);
 }
 
 // The title tells how many there are once the finger has moved on.
-void PUPhotosGridViewController::handleSwipeSelection(bridge::UIGestureRecognizer recognizer) {
+void PUPhotosGridViewControllerState::handleSwipeSelection(UIGestureRecognizer recognizer) {
   if (_selection.follow(recognizer)) updateTitle();
 }
 
-bridge::PHAsset PUPhotosGridViewController::assetAt(bridge::NSIndexPath path) const {
+PHAsset PUPhotosGridViewControllerState::assetAt(NSIndexPath path) const {
   const auto item = _grid.itemAt(path);
-  return item && host().library ? faces::PHAsset::make(*host().library, item) : bridge::PHAsset();
+  return item && host().library ? faces::PHAssetState::make(*host().library, item) : PHAsset();
 }
 
-bool PUPhotosGridViewController::isEditing() const {
-  return uikit::UIViewController::of(self()).isEditing();
+bool PUPhotosGridViewControllerState::isEditing() const {
+  return uikit::UIViewControllerState::isEditing();
 }
 
-void PUPhotosGridViewController::setEditing(bool editing, bool animated) {
+void PUPhotosGridViewControllerState::setEditing(bool editing, bool animated) {
   super<void, "setEditing:animated:">(editing, animated);
   self().view();
   _selection.setOn(editing);
@@ -230,35 +224,35 @@ void PUPhotosGridViewController::setEditing(bool editing, bool animated) {
   updateTitle();
 }
 
-void PUPhotosGridViewController::beginSelecting(bridge::Object) {
-  bridge::send<void, "setEditing:animated:">(self(), true, true);
+void PUPhotosGridViewControllerState::beginSelecting(Object) {
+  send<void, "setEditing:animated:">(self(), true, true);
 }
 
-void PUPhotosGridViewController::endSelecting(bridge::Object) {
-  bridge::send<void, "setEditing:animated:">(self(), false, true);
+void PUPhotosGridViewControllerState::endSelecting(Object) {
+  send<void, "setEditing:animated:">(self(), false, true);
 }
 
-void PUPhotosGridViewController::updateSelectButton() {
+void PUPhotosGridViewControllerState::updateSelectButton() {
   const bool isUseful = _contents.allowsSelecting && !list()->isEmpty();
   showSelectButton(self(), isEditing() ? SelectButton::cancel
                            : isUseful  ? SelectButton::select
                                        : SelectButton::none);
 }
 
-void PUPhotosGridViewController::updateTitle() {
-  self().navigationItem().setTitle(isEditing() ? me().localizedSelectionTitle()
+void PUPhotosGridViewControllerState::updateTitle() {
+  self().navigationItem().setTitle(isEditing() ? self().localizedSelectionTitle()
                                                : NSString::make(_contents.title));
 }
 
-bridge::NSArray PUPhotosGridViewController::selectedAssets() const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray PUPhotosGridViewControllerState::selectedAssets() const {
+  const auto all = makeNew<NSMutableArray>();
   if (host().library)
     for (const auto& item : _selection.items())
-      all->add(faces::PHAsset::make(*host().library, item));
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+      all->add(faces::PHAssetState::make(*host().library, item));
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
-NSString PUPhotosGridViewController::localizedSelectionTitle() const {
+NSString PUPhotosGridViewControllerState::localizedSelectionTitle() const {
   return NSString::make(selectionTitle(_selection.items()));
 }
 

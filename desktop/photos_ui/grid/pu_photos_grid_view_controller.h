@@ -12,22 +12,24 @@
 #include "desktop/photos_ui/grid/grid_contents.h"
 #include "desktop/photos_ui/grid/grid_place.h"
 #include "desktop/photos_ui/grid/grid_selection.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/controllers/ui_view_controller.h"
 
 namespace desktop::photos_ui {
 
-class PUPhotosGridViewController
-    : public bridge::Bound<PUPhotosGridViewController, bridge::UIViewController>,
-      private LibraryObserver {
+class PUPhotosGridViewControllerState
+    : public Bound<PUPhotosGridViewControllerState, uikit::UIViewControllerState,
+                   PUPhotosGridViewController> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // A new controller of this class or of one below it; +1.
-  static bridge::Owned<bridge::UIViewController> make(Class aClass, GridContents contents);
+  static Owned<UIViewController> make(Class aClass, GridContents contents);
 
   const ItemListPointer& list() const { return _grid.list(); }
-  bridge::UICollectionView collectionView() const { return _grid.view(); }
-  PUSectionedGridLayout& layout() const { return _grid.layout(); }
+  UICollectionView collectionView() const { return _grid.view(); }
+  PUSectionedGridLayoutState& layout() const { return _grid.layout(); }
   // Loads the view and what it shows, where that has not happened yet.
   void load();
   // Scrolls until an item is in sight, in the middle where it was not. REQUIRES: it is in the list.
@@ -39,10 +41,6 @@ class PUPhotosGridViewController
   void setFooterText(std::string text) { _grid.setFooterText(std::move(text)); }
 
  private:
-  bridge::PUPhotosGridViewController me() const {
-    return bridge::PUPhotosGridViewController(self().get());
-  }
-
   // As a controller.
   void viewDidLoad();
   void viewWillAppear(bool animated);
@@ -51,31 +49,29 @@ class PUPhotosGridViewController
   void setEditing(bool editing, bool animated);
 
   // As the collection's data source and delegate, and that of the swipe over it.
-  NSInteger numberOfSections(bridge::UICollectionView view) const;
-  NSInteger numberOfItems(bridge::UICollectionView view, NSInteger section) const;
-  bridge::UIView cellForItem(bridge::UICollectionView view, bridge::NSIndexPath path);
-  bridge::UIView supplementaryView(bridge::UICollectionView view, bridge::NSString kind,
-                                   bridge::NSIndexPath path);
-  void didEndDisplaying(bridge::UICollectionView view, bridge::UIView cell,
-                        bridge::NSIndexPath path);
-  void didSelect(bridge::UICollectionView view, bridge::NSIndexPath path);
-  void didDeselect(bridge::UICollectionView view, bridge::NSIndexPath path);
-  void didScroll(bridge::UIView scrollView);
-  bool shouldBegin(bridge::UIGestureRecognizer recognizer) const;
-  void handleSwipeSelection(bridge::UIGestureRecognizer recognizer);
+  NSInteger numberOfSections(UICollectionView view) const;
+  NSInteger numberOfItems(UICollectionView view, NSInteger section) const;
+  UIView cellForItem(UICollectionView view, NSIndexPath path);
+  UIView supplementaryView(UICollectionView view, NSString kind, NSIndexPath path);
+  void didEndDisplaying(UICollectionView view, UIView cell, NSIndexPath path);
+  void didSelect(UICollectionView view, NSIndexPath path);
+  void didDeselect(UICollectionView view, NSIndexPath path);
+  void didScroll(UIView scrollView);
+  bool shouldBegin(UIGestureRecognizer recognizer) const;
+  void handleSwipeSelection(UIGestureRecognizer recognizer);
 
   // For extensions and classes below.
   void updateLayoutMetrics();
   // Told when a change of the library is on show.
   void libraryWasShown() {}
-  bridge::PHAsset assetAt(bridge::NSIndexPath path) const;
-  void beginSelecting(bridge::Object sender);
-  void endSelecting(bridge::Object sender);
+  PHAsset assetAt(NSIndexPath path) const;
+  void beginSelecting(Object sender);
+  void endSelecting(Object sender);
   bool isAnyAssetSelected() const { return !_selection.isEmpty(); }
-  bridge::NSArray selectedAssets() const;
-  bridge::NSString localizedSelectionTitle() const;
+  NSArray selectedAssets() const;
+  NSString localizedSelectionTitle() const;
 
-  void libraryChanged(const library::LibraryChange& change) override;
+  void libraryChanged(const library::LibraryChange& change);
   bool isEditing() const;
   void updateMessage();
   void updateSelectButton();
@@ -85,9 +81,11 @@ class PUPhotosGridViewController
   GridCollection _grid;
   GridPlace _place{_grid};
   GridSelection _selection{_grid};
-  bridge::Owned<bridge::UIView> _message;  // where there are no items
+  Owned<UIView> _message;  // where there are no items
   CGFloat _measuredWidth = 0;
   bool _isStale = true;  // the library changed out of sight
+  LibraryObserver _observer{
+      [this](const library::LibraryChange& change) { libraryChanged(change); }};
 };
 
 }  // namespace desktop::photos_ui

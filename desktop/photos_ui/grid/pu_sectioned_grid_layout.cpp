@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/lists/index_path.h"
@@ -18,7 +19,7 @@
 namespace desktop::photos_ui {
 namespace {
 
-using Attributes = uikit::UICollectionViewLayoutAttributes;
+using Attributes = uikit::UICollectionViewLayoutAttributesState;
 
 constexpr NSInteger mostColumns = 100;
 constexpr CGFloat leastSide = 1;           // points
@@ -32,10 +33,10 @@ CGFloat saneSide(CGFloat side) {
 
 }  // namespace
 
-Class PUSectionedGridLayout::classObject() {
-  using Self = PUSectionedGridLayout;
+Class PUSectionedGridLayoutState::classObject() {
+  using Self = PUSectionedGridLayoutState;
   static const Class made =
-      bridge::ClassBuilder<Self>("PUSectionedGridLayout")
+      ClassBuilder<Self>("PUSectionedGridLayout")
           .method<"delegate", &Self::delegate>()
           .method<"setDelegate:", &Self::setDelegate>()
           .method<"columnsPerRow", &Self::columnsPerRow>()
@@ -57,51 +58,50 @@ Class PUSectionedGridLayout::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::PUSectionedGridLayout> PUSectionedGridLayout::make() {
-  return bridge::Owned<bridge::PUSectionedGridLayout>::adopt(
-      bridge::send<bridge::PUSectionedGridLayout, "new">(classObject()));
+Owned<PUSectionedGridLayout> PUSectionedGridLayoutState::make() {
+  return Owned<PUSectionedGridLayout>::adopt(send<PUSectionedGridLayout, "new">(classObject()));
 }
 
-void PUSectionedGridLayout::invalidate() {
-  bridge::send<void, "invalidateLayout">(self());
+void PUSectionedGridLayoutState::invalidate() {
+  send<void, "invalidateLayout">(self());
 }
 
-void PUSectionedGridLayout::setColumnsPerRow(NSInteger columns) {
+void PUSectionedGridLayoutState::setColumnsPerRow(NSInteger columns) {
   columns = std::clamp(columns, NSInteger{1}, mostColumns);
   if (columns == _columnsPerRow) return;
   _columnsPerRow = columns;
   invalidate();
 }
 
-void PUSectionedGridLayout::setInterItemSpacing(CGFloat spacing) {
+void PUSectionedGridLayoutState::setInterItemSpacing(CGFloat spacing) {
   spacing = std::isfinite(spacing) ? std::clamp(spacing, 0.0, 100.0) : 0;
   if (spacing == _interItemSpacing) return;
   _interItemSpacing = spacing;
   invalidate();
 }
 
-void PUSectionedGridLayout::setItemSize(CGSize size) {
+void PUSectionedGridLayoutState::setItemSize(CGSize size) {
   size = {saneSide(size.width), saneSide(size.height)};
   if (size.width == _itemSize.width && size.height == _itemSize.height) return;
   _itemSize = size;
   invalidate();
 }
 
-void PUSectionedGridLayout::setHeaderHeight(CGFloat height) {
+void PUSectionedGridLayoutState::setHeaderHeight(CGFloat height) {
   if (height == _headerHeight) return;
   _headerHeight = height;
   invalidate();
 }
 
-void PUSectionedGridLayout::setFooterHeight(CGFloat height) {
+void PUSectionedGridLayoutState::setFooterHeight(CGFloat height) {
   if (height == _footerHeight) return;
   _footerHeight = height;
   invalidate();
 }
 
 // Pixels that are left over in a full row go to its first columns.
-CGSize PUSectionedGridLayout::layoutItemSizeForColumn(NSInteger column) const {
-  const auto collection = uikit::UICollectionViewLayout::of(self()).collectionView();
+CGSize PUSectionedGridLayoutState::layoutItemSizeForColumn(NSInteger column) const {
+  const auto collection = collectionView();
   const CGFloat scale = uikit::screen().scale;
   const auto columns = static_cast<CGFloat>(_columnsPerRow);
   const CGFloat row = columns * (_itemSize.width + _interItemSpacing) - _interItemSpacing;
@@ -111,12 +111,12 @@ CGSize PUSectionedGridLayout::layoutItemSizeForColumn(NSInteger column) const {
 }
 
 // As many columns as the width has room for, of those that there may be: at least one.
-void PUSectionedGridLayout::measureColumns(CGFloat width) {
+void PUSectionedGridLayoutState::measureColumns(CGFloat width) {
   _columns.clear();
   _rowHeight = leastSide;
   CGFloat x = 0;
   for (NSInteger column = 0; column < _columnsPerRow; ++column) {
-    const CGSize size = bridge::send<CGSize, "layoutItemSizeForColumn:">(self(), column);
+    const CGSize size = send<CGSize, "layoutItemSizeForColumn:">(self(), column);
     const CGFloat itemWidth = saneSide(size.width);
     constexpr CGFloat rounding = 0.01;
     if (column > 0 && x + itemWidth > width + rounding) break;
@@ -126,12 +126,12 @@ void PUSectionedGridLayout::measureColumns(CGFloat width) {
   }
 }
 
-void PUSectionedGridLayout::prepareLayout() {
-  const auto collection = uikit::UICollectionViewLayout::of(self()).collectionView();
+void PUSectionedGridLayoutState::prepareLayout() {
+  const auto collection = collectionView();
   const CGFloat width = collection.bounds().size.width;
   measureColumns(width);
   const auto across = static_cast<NSInteger>(_columns.size());
-  const NSInteger sections = bridge::send<NSInteger, "numberOfSections">(collection);
+  const NSInteger sections = send<NSInteger, "numberOfSections">(collection);
   _sections.clear();
   _sections.reserve(static_cast<std::size_t>(sections));
   CGFloat y = 0;
@@ -149,7 +149,7 @@ void PUSectionedGridLayout::prepareLayout() {
   _contentSize = {width, end + (_sections.empty() ? 0 : _footerHeight)};
 }
 
-CGRect PUSectionedGridLayout::frameOfItem(uikit::ItemPath path) const {
+CGRect PUSectionedGridLayoutState::frameOfItem(uikit::ItemPath path) const {
   if (path.section < 0 || path.section >= static_cast<NSInteger>(_sections.size())) return {};
   const Section& section = _sections[static_cast<std::size_t>(path.section)];
   if (path.item < 0 || path.item >= section.count) return {};
@@ -161,36 +161,34 @@ CGRect PUSectionedGridLayout::frameOfItem(uikit::ItemPath path) const {
       {column.width, _rowHeight}};
 }
 
-CGRect PUSectionedGridLayout::headerFrame(const Section& section) const {
+CGRect PUSectionedGridLayoutState::headerFrame(const Section& section) const {
   return {{0, section.top}, {_contentSize.width, _headerHeight}};
 }
 
-CGRect PUSectionedGridLayout::footerFrame() const {
+CGRect PUSectionedGridLayoutState::footerFrame() const {
   return {{0, _contentSize.height - _footerHeight}, {_contentSize.width, _footerHeight}};
 }
 
-bridge::NSArray PUSectionedGridLayout::attributesInRect(CGRect rect) const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray PUSectionedGridLayoutState::attributesInRect(CGRect rect) const {
+  const auto all = makeNew<NSMutableArray>();
   const auto first = std::ranges::lower_bound(_sections, rect.origin.y, {}, &Section::bottom);
   for (auto section = first; section != _sections.end() && section->top < uikit::bottom(rect);
        ++section) {
     const NSInteger index = section - _sections.begin();
     if (_headerHeight > 0 && uikit::intersects(headerFrame(*section), rect)) {
-      const auto header = Attributes::forSupplementary(bridge::NSString::make(headerKind),
-                                                       {index, 0}, headerFrame(*section));
+      const auto header = Attributes::forSupplementary(NSString::make(headerKind), {index, 0},
+                                                       headerFrame(*section));
       header.setZIndex(headerOrder);
       all->add(header);
     }
     addItems(all, index, rect);
   }
   if (_footerHeight > 0 && !_sections.empty() && uikit::intersects(footerFrame(), rect))
-    all->add(
-        Attributes::forSupplementary(bridge::NSString::make(footerKind), {0, 0}, footerFrame()));
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+    all->add(Attributes::forSupplementary(NSString::make(footerKind), {0, 0}, footerFrame()));
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
-void PUSectionedGridLayout::addItems(bridge::NSMutableArray all, NSInteger index,
-                                     CGRect rect) const {
+void PUSectionedGridLayoutState::addItems(NSMutableArray all, NSInteger index, CGRect rect) const {
   const Section& section = _sections[static_cast<std::size_t>(index)];
   const auto across = static_cast<NSInteger>(_columns.size());
   const CGFloat step = _rowHeight + _interItemSpacing;
@@ -204,13 +202,13 @@ void PUSectionedGridLayout::addItems(bridge::NSMutableArray all, NSInteger index
     all.add(Attributes::forItem({index, item}, frameOfItem({index, item})));
 }
 
-bridge::Object PUSectionedGridLayout::attributesForItem(bridge::NSIndexPath path) const {
+Object PUSectionedGridLayoutState::attributesForItem(NSIndexPath path) const {
   const auto at = uikit::itemPathOf(path);
-  return at ? bridge::Object(Attributes::forItem(*at, frameOfItem(*at))) : bridge::Object();
+  return at ? Object(Attributes::forItem(*at, frameOfItem(*at))) : Object();
 }
 
-bridge::Object PUSectionedGridLayout::attributesForSupplementary(bridge::NSString kind,
-                                                                 bridge::NSIndexPath path) const {
+Object PUSectionedGridLayoutState::attributesForSupplementary(NSString kind,
+                                                              NSIndexPath path) const {
   const auto at = uikit::itemPathOf(path);
   if (!at || at->section < 0 || at->section >= static_cast<NSInteger>(_sections.size())) return {};
   const bool isHeader = kind.utf8() == headerKind;
@@ -219,7 +217,7 @@ bridge::Object PUSectionedGridLayout::attributesForSupplementary(bridge::NSStrin
       isHeader ? headerFrame(_sections[static_cast<std::size_t>(at->section)]) : footerFrame());
 }
 
-bool PUSectionedGridLayout::shouldInvalidateForBoundsChange(CGRect bounds) const {
+bool PUSectionedGridLayoutState::shouldInvalidateForBoundsChange(CGRect bounds) const {
   return bounds.size.width != _contentSize.width;
 }
 

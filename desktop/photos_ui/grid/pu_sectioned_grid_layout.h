@@ -6,16 +6,19 @@
 #pragma once
 
 #include <vector>
+#include "desktop/uikit/lists/ui_collection_view_layout.h"
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/index_path.h"
 
 namespace desktop::photos_ui {
 
-class PUSectionedGridLayout
-    : public bridge::Bound<PUSectionedGridLayout, bridge::UICollectionViewLayout> {
+class PUSectionedGridLayoutState
+    : public Bound<PUSectionedGridLayoutState, uikit::UICollectionViewLayoutState,
+                   PUSectionedGridLayout> {
  public:
   // The kinds of supplementary views.
   static constexpr const char* headerKind = "UICollectionElementKindSectionHeader";
@@ -23,7 +26,7 @@ class PUSectionedGridLayout
 
   using Bound::Bound;
   static Class classObject();
-  static bridge::Owned<bridge::PUSectionedGridLayout> make();
+  static Owned<PUSectionedGridLayout> make();
 
   NSInteger columnsPerRow() const { return _columnsPerRow; }
   void setColumnsPerRow(NSInteger columns);
@@ -32,7 +35,7 @@ class PUSectionedGridLayout
   CGSize itemSize() const { return _itemSize; }
   void setHeaderHeight(CGFloat height);
   void setFooterHeight(CGFloat height);
-  void setDelegate(bridge::NSObject delegate) { _delegate = delegate; }
+  void setDelegate(NSObject delegate) { _delegate = delegate; }
 
   // As the last pass of layout placed them.
   CGRect frameOfItem(uikit::ItemPath path) const;
@@ -50,22 +53,22 @@ class PUSectionedGridLayout
     NSInteger count;
   };
 
-  bridge::NSObject delegate() const { return _delegate; }
+  NSObject delegate() const { return _delegate; }
   void setItemSize(CGSize size);
   CGSize layoutItemSizeForColumn(NSInteger column) const;
   void prepareLayout();
   void measureColumns(CGFloat width);
   CGSize contentSize() const { return _contentSize; }
-  bridge::NSArray attributesInRect(CGRect rect) const;
-  void addItems(bridge::NSMutableArray all, NSInteger section, CGRect rect) const;
-  bridge::Object attributesForItem(bridge::NSIndexPath path) const;
-  bridge::Object attributesForSupplementary(bridge::NSString kind, bridge::NSIndexPath path) const;
+  NSArray attributesInRect(CGRect rect) const;
+  void addItems(NSMutableArray all, NSInteger section, CGRect rect) const;
+  Object attributesForItem(NSIndexPath path) const;
+  Object attributesForSupplementary(NSString kind, NSIndexPath path) const;
   CGRect headerFrame(const Section& section) const;
   CGRect footerFrame() const;
   bool shouldInvalidateForBoundsChange(CGRect bounds) const;
   void invalidate();
 
-  bridge::NSObject _delegate;  // borrowed
+  NSObject _delegate;  // borrowed
   NSInteger _columnsPerRow = 4;
   CGFloat _interItemSpacing = 1;
   CGSize _itemSize{93, 93};

@@ -4,6 +4,7 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 namespace {
@@ -26,24 +27,24 @@ Level describe(ZoomLevel level) {
     case ZoomLevel::moments:
       break;
   }
-  return {"Moments", 4, &PUFullMomentsZoomLevelInfo::classObject, ZoomLevel::moments};
+  return {"Moments", 4, &PUFullMomentsZoomLevelInfoState::classObject, ZoomLevel::moments};
 }
 
 }  // namespace
 
-Class PUZoomableGridViewController::classObject() {
-  using Self = PUZoomableGridViewController;
+Class PUZoomableGridViewControllerState::classObject() {
+  using Self = PUZoomableGridViewControllerState;
   static const Class made =
-      bridge::ClassBuilder<Self>("PUZoomableGridViewController")
+      ClassBuilder<Self>("PUZoomableGridViewController")
           .method<"_zoomLevelInfo", &Self::zoomLevelInfo>()
           .method<"collectionView:didSelectItemAtIndexPath:", &Self::didSelect>()
           .build();
   return made;
 }
 
-bridge::Owned<bridge::UIViewController> PUZoomableGridViewController::make(ZoomLevel level) {
+Owned<UIViewController> PUZoomableGridViewControllerState::make(ZoomLevel level) {
   const Level description = describe(level);
-  auto made = PUPhotosGridViewController::make(
+  auto made = PUPhotosGridViewControllerState::make(
       classObject(),
       {.title = description.title,
        .list = [level] { return host().library ? listOfLibrary(*host().library, level) : nullptr; },
@@ -52,28 +53,25 @@ bridge::Owned<bridge::UIViewController> PUZoomableGridViewController::make(ZoomL
        .hasHeaders = true,
        .allowsSelecting = level == ZoomLevel::moments,
        .startsAtEnd = true});
-  PUZoomableGridViewController& grid = of(made.get());
+  PUZoomableGridViewControllerState& grid = of(made.get());
   grid._level = level;
-  grid._info = bridge::Owned<bridge::NSObject>::adopt(
-      bridge::send<bridge::NSObject, "new">(description.info()));
+  grid._info = Owned<NSObject>::adopt(send<NSObject, "new">(description.info()));
   return made;
 }
 
 // From farther off a photo is a place to look at more closely.
-void PUZoomableGridViewController::didSelect(bridge::UICollectionView view,
-                                             bridge::NSIndexPath path) {
+void PUZoomableGridViewControllerState::didSelect(UICollectionView view, NSIndexPath path) {
   if (_level == ZoomLevel::moments)
     return super<void, "collectionView:didSelectItemAtIndexPath:">(view, path);
-  bridge::send<void, "deselectItemAtIndexPath:animated:">(view, path, false);
+  send<void, "deselectItemAtIndexPath:animated:">(view, path, false);
   const auto at = uikit::itemPathOf(path);
-  const auto index =
-      at ? PUPhotosGridViewController::of(self()).list()->indexOf(*at) : std::nullopt;
+  const auto index = at ? list()->indexOf(*at) : std::nullopt;
   if (!index) return;
   const auto closer = make(describe(_level).closer);
-  PUPhotosGridViewController& grid = PUPhotosGridViewController::of(closer.get());
+  PUPhotosGridViewControllerState& grid = PUPhotosGridViewControllerState::of(closer.get());
   grid.load();
   grid.reveal(*index);
-  self().navigationController().push(closer, bridge::UIViewController::animated);
+  self().navigationController().push(closer, UIViewController::animated);
 }
 
 }  // namespace desktop::photos_ui

@@ -5,26 +5,29 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/grid/zoom_levels.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-class PUZoomableGridViewController
-    : public bridge::Bound<PUZoomableGridViewController, bridge::PUPhotosGridViewController> {
+class PUZoomableGridViewControllerState
+    : public Bound<PUZoomableGridViewControllerState, PUPhotosGridViewControllerState,
+                   PUZoomableGridViewController> {
  public:
   using Bound::Bound;
   static Class classObject();
   // +1.
-  static bridge::Owned<bridge::UIViewController> make(library::ZoomLevel level);
+  static Owned<UIViewController> make(library::ZoomLevel level);
 
   library::ZoomLevel level() const { return _level; }
 
  private:
-  bridge::NSObject zoomLevelInfo() const { return _info; }
-  void didSelect(bridge::UICollectionView view, bridge::NSIndexPath path);
+  NSObject zoomLevelInfo() const { return _info; }
+  void didSelect(UICollectionView view, NSIndexPath path);
 
   library::ZoomLevel _level = library::ZoomLevel::moments;
-  bridge::Owned<bridge::NSObject> _info;
+  Owned<NSObject> _info;
 };
 
 }  // namespace desktop::photos_ui

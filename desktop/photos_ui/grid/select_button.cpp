@@ -3,9 +3,6 @@
 
 namespace desktop::photos_ui {
 
-using bridge::NSString;
-using bridge::UIBarButtonItem;
-
 namespace {
 
 NSString titleOf(SelectButton button) {
@@ -20,24 +17,24 @@ NSString titleOf(SelectButton button) {
   return {};
 }
 
-bool isShown(NSString title, bridge::NSArray items) {
+bool isShown(NSString title, NSArray items) {
   if (!title) return !items;
-  return items.count() > 0 && title.isEqualToString(bridge::send<NSString, "title">(items.at(0)));
+  return items.count() > 0 && title.isEqualToString(send<NSString, "title">(items.at(0)));
 }
 
 }  // namespace
 
-void showSelectButton(bridge::UIViewController grid, SelectButton button) {
-  const bridge::UINavigationItem bar = grid.navigationItem();
+void showSelectButton(UIViewController grid, SelectButton button) {
+  const UINavigationItem bar = grid.navigationItem();
   const NSString title = titleOf(button);
   if (isShown(title, bar.rightBarButtonItems())) return;
   if (!title) return bar.setRightBarButtonItems({});
   const auto item = button == SelectButton::cancel
                         ? UIBarButtonItem::withTitle(title, UIBarButtonItem::done, grid,
-                                                     bridge::selector<"endSelecting:">())
+                                                     selector<"endSelecting:">())
                         : UIBarButtonItem::withTitle(title, UIBarButtonItem::plain, grid,
-                                                     bridge::selector<"beginSelecting:">());
-  bar.setRightBarButtonItems(bridge::NSArray::of(item.get()));
+                                                     selector<"beginSelecting:">());
+  bar.setRightBarButtonItems(NSArray::of(item.get()));
 }
 
 }  // namespace desktop::photos_ui

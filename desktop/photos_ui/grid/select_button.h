@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
@@ -11,6 +12,6 @@ enum class SelectButton { none, select, cancel };
 
 // Shows it; the grid is sent beginSelecting: or endSelecting: by it. Leaves the bar as it is where
 // the button is there already: somebody else may have added others.
-void showSelectButton(bridge::UIViewController grid, SelectButton button);
+void showSelectButton(UIViewController grid, SelectButton button);
 
 }  // namespace desktop::photos_ui

@@ -2,6 +2,7 @@
 #include "desktop/photos_ui/grid/zoom_levels.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
@@ -12,21 +13,21 @@ std::optional<library::ZoomLevel> zoomLevelNamed(std::string_view name) {
   return {};
 }
 
-Class PUFullMomentsZoomLevelInfo::classObject() {
-  using Self = PUFullMomentsZoomLevelInfo;
-  static const Class made = bridge::ClassBuilder<Self>("PUFullMomentsZoomLevelInfo").build();
+Class PUFullMomentsZoomLevelInfoState::classObject() {
+  using Self = PUFullMomentsZoomLevelInfoState;
+  static const Class made = ClassBuilder<Self>("PUFullMomentsZoomLevelInfo").build();
   return made;
 }
 
 Class PUCollectionsZoomLevelInfo::classObject() {
   using Self = PUCollectionsZoomLevelInfo;
-  static const Class made = bridge::ClassBuilder<Self>("PUCollectionsZoomLevelInfo").build();
+  static const Class made = ClassBuilder<Self>("PUCollectionsZoomLevelInfo").build();
   return made;
 }
 
 Class PUYearsZoomLevelInfo::classObject() {
   using Self = PUYearsZoomLevelInfo;
-  static const Class made = bridge::ClassBuilder<Self>("PUYearsZoomLevelInfo").build();
+  static const Class made = ClassBuilder<Self>("PUYearsZoomLevelInfo").build();
   return made;
 }
 

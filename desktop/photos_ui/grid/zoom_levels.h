@@ -11,6 +11,7 @@
 #include "bridge/bound.h"
 #include "bridge/photos.h"
 #include "desktop/library/sections.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
@@ -22,21 +23,20 @@ inline constexpr std::array zoomLevels = {
 std::optional<library::ZoomLevel> zoomLevelNamed(std::string_view name);
 
 // What a zoomable grid says of its level; extensions ask for the class.
-class PUFullMomentsZoomLevelInfo
-    : public bridge::Bound<PUFullMomentsZoomLevelInfo, bridge::NSObject> {
+class PUFullMomentsZoomLevelInfoState
+    : public Bound<PUFullMomentsZoomLevelInfoState, NSObject, PUFullMomentsZoomLevelInfo> {
  public:
   using Bound::Bound;
   static Class classObject();
 };
 
-class PUCollectionsZoomLevelInfo
-    : public bridge::Bound<PUCollectionsZoomLevelInfo, bridge::NSObject> {
+class PUCollectionsZoomLevelInfo : public Bound<PUCollectionsZoomLevelInfo, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject();
 };
 
-class PUYearsZoomLevelInfo : public bridge::Bound<PUYearsZoomLevelInfo, bridge::NSObject> {
+class PUYearsZoomLevelInfo : public Bound<PUYearsZoomLevelInfo, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject();

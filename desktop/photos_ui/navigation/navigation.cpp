@@ -6,30 +6,25 @@
 
 #include <algorithm>
 
+#include "bridge/uikit.h"
+#include "desktop/photos_ui/albums/album_controllers.h"
 #include "desktop/photos_ui/albums/pu_album_list_view_controller.h"
-#include "desktop/photos_ui/albums/pu_photos_album_view_controller.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::photos_ui {
 
-using bridge::NSArray;
-using bridge::NSString;
-using bridge::Owned;
-using bridge::UINavigationController;
-using bridge::UIViewController;
 using uikit::application;
 using uikit::touches;
-using uikit::handles::UITabBarController;
 
 namespace {
 
@@ -37,40 +32,40 @@ enum Tab : NSUInteger { photosTab, albumsTab };
 
 Owned<UINavigationController> makeTab(NSArray controllers, const char* title,
                                       uikit::UITabBarItem::SystemPicture picture) {
-  auto made = bridge::makeNew<UINavigationController>();
-  bridge::send<void, "setPrefersLargeTitles:">(made->navigationBar(), true);
-  bridge::send<void, "setViewControllers:">(made.get(), controllers);
+  auto made = makeNew<UINavigationController>();
+  send<void, "setPrefersLargeTitles:">(made->navigationBar(), true);
+  send<void, "setViewControllers:">(made.get(), controllers);
   const auto item = uikit::UITabBarItem::make(NSString::make(title), {}, picture);
-  bridge::send<void, "setTabBarItem:">(made.get(), item);
+  send<void, "setTabBarItem:">(made.get(), item);
   return made;
 }
 
 UITabBarController tabs() {
   if (application().windows.empty()) return {};
-  const uikit::handles::UIWindow window(application().windows.front()->get());
-  return bridge::as<UITabBarController>(window.rootViewController());
+  const UIWindow window(application().windows.front()->get());
+  return as<UITabBarController>(window.rootViewController());
 }
 
 UINavigationController navigation() {
-  return bridge::as<UINavigationController>(tabs().selectedViewController());
+  return as<UINavigationController>(tabs().selectedViewController());
 }
 
 UIViewController top() {
   const auto shown = navigation();
-  return shown ? uikit::UINavigationController::of(shown).top() : UIViewController();
+  return shown ? uikit::UINavigationControllerState::of(shown).top() : UIViewController();
 }
 
 UIViewController presented() {
   const auto root = tabs();
-  return bridge::send<UIViewController, "presentedViewController">(root);
+  return send<UIViewController, "presentedViewController">(root);
 }
 
 bool isOneUp(UIViewController controller) {
-  return bridge::isKindOf(controller, bridge::PUOneUpViewController::classObject());
+  return isKindOf(controller, PUOneUpViewController::classObject());
 }
 
 bool isGrid(UIViewController controller) {
-  return bridge::isKindOf(controller, PUPhotosGridViewController::classObject());
+  return isKindOf(controller, PUPhotosGridViewControllerState::classObject());
 }
 
 // The frames that what was asked for needs to be in place.
@@ -83,7 +78,7 @@ void dismissAll() {
 }
 
 void popTo(UIViewController controller) {
-  bridge::send<NSArray, "popToViewController:animated:">(navigation(), controller, false);
+  send<NSArray, "popToViewController:animated:">(navigation(), controller, false);
 }
 
 void showTab(Tab tab) {
@@ -93,11 +88,11 @@ void showTab(Tab tab) {
 }
 
 library::ZoomLevel levelOf(UIViewController controller) {
-  return PUZoomableGridViewController::of(controller).level();
+  return PUZoomableGridViewControllerState::of(controller).level();
 }
 
 bool isLevel(UIViewController controller) {
-  return bridge::isKindOf(controller, PUZoomableGridViewController::classObject());
+  return isKindOf(controller, PUZoomableGridViewControllerState::classObject());
 }
 
 // Those between the one on show and a closer one, each above the wider ones.
@@ -105,18 +100,19 @@ void pushLevelsTo(library::ZoomLevel level) {
   const UIViewController shown = top();
   for (const auto each : zoomLevels)
     if (isLevel(shown) && each < levelOf(shown) && each >= level)
-      navigation().push(PUZoomableGridViewController::make(each), UIViewController::immediately);
+      navigation().push(PUZoomableGridViewControllerState::make(each),
+                        UIViewController::immediately);
 }
 
 // The grid whose items are meant: on show, below a single photo, or of the moments.
-PUPhotosGridViewController* currentGrid() {
+PUPhotosGridViewControllerState* currentGrid() {
   if (!tabs()) return nullptr;
   const auto shown = navigation();
   if (shown) {
-    const auto& stack = uikit::UINavigationController::of(shown).stack();
+    const auto& stack = uikit::UINavigationControllerState::of(shown).stack();
     const auto grid = std::ranges::find_if(stack.rbegin(), stack.rend(),
                                            [](const auto& each) { return isGrid(each.get()); });
-    if (grid != stack.rend()) return &PUPhotosGridViewController::of(grid->get());
+    if (grid != stack.rend()) return &PUPhotosGridViewControllerState::of(grid->get());
   }
   return nullptr;
 }
@@ -126,12 +122,12 @@ model::Error noItem(std::size_t count, long index) {
 }
 
 // The grid on screen by itself, with an item of it in sight.
-model::Result<PUPhotosGridViewController*> gridWithItem(long index) {
+model::Result<PUPhotosGridViewControllerState*> gridWithItem(long index) {
   if (!tabs()) return model::Error{"nothing is on show"};
   dismissAll();
   if (!currentGrid())
     if (const auto failed = openPhotos()) return *failed;
-  PUPhotosGridViewController* const grid = currentGrid();
+  PUPhotosGridViewControllerState* const grid = currentGrid();
   if (!grid) return model::Error{"no grid is on show"};
   popTo(UIViewController(grid->self().get()));
   prepare();
@@ -146,13 +142,14 @@ model::Result<PUPhotosGridViewController*> gridWithItem(long index) {
 }  // namespace
 
 Owned<UIViewController> makeRootController() {
-  const auto levels = bridge::makeNew<bridge::NSMutableArray>();
-  for (const auto level : zoomLevels) levels->add(PUZoomableGridViewController::make(level).get());
+  const auto levels = makeNew<NSMutableArray>();
+  for (const auto level : zoomLevels)
+    levels->add(PUZoomableGridViewControllerState::make(level).get());
   const auto photosController = makeTab(levels, "Photos", uikit::UITabBarItem::photos);
   const auto list = PUAlbumListViewController::make();
   const auto albumsController =
       makeTab(NSArray::of(list.get()), "Albums", uikit::UITabBarItem::albums);
-  const auto made = bridge::makeNew<UITabBarController>();
+  const auto made = makeNew<UITabBarController>();
   made->setViewControllers(NSArray::of(photosController.get(), albumsController.get()));
   return Owned<UIViewController>::retain(made.get());
 }
@@ -162,7 +159,7 @@ Outcome setZoomLevel(std::string_view name) {
   if (!level) return model::Error{"'" + std::string(name) + "' is no zoom level"};
   if (!tabs()) return model::Error{"nothing is on show"};
   showTab(photosTab);
-  const auto stack = uikit::UINavigationController::of(navigation()).stack();
+  const auto stack = uikit::UINavigationControllerState::of(navigation()).stack();
   const auto known = std::ranges::find_if(stack, [&](const auto& each) {
     return isLevel(each.get()) && levelOf(each.get()) == *level;
   });
@@ -182,7 +179,7 @@ Outcome openPhotos() {
 Outcome openAlbums() {
   if (!tabs()) return model::Error{"nothing is on show"};
   showTab(albumsTab);
-  bridge::send<NSArray, "popToRootViewControllerAnimated:">(navigation(), false);
+  send<NSArray, "popToRootViewControllerAnimated:">(navigation(), false);
   prepare();
   return std::nullopt;
 }
@@ -210,19 +207,20 @@ Outcome openItem(long index) {
 Outcome peekItem(long index) {
   const auto grid = gridWithItem(index);
   if (!grid) return grid.error();
-  tabs().present(PUOneUpViewController::make((*grid)->list(), static_cast<std::size_t>(index),
-                                             Presentation::preview),
+  tabs().present(PUOneUpViewControllerState::make((*grid)->list(), static_cast<std::size_t>(index),
+                                                  Presentation::preview),
                  UIViewController::immediately, {});
   prepare();
   return std::nullopt;
 }
 
 Outcome peekAt(CGPoint onScreen) {
-  const PUPhotosGridViewController* const grid = presented() ? nullptr : currentGrid();
+  const PUPhotosGridViewControllerState* const grid = presented() ? nullptr : currentGrid();
   if (!grid || top() != UIViewController(grid->self().get()))
     return model::Error{"no grid is on show"};
-  const bridge::UICollectionView view = grid->collectionView();
-  const CGPoint inGrid = uikit::apply(uikit::inverse(uikit::UIView::of(view).toScreen()), onScreen);
+  const UICollectionView view = grid->collectionView();
+  const CGPoint inGrid =
+      uikit::apply(uikit::inverse(uikit::UIViewState::of(view).toScreen()), onScreen);
   const auto path = uikit::itemPathOf(view.indexPathForItemAt(inGrid));
   const auto index = path ? grid->list()->indexOf(*path) : std::nullopt;
   return index ? peekItem(static_cast<long>(*index)) : model::Error{"there is no photo"};
@@ -232,20 +230,19 @@ Outcome goBack() {
   if (!tabs()) return model::Error{"nothing is on show"};
   if (presented()) {
     UIViewController last = tabs();
-    while (const auto next = bridge::send<UIViewController, "presentedViewController">(last))
-      last = next;
+    while (const auto next = send<UIViewController, "presentedViewController">(last)) last = next;
     // A page that was reached from the presented one leads back to it.
-    if (bridge::isKindOf(last, bridge::UINavigationController::classObject()) &&
-        bridge::send<UIViewController, "popViewControllerAnimated:">(last, true))
+    if (isKindOf(last, UINavigationController::classObject()) &&
+        send<UIViewController, "popViewControllerAnimated:">(last, true))
       return std::nullopt;
     last.dismiss(UIViewController::animated, {});
     return std::nullopt;
   }
-  if (bridge::send<bool, "isEditing">(top())) {
-    bridge::send<void, "setEditing:animated:">(top(), false, true);
+  if (send<bool, "isEditing">(top())) {
+    send<void, "setEditing:animated:">(top(), false, true);
     return std::nullopt;
   }
-  if (!bridge::send<UIViewController, "popViewControllerAnimated:">(navigation(), true))
+  if (!send<UIViewController, "popViewControllerAnimated:">(navigation(), true))
     return model::Error{"there is no way back from here"};
   return std::nullopt;
 }
@@ -255,15 +252,14 @@ model::Result<CGPoint> placeOfItem(long index) {
   if (!grid) return grid.error();
   const auto path = (*grid)->list()->pathOf(static_cast<std::size_t>(index));
   const CGPoint middle = uikit::middle((*grid)->layout().frameOfItem(*path));
-  return uikit::apply(uikit::UIView::of((*grid)->collectionView()).toScreen(), middle);
+  return uikit::apply(uikit::UIViewState::of((*grid)->collectionView()).toScreen(), middle);
 }
 
 Outcome selectItem(long index) {
   const auto place = placeOfItem(index);
   if (!place) return place.error();
   const UIViewController grid = top();
-  if (!bridge::send<bool, "isEditing">(grid))
-    bridge::send<void, "setEditing:animated:">(grid, true, false);
+  if (!send<bool, "isEditing">(grid)) send<void, "setEditing:animated:">(grid, true, false);
   prepare();
   touches().down(*place);
   touches().up(*place);

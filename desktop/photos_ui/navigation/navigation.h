@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "model/result.h"
 
 namespace desktop::photos_ui {
@@ -15,7 +16,7 @@ namespace desktop::photos_ui {
 using Outcome = std::optional<model::Error>;
 
 // The tab bar with Photos and Albums.
-bridge::Owned<bridge::UIViewController> makeRootController();
+Owned<UIViewController> makeRootController();
 
 Outcome openPhotos();
 Outcome openAlbums();
@@ -38,6 +39,6 @@ model::Result<CGPoint> placeOfItem(long index);
 Outcome selectItem(long index);
 
 // The single photo on show, or nil.
-bridge::UIViewController oneUpOnShow();
+UIViewController oneUpOnShow();
 
 }  // namespace desktop::photos_ui

@@ -7,8 +7,6 @@
 
 namespace desktop::photos_ui {
 
-using bridge::send;
-
 bool BarsVisibility::show(bool shown, bool animated) {
   constexpr double time = 0.25;  // seconds
   if (shown == _areShown) return false;
@@ -17,11 +15,10 @@ bool BarsVisibility::show(bool shown, bool animated) {
   const auto navigation = _controller.navigationController();
   send<void, "setNavigationBarHidden:animated:">(navigation, !shown, animated);
   send<void, "setToolbarHidden:animated:">(navigation, !shown, animated);
-  const bridge::UIView view = _controller.view();
-  bridge::UIView::animate(animated ? time : 0, bridge::Block<void()>([view, shown] {
-                            view.setBackgroundColor(shown ? bridge::UIColor::whiteColor()
-                                                          : bridge::UIColor::blackColor());
-                          }));
+  const UIView view = _controller.view();
+  UIView::animate(animated ? time : 0, Block<void()>([view, shown] {
+                    view.setBackgroundColor(shown ? UIColor::whiteColor() : UIColor::blackColor());
+                  }));
   return true;
 }
 
@@ -32,7 +29,7 @@ void BarsVisibility::showToolbar(bool animated) const {
 
 void BarsVisibility::hideToolbarForAnother(bool animated) const {
   const auto navigation = _controller.navigationController();
-  if (send<bridge::UIViewController, "topViewController">(navigation) != _controller)
+  if (send<UIViewController, "topViewController">(navigation) != _controller)
     send<void, "setToolbarHidden:animated:">(navigation, true, animated);
 }
 

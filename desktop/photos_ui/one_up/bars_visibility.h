@@ -5,13 +5,14 @@
 #pragma once
 
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
 class BarsVisibility {
  public:
   // Around the view of a controller, which outlives it.
-  explicit BarsVisibility(bridge::UIViewController controller) : _controller(controller) {}
+  explicit BarsVisibility(UIViewController controller) : _controller(controller) {}
 
   bool areShown() const { return _areShown; }
   // Whether that is a change.
@@ -24,7 +25,7 @@ class BarsVisibility {
  private:
   void showStatusBar(bool shown);
 
-  bridge::UIViewController _controller;  // borrowed
+  UIViewController _controller;  // borrowed
   bool _areShown = true;
   bool _hasStatusBar = false;  // while the bars are hidden: whether it comes back with them
 };

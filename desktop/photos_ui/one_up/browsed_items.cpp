@@ -7,7 +7,7 @@ library::ItemPointer BrowsedItems::current() const {
   return _index < _list->size() ? _list->at(_index) : nullptr;
 }
 
-library::ItemPointer BrowsedItems::at(bridge::NSIndexPath path) const {
+library::ItemPointer BrowsedItems::at(NSIndexPath path) const {
   const auto place = uikit::itemPathOf(path);
   const auto index = place ? _list->indexOf(*place) : std::nullopt;
   return index ? _list->at(*index) : nullptr;

@@ -18,7 +18,7 @@ class BrowsedItems {
   // None where nothing is on show.
   std::optional<uikit::ItemPath> currentPath() const { return _list->pathOf(_index); }
   // Null where there is none.
-  library::ItemPointer at(bridge::NSIndexPath path) const;
+  library::ItemPointer at(NSIndexPath path) const;
 
   void set(ItemListPointer list, std::size_t index);
   void goTo(std::size_t index) { _index = index; }

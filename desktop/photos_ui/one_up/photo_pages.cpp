@@ -5,8 +5,6 @@
 
 namespace desktop::photos_ui {
 
-using bridge::send;
-
 namespace {
 
 constexpr CGFloat zoomStep = 1.5;
@@ -17,31 +15,29 @@ PhotoPages::~PhotoPages() {
   if (_view) tiling().pageChanged = nullptr;
 }
 
-bridge::Owned<bridge::UIView> PhotoPages::makeView(CGRect frame) {
+Owned<UIView> PhotoPages::makeView(CGRect frame) {
   constexpr NSInteger adjustsNever = 2;  // UIScrollViewContentInsetAdjustmentNever
-  auto made = bridge::makeView<bridge::UIView>(frame, PUTilingView::classObject());
+  auto made = bridge::makeView<UIView>(frame, PUTilingView::classObject());
   send<void, "setPagingEnabled:">(made.get(), true);
   send<void, "setShowsHorizontalScrollIndicator:">(made.get(), false);
   send<void, "setContentInsetAdjustmentBehavior:">(made.get(), adjustsNever);
   return made;
 }
 
-void PhotoPages::setView(bridge::UIView view) {
-  _view = bridge::Owned<bridge::UIView>::retain(view);
+void PhotoPages::setView(UIView view) {
+  _view = Owned<UIView>::retain(view);
 }
 
 void PhotoPages::onChange(std::function<void(std::size_t index)> changed) {
   tiling().pageChanged = std::move(changed);
-  tiling().pageHidden = [](bridge::UIView page) {
-    PUOneUpPhotoView::of(page).zoomTo(1, {}, false);
-  };
+  tiling().pageHidden = [](UIView page) { PUOneUpPhotoView::of(page).zoomTo(1, {}, false); };
 }
 
 void PhotoPages::show(const BrowsedItems& items) {
   const auto makePage = [list = items.list()](std::size_t page) {
     return PUOneUpPhotoView::make(list->at(page));
   };
-  const bridge::UIView shown = tiling().currentPage();
+  const UIView shown = tiling().currentPage();
   if (shown && PUOneUpPhotoView::of(shown).item() == items.current())
     tiling().replaceOtherPages(items.list()->size(), items.index(), makePage);
   else
@@ -56,10 +52,10 @@ bool PhotoPages::turnTo(std::size_t index) {
 }
 
 bool PhotoPages::zoom(OneUpAction action) {
-  const bridge::UIView shown = tiling().currentPage();
+  const UIView shown = tiling().currentPage();
   if (!shown) return false;
   PUOneUpPhotoView& photo = PUOneUpPhotoView::of(shown);
-  const CGSize size = uikit::UIView::of(shown).bounds().size;
+  const CGSize size = uikit::UIViewState::of(shown).bounds().size;
   const CGPoint mid = {size.width / 2, size.height / 2};
   switch (action) {
     case OneUpAction::zoomIn:
@@ -79,9 +75,9 @@ bool PhotoPages::zoom(OneUpAction action) {
 }
 
 bool PhotoPages::play() {
-  const bridge::UIView shown = tiling().currentPage();
+  const UIView shown = tiling().currentPage();
   if (!shown || !PUOneUpPhotoView::of(shown).item()->isVideo()) return false;
-  send<void, "playTouched:">(shown, bridge::NSObject());
+  send<void, "playTouched:">(shown, NSObject());
   return true;
 }
 

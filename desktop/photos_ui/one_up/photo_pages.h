@@ -19,12 +19,12 @@ class PhotoPages {
   ~PhotoPages();
 
   // A tiling view for photos.
-  static bridge::Owned<bridge::UIView> makeView(CGRect frame);
+  static Owned<UIView> makeView(CGRect frame);
   // Shows pages in such a view; called when another page is on show.
-  void setView(bridge::UIView view);
+  void setView(UIView view);
   void onChange(std::function<void(std::size_t index)> changed);
   // Nil at first.
-  bridge::UIView view() const { return _view; }
+  UIView view() const { return _view; }
 
   // Shows the items; a page on show that stays the current item is left as it is.
   // REQUIRES: there is a view.
@@ -38,7 +38,7 @@ class PhotoPages {
   bool zoom(OneUpAction action);
   bool play();
 
-  bridge::Owned<bridge::UIView> _view;
+  Owned<UIView> _view;
 };
 
 }  // namespace desktop::photos_ui

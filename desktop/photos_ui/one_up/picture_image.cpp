@@ -6,8 +6,8 @@
 
 namespace desktop::photos_ui {
 
-bridge::UIImage imageOf(const pictures::SharedPicture& picture) {
-  return picture ? uikit::UIImage::make(picture, uikit::screen().scale) : bridge::UIImage();
+UIImage imageOf(const pictures::SharedPicture& picture) {
+  return picture ? uikit::UIImageState::make(picture, uikit::screen().scale) : UIImage();
 }
 
 }  // namespace desktop::photos_ui

@@ -21,8 +21,8 @@ CGRect cardFrame(CGRect room, CGSize shape) {
   return {{(room.size.width - size.width) / 2, (room.size.height - size.height) / 2}, size};
 }
 
-void dressAsCard(bridge::UIView view) {
-  view.setBackgroundColor(bridge::UIColor::whiteColor());
+void dressAsCard(UIView view) {
+  view.setBackgroundColor(UIColor::whiteColor());
   view.layer().setCornerRadius(radius);
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
@@ -12,6 +13,6 @@ namespace desktop::photos_ui {
 CGRect cardFrame(CGRect room, CGSize shape);
 
 // Makes a view look like one.
-void dressAsCard(bridge::UIView view);
+void dressAsCard(UIView view);
 
 }  // namespace desktop::photos_ui

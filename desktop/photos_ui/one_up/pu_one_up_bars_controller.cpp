@@ -2,15 +2,12 @@
 #include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "foundation/calendar_text.h"
 #include "foundation/local_time.h"
 
 namespace desktop::photos_ui {
 namespace {
-
-using bridge::NSString;
-using bridge::send;
-using bridge::UIBarButtonItem;
 
 std::string titleOf(const library::LibraryItem& item) {
   return foundation::calendarText(foundation::localTime(item.modificationDate),
@@ -21,16 +18,15 @@ std::string titleOf(const library::LibraryItem& item) {
 }  // namespace
 
 Class PUOneUpBarsController::classObject() {
-  static const Class made = bridge::ClassBuilder<PUOneUpBarsController>("PUOneUpBarsController")
+  static const Class made = ClassBuilder<PUOneUpBarsController>("PUOneUpBarsController")
                                 .method<"updateBars", &PUOneUpBarsController::updateBars>()
                                 .method<"shareTouched:", &PUOneUpBarsController::shareTouched>()
                                 .build();
   return made;
 }
 
-bridge::Owned<bridge::NSObject> PUOneUpBarsController::make(bridge::UIViewController oneUp,
-                                                            const BrowsedItems& items) {
-  auto made = bridge::Owned<bridge::NSObject>::adopt(send<bridge::NSObject, "new">(classObject()));
+Owned<NSObject> PUOneUpBarsController::make(UIViewController oneUp, const BrowsedItems& items) {
+  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
   of(made.get())._oneUp = oneUp;
   of(made.get())._items = &items;
   of(made.get()).makeToolbarItems();
@@ -38,9 +34,9 @@ bridge::Owned<bridge::NSObject> PUOneUpBarsController::make(bridge::UIViewContro
 }
 
 void PUOneUpBarsController::makeToolbarItems() {
-  const auto share = UIBarButtonItem::withSystemItem(UIBarButtonItem::action, self(),
-                                                     bridge::selector<"shareTouched:">());
-  send<void, "setToolbarItems:">(_oneUp, bridge::NSArray::of(share.get()));
+  const auto share =
+      UIBarButtonItem::withSystemItem(UIBarButtonItem::action, self(), selector<"shareTouched:">());
+  send<void, "setToolbarItems:">(_oneUp, NSArray::of(share.get()));
 }
 
 void PUOneUpBarsController::update() const {
@@ -53,13 +49,12 @@ void PUOneUpBarsController::updateBars() {
 }
 
 // What is shared of a photo is where its file lies.
-void PUOneUpBarsController::shareTouched(bridge::NSObject sender) {
+void PUOneUpBarsController::shareTouched(NSObject sender) {
   const library::ItemPointer item = _items->current();
   if (!item) return;
-  const auto sheet =
-      bridge::UIActivityViewController::withItems(bridge::NSArray::of(NSString::make(item->path)));
+  const auto sheet = UIActivityViewController::withItems(NSArray::of(NSString::make(item->path)));
   sheet->popoverPresentationController().setBarButtonItem(UIBarButtonItem(sender.get()));
-  _oneUp.present(sheet, bridge::UIViewController::animated, {});
+  _oneUp.present(sheet, UIViewController::animated, {});
 }
 
 }  // namespace desktop::photos_ui

@@ -6,26 +6,26 @@
 #include "bridge/bound.h"
 #include "bridge/photos.h"
 #include "desktop/photos_ui/one_up/browsed_items.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-class PUOneUpBarsController : public bridge::Bound<PUOneUpBarsController, bridge::NSObject> {
+class PUOneUpBarsController : public Bound<PUOneUpBarsController, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // Of a single-photo controller and the items that it shows, which outlive it.
-  static bridge::Owned<bridge::NSObject> make(bridge::UIViewController oneUp,
-                                              const BrowsedItems& items);
+  static Owned<NSObject> make(UIViewController oneUp, const BrowsedItems& items);
   // Brings the bars up to what is on show now; by message, for extensions to follow.
   void update() const;
 
  private:
   void updateBars();
   void makeToolbarItems();
-  void shareTouched(bridge::NSObject sender);
+  void shareTouched(NSObject sender);
 
-  bridge::UIViewController _oneUp;  // borrowed
+  UIViewController _oneUp;  // borrowed
   const BrowsedItems* _items = nullptr;
 };
 

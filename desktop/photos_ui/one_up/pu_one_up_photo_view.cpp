@@ -12,6 +12,7 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/one_up/picture_image.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/path.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -21,10 +22,8 @@
 namespace desktop::photos_ui {
 namespace {
 
-using bridge::NSString;
-using bridge::send;
-using uikit::UIScrollView;
-using uikit::UIView;
+using uikit::UIScrollViewState;
+using uikit::UIViewState;
 
 constexpr CGFloat doubleTapZoom = 2.5;
 constexpr CGFloat leastGreatestZoom = 4;
@@ -54,7 +53,7 @@ CGSize times(CGSize size, CGFloat factor) {
 
 Class PUOneUpPhotoView::classObject() {
   static const Class made =
-      bridge::ClassBuilder<PUOneUpPhotoView>("PUOneUpPhotoView")
+      ClassBuilder<PUOneUpPhotoView>("PUOneUpPhotoView")
           .method<"layoutSubviews", &PUOneUpPhotoView::layoutSubviews>()
           .method<"gestureRecognizerShouldBegin:", &PUOneUpPhotoView::shouldBegin>()
           .method<"handleDoubleTap:", &PUOneUpPhotoView::handleDoubleTap>()
@@ -63,8 +62,8 @@ Class PUOneUpPhotoView::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::UIView> PUOneUpPhotoView::make(library::ItemPointer item) {
-  auto made = bridge::Owned<bridge::UIView>::adopt(send<bridge::UIView, "initWithFrame:">(
+Owned<UIView> PUOneUpPhotoView::make(library::ItemPointer item) {
+  auto made = Owned<UIView>::adopt(send<UIView, "initWithFrame:">(
       send<id, "alloc">(classObject()), uikit::rectOfSize(uikit::screen().size)));
   of(made.get()).prepare(std::move(item));
   return made;
@@ -72,14 +71,12 @@ bridge::Owned<bridge::UIView> PUOneUpPhotoView::make(library::ItemPointer item) 
 
 void PUOneUpPhotoView::prepare(library::ItemPointer item) {
   _item = std::move(item);
-  UIView& me = UIView::of(self());
-  _imageView = bridge::makeView<uikit::handles::UIImageView>({});
-  me.insertSubview(_imageView, 0);
+  _imageView = bridge::makeView<UIImageView>({});
+  insertSubview(_imageView, 0);
   send<void, "setShowsVerticalScrollIndicator:">(self(), false);
   send<void, "setShowsHorizontalScrollIndicator:">(self(), false);
   send<void, "setContentInsetAdjustmentBehavior:">(self(), NSInteger{2});
-  const auto tap = uikit::handles::makeRecognizer<uikit::handles::UITapGestureRecognizer>(
-      self(), bridge::selector<"handleDoubleTap:">());
+  const auto tap = makeRecognizer<UITapGestureRecognizer>(self(), selector<"handleDoubleTap:">());
   tap->setNumberOfTapsRequired(2);
   self().addGestureRecognizer(tap);
   if (_item->isVideo()) addPlayButton();
@@ -87,20 +84,19 @@ void PUOneUpPhotoView::prepare(library::ItemPointer item) {
 }
 
 void PUOneUpPhotoView::addPlayButton() {
-  _playButton =
-      bridge::Owned<bridge::UIButton>::retain(bridge::UIButton::withType(bridge::UIButton::custom));
+  _playButton = Owned<UIButton>::retain(UIButton::withType(UIButton::custom));
   _playButton->setFrame({{0, 0}, {playSide, playSide}});
-  _playButton->setBackgroundColor(bridge::UIColor::white(0, 0.45));
+  _playButton->setBackgroundColor(UIColor::white(0, 0.45));
   _playButton->layer().setCornerRadius(playSide / 2);
-  _playButton->setTitle(NSString::make("\u25B6\uFE0E"), bridge::stateNormal);
-  _playButton->setTitleColor(bridge::UIColor::whiteColor(), bridge::stateNormal);
-  _playButton->titleLabel().setFont(bridge::UIFont::systemFont(30));
-  _playButton->addTarget(self(), bridge::selector<"playTouched:">(), bridge::touchUpInside);
+  _playButton->setTitle(NSString::make("\u25B6\uFE0E"), stateNormal);
+  _playButton->setTitleColor(UIColor::whiteColor(), stateNormal);
+  _playButton->titleLabel().setFont(UIFont::systemFont(30));
+  _playButton->addTarget(self(), selector<"playTouched:">(), touchUpInside);
   self().addSubview(_playButton);
 }
 
 CGSize PUOneUpPhotoView::room() const {
-  return UIView::of(self()).bounds().size;
+  return bounds().size;
 }
 
 // In points at zoom 1: as large as lies in the room.
@@ -149,7 +145,7 @@ void PUOneUpPhotoView::arrange() {
   const bool isWhole = _zoom <= 1;
   self().setContentSize(isWhole ? CGSize{} : content);
   const CGPoint mid = {content.width / 2, content.height / 2};
-  if (_playButton) UIView::of(_playButton.get()).setCenter(mid);
+  if (_playButton) UIViewState::of(_playButton.get()).setCenter(mid);
   if (_failure) {
     const CGSize size = send<CGSize, "sizeThatFits:">(_failure.get(), room());
     const CGFloat y = _playButton ? mid.y + playSide : mid.y - size.height / 2;
@@ -196,11 +192,11 @@ void PUOneUpPhotoView::show(const pictures::Outcome& outcome) {
 void PUOneUpPhotoView::showFailure(const std::string& reason) {
   if (host().library) host().library->noteProblem(_item->path, reason);
   if (!_failure) {
-    _failure = bridge::makeView<bridge::UILabel>({});
-    _failure->setTextAlignment(bridge::alignCenter);
+    _failure = bridge::makeView<UILabel>({});
+    _failure->setTextAlignment(alignCenter);
     _failure->setNumberOfLines(0);
-    _failure->setFont(bridge::UIFont::systemFont(15));
-    _failure->setTextColor(uikit::UIColor::make(uikit::colors::secondaryText));
+    _failure->setFont(UIFont::systemFont(15));
+    _failure->setTextColor(uikit::UIColorState::make(uikit::colors::secondaryText));
     self().addSubview(_failure);
   }
   _failure->setText(NSString::make(_item->shownName() + "\ncannot be shown: " + reason));
@@ -216,9 +212,9 @@ void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
     _zoom = next;
     arrange();
     const CGPoint now = pointAt(place, _imageView->frame());
-    self().setContentOffset(UIScrollView::of(self()).clamped({now.x - at.x, now.y - at.y}));
+    self().setContentOffset(clamped({now.x - at.x, now.y - at.y}));
   };
-  const auto kept = bridge::Owned<bridge::UIView>::retain(self());
+  const auto kept = Owned<UIView>::retain(self());
   if (animated)
     uikit::animator().animate(zoomTime, 0, uikit::AnimationCurve::easeInOut, change,
                               [kept](bool) {});
@@ -228,8 +224,8 @@ void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
 }
 
 // At its left and right edges a finger that goes on outwards turns the page.
-bool PUOneUpPhotoView::shouldBegin(bridge::UIGestureRecognizer recognizer) {
-  const auto pan = send<uikit::handles::UIPanGestureRecognizer, "panGestureRecognizer">(self());
+bool PUOneUpPhotoView::shouldBegin(UIGestureRecognizer recognizer) {
+  const auto pan = send<UIPanGestureRecognizer, "panGestureRecognizer">(self());
   if (recognizer != pan) return true;
   const CGPoint moved = pan.translationIn({});
   const CGPoint speed = pan.velocityIn({});
@@ -237,10 +233,10 @@ bool PUOneUpPhotoView::shouldBegin(bridge::UIGestureRecognizer recognizer) {
   if (std::abs(way.x) <= std::abs(way.y)) return true;
   const CGPoint offset = self().contentOffset();
   const CGPoint next = {offset.x - std::copysign(1, way.x), offset.y};
-  return UIScrollView::of(self()).clamped(next).x == next.x;
+  return clamped(next).x == next.x;
 }
 
-void PUOneUpPhotoView::handleDoubleTap(bridge::UIGestureRecognizer recognizer) {
+void PUOneUpPhotoView::handleDoubleTap(UIGestureRecognizer recognizer) {
   const CGPoint offset = self().contentOffset();
   const CGPoint place = recognizer.locationIn(self());
   const CGPoint at = {place.x - offset.x, place.y - offset.y};
@@ -248,10 +244,10 @@ void PUOneUpPhotoView::handleDoubleTap(bridge::UIGestureRecognizer recognizer) {
 }
 
 // The file goes to whatever the user plays videos with.
-void PUOneUpPhotoView::playTouched(bridge::NSObject) {
-  const auto url = send<bridge::NSURL, "fileURLWithPath:">(bridge::NSURL::classObject(),
-                                                           NSString::make(_item->path));
-  bridge::UIApplication::sharedApplication().openURL(url);
+void PUOneUpPhotoView::playTouched(NSObject) {
+  const auto url =
+      send<NSURL, "fileURLWithPath:">(NSURL::classObject(), NSString::make(_item->path));
+  UIApplication::sharedApplication().openURL(url);
 }
 
 }  // namespace desktop::photos_ui

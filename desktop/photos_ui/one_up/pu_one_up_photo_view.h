@@ -7,16 +7,17 @@
 #include "bridge/bound.h"
 #include "desktop/library/library_item.h"
 #include "desktop/photos_ui/cells/picture_ticket.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 namespace desktop::photos_ui {
 
-class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::UIScrollView> {
+class PUOneUpPhotoView : public Bound<PUOneUpPhotoView, uikit::UIScrollViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
 
-  static bridge::Owned<bridge::UIView> make(library::ItemPointer item);
+  static Owned<UIView> make(library::ItemPointer item);
 
   const library::ItemPointer& item() const { return _item; }
   // How many times as large as the page it is; 1 shows all of it.
@@ -29,9 +30,9 @@ class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::
 
  private:
   void layoutSubviews();
-  bool shouldBegin(bridge::UIGestureRecognizer recognizer);
-  void handleDoubleTap(bridge::UIGestureRecognizer recognizer);
-  void playTouched(bridge::NSObject sender);
+  bool shouldBegin(UIGestureRecognizer recognizer);
+  void handleDoubleTap(UIGestureRecognizer recognizer);
+  void playTouched(NSObject sender);
 
   void prepare(library::ItemPointer item);
   void addPlayButton();
@@ -47,9 +48,9 @@ class PUOneUpPhotoView : public bridge::Bound<PUOneUpPhotoView, uikit::handles::
   CGSize naturalSize() const;
 
   library::ItemPointer _item;
-  bridge::Owned<uikit::handles::UIImageView> _imageView;
-  bridge::Owned<bridge::UILabel> _failure;
-  bridge::Owned<bridge::UIButton> _playButton;
+  Owned<UIImageView> _imageView;
+  Owned<UILabel> _failure;
+  Owned<UIButton> _playButton;
   PictureTicket _ticket;
   CGSize _pictureSize;  // pixels of what is shown
   CGSize _asked;        // pixels of the box that was asked for last

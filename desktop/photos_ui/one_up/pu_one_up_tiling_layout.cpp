@@ -2,25 +2,26 @@
 #include "desktop/photos_ui/one_up/pu_one_up_tiling_layout.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
-Class PUOneUpTilingLayout::classObject() {
+Class PUOneUpTilingLayoutState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<PUOneUpTilingLayout>("PUOneUpTilingLayout")
-          .method<"init", &PUOneUpTilingLayout::init>()
-          .method<"indexPathOfCurrentItem", &PUOneUpTilingLayout::indexPathOfCurrentItem>()
+      ClassBuilder<PUOneUpTilingLayoutState>("PUOneUpTilingLayout")
+          .method<"init", &PUOneUpTilingLayoutState::init>()
+          .method<"indexPathOfCurrentItem", &PUOneUpTilingLayoutState::indexPathOfCurrentItem>()
           .build();
   return made;
 }
 
 // There for extensions that want to know of every layout.
-bridge::NSObject PUOneUpTilingLayout::init() {
-  return super<bridge::NSObject, "init">();
+NSObject PUOneUpTilingLayoutState::init() {
+  return super<NSObject, "init">();
 }
 
-bridge::NSIndexPath PUOneUpTilingLayout::indexPathOfCurrentItem() const {
-  return _current ? uikit::indexPathOf(*_current) : bridge::NSIndexPath();
+NSIndexPath PUOneUpTilingLayoutState::indexPathOfCurrentItem() const {
+  return _current ? uikit::indexPathOf(*_current) : NSIndexPath();
 }
 
 }  // namespace desktop::photos_ui

@@ -7,11 +7,13 @@
 
 #include "bridge/bound.h"
 #include "bridge/photos.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/index_path.h"
 
 namespace desktop::photos_ui {
 
-class PUOneUpTilingLayout : public bridge::Bound<PUOneUpTilingLayout, bridge::NSObject> {
+class PUOneUpTilingLayoutState
+    : public Bound<PUOneUpTilingLayoutState, NSObject, PUOneUpTilingLayout> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -19,9 +21,9 @@ class PUOneUpTilingLayout : public bridge::Bound<PUOneUpTilingLayout, bridge::NS
   void setCurrent(std::optional<uikit::ItemPath> path) { _current = path; }
 
  private:
-  bridge::NSObject init();
+  NSObject init();
   // Nil while nothing is shown.
-  bridge::NSIndexPath indexPathOfCurrentItem() const;
+  NSIndexPath indexPathOfCurrentItem() const;
 
   std::optional<uikit::ItemPath> _current;
 };

@@ -14,17 +14,13 @@
 #include "desktop/photos_ui/one_up/preview_card.h"
 #include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
 #include "desktop/photos_ui/one_up/pu_one_up_tiling_layout.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/graphics/ui_color.h"
 
 namespace desktop::photos_ui {
 namespace {
-
-using bridge::Owned;
-using bridge::send;
-using uikit::handles::makeRecognizer;
-using uikit::handles::UITapGestureRecognizer;
 
 constexpr NSInteger overFullScreen = 5;  // UIModalPresentationOverFullScreen
 
@@ -38,38 +34,37 @@ CGSize shapeOf(const library::ItemPointer& item) {
 
 }  // namespace
 
-Class PUOneUpViewController::classObject() {
+Class PUOneUpViewControllerState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<PUOneUpViewController>("PUOneUpViewController")
+      ClassBuilder<PUOneUpViewControllerState>("PUOneUpViewController")
           .field("_tilingView", "@")
-          .method<"init", &PUOneUpViewController::init>()
-          .method<"viewDidLoad", &PUOneUpViewController::viewDidLoad>()
-          .method<"viewWillAppear:", &PUOneUpViewController::viewWillAppear>()
-          .method<"viewDidAppear:", &PUOneUpViewController::viewDidAppear>()
-          .method<"viewWillDisappear:", &PUOneUpViewController::viewWillDisappear>()
-          .method<"viewWillLayoutSubviews", &PUOneUpViewController::viewWillLayoutSubviews>()
-          .method<"isPresentedForPreview", &PUOneUpViewController::isPresentedForPreview>()
-          .method<"_assetReferenceAtIndexPath:layout:", &PUOneUpViewController::assetReference>()
-          .method<"_setTilingView:", &PUOneUpViewController::setTilingView>()
-          .method<"barsController", &PUOneUpViewController::barsController>()
-          .method<"handleTap:", &PUOneUpViewController::handleTap>()
-          .method<"handleTapBeside:", &PUOneUpViewController::handleTapBeside>()
+          .method<"init", &PUOneUpViewControllerState::init>()
+          .method<"viewDidLoad", &PUOneUpViewControllerState::viewDidLoad>()
+          .method<"viewWillAppear:", &PUOneUpViewControllerState::viewWillAppear>()
+          .method<"viewDidAppear:", &PUOneUpViewControllerState::viewDidAppear>()
+          .method<"viewWillDisappear:", &PUOneUpViewControllerState::viewWillDisappear>()
+          .method<"viewWillLayoutSubviews", &PUOneUpViewControllerState::viewWillLayoutSubviews>()
+          .method<"isPresentedForPreview", &PUOneUpViewControllerState::isPresentedForPreview>()
+          .method<"_assetReferenceAtIndexPath:layout:",
+                  &PUOneUpViewControllerState::assetReference>()
+          .method<"_setTilingView:", &PUOneUpViewControllerState::setTilingView>()
+          .method<"barsController", &PUOneUpViewControllerState::barsController>()
+          .method<"handleTap:", &PUOneUpViewControllerState::handleTap>()
+          .method<"handleTapBeside:", &PUOneUpViewControllerState::handleTapBeside>()
           .method<"gestureRecognizer:shouldReceiveTouch:",
-                  &PUOneUpViewController::shouldReceiveTouch>()
+                  &PUOneUpViewControllerState::shouldReceiveTouch>()
           .build();
   return made;
 }
 
-PUOneUpViewController::~PUOneUpViewController() {
-  bridge::setObjectField(self(), "_tilingView", {});
+PUOneUpViewControllerState::~PUOneUpViewControllerState() {
+  setObjectField(self(), "_tilingView", {});
 }
 
-bridge::Owned<bridge::UIViewController> PUOneUpViewController::make(ItemListPointer items,
-                                                                    std::size_t index,
-                                                                    Presentation presentation) {
-  auto made = bridge::Owned<bridge::UIViewController>::adopt(
-      send<bridge::UIViewController, "new">(classObject()));
-  PUOneUpViewController& controller = of(made.get());
+Owned<UIViewController> PUOneUpViewControllerState::make(ItemListPointer items, std::size_t index,
+                                                         Presentation presentation) {
+  auto made = Owned<UIViewController>::adopt(send<UIViewController, "new">(classObject()));
+  PUOneUpViewControllerState& controller = of(made.get());
   controller._items.set(std::move(items), index);
   controller._presentation = presentation;
   if (presentation == Presentation::preview)
@@ -79,39 +74,37 @@ bridge::Owned<bridge::UIViewController> PUOneUpViewController::make(ItemListPoin
   return made;
 }
 
-bridge::UIViewController PUOneUpViewController::init() {
-  const auto object = super<bridge::UIViewController, "init">();
-  _layout = bridge::Owned<bridge::NSObject>::adopt(
-      send<bridge::NSObject, "new">(PUOneUpTilingLayout::classObject()));
-  _bars = PUOneUpBarsController::make(bridge::UIViewController(self().get()), _items);
+UIViewController PUOneUpViewControllerState::init() {
+  const auto object = super<UIViewController, "init">();
+  _layout = Owned<NSObject>::adopt(send<NSObject, "new">(PUOneUpTilingLayoutState::classObject()));
+  _bars = PUOneUpBarsController::make(UIViewController(self().get()), _items);
   return object;
 }
 
-void PUOneUpViewController::viewDidLoad() {
+void PUOneUpViewControllerState::viewDidLoad() {
   super<void, "viewDidLoad">();
   const bool isPreview = isPresentedForPreview();
-  me().setBackgroundColor(isPreview ? bridge::UIColor::white(0, 0.4)
-                                    : bridge::UIColor::whiteColor());
+  self().view().setBackgroundColor(isPreview ? UIColor::white(0, 0.4) : UIColor::whiteColor());
   const auto tiling = makeTilingView();
-  me().addSubview(tiling);
+  self().view().addSubview(tiling);
   send<void, "_setTilingView:">(self(), tiling.get());
   _pages.onChange([this](std::size_t page) { moved(page); });
   showItems(_items.list(), _items.index());
   if (!isPreview) return;
   const auto beside =
-      makeRecognizer<UITapGestureRecognizer>(self(), bridge::selector<"handleTapBeside:">());
+      makeRecognizer<UITapGestureRecognizer>(self(), selector<"handleTapBeside:">());
   beside->setDelegate(self());
-  me().addGestureRecognizer(beside);
+  self().view().addGestureRecognizer(beside);
 }
 
-bridge::Owned<bridge::UIView> PUOneUpViewController::makeTilingView() {
-  auto tiling = PhotoPages::makeView(me().bounds());
+Owned<UIView> PUOneUpViewControllerState::makeTilingView() {
+  auto tiling = PhotoPages::makeView(self().view().bounds());
   if (isPresentedForPreview()) {
     dressAsCard(tiling);
     send<void, "setScrollEnabled:">(tiling.get(), false);
     return tiling;
   }
-  const auto tap = makeRecognizer<UITapGestureRecognizer>(self(), bridge::selector<"handleTap:">());
+  const auto tap = makeRecognizer<UITapGestureRecognizer>(self(), selector<"handleTap:">());
   const auto twice = makeRecognizer<UITapGestureRecognizer>({}, nullptr);
   twice->setNumberOfTapsRequired(2);
   send<void, "requireGestureRecognizerToFail:">(tap.get(), twice.get());
@@ -120,86 +113,85 @@ bridge::Owned<bridge::UIView> PUOneUpViewController::makeTilingView() {
   return tiling;
 }
 
-CGRect PUOneUpViewController::pagesFrame() const {
-  const CGRect all = me().bounds();
+CGRect PUOneUpViewControllerState::pagesFrame() const {
+  const CGRect all = self().view().bounds();
   return isPresentedForPreview() ? cardFrame(all, shapeOf(currentItem())) : all;
 }
 
-void PUOneUpViewController::viewWillLayoutSubviews() {
+void PUOneUpViewControllerState::viewWillLayoutSubviews() {
   _pages.view().setFrame(pagesFrame());
 }
 
 // The message is also how extensions learn of the view.
-void PUOneUpViewController::setTilingView(bridge::UIView view) {
+void PUOneUpViewControllerState::setTilingView(UIView view) {
   _pages.setView(view);
-  bridge::setObjectField(self(), "_tilingView", view);
+  setObjectField(self(), "_tilingView", view);
 }
 
-void PUOneUpViewController::showItems(ItemListPointer items, std::size_t index) {
+void PUOneUpViewControllerState::showItems(ItemListPointer items, std::size_t index) {
   _items.set(std::move(items), index);
   tellLayout();
   _pages.show(_items);
 }
 
-void PUOneUpViewController::moved(std::size_t index) {
+void PUOneUpViewControllerState::moved(std::size_t index) {
   _items.goTo(index);
   tellLayout();
   updateBars();
 }
 
-void PUOneUpViewController::tellLayout() const {
-  PUOneUpTilingLayout::of(_layout.get()).setCurrent(_items.currentPath());
+void PUOneUpViewControllerState::tellLayout() const {
+  PUOneUpTilingLayoutState::of(_layout.get()).setCurrent(_items.currentPath());
 }
 
-void PUOneUpViewController::updateBars() const {
+void PUOneUpViewControllerState::updateBars() const {
   PUOneUpBarsController::of(_bars.get()).update();
 }
 
-void PUOneUpViewController::viewWillAppear(bool animated) {
+void PUOneUpViewControllerState::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
   if (!isPresentedForPreview()) updateBars();
 }
 
-void PUOneUpViewController::viewDidAppear(bool animated) {
+void PUOneUpViewControllerState::viewDidAppear(bool animated) {
   super<void, "viewDidAppear:">(animated);
   if (isPresentedForPreview()) return;
   _visibility.showToolbar(animated);
   updateBars();
 }
 
-void PUOneUpViewController::viewWillDisappear(bool animated) {
+void PUOneUpViewControllerState::viewWillDisappear(bool animated) {
   super<void, "viewWillDisappear:">(animated);
   if (isPresentedForPreview()) return;
   showBars(true, animated);
   _visibility.hideToolbarForAnother(animated);
 }
 
-bridge::PUAssetReference PUOneUpViewController::assetReference(bridge::NSIndexPath path,
-                                                               bridge::PUOneUpTilingLayout) const {
+PUAssetReference PUOneUpViewControllerState::assetReference(NSIndexPath path,
+                                                            PUOneUpTilingLayout) const {
   const library::ItemPointer item = _items.at(path);
   if (!item || !host().library) return {};
-  return faces::PUAssetReference::make(faces::PHAsset::make(*host().library, item), path);
+  return faces::PUAssetReferenceState::make(faces::PHAssetState::make(*host().library, item), path);
 }
 
-void PUOneUpViewController::handleTap(bridge::UIGestureRecognizer) {
+void PUOneUpViewControllerState::handleTap(UIGestureRecognizer) {
   showBars(!_visibility.areShown(), true);
 }
 
-void PUOneUpViewController::handleTapBeside(bridge::UIGestureRecognizer) {
+void PUOneUpViewControllerState::handleTapBeside(UIGestureRecognizer) {
   leave();
 }
 
-bool PUOneUpViewController::shouldReceiveTouch(bridge::UIGestureRecognizer,
-                                               bridge::UITouch touch) const {
-  return !bridge::contains(pagesFrame(), touch.locationIn(me()));
+bool PUOneUpViewControllerState::shouldReceiveTouch(UIGestureRecognizer, UITouch touch) const {
+  return !contains(pagesFrame(), touch.locationIn(self().view()));
 }
 
-void PUOneUpViewController::showBars(bool shown, bool animated) {
+void PUOneUpViewControllerState::showBars(bool shown, bool animated) {
   if (_visibility.show(shown, animated)) updateBars();
 }
 
 // What is shown stays on show where its file is still there; otherwise what comes next is.
-void PUOneUpViewController::libraryChanged(const library::LibraryChange&) {
+void PUOneUpViewControllerState::libraryChanged(const library::LibraryChange&) {
   if (!host().library || !_pages.view()) return;
   const auto items =
       _items.listAfterChange([](const std::string& uuid) { return host().library->itemOf(uuid); });
@@ -211,21 +203,20 @@ void PUOneUpViewController::libraryChanged(const library::LibraryChange&) {
 }
 
 // Whatever was opened from here goes too.
-void PUOneUpViewController::leave() {
-  const bridge::UIViewController controller(self().get());
-  if (isPresentedForPreview()) return controller.dismiss(bridge::UIViewController::animated, {});
+void PUOneUpViewControllerState::leave() {
+  const UIViewController controller(self().get());
+  if (isPresentedForPreview()) return controller.dismiss(UIViewController::animated, {});
   const auto navigation = controller.navigationController();
   if (!navigation) return;
-  const auto stack = uikit::UINavigationController::of(navigation).stack();
-  const auto place = std::ranges::find(stack, controller, &Owned<bridge::UIViewController>::get);
+  const auto stack = uikit::UINavigationControllerState::of(navigation).stack();
+  const auto place = std::ranges::find(stack, controller, &Owned<UIViewController>::get);
   if (place != stack.begin() && place != stack.end())
-    send<bridge::NSArray, "popToViewController:animated:">(navigation, std::prev(place)->get(),
-                                                           true);
+    send<NSArray, "popToViewController:animated:">(navigation, std::prev(place)->get(), true);
 }
 
-bool performOneUpAction(bridge::UIViewController controller, OneUpAction action) {
-  return bridge::isKindOf(controller, PUOneUpViewController::classObject()) &&
-         PUOneUpViewController::of(controller).perform(action);
+bool performOneUpAction(UIViewController controller, OneUpAction action) {
+  return isKindOf(controller, PUOneUpViewControllerState::classObject()) &&
+         PUOneUpViewControllerState::of(controller).perform(action);
 }
 
 }  // namespace desktop::photos_ui

@@ -10,6 +10,8 @@
 #include "desktop/photos_ui/one_up/browsed_items.h"
 #include "desktop/photos_ui/one_up/one_up_action.h"
 #include "desktop/photos_ui/one_up/photo_pages.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/controllers/ui_view_controller.h"
 
 namespace desktop::photos_ui {
 
@@ -17,30 +19,29 @@ namespace desktop::photos_ui {
 enum class Presentation { ordinary, preview };
 
 // The tiling view is also in the field `_tilingView`, where extensions read it.
-class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge::UIViewController>,
-                              private LibraryObserver {
+class PUOneUpViewControllerState
+    : public Bound<PUOneUpViewControllerState, uikit::UIViewControllerState,
+                   PUOneUpViewController> {
  public:
   using Bound::Bound;
-  ~PUOneUpViewController() override;
+  ~PUOneUpViewControllerState();
   static Class classObject();
 
   // For a list of items, at one of them, numbered from 0 through all sections; +1.
-  static bridge::Owned<bridge::UIViewController> make(ItemListPointer items, std::size_t index,
-                                                      Presentation presentation);
+  static Owned<UIViewController> make(ItemListPointer items, std::size_t index,
+                                      Presentation presentation);
 
   // Null where nothing is left to show.
   library::ItemPointer currentItem() const { return _items.current(); }
   std::size_t currentIndex() const { return _items.index(); }
   // What extensions ask which item is on show.
-  bridge::PUOneUpTilingLayout layout() const {
-    return bridge::PUOneUpTilingLayout(_layout.get().get());
-  }
+  PUOneUpTilingLayout layout() const { return PUOneUpTilingLayout(_layout.get().get()); }
   // Whether it did something.
   bool perform(OneUpAction action) { return _pages.perform(action); }
 
  private:
   // As a controller.
-  bridge::UIViewController init();
+  UIViewController init();
   void viewDidLoad();
   void viewWillLayoutSubviews();
   void viewWillAppear(bool animated);
@@ -49,18 +50,16 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
 
   // For extensions.
   bool isPresentedForPreview() const { return _presentation == Presentation::preview; }
-  bridge::PUAssetReference assetReference(bridge::NSIndexPath path,
-                                          bridge::PUOneUpTilingLayout layout) const;
-  void setTilingView(bridge::UIView view);
-  bridge::NSObject barsController() const { return _bars; }
+  PUAssetReference assetReference(NSIndexPath path, PUOneUpTilingLayout layout) const;
+  void setTilingView(UIView view);
+  NSObject barsController() const { return _bars; }
 
-  void handleTap(bridge::UIGestureRecognizer recognizer);
-  void handleTapBeside(bridge::UIGestureRecognizer recognizer);
-  bool shouldReceiveTouch(bridge::UIGestureRecognizer recognizer, bridge::UITouch touch) const;
-  void libraryChanged(const library::LibraryChange& change) override;
+  void handleTap(UIGestureRecognizer recognizer);
+  void handleTapBeside(UIGestureRecognizer recognizer);
+  bool shouldReceiveTouch(UIGestureRecognizer recognizer, UITouch touch) const;
+  void libraryChanged(const library::LibraryChange& change);
 
-  bridge::UIView me() const { return bridge::UIViewController(self().get()).view(); }
-  bridge::Owned<bridge::UIView> makeTilingView();
+  Owned<UIView> makeTilingView();
   CGRect pagesFrame() const;
   void showItems(ItemListPointer items, std::size_t index);
   void moved(std::size_t index);
@@ -73,11 +72,13 @@ class PUOneUpViewController : public bridge::Bound<PUOneUpViewController, bridge
   BrowsedItems _items;
   PhotoPages _pages;
   BarsVisibility _visibility{self()};
-  bridge::Owned<bridge::NSObject> _layout;
-  bridge::Owned<bridge::NSObject> _bars;
+  Owned<NSObject> _layout;
+  Owned<NSObject> _bars;
+  LibraryObserver _observer{
+      [this](const library::LibraryChange& change) { libraryChanged(change); }};
 };
 
 // Whether the controller is a single photo and did something.
-bool performOneUpAction(bridge::UIViewController controller, OneUpAction action);
+bool performOneUpAction(UIViewController controller, OneUpAction action);
 
 }  // namespace desktop::photos_ui

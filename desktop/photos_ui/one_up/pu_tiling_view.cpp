@@ -5,11 +5,12 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::photos_ui {
 
 Class PUTilingView::classObject() {
-  static const Class made = bridge::ClassBuilder<PUTilingView>("PUTilingView")
+  static const Class made = ClassBuilder<PUTilingView>("PUTilingView")
                                 .method<"layoutSubviews", &PUTilingView::layoutSubviews>()
                                 .build();
   return made;
@@ -23,7 +24,7 @@ void PUTilingView::setPages(std::size_t count, std::size_t first, MakePage makeP
   _goal.reset();
   _makePage = std::move(makePage);
   _laidOut = {};
-  uikit::UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 void PUTilingView::replaceOtherPages(std::size_t count, std::size_t current, MakePage makePage) {
@@ -34,27 +35,27 @@ void PUTilingView::replaceOtherPages(std::size_t count, std::size_t current, Mak
   _pages.insert(std::move(kept));
 }
 
-bridge::UIView PUTilingView::currentPage() const {
+UIView PUTilingView::currentPage() const {
   const auto found = _pages.find(_current);
-  return found == _pages.end() ? bridge::UIView() : found->second.get();
+  return found == _pages.end() ? UIView() : found->second.get();
 }
 
 CGRect PUTilingView::frameOf(std::size_t index) const {
-  const CGSize size = uikit::UIView::of(self()).bounds().size;
+  const CGSize size = bounds().size;
   return {{static_cast<CGFloat>(index) * size.width, 0}, size};
 }
 
 void PUTilingView::show(std::size_t index, bool animated) {
   if (index >= _count) return;
   _goal = index;
-  bridge::send<void, "setContentOffset:animated:">(self(), frameOf(index).origin, animated);
-  uikit::UIView::of(self()).setNeedsLayout();
+  send<void, "setContentOffset:animated:">(self(), frameOf(index).origin, animated);
+  setNeedsLayout();
 }
 
 // A layout pass comes with every move; where the size changed, the same page stays on show.
 void PUTilingView::layoutSubviews() {
   super<void, "layoutSubviews">();
-  const CGSize size = uikit::UIView::of(self()).bounds().size;
+  const CGSize size = bounds().size;
   if (size != _laidOut) {
     _laidOut = size;
     _goal.reset();
@@ -79,7 +80,7 @@ void PUTilingView::tellHidden() const {
 void PUTilingView::updateGoal() {
   if (!_goal) return;
   const bool isThere = self().contentOffset() == frameOf(*_goal).origin;
-  if (isThere || uikit::UIScrollView::of(self()).isTracking()) _goal.reset();
+  if (isThere || isTracking()) _goal.reset();
 }
 
 // The page that takes the most room is the one on show.

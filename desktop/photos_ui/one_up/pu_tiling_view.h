@@ -9,22 +9,23 @@
 #include <optional>
 
 #include "bridge/bound.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 
 namespace desktop::photos_ui {
 
-class PUTilingView : public bridge::Bound<PUTilingView, uikit::handles::UIScrollView> {
+class PUTilingView : public Bound<PUTilingView, uikit::UIScrollViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
 
-  using Page = bridge::Owned<bridge::UIView>;
+  using Page = Owned<UIView>;
   using MakePage = std::function<Page(std::size_t index)>;
 
   // Called when another page is on show.
   std::function<void(std::size_t index)> pageChanged;
   // Called with pages that cannot be seen, not even in part, whenever something moves.
-  std::function<void(bridge::UIView page)> pageHidden;
+  std::function<void(UIView page)> pageHidden;
 
   // Shows pages of a new kind, from a given one on. REQUIRES: first < count, or no pages.
   void setPages(std::size_t count, std::size_t first, MakePage makePage);
@@ -36,11 +37,11 @@ class PUTilingView : public bridge::Bound<PUTilingView, uikit::handles::UIScroll
   std::size_t goal() const { return _goal.value_or(_current); }
   std::size_t count() const { return _count; }
   // The page on show; nil where there is none.
-  bridge::UIView currentPage() const;
+  UIView currentPage() const;
 
  private:
   void layoutSubviews();
-  CGFloat pageWidth() const { return uikit::UIView::of(self()).bounds().size.width; }
+  CGFloat pageWidth() const { return bounds().size.width; }
   CGRect frameOf(std::size_t index) const;
   void follow();
   void updateGoal();

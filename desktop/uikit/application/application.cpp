@@ -30,16 +30,16 @@ Application& application() {
 }
 
 void Application::prepareFrame() const {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   animator().tick();
   const auto present = windows;
-  for (const auto& window : present) bridge::send<void, "layoutIfNeeded">(window.get());
+  for (const auto& window : present) send<void, "layoutIfNeeded">(window.get());
 }
 
 void Application::advance(Seconds by) const {
   const Seconds end = scheduler().now() + std::max(by, 0.0);
   do {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     scheduler().advanceTo(std::min(end, scheduler().now() + frameTime));
     prepareFrame();
   } while (scheduler().now() < end);
@@ -50,13 +50,12 @@ void Application::resize(CGSize size) const {
   const CGSize before = std::exchange(screen().size, size);
   screen().damage.add(rectOfSize(size));
   const auto present = windows;
-  for (const auto& window : present)
-    bridge::send<void, "_screenDidResizeFrom:">(window.get(), before);
+  for (const auto& window : present) send<void, "_screenDidResizeFrom:">(window.get(), before);
 }
 
 // From the top down: what goes may still tell the parts below.
 void resetApplication() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   touches().abandon();
   renew(application());
   renew(animator());

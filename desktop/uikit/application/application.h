@@ -8,13 +8,14 @@
 #include <vector>
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/status_bar.h"
 #include "desktop/uikit/base/scheduler.h"
 
 namespace desktop::uikit {
 
 struct Application {
-  std::vector<bridge::Owned<bridge::UIView>> windows;  // from back to front
+  std::vector<Owned<UIView>> windows;  // from back to front
   StatusBar statusBar;
   std::vector<std::string> opened;  // links handed to the system so far
 

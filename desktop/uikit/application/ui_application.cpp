@@ -2,43 +2,43 @@
 #include "desktop/uikit/application/ui_application.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/outside.h"
 
 namespace desktop::uikit {
 
-Class UIApplication::classObject() {
+Class UIApplicationState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIApplication>("UIApplication")
-          .classMethod<"sharedApplication", &UIApplication::sharedApplication>()
-          .method<"openURL:", &UIApplication::openURL>()
-          .method<"keyWindow", &UIApplication::keyWindow>()
-          .method<"windows", &UIApplication::windows>()
+      ClassBuilder<UIApplicationState>("UIApplication")
+          .classMethod<"sharedApplication", &UIApplicationState::sharedApplication>()
+          .method<"openURL:", &UIApplicationState::openURL>()
+          .method<"keyWindow", &UIApplicationState::keyWindow>()
+          .method<"windows", &UIApplicationState::windows>()
           .build();
   return made;
 }
 
-bridge::UIApplication UIApplication::sharedApplication() {
-  static const bridge::UIApplication application =
-      bridge::makeNew<bridge::UIApplication>().detach();
+UIApplication UIApplicationState::sharedApplication() {
+  static const UIApplication application = makeNew<UIApplication>().detach();
   return application;
 }
 
-bool UIApplication::openURL(bridge::NSURL url) {
+bool UIApplicationState::openURL(NSURL url) {
   if (!url) return false;
-  const std::string link = bridge::send<bridge::NSString, "absoluteString">(url).utf8();
+  const std::string link = send<NSString, "absoluteString">(url).utf8();
   application().opened.push_back(link);
   return outside().openLink && outside().openLink(link);
 }
 
-bridge::UIView UIApplication::keyWindow() const {
-  return application().windows.empty() ? bridge::UIView() : application().windows.back().get();
+UIView UIApplicationState::keyWindow() const {
+  return application().windows.empty() ? UIView() : application().windows.back().get();
 }
 
-bridge::NSArray UIApplication::windows() const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray UIApplicationState::windows() const {
+  const auto all = makeNew<NSMutableArray>();
   for (const auto& window : application().windows) all->add(window.get());
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
 }  // namespace desktop::uikit

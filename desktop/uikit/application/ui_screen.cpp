@@ -2,30 +2,31 @@
 #include "desktop/uikit/application/ui_screen.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/base/screen.h"
 
 namespace desktop::uikit {
 
-Class UIScreen::classObject() {
-  static const Class made = bridge::ClassBuilder<UIScreen>("UIScreen")
-                                .classMethod<"mainScreen", &UIScreen::mainScreen>()
-                                .method<"bounds", &UIScreen::bounds>()
-                                .method<"scale", &UIScreen::scale>()
+Class UIScreenState::classObject() {
+  static const Class made = ClassBuilder<UIScreenState>("UIScreen")
+                                .classMethod<"mainScreen", &UIScreenState::mainScreen>()
+                                .method<"bounds", &UIScreenState::bounds>()
+                                .method<"scale", &UIScreenState::scale>()
                                 .build();
   return made;
 }
 
-bridge::UIScreen UIScreen::mainScreen() {
-  static const bridge::UIScreen screen = bridge::makeNew<bridge::UIScreen>().detach();
+UIScreen UIScreenState::mainScreen() {
+  static const UIScreen screen = makeNew<UIScreen>().detach();
   return screen;
 }
 
-CGRect UIScreen::bounds() const {
+CGRect UIScreenState::bounds() const {
   return rectOfSize(screen().size);
 }
 
-CGFloat UIScreen::scale() const {
+CGFloat UIScreenState::scale() const {
   return screen().scale;
 }
 

@@ -4,15 +4,17 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-class UIScreen : public bridge::Bound<UIScreen, bridge::NSObject> {
+class UIScreenState : public Bound<UIScreenState, NSObject, UIScreen> {
  public:
   using Bound::Bound;
   static Class classObject();
-  static bridge::UIScreen mainScreen();
+  static UIScreen mainScreen();
 
  private:
   CGRect bounds() const;

@@ -2,6 +2,7 @@
 #include "desktop/uikit/bars/bar_background.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
@@ -11,25 +12,24 @@
 namespace desktop::uikit {
 
 Class BarBackground::classObject() {
-  static const Class made = bridge::ClassBuilder<BarBackground>("_UIBarBackground")
+  static const Class made = ClassBuilder<BarBackground>("_UIBarBackground")
                                 .method<"drawContentOn:", &BarBackground::drawContent>()
                                 .build();
   return made;
 }
 
-bridge::Owned<bridge::UIView> BarBackground::make(Hairline side) {
-  auto made = bridge::Owned<bridge::UIView>::adopt(
-      bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(classObject())));
+Owned<UIView> BarBackground::make(Hairline side) {
+  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
   of(made.get())._side = side;
-  bridge::send<void, "setUserInteractionEnabled:">(made.get(), false);
+  send<void, "setUserInteractionEnabled:">(made.get(), false);
   return made;
 }
 
 void BarBackground::setLook(Color background, Color hairline) {
-  self().setBackgroundColor(UIColor::make(background));
+  self().setBackgroundColor(UIColorState::make(background));
   if (hairline == _hairline) return;
   _hairline = hairline;
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
 void BarBackground::drawContent(Canvas* canvas) const {

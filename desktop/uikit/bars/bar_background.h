@@ -5,20 +5,23 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
 class Canvas;
 
-class BarBackground : public bridge::Bound<BarBackground, bridge::UIView> {
+class BarBackground : public Bound<BarBackground, UIViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   enum class Hairline { top, bottom };
-  static bridge::Owned<bridge::UIView> make(Hairline side);
+  static Owned<UIView> make(Hairline side);
 
   void setLook(Color background, Color hairline);
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/bar_glyphs.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/controls/ui_control.h"
@@ -30,15 +31,15 @@ constexpr CGFloat touchMargin = 8;  // taken beside the picture
 constexpr double pressedAlpha = 0.2;
 constexpr Color disabledColor = Color::white(0.6);
 
-bridge::Owned<bridge::UIView> makeView() {
-  return bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "init">(
-      bridge::send<id, "alloc">(BarButtonView::classObject())));
+Owned<UIView> makeView() {
+  return Owned<UIView>::adopt(
+      send<UIView, "init">(send<id, "alloc">(BarButtonView::classObject())));
 }
 
 }  // namespace
 
 Class BarButtonView::classObject() {
-  static const Class made = bridge::ClassBuilder<BarButtonView>("_UIButtonBarButton")
+  static const Class made = ClassBuilder<BarButtonView>("_UIButtonBarButton")
                                 .method<"initWithFrame:", &BarButtonView::initWithFrame>()
                                 .method<"layoutSubviews", &BarButtonView::layoutSubviews>()
                                 .method<"sizeThatFits:", &BarButtonView::sizeThatFits>()
@@ -51,29 +52,27 @@ Class BarButtonView::classObject() {
   return made;
 }
 
-BarButtonView::BarButtonView(id self)
-    : Bound(self), _label(bridge::makeView<bridge::UILabel>({})) {}
+BarButtonView::BarButtonView(id self) : Bound(self), _label(bridge::makeView<UILabel>({})) {}
 
-bridge::UIView BarButtonView::initWithFrame(CGRect frame) {
-  const auto object = super<bridge::UIView, "initWithFrame:">(frame);
-  self().addTarget(self(), bridge::selector<"_press:">(), bridge::touchUpInside);
+UIView BarButtonView::initWithFrame(CGRect frame) {
+  const auto object = super<UIView, "initWithFrame:">(frame);
+  self().addTarget(self(), selector<"_press:">(), bridge::touchUpInside);
   self().addSubview(_label);
   return object;
 }
 
-bridge::Owned<bridge::UIView> BarButtonView::make(bridge::UIBarButtonItem item) {
+Owned<UIView> BarButtonView::make(UIBarButtonItem item) {
   auto made = makeView();
-  of(made.get())._item = bridge::Owned<bridge::UIBarButtonItem>::retain(item);
+  of(made.get())._item = Owned<UIBarButtonItem>::retain(item);
   of(made.get()).refresh();
   return made;
 }
 
-bridge::Owned<bridge::UIView> BarButtonView::makeBack(bridge::NSString title,
-                                                      std::function<void()> pressed) {
+Owned<UIView> BarButtonView::makeBack(NSString title, std::function<void()> pressed) {
   auto made = makeView();
   BarButtonView& view = of(made.get());
   view._pressed = std::move(pressed);
-  view._label->setFont(bridge::UIFont::systemFont(fontSize));
+  view._label->setFont(UIFont::systemFont(fontSize));
   view.setTitle(title);
   view.refresh();
   return made;
@@ -81,25 +80,25 @@ bridge::Owned<bridge::UIView> BarButtonView::makeBack(bridge::NSString title,
 
 void BarButtonView::refresh() {
   if (_item) {
-    const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
-    _label->setFont(item.style() == UIBarButtonItem::done ? semiboldFont(fontSize)
-                                                          : bridge::UIFont::systemFont(fontSize));
-    setTitle(hasText() ? item.title() : bridge::NSString());
-    bridge::send<void, "setEnabled:">(self(), item.isEnabled());
+    const UIBarButtonItemState& item = UIBarButtonItemState::of(_item.get());
+    _label->setFont(item.style() == UIBarButtonItemState::done ? semiboldFont(fontSize)
+                                                               : UIFont::systemFont(fontSize));
+    setTitle(hasText() ? item.title() : NSString());
+    send<void, "setEnabled:">(self(), item.isEnabled());
   }
-  _label->setTextColor(UIColor::make(color()));
-  UIView::of(self()).setNeedsDisplay();
+  _label->setTextColor(UIColorState::make(color()));
+  setNeedsDisplay();
 }
 
-void BarButtonView::setTitle(bridge::NSString title) {
+void BarButtonView::setTitle(NSString title) {
   _label->setText(title);
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 // A picture stands before a title.
 bool BarButtonView::hasText() const {
   if (!_item) return true;
-  const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
+  const UIBarButtonItemState& item = UIBarButtonItemState::of(_item.get());
   return !item.image() && !hasGlyph(item.systemItem().value_or(-1));
 }
 
@@ -108,19 +107,18 @@ CGFloat BarButtonView::textStart() const {
 }
 
 Color BarButtonView::color() const {
-  const UIControl& control = UIControl::of(self());
-  const auto own = _item ? UIBarButtonItem::of(_item.get()).tint() : std::nullopt;
-  const Color shown = control.isEnabled() ? own.value_or(UIView::of(self()).tint()) : disabledColor;
-  return control.isHighlighted() ? shown.withAlpha(shown.alpha * pressedAlpha) : shown;
+  const auto own = _item ? UIBarButtonItemState::of(_item.get()).tint() : std::nullopt;
+  const Color shown = isEnabled() ? own.value_or(tint()) : disabledColor;
+  return isHighlighted() ? shown.withAlpha(shown.alpha * pressedAlpha) : shown;
 }
 
 std::string BarButtonView::name() const {
   if (hasText()) return _label->text().utf8();
-  return std::string(glyphName(UIBarButtonItem::of(_item.get()).systemItem().value_or(-1)));
+  return std::string(glyphName(UIBarButtonItemState::of(_item.get()).systemItem().value_or(-1)));
 }
 
-bridge::NSString BarButtonView::accessibilityLabel() const {
-  return bridge::NSString::make(name());
+NSString BarButtonView::accessibilityLabel() const {
+  return NSString::make(name());
 }
 
 void BarButtonView::layoutSubviews() {
@@ -131,17 +129,17 @@ void BarButtonView::layoutSubviews() {
 
 CGSize BarButtonView::sizeThatFits(CGSize size) const {
   if (hasText()) {
-    const CGSize text = bridge::send<CGSize, "sizeThatFits:">(_label.get(), CGSize{});
+    const CGSize text = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{});
     const bool isBare = _label->text().length() == 0;
     return {isBare && isBack() ? chevronWidth : textStart() + text.width, size.height};
   }
-  const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
+  const UIBarButtonItemState& item = UIBarButtonItemState::of(_item.get());
   if (!item.image()) return {glyphSize, size.height};
-  return {UIImage::of(item.image().get()).size().width, size.height};
+  return {UIImageState::of(item.image().get()).size().width, size.height};
 }
 
-bool BarButtonView::pointInside(CGPoint point, bridge::UIEvent) const {
-  return bridge::contains(inset(self().bounds(), -touchMargin, 0), point);
+bool BarButtonView::pointInside(CGPoint point, UIEvent) const {
+  return contains(inset(self().bounds(), -touchMargin, 0), point);
 }
 
 void BarButtonView::setHighlighted(bool highlighted) {
@@ -149,9 +147,9 @@ void BarButtonView::setHighlighted(bool highlighted) {
   refresh();
 }
 
-void BarButtonView::press(bridge::Object) {
-  const auto kept = bridge::Owned<bridge::UIControl>::retain(self());
-  if (_item) return UIBarButtonItem::of(_item.get()).press(self());
+void BarButtonView::press(Object) {
+  const auto kept = Owned<UIControl>::retain(self());
+  if (_item) return UIBarButtonItemState::of(_item.get()).press(self());
   if (const auto pressed = _pressed) pressed();
 }
 
@@ -160,11 +158,11 @@ void BarButtonView::drawContent(Canvas* canvas) const {
   if (isBack())
     return drawBackChevron({0, (bounds.size.height - chevronHeight) / 2}, color(), *canvas);
   if (hasText()) return;
-  const UIBarButtonItem& item = UIBarButtonItem::of(_item.get());
+  const UIBarButtonItemState& item = UIBarButtonItemState::of(_item.get());
   if (!item.image())
     return drawGlyph(*item.systemItem(), middle(bounds) - CGPoint{glyphSize / 2, glyphSize / 2},
                      color(), *canvas);
-  const UIImage& image = UIImage::of(item.image().get());
+  const UIImageState& image = UIImageState::of(item.image().get());
   const CGSize size = image.size();
   canvas->image(image.bitmap(), {middle(bounds) - CGPoint{size.width / 2, size.height / 2}, size});
 }

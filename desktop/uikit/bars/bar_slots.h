@@ -6,25 +6,26 @@
 #include <vector>
 
 #include "bridge/uikit/ui_bars.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/object_list.h"
 
 namespace desktop::uikit {
 
 // An item and what stands for it on the bar: its own button or its custom view; nil for a space.
 struct BarSlot {
-  bridge::Owned<bridge::UIBarButtonItem> item;
-  bridge::Owned<bridge::UIView> view;
+  Owned<UIBarButtonItem> item;
+  Owned<UIView> view;
 };
 
 class BarSlots {
  public:
   // The container is told "_itemChanged" by the items; it outlives this.
-  explicit BarSlots(bridge::UIView container) : _container(container) {}
+  explicit BarSlots(UIView container) : _container(container) {}
   ~BarSlots();
   BarSlots(const BarSlots&) = delete;
   BarSlots& operator=(const BarSlots&) = delete;
 
-  void show(const ObjectList<bridge::UIBarButtonItem>& items);
+  void show(const ObjectList<UIBarButtonItem>& items);
   const std::vector<BarSlot>& slots() const { return _slots; }
 
   // In points; a flexible space has none.
@@ -34,9 +35,9 @@ class BarSlots {
 
  private:
   void release(const BarSlot& slot);
-  BarSlot makeSlot(bridge::UIBarButtonItem item) const;
+  BarSlot makeSlot(UIBarButtonItem item) const;
 
-  bridge::UIView _container;
+  UIView _container;
   std::vector<BarSlot> _slots;
 };
 

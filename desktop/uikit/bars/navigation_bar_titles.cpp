@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/bar_button_view.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
 #include "desktop/uikit/base/geometry.h"
@@ -28,15 +29,15 @@ constexpr CGFloat largeTitleSize = 34;
 constexpr CGFloat largeTitleHeight = 41;
 constexpr CGFloat largeTitleBottom = 8;
 
-CGFloat fittingWidth(bridge::UIView view, CGFloat height) {
-  return bridge::send<CGSize, "sizeThatFits:">(view, CGSize{0, height}).width;
+CGFloat fittingWidth(UIView view, CGFloat height) {
+  return send<CGSize, "sizeThatFits:">(view, CGSize{0, height}).width;
 }
 
 }  // namespace
 
 Class NavigationBarContentView::classObject() {
   using View = NavigationBarContentView;
-  static const Class made = bridge::ClassBuilder<View>("_UINavigationBarContentView")
+  static const Class made = ClassBuilder<View>("_UINavigationBarContentView")
                                 .method<"initWithFrame:", &View::initWithFrame>()
                                 .method<"title", &View::title>()
                                 .method<"setTitle:", &View::setTitle>()
@@ -48,47 +49,46 @@ Class NavigationBarContentView::classObject() {
 
 NavigationBarContentView::NavigationBarContentView(id self)
     : Bound(self),
-      _label(bridge::makeView<bridge::UILabel>({})),
-      _left(bridge::UIView(self)),
-      _right(bridge::UIView(self)) {}
+      _label(bridge::makeView<UILabel>({})),
+      _left(UIView(self)),
+      _right(UIView(self)) {}
 
-bridge::UIView NavigationBarContentView::initWithFrame(CGRect frame) {
-  const auto object = super<bridge::UIView, "initWithFrame:">(frame);
+UIView NavigationBarContentView::initWithFrame(CGRect frame) {
+  const auto object = super<UIView, "initWithFrame:">(frame);
   _label->setFont(semiboldFont(titleSize));
-  _label->setTextAlignment(bridge::alignCenter);
+  _label->setTextAlignment(alignCenter);
   self().addSubview(_label);
   return object;
 }
 
-void NavigationBarContentView::setTitle(bridge::NSString title) {
+void NavigationBarContentView::setTitle(NSString title) {
   _label->setText(title);
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 void NavigationBarContentView::setTitleLook(Color color, bool isHidden) {
-  _label->setTextColor(UIColor::make(color));
+  _label->setTextColor(UIColorState::make(color));
   _isTitleHidden = isHidden;
-  UIView::of(_label.get()).setHidden(isHidden || _titleView);
+  UIViewState::of(_label.get()).setHidden(isHidden || _titleView);
 }
 
-void NavigationBarContentView::show(bridge::UINavigationItem item) {
-  static const UINavigationItem::Items none;
-  const UINavigationItem* state = item ? &UINavigationItem::of(item.get()) : nullptr;
+void NavigationBarContentView::show(UINavigationItem item) {
+  static const UINavigationItemState::Items none;
+  const UINavigationItemState* state = item ? &UINavigationItemState::of(item.get()) : nullptr;
   _left.show(state ? state->leftItems() : none);
   _right.show(state ? state->rightItems() : none);
-  const bridge::UIView titleView = state ? state->titleView() : bridge::UIView();
+  const UIView titleView = state ? state->titleView() : UIView();
   if (titleView != _titleView.get()) {
     if (_titleView) _titleView->removeFromSuperview();
-    _titleView = bridge::Owned<bridge::UIView>::retain(titleView);
+    _titleView = Owned<UIView>::retain(titleView);
     if (_titleView) self().addSubview(_titleView);
   }
-  UIView::of(_label.get()).setHidden(_isTitleHidden || _titleView);
-  UIView::of(self()).setNeedsLayout();
+  UIViewState::of(_label.get()).setHidden(_isTitleHidden || _titleView);
+  setNeedsLayout();
 }
 
-void NavigationBarContentView::showBack(bridge::NSString title,
-                                        const std::function<void()>& pressed) {
-  _backTitle = bridge::Owned<bridge::NSString>::retain(title);
+void NavigationBarContentView::showBack(NSString title, const std::function<void()>& pressed) {
+  _backTitle = Owned<NSString>::retain(title);
   if (!title == !_backButton) {
     if (_backButton) BarButtonView::of(_backButton.get()).refresh();
   } else if (title) {
@@ -98,11 +98,11 @@ void NavigationBarContentView::showBack(bridge::NSString title,
     _backButton->removeFromSuperview();
     _backButton.reset();
   }
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 void NavigationBarContentView::itemChanged() {
-  bridge::send<void, "_itemChanged">(UIView::of(self()).superview());
+  send<void, "_itemChanged">(superview());
 }
 
 CGFloat NavigationBarContentView::titleWidth() const {
@@ -118,8 +118,7 @@ CGFloat NavigationBarContentView::placeLeft() {
   if (_backButton) {
     BarButtonView& back = BarButtonView::of(_backButton.get());
     const CGFloat room = std::max((size.width - titleWidth()) / 2 - titleGap - backMargin, 0.0);
-    for (const auto title :
-         {_backTitle.get(), bridge::NSString::make("Back"), bridge::NSString::make("")}) {
+    for (const auto title : {_backTitle.get(), NSString::make("Back"), NSString::make("")}) {
       back.setTitle(title);
       if (fittingWidth(_backButton, size.height) <= room) break;
     }
@@ -163,7 +162,7 @@ void NavigationBarContentView::layoutSubviews() {
 
 Class NavigationBarLargeTitleView::classObject() {
   using View = NavigationBarLargeTitleView;
-  static const Class made = bridge::ClassBuilder<View>("_UINavigationBarLargeTitleView")
+  static const Class made = ClassBuilder<View>("_UINavigationBarLargeTitleView")
                                 .method<"initWithFrame:", &View::initWithFrame>()
                                 .method<"title", &View::title>()
                                 .method<"setTitle:", &View::setTitle>()
@@ -173,17 +172,17 @@ Class NavigationBarLargeTitleView::classObject() {
 }
 
 NavigationBarLargeTitleView::NavigationBarLargeTitleView(id self)
-    : Bound(self), _label(bridge::makeView<bridge::UILabel>({})) {}
+    : Bound(self), _label(bridge::makeView<UILabel>({})) {}
 
-bridge::UIView NavigationBarLargeTitleView::initWithFrame(CGRect frame) {
-  const auto object = super<bridge::UIView, "initWithFrame:">(frame);
+UIView NavigationBarLargeTitleView::initWithFrame(CGRect frame) {
+  const auto object = super<UIView, "initWithFrame:">(frame);
   _label->setFont(boldFont(largeTitleSize));
   self().addSubview(_label);
   self().setClipsToBounds(true);
   return object;
 }
 
-void NavigationBarLargeTitleView::setTitle(bridge::NSString title) {
+void NavigationBarLargeTitleView::setTitle(NSString title) {
   _label->setText(title);
 }
 

@@ -6,35 +6,38 @@
 #pragma once
 
 #include <functional>
+#include "desktop/uikit/views/ui_view.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_bars.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/bar_slots.h"
 #include "desktop/uikit/graphics/color.h"
 
 namespace desktop::uikit {
 
-class NavigationBarContentView : public bridge::Bound<NavigationBarContentView, bridge::UIView> {
+class NavigationBarContentView : public Bound<NavigationBarContentView, UIViewState> {
  public:
   explicit NavigationBarContentView(id self);
   static Class classObject();
 
-  bridge::UILabel label() const { return _label; }
+  UILabel label() const { return _label; }
   // What is shown; nil where there is no way back.
-  bridge::UIView backButton() const { return _backButton; }
+  UIView backButton() const { return _backButton; }
   const std::vector<BarSlot>& leftSlots() const { return _left.slots(); }
   const std::vector<BarSlot>& rightSlots() const { return _right.slots(); }
 
   // Shows an item's views and buttons; nil shows nothing. The title comes by setTitle:.
-  void show(bridge::UINavigationItem item);
+  void show(UINavigationItem item);
   // A way back with the first of the titles that fits: none where there is no title at all.
-  void showBack(bridge::NSString title, const std::function<void()>& pressed);
+  void showBack(NSString title, const std::function<void()>& pressed);
   void setTitleLook(Color color, bool isHidden);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
-  bridge::NSString title() const { return _label->text(); }
-  void setTitle(bridge::NSString title);
+  UIView initWithFrame(CGRect frame);
+  NSString title() const { return _label->text(); }
+  void setTitle(NSString title);
   void itemChanged();
   void layoutSubviews();
   CGFloat placeLeft();
@@ -42,30 +45,29 @@ class NavigationBarContentView : public bridge::Bound<NavigationBarContentView, 
   void placeTitle(CGFloat left, CGFloat right);
   CGFloat titleWidth() const;
 
-  bridge::Owned<bridge::UILabel> _label;
-  bridge::Owned<bridge::UIView> _titleView;
-  bridge::Owned<bridge::UIView> _backButton;
-  bridge::Owned<bridge::NSString> _backTitle;
+  Owned<UILabel> _label;
+  Owned<UIView> _titleView;
+  Owned<UIView> _backButton;
+  Owned<NSString> _backTitle;
   BarSlots _left;
   BarSlots _right;
   bool _isTitleHidden = false;
 };
 
-class NavigationBarLargeTitleView
-    : public bridge::Bound<NavigationBarLargeTitleView, bridge::UIView> {
+class NavigationBarLargeTitleView : public Bound<NavigationBarLargeTitleView, UIViewState> {
  public:
   explicit NavigationBarLargeTitleView(id self);
   static Class classObject();
 
-  bridge::UILabel label() const { return _label; }
+  UILabel label() const { return _label; }
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
-  bridge::NSString title() const { return _label->text(); }
-  void setTitle(bridge::NSString title);
+  UIView initWithFrame(CGRect frame);
+  NSString title() const { return _label->text(); }
+  void setTitle(NSString title);
   void layoutSubviews();
 
-  bridge::Owned<bridge::UILabel> _label;
+  Owned<UILabel> _label;
 };
 
 }  // namespace desktop::uikit

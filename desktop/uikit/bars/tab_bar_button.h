@@ -4,33 +4,36 @@
 #pragma once
 
 #include <functional>
+#include "desktop/uikit/controls/ui_control.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_bars.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
 class Canvas;
 
-class TabBarButton : public bridge::Bound<TabBarButton, bridge::UIControl> {
+class TabBarButton : public Bound<TabBarButton, UIControlState> {
  public:
   explicit TabBarButton(id self);
   static Class classObject();
 
-  static bridge::Owned<bridge::UIView> make(bridge::NSObject item, std::function<void()> pressed);
+  static Owned<UIView> make(NSObject item, std::function<void()> pressed);
 
-  bridge::NSObject item() const { return _item; }
+  NSObject item() const { return _item; }
   // Shows what the item says now.
   void refresh(bool isSelected);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
-  void press(bridge::Object sender);
+  void press(Object sender);
   void drawContent(Canvas* canvas) const;
 
-  bridge::Owned<bridge::NSObject> _item;
-  bridge::Owned<bridge::UILabel> _label;
+  Owned<NSObject> _item;
+  Owned<UILabel> _label;
   std::function<void()> _pressed;
   bool _isSelected = false;
 };

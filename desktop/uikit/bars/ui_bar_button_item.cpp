@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -30,41 +31,41 @@ std::string_view systemItemTitle(NSInteger item) {
   return {};
 }
 
-Class UIBarButtonItem::classObject() {
+Class UIBarButtonItemState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIBarButtonItem>("UIBarButtonItem")
-          .method<"initWithTitle:style:target:action:", &UIBarButtonItem::initWithTitle>()
-          .method<"initWithImage:style:target:action:", &UIBarButtonItem::initWithImage>()
+      ClassBuilder<UIBarButtonItemState>("UIBarButtonItem")
+          .method<"initWithTitle:style:target:action:", &UIBarButtonItemState::initWithTitle>()
+          .method<"initWithImage:style:target:action:", &UIBarButtonItemState::initWithImage>()
           .method<"initWithBarButtonSystemItem:target:action:",
-                  &UIBarButtonItem::initWithSystemItem>()
-          .method<"initWithCustomView:", &UIBarButtonItem::initWithCustomView>()
-          .method<"title", &UIBarButtonItem::title>()
-          .method<"setTitle:", &UIBarButtonItem::setTitle>()
-          .method<"image", &UIBarButtonItem::image>()
-          .method<"setImage:", &UIBarButtonItem::setImage>()
-          .method<"customView", &UIBarButtonItem::customView>()
-          .method<"setCustomView:", &UIBarButtonItem::setCustomView>()
-          .method<"style", &UIBarButtonItem::style>()
-          .method<"setStyle:", &UIBarButtonItem::setStyle>()
-          .method<"width", &UIBarButtonItem::width>()
-          .method<"setWidth:", &UIBarButtonItem::setWidth>()
-          .method<"tag", &UIBarButtonItem::tag>()
-          .method<"setTag:", &UIBarButtonItem::setTag>()
-          .method<"isEnabled", &UIBarButtonItem::isEnabled>()
-          .method<"setEnabled:", &UIBarButtonItem::setEnabled>()
-          .method<"target", &UIBarButtonItem::target>()
-          .method<"setTarget:", &UIBarButtonItem::setTarget>()
-          .method<"action", &UIBarButtonItem::action>()
-          .method<"setAction:", &UIBarButtonItem::setAction>()
-          .method<"tintColor", &UIBarButtonItem::tintColor>()
-          .method<"setTintColor:", &UIBarButtonItem::setTintColor>()
+                  &UIBarButtonItemState::initWithSystemItem>()
+          .method<"initWithCustomView:", &UIBarButtonItemState::initWithCustomView>()
+          .method<"title", &UIBarButtonItemState::title>()
+          .method<"setTitle:", &UIBarButtonItemState::setTitle>()
+          .method<"image", &UIBarButtonItemState::image>()
+          .method<"setImage:", &UIBarButtonItemState::setImage>()
+          .method<"customView", &UIBarButtonItemState::customView>()
+          .method<"setCustomView:", &UIBarButtonItemState::setCustomView>()
+          .method<"style", &UIBarButtonItemState::style>()
+          .method<"setStyle:", &UIBarButtonItemState::setStyle>()
+          .method<"width", &UIBarButtonItemState::width>()
+          .method<"setWidth:", &UIBarButtonItemState::setWidth>()
+          .method<"tag", &UIBarButtonItemState::tag>()
+          .method<"setTag:", &UIBarButtonItemState::setTag>()
+          .method<"isEnabled", &UIBarButtonItemState::isEnabled>()
+          .method<"setEnabled:", &UIBarButtonItemState::setEnabled>()
+          .method<"target", &UIBarButtonItemState::target>()
+          .method<"setTarget:", &UIBarButtonItemState::setTarget>()
+          .method<"action", &UIBarButtonItemState::action>()
+          .method<"setAction:", &UIBarButtonItemState::setAction>()
+          .method<"tintColor", &UIBarButtonItemState::tintColor>()
+          .method<"setTintColor:", &UIBarButtonItemState::setTintColor>()
           .build();
   return made;
 }
 
-bridge::NSObject UIBarButtonItem::initWithTitle(bridge::NSString title, NSInteger style,
-                                                bridge::NSObject target, SEL action) {
-  const auto object = super<bridge::NSObject, "init">();
+NSObject UIBarButtonItemState::initWithTitle(NSString title, NSInteger style, NSObject target,
+                                             SEL action) {
+  const auto object = super<NSObject, "init">();
   setTitle(title);
   _style = style;
   _target = target;
@@ -72,89 +73,87 @@ bridge::NSObject UIBarButtonItem::initWithTitle(bridge::NSString title, NSIntege
   return object;
 }
 
-bridge::NSObject UIBarButtonItem::initWithImage(bridge::UIImage image, NSInteger style,
-                                                bridge::NSObject target, SEL action) {
+NSObject UIBarButtonItemState::initWithImage(UIImage image, NSInteger style, NSObject target,
+                                             SEL action) {
   const auto object = initWithTitle({}, style, target, action);
   setImage(image);
   return object;
 }
 
-bridge::NSObject UIBarButtonItem::initWithSystemItem(NSInteger item, bridge::NSObject target,
-                                                     SEL action) {
+NSObject UIBarButtonItemState::initWithSystemItem(NSInteger item, NSObject target, SEL action) {
   constexpr NSInteger doneItem = 0;
   constexpr NSInteger saveItem = 3;
   const std::string_view title = systemItemTitle(item);
   const bool isBold = item == doneItem || item == saveItem;
-  const auto object =
-      initWithTitle(title.empty() ? bridge::NSString() : bridge::NSString::make(title),
-                    isBold ? done : plain, target, action);
+  const auto object = initWithTitle(title.empty() ? NSString() : NSString::make(title),
+                                    isBold ? done : plain, target, action);
   _systemItem = item;
   return object;
 }
 
-bridge::NSObject UIBarButtonItem::initWithCustomView(bridge::UIView view) {
-  const auto object = super<bridge::NSObject, "init">();
+NSObject UIBarButtonItemState::initWithCustomView(UIView view) {
+  const auto object = super<NSObject, "init">();
   setCustomView(view);
   return object;
 }
 
-void UIBarButtonItem::setTitle(bridge::NSString title) {
+void UIBarButtonItemState::setTitle(NSString title) {
   if (title == _title.get() || (title && _title && title.isEqualToString(_title))) return;
-  _title = bridge::Owned<bridge::NSString>::adopt(bridge::send<bridge::NSString, "copy">(title));
+  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
   changed();
 }
 
-void UIBarButtonItem::setImage(bridge::UIImage image) {
-  _image = bridge::Owned<bridge::UIImage>::retain(image);
+void UIBarButtonItemState::setImage(UIImage image) {
+  _image = Owned<UIImage>::retain(image);
   changed();
 }
 
-void UIBarButtonItem::setCustomView(bridge::UIView view) {
-  _customView = bridge::Owned<bridge::UIView>::retain(view);
+void UIBarButtonItemState::setCustomView(UIView view) {
+  _customView = Owned<UIView>::retain(view);
   changed();
 }
 
-void UIBarButtonItem::setStyle(NSInteger style) {
+void UIBarButtonItemState::setStyle(NSInteger style) {
   _style = style;
   changed();
 }
 
-void UIBarButtonItem::setWidth(CGFloat width) {
+void UIBarButtonItemState::setWidth(CGFloat width) {
   _width = std::isfinite(width) ? width : 0;
   changed();
 }
 
-void UIBarButtonItem::setEnabled(bool enabled) {
+void UIBarButtonItemState::setEnabled(bool enabled) {
   if (enabled == _isEnabled) return;
   _isEnabled = enabled;
   changed();
 }
 
-void UIBarButtonItem::setTintColor(bridge::UIColor color) {
-  _tintColor = bridge::Owned<bridge::UIColor>::retain(color);
+void UIBarButtonItemState::setTintColor(UIColor color) {
+  _tintColor = Owned<UIColor>::retain(color);
   changed();
 }
 
-std::optional<Color> UIBarButtonItem::tint() const {
+std::optional<Color> UIBarButtonItemState::tint() const {
   if (!_tintColor) return std::nullopt;
-  return UIColor::valueOf(_tintColor);
+  return UIColorState::valueOf(_tintColor);
 }
 
-void UIBarButtonItem::changed() const {
-  bridge::send<void, "_itemChanged">(_shownBy);
+void UIBarButtonItemState::changed() const {
+  send<void, "_itemChanged">(_shownBy);
 }
 
 // Neither item nor target may go while the action runs.
-void UIBarButtonItem::press(bridge::UIResponder from) {
+void UIBarButtonItemState::press(UIResponder from) {
   if (!_action || !_isEnabled) return;
-  const auto kept = bridge::Owned<bridge::NSObject>::retain(self());
-  bridge::Owned<bridge::NSObject> taker = bridge::Owned<bridge::NSObject>::retain(_target);
+  const auto kept = Owned<NSObject>::retain(self());
+  Owned<NSObject> taker = Owned<NSObject>::retain(_target);
   if (!taker) {
-    while (from && !bridge::send<bool, "respondsToSelector:">(from, _action))
-      from = bridge::send<bridge::UIResponder, "nextResponder">(from);
-    taker = bridge::Owned<bridge::NSObject>::retain(from);
+    while (from && !send<bool, "respondsToSelector:">(from, _action))
+      from = send<UIResponder, "nextResponder">(from);
+    taker = Owned<NSObject>::retain(from);
   }
-  if (taker) bridge::dispatch<void>(taker.get().get(), _action, self().get());
+  if (taker) dispatch<void>(taker.get().get(), _action, self().get());
 }
 
 }  // namespace desktop::uikit

@@ -7,12 +7,14 @@
 #include <string_view>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_bars.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
 
 namespace desktop::uikit {
 
-class UIBarButtonItem : public bridge::Bound<UIBarButtonItem, bridge::NSObject> {
+class UIBarButtonItemState : public Bound<UIBarButtonItemState, NSObject, UIBarButtonItem> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -22,12 +24,12 @@ class UIBarButtonItem : public bridge::Bound<UIBarButtonItem, bridge::NSObject> 
   enum Space : NSInteger { flexibleSpace = 5, fixedSpace = 6 };
 
   // Its own title, or that of its system item, or nil.
-  bridge::NSString title() const { return _title; }
+  NSString title() const { return _title; }
   std::optional<NSInteger> systemItem() const { return _systemItem; }
-  bridge::UIView customView() const { return _customView; }
-  bridge::UIImage image() const { return _image; }
+  UIView customView() const { return _customView; }
+  UIImage image() const { return _image; }
   NSInteger style() const { return _style; }
-  bridge::NSObject target() const { return _target; }  // borrowed; nil is the responder chain
+  NSObject target() const { return _target; }  // borrowed; nil is the responder chain
   SEL action() const { return _action; }
   CGFloat width() const { return _width; }  // points; 0 is as wide as the content
   NSInteger tag() const { return _tag; }
@@ -37,42 +39,40 @@ class UIBarButtonItem : public bridge::Bound<UIBarButtonItem, bridge::NSObject> 
   bool isSpace() const { return _systemItem == flexibleSpace || _systemItem == fixedSpace; }
 
   // The view that shows the item at present, or nil; set by that view. Borrowed.
-  void setShownBy(bridge::UIView view) { _shownBy = view; }
-  bridge::UIView shownBy() const { return _shownBy; }
+  void setShownBy(UIView view) { _shownBy = view; }
+  UIView shownBy() const { return _shownBy; }
   // Does what a press on the item does: the action goes to the target, or from the responder on
   // to whoever answers it first.
-  void press(bridge::UIResponder from);
+  void press(UIResponder from);
 
  private:
-  bridge::NSObject initWithTitle(bridge::NSString title, NSInteger style, bridge::NSObject target,
-                                 SEL action);
-  bridge::NSObject initWithImage(bridge::UIImage image, NSInteger style, bridge::NSObject target,
-                                 SEL action);
-  bridge::NSObject initWithSystemItem(NSInteger item, bridge::NSObject target, SEL action);
-  bridge::NSObject initWithCustomView(bridge::UIView view);
-  void setTitle(bridge::NSString title);
-  void setImage(bridge::UIImage image);
-  void setCustomView(bridge::UIView view);
+  NSObject initWithTitle(NSString title, NSInteger style, NSObject target, SEL action);
+  NSObject initWithImage(UIImage image, NSInteger style, NSObject target, SEL action);
+  NSObject initWithSystemItem(NSInteger item, NSObject target, SEL action);
+  NSObject initWithCustomView(UIView view);
+  void setTitle(NSString title);
+  void setImage(UIImage image);
+  void setCustomView(UIView view);
   void setStyle(NSInteger style);
   void setWidth(CGFloat width);
   void setTag(NSInteger tag) { _tag = tag; }
   void setEnabled(bool enabled);
-  void setTarget(bridge::NSObject target) { _target = target; }
+  void setTarget(NSObject target) { _target = target; }
   void setAction(SEL action) { _action = action; }
-  bridge::UIColor tintColor() const { return _tintColor; }
-  void setTintColor(bridge::UIColor color);
+  UIColor tintColor() const { return _tintColor; }
+  void setTintColor(UIColor color);
 
   // Has the bar show what is so now.
   void changed() const;
 
-  bridge::Owned<bridge::NSString> _title;
-  bridge::Owned<bridge::UIImage> _image;
-  bridge::Owned<bridge::UIView> _customView;
-  bridge::Owned<bridge::UIColor> _tintColor;
+  Owned<NSString> _title;
+  Owned<UIImage> _image;
+  Owned<UIView> _customView;
+  Owned<UIColor> _tintColor;
   std::optional<NSInteger> _systemItem;
-  bridge::NSObject _target;
+  NSObject _target;
   SEL _action = nullptr;
-  bridge::UIView _shownBy;
+  UIView _shownBy;
   NSInteger _style = plain;
   CGFloat _width = 0;
   NSInteger _tag = 0;

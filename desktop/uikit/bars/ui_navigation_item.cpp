@@ -2,106 +2,109 @@
 #include "desktop/uikit/bars/ui_navigation_item.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-Class UINavigationItem::classObject() {
+Class UINavigationItemState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UINavigationItem>("UINavigationItem")
-          .method<"initWithTitle:", &UINavigationItem::initWithTitle>()
-          .method<"title", &UINavigationItem::title>()
-          .method<"setTitle:", &UINavigationItem::setTitle>()
-          .method<"titleView", &UINavigationItem::titleView>()
-          .method<"setTitleView:", &UINavigationItem::setTitleView>()
-          .method<"leftBarButtonItem", &UINavigationItem::leftItem>()
-          .method<"setLeftBarButtonItem:", &UINavigationItem::setLeftItem>()
-          .method<"setLeftBarButtonItem:animated:", &UINavigationItem::setLeftItemAnimated>()
-          .method<"leftBarButtonItems", &UINavigationItem::leftArray>()
-          .method<"setLeftBarButtonItems:", &UINavigationItem::setLeftArray>()
-          .method<"setLeftBarButtonItems:animated:", &UINavigationItem::setLeftArrayAnimated>()
-          .method<"rightBarButtonItem", &UINavigationItem::rightItem>()
-          .method<"setRightBarButtonItem:", &UINavigationItem::setRightItem>()
-          .method<"setRightBarButtonItem:animated:", &UINavigationItem::setRightItemAnimated>()
-          .method<"rightBarButtonItems", &UINavigationItem::rightArray>()
-          .method<"setRightBarButtonItems:", &UINavigationItem::setRightArray>()
-          .method<"setRightBarButtonItems:animated:", &UINavigationItem::setRightArrayAnimated>()
-          .method<"backBarButtonItem", &UINavigationItem::backItem>()
-          .method<"setBackBarButtonItem:", &UINavigationItem::setBackItem>()
-          .method<"hidesBackButton", &UINavigationItem::hidesBackButton>()
-          .method<"setHidesBackButton:", &UINavigationItem::setHidesBackButton>()
-          .method<"setHidesBackButton:animated:", &UINavigationItem::setHidesBackButtonAnimated>()
-          .method<"leftItemsSupplementBackButton", &UINavigationItem::keepsBackButton>()
-          .method<"setLeftItemsSupplementBackButton:", &UINavigationItem::setKeepsBackButton>()
-          .method<"largeTitleDisplayMode", &UINavigationItem::largeTitleDisplayMode>()
-          .method<"setLargeTitleDisplayMode:", &UINavigationItem::setLargeTitleDisplayMode>()
+      ClassBuilder<UINavigationItemState>("UINavigationItem")
+          .method<"initWithTitle:", &UINavigationItemState::initWithTitle>()
+          .method<"title", &UINavigationItemState::title>()
+          .method<"setTitle:", &UINavigationItemState::setTitle>()
+          .method<"titleView", &UINavigationItemState::titleView>()
+          .method<"setTitleView:", &UINavigationItemState::setTitleView>()
+          .method<"leftBarButtonItem", &UINavigationItemState::leftItem>()
+          .method<"setLeftBarButtonItem:", &UINavigationItemState::setLeftItem>()
+          .method<"setLeftBarButtonItem:animated:", &UINavigationItemState::setLeftItemAnimated>()
+          .method<"leftBarButtonItems", &UINavigationItemState::leftArray>()
+          .method<"setLeftBarButtonItems:", &UINavigationItemState::setLeftArray>()
+          .method<"setLeftBarButtonItems:animated:", &UINavigationItemState::setLeftArrayAnimated>()
+          .method<"rightBarButtonItem", &UINavigationItemState::rightItem>()
+          .method<"setRightBarButtonItem:", &UINavigationItemState::setRightItem>()
+          .method<"setRightBarButtonItem:animated:", &UINavigationItemState::setRightItemAnimated>()
+          .method<"rightBarButtonItems", &UINavigationItemState::rightArray>()
+          .method<"setRightBarButtonItems:", &UINavigationItemState::setRightArray>()
+          .method<"setRightBarButtonItems:animated:",
+                  &UINavigationItemState::setRightArrayAnimated>()
+          .method<"backBarButtonItem", &UINavigationItemState::backItem>()
+          .method<"setBackBarButtonItem:", &UINavigationItemState::setBackItem>()
+          .method<"hidesBackButton", &UINavigationItemState::hidesBackButton>()
+          .method<"setHidesBackButton:", &UINavigationItemState::setHidesBackButton>()
+          .method<"setHidesBackButton:animated:",
+                  &UINavigationItemState::setHidesBackButtonAnimated>()
+          .method<"leftItemsSupplementBackButton", &UINavigationItemState::keepsBackButton>()
+          .method<"setLeftItemsSupplementBackButton:", &UINavigationItemState::setKeepsBackButton>()
+          .method<"largeTitleDisplayMode", &UINavigationItemState::largeTitleDisplayMode>()
+          .method<"setLargeTitleDisplayMode:", &UINavigationItemState::setLargeTitleDisplayMode>()
           .build();
   return made;
 }
 
-bridge::NSObject UINavigationItem::initWithTitle(bridge::NSString title) {
-  const auto object = super<bridge::NSObject, "init">();
+NSObject UINavigationItemState::initWithTitle(NSString title) {
+  const auto object = super<NSObject, "init">();
   setTitle(title);
   return object;
 }
 
-void UINavigationItem::setTitle(bridge::NSString title) {
-  _title = bridge::Owned<bridge::NSString>::adopt(bridge::send<bridge::NSString, "copy">(title));
+void UINavigationItemState::setTitle(NSString title) {
+  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
   changed();
 }
 
-void UINavigationItem::setTitleView(bridge::UIView view) {
-  _titleView = bridge::Owned<bridge::UIView>::retain(view);
+void UINavigationItemState::setTitleView(UIView view) {
+  _titleView = Owned<UIView>::retain(view);
   changed();
 }
 
-void UINavigationItem::setLeftArray(bridge::NSArray items) {
-  _leftItems = listOf<bridge::UIBarButtonItem>(items);
+void UINavigationItemState::setLeftArray(NSArray items) {
+  _leftItems = listOf<UIBarButtonItem>(items);
   changed();
 }
 
-void UINavigationItem::setRightArray(bridge::NSArray items) {
-  _rightItems = listOf<bridge::UIBarButtonItem>(items);
+void UINavigationItemState::setRightArray(NSArray items) {
+  _rightItems = listOf<UIBarButtonItem>(items);
   changed();
 }
 
-bridge::UIBarButtonItem UINavigationItem::leftItem() const {
-  return _leftItems.empty() ? bridge::UIBarButtonItem() : _leftItems.front().get();
+UIBarButtonItem UINavigationItemState::leftItem() const {
+  return _leftItems.empty() ? UIBarButtonItem() : _leftItems.front().get();
 }
 
-bridge::UIBarButtonItem UINavigationItem::rightItem() const {
-  return _rightItems.empty() ? bridge::UIBarButtonItem() : _rightItems.front().get();
+UIBarButtonItem UINavigationItemState::rightItem() const {
+  return _rightItems.empty() ? UIBarButtonItem() : _rightItems.front().get();
 }
 
-void UINavigationItem::setLeftItem(bridge::UIBarButtonItem item) {
-  setLeftArray(item ? bridge::NSArray::of(item) : bridge::NSArray());
+void UINavigationItemState::setLeftItem(UIBarButtonItem item) {
+  setLeftArray(item ? NSArray::of(item) : NSArray());
 }
 
-void UINavigationItem::setRightItem(bridge::UIBarButtonItem item) {
-  setRightArray(item ? bridge::NSArray::of(item) : bridge::NSArray());
+void UINavigationItemState::setRightItem(UIBarButtonItem item) {
+  setRightArray(item ? NSArray::of(item) : NSArray());
 }
 
-void UINavigationItem::setBackItem(bridge::UIBarButtonItem item) {
-  _backItem = bridge::Owned<bridge::UIBarButtonItem>::retain(item);
+void UINavigationItemState::setBackItem(UIBarButtonItem item) {
+  _backItem = Owned<UIBarButtonItem>::retain(item);
   changed();
 }
 
-void UINavigationItem::setHidesBackButton(bool hides) {
+void UINavigationItemState::setHidesBackButton(bool hides) {
   _hidesBackButton = hides;
   changed();
 }
 
-void UINavigationItem::setKeepsBackButton(bool keeps) {
+void UINavigationItemState::setKeepsBackButton(bool keeps) {
   _keepsBackButton = keeps;
   changed();
 }
 
-void UINavigationItem::setLargeTitleDisplayMode(NSInteger mode) {
+void UINavigationItemState::setLargeTitleDisplayMode(NSInteger mode) {
   _largeTitle = mode;
   changed();
 }
 
-void UINavigationItem::changed() const {
-  bridge::send<void, "_itemChanged">(_bar);
+void UINavigationItemState::changed() const {
+  send<void, "_itemChanged">(_bar);
 }
 
 }  // namespace desktop::uikit

@@ -4,48 +4,50 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_bars.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/object_list.h"
 
 namespace desktop::uikit {
 
-class UINavigationItem : public bridge::Bound<UINavigationItem, bridge::NSObject> {
+class UINavigationItemState : public Bound<UINavigationItemState, NSObject, UINavigationItem> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   enum LargeTitle : NSInteger { automatic = 0, always = 1, never = 2 };
-  using Items = ObjectList<bridge::UIBarButtonItem>;
+  using Items = ObjectList<UIBarButtonItem>;
 
-  bridge::NSString title() const { return _title; }
-  void setTitle(bridge::NSString title);
-  bridge::UIView titleView() const { return _titleView; }
+  NSString title() const { return _title; }
+  void setTitle(NSString title);
+  UIView titleView() const { return _titleView; }
   const Items& leftItems() const { return _leftItems; }
   const Items& rightItems() const { return _rightItems; }  // the first is the right-most
-  bridge::UIBarButtonItem backItem() const { return _backItem; }
+  UIBarButtonItem backItem() const { return _backItem; }
   bool hidesBackButton() const { return _hidesBackButton; }
   bool keepsBackButton() const { return _keepsBackButton; }  // beside left items
   NSInteger largeTitleDisplayMode() const { return _largeTitle; }
 
   // The bar that has the item on its stack, or nil; set by that bar. Borrowed.
-  void setBar(bridge::UIView bar) { _bar = bar; }
+  void setBar(UIView bar) { _bar = bar; }
 
  private:
-  bridge::NSObject initWithTitle(bridge::NSString title);
-  void setTitleView(bridge::UIView view);
-  bridge::NSArray leftArray() const { return arrayOrNil(_leftItems); }
-  bridge::NSArray rightArray() const { return arrayOrNil(_rightItems); }
-  void setLeftArray(bridge::NSArray items);
-  void setRightArray(bridge::NSArray items);
-  void setLeftArrayAnimated(bridge::NSArray items, bool) { setLeftArray(items); }
-  void setRightArrayAnimated(bridge::NSArray items, bool) { setRightArray(items); }
-  bridge::UIBarButtonItem leftItem() const;
-  bridge::UIBarButtonItem rightItem() const;
-  void setLeftItem(bridge::UIBarButtonItem item);
-  void setRightItem(bridge::UIBarButtonItem item);
-  void setLeftItemAnimated(bridge::UIBarButtonItem item, bool) { setLeftItem(item); }
-  void setRightItemAnimated(bridge::UIBarButtonItem item, bool) { setRightItem(item); }
-  void setBackItem(bridge::UIBarButtonItem item);
+  NSObject initWithTitle(NSString title);
+  void setTitleView(UIView view);
+  NSArray leftArray() const { return arrayOrNil(_leftItems); }
+  NSArray rightArray() const { return arrayOrNil(_rightItems); }
+  void setLeftArray(NSArray items);
+  void setRightArray(NSArray items);
+  void setLeftArrayAnimated(NSArray items, bool) { setLeftArray(items); }
+  void setRightArrayAnimated(NSArray items, bool) { setRightArray(items); }
+  UIBarButtonItem leftItem() const;
+  UIBarButtonItem rightItem() const;
+  void setLeftItem(UIBarButtonItem item);
+  void setRightItem(UIBarButtonItem item);
+  void setLeftItemAnimated(UIBarButtonItem item, bool) { setLeftItem(item); }
+  void setRightItemAnimated(UIBarButtonItem item, bool) { setRightItem(item); }
+  void setBackItem(UIBarButtonItem item);
   void setHidesBackButton(bool hides);
   void setHidesBackButtonAnimated(bool hides, bool) { setHidesBackButton(hides); }
   void setKeepsBackButton(bool keeps);
@@ -54,12 +56,12 @@ class UINavigationItem : public bridge::Bound<UINavigationItem, bridge::NSObject
   // Has the bar show what is so now.
   void changed() const;
 
-  bridge::Owned<bridge::NSString> _title;
-  bridge::Owned<bridge::UIView> _titleView;
+  Owned<NSString> _title;
+  Owned<UIView> _titleView;
   Items _leftItems;
   Items _rightItems;
-  bridge::Owned<bridge::UIBarButtonItem> _backItem;
-  bridge::UIView _bar;
+  Owned<UIBarButtonItem> _backItem;
+  UIView _bar;
   NSInteger _largeTitle = automatic;
   bool _hidesBackButton = false;
   bool _keepsBackButton = false;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/bar_background.h"
 #include "desktop/uikit/bars/tab_bar_button.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
@@ -13,7 +14,7 @@
 namespace desktop::uikit {
 
 Class UITabBar::classObject() {
-  static const Class made = bridge::ClassBuilder<UITabBar>("UITabBar")
+  static const Class made = ClassBuilder<UITabBar>("UITabBar")
                                 .method<"initWithFrame:", &UITabBar::initWithFrame>()
                                 .method<"items", &UITabBar::itemsArray>()
                                 .method<"setItems:", &UITabBar::setItemsArray>()
@@ -33,22 +34,21 @@ UITabBar::~UITabBar() {
   for (const auto& item : _items) UITabBarItem::of(item.get()).setBar({});
 }
 
-bridge::UIView UITabBar::initWithFrame(CGRect frame) {
-  const auto object = super<bridge::UIView, "initWithFrame:">(frame);
+UIView UITabBar::initWithFrame(CGRect frame) {
+  const auto object = super<UIView, "initWithFrame:">(frame);
   _background = BarBackground::make(BarBackground::Hairline::top);
   self().addSubview(_background);
   setBarStyle(_style);
   return object;
 }
 
-void UITabBar::setItems(ObjectList<bridge::NSObject> items) {
-  std::erase_if(items, [](const auto& item) {
-    return !bridge::isKindOf(item.get(), UITabBarItem::classObject());
-  });
+void UITabBar::setItems(ObjectList<NSObject> items) {
+  std::erase_if(
+      items, [](const auto& item) { return !isKindOf(item.get(), UITabBarItem::classObject()); });
   for (const auto& item : _items) UITabBarItem::of(item.get()).setBar({});
   for (const auto& button : std::exchange(_buttons, {})) button->removeFromSuperview();
   _items = std::move(items);
-  _selected = _items.empty() ? bridge::NSObject() : _items.front().get();
+  _selected = _items.empty() ? NSObject() : _items.front().get();
   for (NSUInteger index = 0; index < _items.size(); ++index) {
     UITabBarItem::of(_items[index].get()).setBar(self());
     _buttons.push_back(TabBarButton::make(_items[index], [this, index] {
@@ -59,7 +59,7 @@ void UITabBar::setItems(ObjectList<bridge::NSObject> items) {
   itemsChanged();
 }
 
-void UITabBar::setSelectedItem(bridge::NSObject item) {
+void UITabBar::setSelectedItem(NSObject item) {
   _selected = item;
   itemsChanged();
 }
@@ -69,7 +69,7 @@ void UITabBar::setBarStyle(NSInteger style) {
   BarBackground::of(_background.get()).setLook(barColor(style, true), barHairline(style));
 }
 
-void UITabBar::setTintColor(bridge::UIColor color) {
+void UITabBar::setTintColor(UIColor color) {
   super<void, "setTintColor:">(color);
   itemsChanged();
 }
@@ -79,7 +79,7 @@ void UITabBar::itemsChanged() {
     TabBarButton& state = TabBarButton::of(button.get());
     state.refresh(state.item() == _selected);
   }
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 void UITabBar::layoutSubviews() {

@@ -4,14 +4,17 @@
 #pragma once
 
 #include <functional>
+#include "desktop/uikit/views/ui_view.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_bars.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/object_list.h"
 
 namespace desktop::uikit {
 
-class UITabBar : public bridge::Bound<UITabBar, bridge::UIView> {
+class UITabBar : public Bound<UITabBar, UIViewState> {
  public:
   using Bound::Bound;
   ~UITabBar();
@@ -19,28 +22,28 @@ class UITabBar : public bridge::Bound<UITabBar, bridge::UIView> {
 
   static constexpr CGFloat height = 49;  // points
 
-  const ObjectList<bridge::NSObject>& items() const { return _items; }
-  void setItems(ObjectList<bridge::NSObject> items);
-  bridge::NSObject selectedItem() const { return _selected; }
-  void setSelectedItem(bridge::NSObject item);
+  const ObjectList<NSObject>& items() const { return _items; }
+  void setItems(ObjectList<NSObject> items);
+  NSObject selectedItem() const { return _selected; }
+  void setSelectedItem(NSObject item);
   // Called with the place of an item that was pressed.
   void setPressed(std::function<void(NSUInteger)> pressed) { _pressed = std::move(pressed); }
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
-  bridge::NSArray itemsArray() const { return arrayOrNil(_items); }
-  void setItemsArray(bridge::NSArray items) { setItems(listOf<bridge::NSObject>(items)); }
+  UIView initWithFrame(CGRect frame);
+  NSArray itemsArray() const { return arrayOrNil(_items); }
+  void setItemsArray(NSArray items) { setItems(listOf<NSObject>(items)); }
   NSInteger barStyle() const { return _style; }
   void setBarStyle(NSInteger style);
-  void setTintColor(bridge::UIColor color);
+  void setTintColor(UIColor color);
   void itemsChanged();
   CGSize sizeThatFits(CGSize size) const { return {size.width, height}; }
   void layoutSubviews();
 
-  ObjectList<bridge::NSObject> _items;
-  ObjectList<bridge::UIView> _buttons;
-  bridge::NSObject _selected;  // one of the items, or nil
-  bridge::Owned<bridge::UIView> _background;
+  ObjectList<NSObject> _items;
+  ObjectList<UIView> _buttons;
+  NSObject _selected;  // one of the items, or nil
+  Owned<UIView> _background;
   std::function<void(NSUInteger)> _pressed;
   NSInteger _style = 0;
 };

@@ -2,15 +2,12 @@
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-using bridge::NSObject;
-using bridge::NSString;
-using bridge::Owned;
-
 Class UITabBarItem::classObject() {
-  static const Class made = bridge::ClassBuilder<UITabBarItem>("UITabBarItem")
+  static const Class made = ClassBuilder<UITabBarItem>("UITabBarItem")
                                 .method<"initWithTitle:image:tag:", &UITabBarItem::initWithTitle>()
                                 .method<"title", &UITabBarItem::title>()
                                 .method<"setTitle:", &UITabBarItem::setTitle>()
@@ -25,14 +22,14 @@ Class UITabBarItem::classObject() {
   return made;
 }
 
-Owned<NSObject> UITabBarItem::make(NSString title, bridge::UIImage image, NSInteger picture) {
-  auto made = Owned<NSObject>::adopt(bridge::send<NSObject, "initWithTitle:image:tag:">(
-      bridge::send<id, "alloc">(classObject()), title, image, NSInteger{0}));
+Owned<NSObject> UITabBarItem::make(NSString title, UIImage image, NSInteger picture) {
+  auto made = Owned<NSObject>::adopt(send<NSObject, "initWithTitle:image:tag:">(
+      send<id, "alloc">(classObject()), title, image, NSInteger{0}));
   of(made.get()).setPicture(picture);
   return made;
 }
 
-NSObject UITabBarItem::initWithTitle(NSString title, bridge::UIImage image, NSInteger tag) {
+NSObject UITabBarItem::initWithTitle(NSString title, UIImage image, NSInteger tag) {
   const auto object = super<NSObject, "init">();
   setTitle(title);
   setImage(image);
@@ -41,12 +38,12 @@ NSObject UITabBarItem::initWithTitle(NSString title, bridge::UIImage image, NSIn
 }
 
 void UITabBarItem::setTitle(NSString title) {
-  _title = Owned<NSString>::adopt(bridge::send<NSString, "copy">(title));
+  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
   changed();
 }
 
-void UITabBarItem::setImage(bridge::UIImage image) {
-  _image = Owned<bridge::UIImage>::retain(image);
+void UITabBarItem::setImage(UIImage image) {
+  _image = Owned<UIImage>::retain(image);
   changed();
 }
 
@@ -56,12 +53,12 @@ void UITabBarItem::setPicture(NSInteger picture) {
 }
 
 void UITabBarItem::setBadgeValue(NSString badge) {
-  _badge = Owned<NSString>::adopt(bridge::send<NSString, "copy">(badge));
+  _badge = Owned<NSString>::adopt(send<NSString, "copy">(badge));
   changed();
 }
 
 void UITabBarItem::changed() const {
-  bridge::send<void, "_itemsChanged">(_bar);
+  send<void, "_itemsChanged">(_bar);
 }
 
 }  // namespace desktop::uikit

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/bar_background.h"
 #include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/base/geometry.h"
@@ -17,61 +18,62 @@ constexpr CGFloat itemGap = 8;  // points, between two items
 
 }  // namespace
 
-Class UIToolbar::classObject() {
-  static const Class made = bridge::ClassBuilder<UIToolbar>("UIToolbar")
-                                .method<"initWithFrame:", &UIToolbar::initWithFrame>()
-                                .method<"items", &UIToolbar::itemsArray>()
-                                .method<"setItems:", &UIToolbar::setItemsArray>()
-                                .method<"setItems:animated:", &UIToolbar::setItemsArrayAnimated>()
-                                .method<"barStyle", &UIToolbar::barStyle>()
-                                .method<"setBarStyle:", &UIToolbar::setBarStyle>()
-                                .method<"setTintColor:", &UIToolbar::setTintColor>()
-                                .method<"_itemChanged", &UIToolbar::itemChanged>()
-                                .method<"sizeThatFits:", &UIToolbar::sizeThatFits>()
-                                .method<"layoutSubviews", &UIToolbar::layoutSubviews>()
-                                .build();
+Class UIToolbarState::classObject() {
+  static const Class made =
+      ClassBuilder<UIToolbarState>("UIToolbar")
+          .method<"initWithFrame:", &UIToolbarState::initWithFrame>()
+          .method<"items", &UIToolbarState::itemsArray>()
+          .method<"setItems:", &UIToolbarState::setItemsArray>()
+          .method<"setItems:animated:", &UIToolbarState::setItemsArrayAnimated>()
+          .method<"barStyle", &UIToolbarState::barStyle>()
+          .method<"setBarStyle:", &UIToolbarState::setBarStyle>()
+          .method<"setTintColor:", &UIToolbarState::setTintColor>()
+          .method<"_itemChanged", &UIToolbarState::itemChanged>()
+          .method<"sizeThatFits:", &UIToolbarState::sizeThatFits>()
+          .method<"layoutSubviews", &UIToolbarState::layoutSubviews>()
+          .build();
   return made;
 }
 
-UIToolbar::UIToolbar(id self) : Bound(self), _slots(bridge::UIView(self)) {}
+UIToolbarState::UIToolbarState(id self) : Bound(self), _slots(UIView(self)) {}
 
-bridge::UIView UIToolbar::initWithFrame(CGRect frame) {
-  const auto object = super<bridge::UIView, "initWithFrame:">(frame);
+UIView UIToolbarState::initWithFrame(CGRect frame) {
+  const auto object = super<UIView, "initWithFrame:">(frame);
   _background = BarBackground::make(BarBackground::Hairline::top);
   self().addSubview(_background);
   BarBackground::of(_background.get()).setLook(barColor(_style, true), barHairline(_style));
   return object;
 }
 
-void UIToolbar::setItems(ObjectList<bridge::UIBarButtonItem> items) {
+void UIToolbarState::setItems(ObjectList<UIBarButtonItem> items) {
   _items = std::move(items);
   itemChanged();
 }
 
-void UIToolbar::setBarStyle(NSInteger style) {
+void UIToolbarState::setBarStyle(NSInteger style) {
   _style = style;
   BarBackground::of(_background.get()).setLook(barColor(_style, true), barHairline(_style));
 }
 
-void UIToolbar::setTintColor(bridge::UIColor color) {
+void UIToolbarState::setTintColor(UIColor color) {
   super<void, "setTintColor:">(color);
   itemChanged();
 }
 
-void UIToolbar::itemChanged() {
+void UIToolbarState::itemChanged() {
   _slots.show(_items);
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 // Flexible spaces share what is left of the width.
-void UIToolbar::layoutSubviews() {
+void UIToolbarState::layoutSubviews() {
   const CGSize size = self().bounds().size;
   _background->setFrame(rectOfSize(size));
   CGFloat used = 2 * margin;
   CGFloat springs = 0;
   for (const BarSlot& slot : _slots.slots()) {
-    const bool isSpring =
-        UIBarButtonItem::of(slot.item.get()).systemItem() == UIBarButtonItem::flexibleSpace;
+    const bool isSpring = UIBarButtonItemState::of(slot.item.get()).systemItem() ==
+                          UIBarButtonItemState::flexibleSpace;
     used += isSpring ? 0 : BarSlots::widthOf(slot, height) + (slot.view ? itemGap : 0);
     springs += isSpring ? 1 : 0;
   }
@@ -79,8 +81,8 @@ void UIToolbar::layoutSubviews() {
   CGFloat x = margin;
   for (const BarSlot& slot : _slots.slots()) {
     BarSlots::place(slot, x, height);
-    const bool isSpring =
-        UIBarButtonItem::of(slot.item.get()).systemItem() == UIBarButtonItem::flexibleSpace;
+    const bool isSpring = UIBarButtonItemState::of(slot.item.get()).systemItem() ==
+                          UIBarButtonItemState::flexibleSpace;
     x += isSpring ? spring : BarSlots::widthOf(slot, height) + (slot.view ? itemGap : 0);
   }
 }

@@ -4,36 +4,39 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_bars.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/bar_slots.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
-class UIToolbar : public bridge::Bound<UIToolbar, bridge::UIView> {
+class UIToolbarState : public Bound<UIToolbarState, UIViewState, UIToolbar> {
  public:
-  explicit UIToolbar(id self);
+  explicit UIToolbarState(id self);
   static Class classObject();
 
   static constexpr CGFloat height = 44;  // points
 
-  const ObjectList<bridge::UIBarButtonItem>& items() const { return _items; }
-  void setItems(ObjectList<bridge::UIBarButtonItem> items);
+  const ObjectList<UIBarButtonItem>& items() const { return _items; }
+  void setItems(ObjectList<UIBarButtonItem> items);
   const std::vector<BarSlot>& slots() const { return _slots.slots(); }
   NSInteger barStyle() const { return _style; }
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
-  bridge::NSArray itemsArray() const { return arrayOrNil(_items); }
-  void setItemsArray(bridge::NSArray items) { setItems(listOf<bridge::UIBarButtonItem>(items)); }
-  void setItemsArrayAnimated(bridge::NSArray items, bool) { setItemsArray(items); }
+  UIView initWithFrame(CGRect frame);
+  NSArray itemsArray() const { return arrayOrNil(_items); }
+  void setItemsArray(NSArray items) { setItems(listOf<UIBarButtonItem>(items)); }
+  void setItemsArrayAnimated(NSArray items, bool) { setItemsArray(items); }
   void setBarStyle(NSInteger style);
-  void setTintColor(bridge::UIColor color);
+  void setTintColor(UIColor color);
   void itemChanged();
   CGSize sizeThatFits(CGSize size) const { return {size.width, height}; }
   void layoutSubviews();
 
-  ObjectList<bridge::UIBarButtonItem> _items;
-  bridge::Owned<bridge::UIView> _background;
+  ObjectList<UIBarButtonItem> _items;
+  Owned<UIView> _background;
   BarSlots _slots;
   NSInteger _style = 0;
 };

@@ -5,6 +5,7 @@
 
 #include "bridge/coregraphics.h"
 #include "bridge/geometry.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 

@@ -11,6 +11,7 @@
 #include "bridge/bound.h"
 #include "bridge/runtime/objc.h"
 #include "bridge/runtime/selector.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/platform_log.h"
 
 extern "C" {

@@ -6,34 +6,34 @@
 #include <vector>
 
 #include "bridge/foundation.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-template <bridge::Handle T>
-using ObjectList = std::vector<bridge::Owned<T>>;
+template <Handle T>
+using ObjectList = std::vector<Owned<T>>;
 
 // Of the elements that are of the handle's class.
-template <bridge::Handle T>
-ObjectList<T> listOf(bridge::NSArray array) {
+template <Handle T>
+ObjectList<T> listOf(NSArray array) {
   ObjectList<T> list;
   const NSUInteger count = array.count();
   for (NSUInteger index = 0; index < count; ++index)
-    if (const T object = bridge::as<T>(array.at(index)))
-      list.push_back(bridge::Owned<T>::retain(object));
+    if (const T object = as<T>(array.at(index))) list.push_back(Owned<T>::retain(object));
   return list;
 }
 
 // Autoreleased.
-template <bridge::Handle T>
-bridge::NSArray arrayOf(const ObjectList<T>& list) {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+template <Handle T>
+NSArray arrayOf(const ObjectList<T>& list) {
+  const auto all = makeNew<NSMutableArray>();
   for (const auto& object : list) all->add(object.get());
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
-template <bridge::Handle T>
-bridge::NSArray arrayOrNil(const ObjectList<T>& list) {
-  return list.empty() ? bridge::NSArray() : arrayOf(list);
+template <Handle T>
+NSArray arrayOrNil(const ObjectList<T>& list) {
+  return list.empty() ? NSArray() : arrayOf(list);
 }
 
 }  // namespace desktop::uikit

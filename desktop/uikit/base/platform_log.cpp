@@ -2,6 +2,7 @@
 #include "desktop/uikit/base/platform_log.h"
 
 #include "bridge/runtime/objc.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
@@ -14,7 +15,7 @@ void logLine(const std::string& line) {
   platformLog().push_back(line);
 }
 
-std::string nameOf(bridge::Object object) {
+std::string nameOf(Object object) {
   return object ? std::string("<") + class_getName(object_getClass(object.get())) + ">" : "(nil)";
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "bridge/runtime/object.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
@@ -15,6 +16,6 @@ std::vector<std::string>& platformLog();
 void logLine(const std::string& line);
 
 // How an object is called in a line: by its class.
-std::string nameOf(bridge::Object object);
+std::string nameOf(Object object);
 
 }  // namespace desktop::uikit

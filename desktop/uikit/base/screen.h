@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 

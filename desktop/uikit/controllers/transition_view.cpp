@@ -2,18 +2,19 @@
 #include "desktop/uikit/controllers/transition_view.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
 Class TransitionView::classObject() {
-  static const Class made = bridge::ClassBuilder<TransitionView>("UITransitionView").build();
+  static const Class made = ClassBuilder<TransitionView>("UITransitionView").build();
   return made;
 }
 
-bridge::Owned<bridge::UIView> makeTransitionView(CGRect frame) {
-  auto made = bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:">(
-      bridge::send<id, "alloc">(TransitionView::classObject()), frame));
-  made->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+Owned<UIView> makeTransitionView(CGRect frame) {
+  auto made = Owned<UIView>::adopt(
+      send<UIView, "initWithFrame:">(send<id, "alloc">(TransitionView::classObject()), frame));
+  made->setAutoresizingMask(flexibleWidth | flexibleHeight);
   return made;
 }
 

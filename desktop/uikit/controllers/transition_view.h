@@ -4,17 +4,20 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
-class TransitionView : public bridge::Bound<TransitionView, bridge::UIView> {
+class TransitionView : public Bound<TransitionView, UIViewState> {
  public:
   using Bound::Bound;
   static Class classObject();
 };
 
 // A new one that keeps filling what it stands in; +1.
-bridge::Owned<bridge::UIView> makeTransitionView(CGRect frame);
+Owned<UIView> makeTransitionView(CGRect frame);
 
 }  // namespace desktop::uikit

@@ -8,19 +8,21 @@
 
 #include "bridge/block.h"
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/object_list.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 
 namespace desktop::uikit {
 
-class UIActivityViewController
-    : public bridge::Bound<UIActivityViewController, bridge::UIViewController> {
+class UIActivityViewControllerState
+    : public Bound<UIActivityViewControllerState, UIViewControllerState, UIActivityViewController> {
  public:
   using Bound::Bound;
   static Class classObject();
 
-  bridge::NSArray items() const { return _items; }
-  bridge::NSArray excludedActivityTypes() const { return _excluded; }
+  NSArray items() const { return _items; }
+  NSArray excludedActivityTypes() const { return _excluded; }
   // What is copied and saved, as UTF-8: what "%@" prints of each item, a line an item.
   std::string text() const;
 
@@ -31,23 +33,23 @@ class UIActivityViewController
   void cancel();
 
  private:
-  using Completion = bridge::Block<void(bridge::NSString, bool, bridge::NSArray, bridge::NSObject)>;
+  using Completion = Block<void(NSString, bool, NSArray, NSObject)>;
 
-  bridge::UIViewController initWithItems(bridge::NSArray items, bridge::NSArray activities);
-  void setExcludedActivityTypes(bridge::NSArray types);
-  const bridge::BlockHeader* completionHandler() const { return _completion.get(); }
-  void setCompletionHandler(const bridge::BlockHeader* handler);
+  UIViewController initWithItems(NSArray items, NSArray activities);
+  void setExcludedActivityTypes(NSArray types);
+  const BlockHeader* completionHandler() const { return _completion.get(); }
+  void setCompletionHandler(const BlockHeader* handler);
   NSInteger modalPresentationStyle() const { return custom; }
   void loadView();
   void showPresented(bool shown);
 
   bool isExcluded(const char* activityType) const;
-  bridge::NSString preview() const;
-  ObjectList<bridge::UIAlertAction> rows();
+  NSString preview() const;
+  ObjectList<UIAlertAction> rows();
   void leave(const char* activityType, const std::function<void()>& afterwards);
 
-  bridge::Owned<bridge::NSArray> _items;
-  bridge::Owned<bridge::NSArray> _excluded;
+  Owned<NSArray> _items;
+  Owned<NSArray> _excluded;
   Completion _completion;
 };
 

@@ -5,34 +5,36 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/object_list.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/overlays/alert_view.h"
 
 namespace desktop::uikit {
 
-class UIAlertController : public bridge::Bound<UIAlertController, bridge::UIViewController> {
+class UIAlertControllerState
+    : public Bound<UIAlertControllerState, UIViewControllerState, UIAlertController> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   enum Style : NSInteger { actionSheet = 0, alert = 1 };
 
-  bridge::NSString title() const { return UIViewController::of(self()).title(); }
-  bridge::NSString message() const { return _message; }
+  NSString title() const { return UIViewControllerState::title(); }
+  NSString message() const { return _message; }
   NSInteger preferredStyle() const { return _style; }
-  const ObjectList<bridge::UIAlertAction>& actions() const { return _actions; }
+  const ObjectList<UIAlertAction>& actions() const { return _actions; }
   // Chooses an action as a press on its button does: the alert goes, then the handler is called.
-  void choose(bridge::UIAlertAction action);
+  void choose(UIAlertAction action);
 
  private:
-  static bridge::UIAlertController make(bridge::NSString title, bridge::NSString message,
-                                        NSInteger style);
-  void setMessage(bridge::NSString message);
-  void addAction(bridge::UIAlertAction action);
-  bridge::NSArray actionsArray() const { return arrayOf(_actions); }
-  bridge::UIAlertAction preferredAction() const { return _preferred; }
-  void setPreferredAction(bridge::UIAlertAction action);
+  static UIAlertController make(NSString title, NSString message, NSInteger style);
+  void setMessage(NSString message);
+  void addAction(UIAlertAction action);
+  NSArray actionsArray() const { return arrayOf(_actions); }
+  UIAlertAction preferredAction() const { return _preferred; }
+  void setPreferredAction(UIAlertAction action);
   NSInteger modalPresentationStyle() const { return custom; }
   void loadView();
   void viewWillAppear(bool animated);
@@ -40,10 +42,10 @@ class UIAlertController : public bridge::Bound<UIAlertController, bridge::UIView
   Seconds presentationDuration() const;
   void cancel();
 
-  bridge::Owned<bridge::NSString> _message;
+  Owned<NSString> _message;
   NSInteger _style = alert;
-  ObjectList<bridge::UIAlertAction> _actions;
-  bridge::Owned<bridge::UIAlertAction> _preferred;
+  ObjectList<UIAlertAction> _actions;
+  Owned<UIAlertAction> _preferred;
 };
 
 }  // namespace desktop::uikit

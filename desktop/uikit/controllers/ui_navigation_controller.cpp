@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/ui_navigation_bar.h"
 #include "desktop/uikit/bars/ui_toolbar.h"
 #include "desktop/uikit/base/platform_log.h"
@@ -17,12 +18,10 @@
 
 namespace desktop::uikit {
 
-using bridge::Owned;
-
-Class UINavigationController::classObject() {
-  using Controller = UINavigationController;
+Class UINavigationControllerState::classObject() {
+  using Controller = UINavigationControllerState;
   static const Class made =
-      bridge::ClassBuilder<Controller>("UINavigationController")
+      ClassBuilder<Controller>("UINavigationController")
           .method<"initWithRootViewController:", &Controller::initWithRoot>()
           .method<"loadView", &Controller::loadView>()
           .method<"viewWillAppear:", &Controller::viewWillAppear>()
@@ -50,55 +49,55 @@ Class UINavigationController::classObject() {
   return made;
 }
 
-UINavigationController::UINavigationController(id self)
+UINavigationControllerState::UINavigationControllerState(id self)
     : Bound(self),
-      _bar(bridge::makeView<bridge::UINavigationBar>({})),
-      _toolbar(Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "init">(
-          bridge::send<id, "alloc">(UIToolbar::classObject())))) {
-  UINavigationBar::of(_bar.get()).setBackAction([this] { pop(true); });
+      _bar(bridge::makeView<UINavigationBar>({})),
+      _toolbar(Owned<UIView>::adopt(
+          send<UIView, "init">(send<id, "alloc">(UIToolbarState::classObject())))) {
+  UINavigationBarState::of(_bar.get()).setBackAction([this] { pop(true); });
 }
 
-UINavigationController::~UINavigationController() {
-  UINavigationBar::of(_bar.get()).setBackAction({});
+UINavigationControllerState::~UINavigationControllerState() {
+  UINavigationBarState::of(_bar.get()).setBackAction({});
 }
 
-bridge::UIViewController UINavigationController::initWithRoot(bridge::UIViewController root) {
-  const auto object = bridge::send<bridge::UIViewController, "init">(self());
+UIViewController UINavigationControllerState::initWithRoot(UIViewController root) {
+  const auto object = send<UIViewController, "init">(self());
   push(root, false);
   return object;
 }
 
-void UINavigationController::loadView() {
+void UINavigationControllerState::loadView() {
   super<void, "loadView">();
-  const bridge::UIView view = self().view();
+  const UIView view = self().view();
   _content = makeTransitionView(view.bounds());
   view.addSubview(_content);
   view.addSubview(_toolbar);
   view.addSubview(_bar);
 }
 
-bridge::UIViewController UINavigationController::top() const {
-  return stack().empty() ? bridge::UIViewController() : stack().back().get();
+UIViewController UINavigationControllerState::top() const {
+  return stack().empty() ? UIViewController() : stack().back().get();
 }
 
-bridge::UIViewController UINavigationController::visible() const {
-  const auto presented = bridge::send<bridge::UIViewController, "presentedViewController">(self());
+UIViewController UINavigationControllerState::visible() const {
+  const auto presented = send<UIViewController, "presentedViewController">(self());
   return presented ? presented : top();
 }
 
-void UINavigationController::push(bridge::UIViewController controller, bool animated) {
+void UINavigationControllerState::push(UIViewController controller, bool animated) {
   if (!controller) return;
   Stack next = stack();
   const bool isKnown =
       std::ranges::any_of(next, [&](const auto& known) { return known.get() == controller; });
-  if (isKnown || bridge::isKindOf(controller, classObject()))
+  if (isKnown || isKindOf(controller, classObject()))
     return logLine("Attempt to push " + nameOf(controller) + " on " + nameOf(self()) +
                    (isKnown ? " more than once" : ", which is a navigation controller"));
-  next.push_back(Owned<bridge::UIViewController>::retain(controller));
+  next.push_back(Owned<UIViewController>::retain(controller));
   change(next, animated ? Direction::forward : Direction::none);
 }
 
-bridge::UIViewController UINavigationController::pop(bool animated) {
+UIViewController UINavigationControllerState::pop(bool animated) {
   if (stack().size() < 2) return {};
   Stack next = stack();
   next.pop_back();
@@ -106,84 +105,86 @@ bridge::UIViewController UINavigationController::pop(bool animated) {
   return gone.back().autorelease();
 }
 
-bridge::NSArray UINavigationController::popToRoot(bool animated) {
-  return stack().empty() ? bridge::NSArray() : popTo(stack().front(), animated);
+NSArray UINavigationControllerState::popToRoot(bool animated) {
+  return stack().empty() ? NSArray() : popTo(stack().front(), animated);
 }
 
-bridge::NSArray UINavigationController::popTo(bridge::UIViewController controller, bool animated) {
+NSArray UINavigationControllerState::popTo(UIViewController controller, bool animated) {
   Stack next = stack();
-  const auto place = std::ranges::find(next, controller, &Owned<bridge::UIViewController>::get);
+  const auto place = std::ranges::find(next, controller, &Owned<UIViewController>::get);
   if (place == next.end() || place + 1 == next.end()) return {};
   next.erase(place + 1, next.end());
   return arrayOf(change(next, animated ? Direction::backward : Direction::none));
 }
 
-void UINavigationController::setStack(bridge::NSArray controllers, bool animated) {
-  const Stack next = listOf<bridge::UIViewController>(controllers);
+void UINavigationControllerState::setStack(NSArray controllers, bool animated) {
+  const Stack next = listOf<UIViewController>(controllers);
   const bool goesBack = !next.empty() && std::ranges::any_of(stack(), [&](const auto& known) {
     return known.get() == next.back().get();
   });
   change(next, !animated ? Direction::none : goesBack ? Direction::backward : Direction::forward);
 }
 
-void UINavigationController::setBarHidden(bool hidden, bool animated) {
+void UINavigationControllerState::setBarHidden(bool hidden, bool animated) {
   if (hidden == _isBarHidden) return;
   _isBarHidden = hidden;
   arrangeIn(animated);
 }
 
-void UINavigationController::setToolbarHidden(bool hidden, bool animated) {
+void UINavigationControllerState::setToolbarHidden(bool hidden, bool animated) {
   if (hidden == _isToolbarHidden) return;
   _isToolbarHidden = hidden;
   arrangeIn(animated);
 }
 
-void UINavigationController::arrangeIn(bool animated) {
+void UINavigationControllerState::arrangeIn(bool animated) {
   constexpr Seconds duration = 0.2;
   if (!animated) return arrange();
-  const auto kept = Owned<bridge::UIViewController>::retain(self());
-  UIView::of(_bar.get()).setHidden(false);
+  const auto kept = Owned<UIViewController>::retain(self());
+  UIViewState::of(_bar.get()).setHidden(false);
   animator().animate(
       duration, 0, AnimationCurve::easeInOut, [this] { arrange(); },
       [kept](bool) { of(kept.get()).arrange(); });
 }
 
-void UINavigationController::viewWillAppear(bool animated) {
+void UINavigationControllerState::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
   showTop();
 }
 
-void UINavigationController::viewWillLayoutSubviews() {
+void UINavigationControllerState::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
   if (!isInTransition()) showTop();
   arrange();
 }
 
-CGFloat UINavigationController::barBottom() const {
-  return _isBarHidden ? 0 : screen().statusBarHeight + UINavigationBar::of(_bar.get()).height();
+CGFloat UINavigationControllerState::barBottom() const {
+  return _isBarHidden ? 0
+                      : screen().statusBarHeight + UINavigationBarState::of(_bar.get()).height();
 }
 
 // A bar that is hidden stands outside the view, on its own side.
-void UINavigationController::arrange() {
-  if (!UIViewController::of(self()).viewIfLoaded()) return;
+void UINavigationControllerState::arrange() {
+  if (!viewIfLoaded()) return;
   const CGRect bounds = self().view().bounds();
-  const CGFloat barHeight = UINavigationBar::of(_bar.get()).height();
+  const CGFloat barHeight = UINavigationBarState::of(_bar.get()).height();
   const CGFloat barTop = _isBarHidden ? -barHeight : screen().statusBarHeight;
   _bar->setFrame({{0, barTop}, {bounds.size.width, barHeight}});
-  UIView::of(_bar.get()).setHidden(_isBarHidden && !animator().isAnimating(_bar.get()));
-  const EdgeInsets around = UIViewController::of(self()).safeArea();
+  UIViewState::of(_bar.get()).setHidden(_isBarHidden && !animator().isAnimating(_bar.get()));
+  const EdgeInsets around = UIViewControllerState::of(self()).safeArea();
   const CGFloat toolbarTop = _isToolbarHidden
                                  ? bounds.size.height
-                                 : bounds.size.height - around.bottom - UIToolbar::height;
-  _toolbar->setFrame({{0, toolbarTop}, {bounds.size.width, UIToolbar::height + around.bottom}});
+                                 : bounds.size.height - around.bottom - UIToolbarState::height;
+  _toolbar->setFrame(
+      {{0, toolbarTop}, {bounds.size.width, UIToolbarState::height + around.bottom}});
   if (const auto shown = top()) {
-    const auto& items = UIViewController::of(shown.get()).toolbarItems();
-    ObjectList<bridge::UIBarButtonItem> toolbarItems;
+    const auto& items = UIViewControllerState::of(shown.get()).toolbarItems();
+    ObjectList<UIBarButtonItem> toolbarItems;
     for (const auto& item : items)
-      if (const auto known = bridge::as<bridge::UIBarButtonItem>(item.get()))
-        toolbarItems.push_back(Owned<bridge::UIBarButtonItem>::retain(known));
-    UIToolbar::of(_toolbar.get()).setItems(std::move(toolbarItems));
-    UIViewController::of(shown.get())
+      if (const auto known = as<UIBarButtonItem>(item.get()))
+        toolbarItems.push_back(Owned<UIBarButtonItem>::retain(known));
+    UIToolbarState::of(_toolbar.get()).setItems(std::move(toolbarItems));
+    UIViewControllerState::of(shown.get())
         .setSafeArea({.top = std::max(barBottom(), around.top),
                       .bottom = std::max(bounds.size.height - toolbarTop, around.bottom)});
   }

@@ -14,61 +14,58 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::Owned;
-
 constexpr Seconds slideTime = 0.35;
 constexpr CGFloat parallax = 0.3;  // how far the lower screen moves, as part of the width
 
-bool contains(const UINavigationController::Stack& stack, bridge::UIViewController controller) {
+bool contains(const UINavigationControllerState::Stack& stack, UIViewController controller) {
   return std::ranges::any_of(stack, [&](const auto& known) { return known.get() == controller; });
 }
 
 }  // namespace
 
 // What was under way is over at once: two never run together. Answers the controllers that left.
-UINavigationController::Stack UINavigationController::change(const Stack& next,
-                                                             Direction direction) {
+UINavigationControllerState::Stack UINavigationControllerState::change(const Stack& next,
+                                                                       Direction direction) {
   endTransition();
   const Stack before = stack();
-  const auto from = Owned<bridge::UIViewController>::retain(top());
-  UIViewController::of(self()).setChildren(next);
+  const auto from = Owned<UIViewController>::retain(top());
+  setChildren(next);
   Stack gone;
   for (const auto& controller : before)
     if (!contains(next, controller)) gone.push_back(controller);
   for (const auto& controller : gone)
-    if (controller.get() != from.get()) UIViewController::of(controller.get()).leftParent();
+    if (controller.get() != from.get()) UIViewControllerState::of(controller.get()).leftParent();
   updateBars();
   if (top() != from.get()) beginTransition(from, top(), direction);
   return gone;
 }
 
-void UINavigationController::updateBars() {
-  UINavigationBar::Items items;
+void UINavigationControllerState::updateBars() {
+  UINavigationBarState::Items items;
   for (const auto& controller : stack())
-    items.push_back(Owned<bridge::UINavigationItem>::retain(controller->navigationItem()));
-  UINavigationBar::of(_bar.get()).setItems(std::move(items));
+    items.push_back(Owned<UINavigationItem>::retain(controller->navigationItem()));
+  UINavigationBarState::of(_bar.get()).setItems(std::move(items));
 }
 
 // Nobody is told of screens that change while nothing of the stack is on show.
-void UINavigationController::beginTransition(bridge::UIViewController from,
-                                             bridge::UIViewController to, Direction direction) {
-  UIViewController& me = UIViewController::of(self());
-  _leaving = Owned<bridge::UIViewController>::retain(from);
-  _coming = Owned<bridge::UIViewController>::retain(to);
-  if (!me.viewIfLoaded()) return endTransition();
-  const bool isShown = me.appearance() == UIViewController::Appearance::shown ||
-                       me.appearance() == UIViewController::Appearance::appearing;
-  const bool isAnimated =
-      direction != Direction::none && from && to && isShown && UIView::of(me.view().get()).window();
-  UIMenuController::shared().hide();
+void UINavigationControllerState::beginTransition(UIViewController from, UIViewController to,
+                                                  Direction direction) {
+  _leaving = Owned<UIViewController>::retain(from);
+  _coming = Owned<UIViewController>::retain(to);
+  if (!viewIfLoaded()) return endTransition();
+  const bool isShown = appearance() == UIViewControllerState::Appearance::shown ||
+                       appearance() == UIViewControllerState::Appearance::appearing;
+  const bool isAnimated = direction != Direction::none && from && to && isShown &&
+                          UIViewState::of(view().get()).window();
+  UIMenuControllerState::shared().hide();
   tellDelegate(false, isAnimated);
   if (to) to.view();
   if (isShown) {
-    if (from) UIViewController::of(from.get()).beginAppearance(false, isAnimated);
-    if (to) UIViewController::of(to.get()).beginAppearance(true, isAnimated);
+    if (from) UIViewControllerState::of(from.get()).beginAppearance(false, isAnimated);
+    if (to) UIViewControllerState::of(to.get()).beginAppearance(true, isAnimated);
   }
-  const auto tabs = bridge::send<bridge::UIViewController, "tabBarController">(self());
-  bridge::send<void, "_updateBar:">(tabs, isAnimated);
+  const auto tabs = send<UIViewController, "tabBarController">(self());
+  send<void, "_updateBar:">(tabs, isAnimated);
   if (isAnimated) return slide(from, to, direction);
   showTop();
   arrange();
@@ -76,23 +73,23 @@ void UINavigationController::beginTransition(bridge::UIViewController from,
 }
 
 // The upper of both screens moves by the whole width, the lower one by a part of it.
-void UINavigationController::slide(bridge::UIViewController from, bridge::UIViewController to,
-                                   Direction direction) {
+void UINavigationControllerState::slide(UIViewController from, UIViewController to,
+                                        Direction direction) {
   const CGRect bounds = _content->bounds();
   const bool isForward = direction == Direction::forward;
   const CGFloat width = bounds.size.width;
-  const bridge::UIView bar = UINavigationBar::of(_bar.get()).contentView();
+  const UIView bar = UINavigationBarState::of(_bar.get()).contentView();
   animator().withoutAnimation([&] {
-    UIView::of(_content.get()).insertSubview(to.view(), isForward ? 1 : 0);
-    to.view().setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+    UIViewState::of(_content.get()).insertSubview(to.view(), isForward ? 1 : 0);
+    to.view().setAutoresizingMask(flexibleWidth | flexibleHeight);
     to.view().setFrame(bounds);
     arrange();
-    bridge::send<void, "layoutIfNeeded">(to.view());
+    send<void, "layoutIfNeeded">(to.view());
     to.view().setFrame(offset(bounds, {isForward ? width : -parallax * width, 0}));
     bar.setAlpha(0);
   });
   const unsigned transition = ++_transition;
-  const auto kept = Owned<bridge::UIViewController>::retain(self());
+  const auto kept = Owned<UIViewController>::retain(self());
   animator().animate(
       slideTime, 0, AnimationCurve::easeInOut,
       [&] {
@@ -101,19 +98,19 @@ void UINavigationController::slide(bridge::UIViewController from, bridge::UIView
         bar.setAlpha(1);
       },
       [kept, transition](bool) {
-        UINavigationController& me = of(kept.get());
+        UINavigationControllerState& me = of(kept.get());
         if (me._transition == transition) me.endTransition();
       });
 }
 
-void UINavigationController::endTransition() {
+void UINavigationControllerState::endTransition() {
   if (!isInTransition()) return;
   ++_transition;
   const auto leaving = std::exchange(_leaving, {});
   const auto coming = std::exchange(_coming, {});
-  const bool isLoaded = static_cast<bool>(UIViewController::of(self()).viewIfLoaded());
+  const bool isLoaded = static_cast<bool>(viewIfLoaded());
   if (leaving) {
-    UIViewController& state = UIViewController::of(leaving.get());
+    UIViewControllerState& state = UIViewControllerState::of(leaving.get());
     if (state.viewIfLoaded()) state.viewIfLoaded().removeFromSuperview();
     state.endAppearance();
     if (!contains(stack(), leaving)) state.leftParent();
@@ -121,32 +118,31 @@ void UINavigationController::endTransition() {
   if (!coming || !isLoaded) return;
   animator().stop(coming->view());
   // Who is coming because the whole stack is coming is told with it.
-  if (UIViewController::of(self()).appearance() == UIViewController::Appearance::shown)
-    UIViewController::of(coming.get()).endAppearance();
+  if (appearance() == UIViewControllerState::Appearance::shown)
+    UIViewControllerState::of(coming.get()).endAppearance();
   tellDelegate(true, false);
 }
 
-void UINavigationController::showTop() {
+void UINavigationControllerState::showTop() {
   if (!_content) return;
-  const bridge::UIView shown = top() ? top().view() : bridge::UIView();
-  const auto before = UIView::of(_content.get()).subviews();
+  const UIView shown = top() ? top().view() : UIView();
+  const auto before = UIViewState::of(_content.get()).subviews();
   for (const auto& view : before)
     if (view.get() != shown) view->removeFromSuperview();
-  if (!shown || UIView::of(shown.get()).superview() == _content.get()) return;
-  shown.setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  if (!shown || UIViewState::of(shown.get()).superview() == _content.get()) return;
+  shown.setAutoresizingMask(flexibleWidth | flexibleHeight);
   shown.setFrame(_content->bounds());
   _content->addSubview(shown);
 }
 
-void UINavigationController::tellDelegate(bool isDone, bool animated) const {
+void UINavigationControllerState::tellDelegate(bool isDone, bool animated) const {
   if (isDone) {
-    if (bridge::respondsTo<"navigationController:didShowViewController:animated:">(_delegate))
-      bridge::send<void, "navigationController:didShowViewController:animated:">(_delegate, self(),
-                                                                                 top(), animated);
-  } else if (bridge::respondsTo<"navigationController:willShowViewController:animated:">(
-                 _delegate)) {
-    bridge::send<void, "navigationController:willShowViewController:animated:">(_delegate, self(),
-                                                                                top(), animated);
+    if (respondsTo<"navigationController:didShowViewController:animated:">(_delegate))
+      send<void, "navigationController:didShowViewController:animated:">(_delegate, self(), top(),
+                                                                         animated);
+  } else if (respondsTo<"navigationController:willShowViewController:animated:">(_delegate)) {
+    send<void, "navigationController:willShowViewController:animated:">(_delegate, self(), top(),
+                                                                        animated);
   }
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/ui_tab_bar.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
@@ -17,20 +18,18 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::Owned;
-
 constexpr Seconds slideTime = 0.35;
 
-bool hidesBar(bridge::UIViewController controller) {
-  return bridge::send<bool, "hidesBottomBarWhenPushed">(controller);
+bool hidesBar(UIViewController controller) {
+  return send<bool, "hidesBottomBarWhenPushed">(controller);
 }
 
 }  // namespace
 
-Class UITabBarController::classObject() {
-  using Controller = UITabBarController;
+Class UITabBarControllerState::classObject() {
+  using Controller = UITabBarControllerState;
   static const Class made =
-      bridge::ClassBuilder<Controller>("UITabBarController")
+      ClassBuilder<Controller>("UITabBarController")
           .method<"loadView", &Controller::loadView>()
           .method<"viewWillAppear:", &Controller::viewWillAppear>()
           .method<"viewWillLayoutSubviews", &Controller::viewWillLayoutSubviews>()
@@ -49,127 +48,122 @@ Class UITabBarController::classObject() {
   return made;
 }
 
-UITabBarController::UITabBarController(id self)
+UITabBarControllerState::UITabBarControllerState(id self)
     : Bound(self),
-      _bar(Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "init">(
-          bridge::send<id, "alloc">(UITabBar::classObject())))) {
+      _bar(Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(UITabBar::classObject())))) {
   UITabBar::of(_bar.get()).setPressed([this](NSUInteger index) { pressed(index); });
 }
 
-UITabBarController::~UITabBarController() {
+UITabBarControllerState::~UITabBarControllerState() {
   UITabBar::of(_bar.get()).setPressed({});
 }
 
-void UITabBarController::loadView() {
+void UITabBarControllerState::loadView() {
   super<void, "loadView">();
   self().view().addSubview(_bar);
 }
 
-bridge::NSArray UITabBarController::controllersArray() const {
-  return arrayOf(UIViewController::of(self()).children());
+NSArray UITabBarControllerState::controllersArray() const {
+  return arrayOf(children());
 }
 
-NSUInteger UITabBarController::selectedIndex() const {
-  const auto& children = UIViewController::of(self()).children();
-  const auto place = std::ranges::find(children, _selected, &Owned<bridge::UIViewController>::get);
+NSUInteger UITabBarControllerState::selectedIndex() const {
+  const auto& children = UIViewControllerState::children();
+  const auto place = std::ranges::find(children, _selected, &Owned<UIViewController>::get);
   return place == children.end() ? static_cast<NSUInteger>(NSNotFound)
                                  : static_cast<NSUInteger>(place - children.begin());
 }
 
-void UITabBarController::setControllers(bridge::NSArray controllers) {
-  UIViewController& me = UIViewController::of(self());
-  const auto before = me.children();
-  const auto next = listOf<bridge::UIViewController>(controllers);
-  me.setChildren(next);
-  ObjectList<bridge::NSObject> items;
+void UITabBarControllerState::setControllers(NSArray controllers) {
+  const auto before = children();
+  const auto next = listOf<UIViewController>(controllers);
+  setChildren(next);
+  ObjectList<NSObject> items;
   for (const auto& controller : next)
-    items.push_back(Owned<bridge::NSObject>::retain(
-        bridge::send<bridge::NSObject, "tabBarItem">(controller.get())));
+    items.push_back(Owned<NSObject>::retain(send<NSObject, "tabBarItem">(controller.get())));
   UITabBar::of(_bar.get()).setItems(std::move(items));
   const bool keeps = selectedIndex() != static_cast<NSUInteger>(NSNotFound);
-  const bridge::UIViewController shown =
-      keeps ? _selected : (next.empty() ? bridge::UIViewController() : next.front().get());
+  const UIViewController shown =
+      keeps ? _selected : (next.empty() ? UIViewController() : next.front().get());
   select(shown);
   for (const auto& controller : before)
-    if (std::ranges::find(next, controller.get(), &Owned<bridge::UIViewController>::get) ==
-        next.end()) {
-      if (const auto view = UIViewController::of(controller.get()).viewIfLoaded())
+    if (std::ranges::find(next, controller.get(), &Owned<UIViewController>::get) == next.end()) {
+      if (const auto view = UIViewControllerState::of(controller.get()).viewIfLoaded())
         view.removeFromSuperview();
-      UIViewController::of(controller.get()).leftParent();
+      UIViewControllerState::of(controller.get()).leftParent();
     }
 }
 
-void UITabBarController::setSelectedIndex(NSUInteger index) {
-  const auto& children = UIViewController::of(self()).children();
+void UITabBarControllerState::setSelectedIndex(NSUInteger index) {
+  const auto& children = UIViewControllerState::children();
   if (index < children.size()) select(children[index]);
 }
 
 // The one so far goes before the next one comes; whoever is no child is not selected.
-void UITabBarController::select(bridge::UIViewController controller) {
-  UIViewController& me = UIViewController::of(self());
+void UITabBarControllerState::select(UIViewController controller) {
+  UIViewControllerState& me = *this;
   const auto& children = me.children();
-  const auto place = std::ranges::find(children, controller, &Owned<bridge::UIViewController>::get);
+  const auto place = std::ranges::find(children, controller, &Owned<UIViewController>::get);
   if (controller && place == children.end()) return;
-  const auto before = Owned<bridge::UIViewController>::retain(std::exchange(_selected, controller));
+  const auto before = Owned<UIViewController>::retain(std::exchange(_selected, controller));
   if (controller)
-    UITabBar::of(_bar.get())
-        .setSelectedItem(bridge::send<bridge::NSObject, "tabBarItem">(controller));
+    UITabBar::of(_bar.get()).setSelectedItem(send<NSObject, "tabBarItem">(controller));
   if (before.get() == controller || !me.viewIfLoaded()) return;
-  const bool isShown = me.appearance() == UIViewController::Appearance::shown;
-  const bool isComing = me.appearance() == UIViewController::Appearance::appearing;
+  const bool isShown = me.appearance() == UIViewControllerState::Appearance::shown;
+  const bool isComing = me.appearance() == UIViewControllerState::Appearance::appearing;
   const bool isSeen = isShown || isComing;
-  UIMenuController::shared().hide();
+  UIMenuControllerState::shared().hide();
   if (controller) controller.view();
-  if (isSeen && before) UIViewController::of(before.get()).beginAppearance(false, false);
-  if (isSeen && controller) UIViewController::of(controller.get()).beginAppearance(true, false);
+  if (isSeen && before) UIViewControllerState::of(before.get()).beginAppearance(false, false);
+  if (isSeen && controller)
+    UIViewControllerState::of(controller.get()).beginAppearance(true, false);
   showSelected();
-  if (isSeen && before) UIViewController::of(before.get()).endAppearance();
+  if (isSeen && before) UIViewControllerState::of(before.get()).endAppearance();
   // With all that is coming, the new one is told that it has come.
-  if (isShown && controller) UIViewController::of(controller.get()).endAppearance();
+  if (isShown && controller) UIViewControllerState::of(controller.get()).endAppearance();
 }
 
 // Pressing the tab of a stack that is on show leads back to its root.
-void UITabBarController::pressed(NSUInteger index) {
-  const auto& children = UIViewController::of(self()).children();
+void UITabBarControllerState::pressed(NSUInteger index) {
+  const auto& children = UIViewControllerState::children();
   if (index >= children.size()) return;
   const auto controller = children[index];
-  if (bridge::respondsTo<"tabBarController:shouldSelectViewController:">(_delegate) &&
-      !bridge::send<bool, "tabBarController:shouldSelectViewController:">(_delegate, self(),
-                                                                          controller.get()))
+  if (respondsTo<"tabBarController:shouldSelectViewController:">(_delegate) &&
+      !send<bool, "tabBarController:shouldSelectViewController:">(_delegate, self(),
+                                                                  controller.get()))
     return;
   if (controller.get() == _selected &&
-      bridge::isKindOf(controller.get(), UINavigationController::classObject()))
-    bridge::send<bridge::NSArray, "popToRootViewControllerAnimated:">(controller.get(), true);
-  bridge::send<void, "setSelectedViewController:">(self(), controller.get());
-  if (bridge::respondsTo<"tabBarController:didSelectViewController:">(_delegate))
-    bridge::send<void, "tabBarController:didSelectViewController:">(_delegate, self(),
-                                                                    controller.get());
+      isKindOf(controller.get(), UINavigationControllerState::classObject()))
+    send<NSArray, "popToRootViewControllerAnimated:">(controller.get(), true);
+  send<void, "setSelectedViewController:">(self(), controller.get());
+  if (respondsTo<"tabBarController:didSelectViewController:">(_delegate))
+    send<void, "tabBarController:didSelectViewController:">(_delegate, self(), controller.get());
 }
 
-void UITabBarController::showSelected() {
-  for (const auto& child : UIViewController::of(self()).children()) {
-    const auto view = UIViewController::of(child.get()).viewIfLoaded();
+void UITabBarControllerState::showSelected() {
+  for (const auto& child : children()) {
+    const auto view = UIViewControllerState::of(child.get()).viewIfLoaded();
     if (view && child.get() != _selected) view.removeFromSuperview();
   }
-  const bridge::UIView whole = self().view();
-  if (_selected && UIView::of(_selected.view().get()).superview() != whole) {
-    _selected.view().setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  const UIView whole = self().view();
+  if (_selected && UIViewState::of(_selected.view().get()).superview() != whole) {
+    _selected.view().setAutoresizingMask(flexibleWidth | flexibleHeight);
     _selected.view().setFrame(whole.bounds());
-    UIView::of(whole.get()).insertSubview(_selected.view(), 0);
+    UIViewState::of(whole.get()).insertSubview(_selected.view(), 0);
   }
   _isBarShown = wantsBar();
   arrange();
 }
 
-bool UITabBarController::wantsBar() const {
+bool UITabBarControllerState::wantsBar() const {
   if (!_selected) return true;
   if (hidesBar(_selected)) return false;
-  if (!bridge::isKindOf(_selected, UINavigationController::classObject())) return true;
-  return std::ranges::none_of(UINavigationController::of(_selected.get()).stack(),
+  if (!isKindOf(_selected, UINavigationControllerState::classObject())) return true;
+  return std::ranges::none_of(UINavigationControllerState::of(_selected.get()).stack(),
                               [](const auto& each) { return hidesBar(each.get()); });
 }
 
-void UITabBarController::updateBar(bool animated) {
+void UITabBarControllerState::updateBar(bool animated) {
   const bool wants = wantsBar();
   if (wants == _isBarShown) return;
   _isBarShown = wants;
@@ -177,25 +171,25 @@ void UITabBarController::updateBar(bool animated) {
   animator().animate(slideTime, 0, AnimationCurve::easeInOut, [this] { arrange(); }, {});
 }
 
-void UITabBarController::viewWillAppear(bool animated) {
+void UITabBarControllerState::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
   showSelected();
 }
 
-void UITabBarController::viewWillLayoutSubviews() {
+void UITabBarControllerState::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
   arrange();
 }
 
 // A bar that is hidden stands below the view.
-void UITabBarController::arrange() {
-  if (!UIViewController::of(self()).viewIfLoaded()) return;
+void UITabBarControllerState::arrange() {
+  if (!viewIfLoaded()) return;
   const CGSize size = self().view().bounds().size;
   const CGFloat top = _isBarShown ? size.height - UITabBar::height : size.height;
   _bar->setFrame({{0, top}, {size.width, UITabBar::height}});
-  EdgeInsets area = UIViewController::of(self()).safeArea();
+  EdgeInsets area = safeArea();
   area.bottom = std::max(area.bottom, size.height - top);
-  if (_selected) UIViewController::of(_selected.get()).setSafeArea(area);
+  if (_selected) UIViewControllerState::of(_selected.get()).setSafeArea(area);
 }
 
 }  // namespace desktop::uikit

@@ -9,17 +9,18 @@
 
 namespace desktop::uikit {
 
-class UITabBarController : public bridge::Bound<UITabBarController, bridge::UIViewController> {
+class UITabBarControllerState
+    : public Bound<UITabBarControllerState, UIViewControllerState, UITabBarController> {
  public:
-  explicit UITabBarController(id self);
-  ~UITabBarController();
+  explicit UITabBarControllerState(id self);
+  ~UITabBarControllerState();
   static Class classObject();
 
-  bridge::UIView tabBar() const { return _bar; }
+  UIView tabBar() const { return _bar; }
   // Nil where there are none.
-  bridge::UIViewController selected() const { return _selected; }
+  UIViewController selected() const { return _selected; }
   NSUInteger selectedIndex() const;  // NSNotFound where there are none
-  void select(bridge::UIViewController controller);
+  void select(UIViewController controller);
   // Shows or hides the bar as the selected screen wishes, which may have changed.
   void updateBar(bool animated);
 
@@ -27,20 +28,20 @@ class UITabBarController : public bridge::Bound<UITabBarController, bridge::UIVi
   void loadView();
   void viewWillAppear(bool animated);
   void viewWillLayoutSubviews();
-  bridge::NSArray controllersArray() const;
-  void setControllers(bridge::NSArray controllers);
-  void setControllersAnimated(bridge::NSArray controllers, bool) { setControllers(controllers); }
+  NSArray controllersArray() const;
+  void setControllers(NSArray controllers);
+  void setControllersAnimated(NSArray controllers, bool) { setControllers(controllers); }
   void setSelectedIndex(NSUInteger index);
-  bridge::NSObject delegate() const { return _delegate; }
-  void setDelegate(bridge::NSObject delegate) { _delegate = delegate; }
+  NSObject delegate() const { return _delegate; }
+  void setDelegate(NSObject delegate) { _delegate = delegate; }
   void pressed(NSUInteger index);
   void showSelected();
   bool wantsBar() const;
   void arrange();
 
-  bridge::Owned<bridge::UIView> _bar;
-  bridge::UIViewController _selected;  // one of the children
-  bridge::NSObject _delegate;          // borrowed
+  Owned<UIView> _bar;
+  UIViewController _selected;  // one of the children
+  NSObject _delegate;          // borrowed
   bool _isBarShown = true;
 };
 

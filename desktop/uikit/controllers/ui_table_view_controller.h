@@ -5,23 +5,26 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_lists.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/controllers/ui_view_controller.h"
 
 namespace desktop::uikit {
 
-class UITableViewController
-    : public bridge::Bound<UITableViewController, bridge::UIViewController> {
+class UITableViewControllerState
+    : public Bound<UITableViewControllerState, UIViewControllerState, UITableViewController> {
  public:
   using Bound::Bound;
-  ~UITableViewController();
+  ~UITableViewControllerState();
   static Class classObject();
 
  private:
-  bridge::UITableViewController init();
-  bridge::UITableViewController initWithStyle(NSInteger style);
+  UITableViewController init();
+  UITableViewController initWithStyle(NSInteger style);
   void loadView();
-  bridge::UITableView tableView() const;
-  void setTableView(bridge::UITableView table);
+  UITableView tableView() const;
+  void setTableView(UITableView table);
   void viewWillAppear(bool animated);
   bool clearsSelection() const { return _clearsSelection; }
   void setClearsSelection(bool clears) { _clearsSelection = clears; }

@@ -5,6 +5,7 @@
 #include "desktop/uikit/controllers/ui_view_controller.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 #include "desktop/uikit/base/object_list.h"
@@ -15,183 +16,180 @@
 
 namespace desktop::uikit {
 
-Class UIViewController::classObject() {
+Class UIViewControllerState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIViewController>("UIViewController")
-          .method<"init", &UIViewController::init>()
-          .method<"initWithNibName:bundle:", &UIViewController::initWithNib>()
-          .method<"view", &UIViewController::view>()
-          .method<"setView:", &UIViewController::setView>()
-          .method<"viewIfLoaded", &UIViewController::viewIfLoaded>()
-          .method<"isViewLoaded", &UIViewController::isViewLoaded>()
-          .method<"loadView", &UIViewController::loadView>()
-          .method<"loadViewIfNeeded", &UIViewController::loadViewIfNeeded>()
-          .method<"viewDidLoad", &UIViewController::viewDidLoad>()
-          .method<"nextResponder", &UIViewController::nextResponder>()
-          .method<"title", &UIViewController::title>()
-          .method<"setTitle:", &UIViewController::setTitle>()
-          .method<"navigationItem", &UIViewController::navigationItem>()
-          .method<"tabBarItem", &UIViewController::tabBarItem>()
-          .method<"setTabBarItem:", &UIViewController::setTabBarItem>()
-          .method<"isEditing", &UIViewController::isEditing>()
-          .method<"setEditing:", &UIViewController::setEditingAtOnce>()
-          .method<"setEditing:animated:", &UIViewController::setEditing>()
-          .method<"hidesBottomBarWhenPushed", &UIViewController::hidesBottomBarWhenPushed>()
-          .method<"setHidesBottomBarWhenPushed:", &UIViewController::setHidesBottomBar>()
-          .method<"toolbarItems", &UIViewController::toolbarItemsArray>()
-          .method<"setToolbarItems:", &UIViewController::setToolbarItems>()
-          .method<"setToolbarItems:animated:", &UIViewController::setToolbarItemsAnimated>()
-          .method<"viewWillAppear:", &UIViewController::viewWillAppear>()
-          .method<"viewDidAppear:", &UIViewController::viewDidAppear>()
-          .method<"viewWillDisappear:", &UIViewController::viewWillDisappear>()
-          .method<"viewDidDisappear:", &UIViewController::viewDidDisappear>()
-          .method<"viewWillLayoutSubviews", &UIViewController::viewWillLayoutSubviews>()
-          .method<"viewDidLayoutSubviews", &UIViewController::viewDidLayoutSubviews>()
+      ClassBuilder<UIViewControllerState>("UIViewController")
+          .method<"init", &UIViewControllerState::init>()
+          .method<"initWithNibName:bundle:", &UIViewControllerState::initWithNib>()
+          .method<"view", &UIViewControllerState::view>()
+          .method<"setView:", &UIViewControllerState::setView>()
+          .method<"viewIfLoaded", &UIViewControllerState::viewIfLoaded>()
+          .method<"isViewLoaded", &UIViewControllerState::isViewLoaded>()
+          .method<"loadView", &UIViewControllerState::loadView>()
+          .method<"loadViewIfNeeded", &UIViewControllerState::loadViewIfNeeded>()
+          .method<"viewDidLoad", &UIViewControllerState::viewDidLoad>()
+          .method<"nextResponder", &UIViewControllerState::nextResponder>()
+          .method<"title", &UIViewControllerState::title>()
+          .method<"setTitle:", &UIViewControllerState::setTitle>()
+          .method<"navigationItem", &UIViewControllerState::navigationItem>()
+          .method<"tabBarItem", &UIViewControllerState::tabBarItem>()
+          .method<"setTabBarItem:", &UIViewControllerState::setTabBarItem>()
+          .method<"isEditing", &UIViewControllerState::isEditing>()
+          .method<"setEditing:", &UIViewControllerState::setEditingAtOnce>()
+          .method<"setEditing:animated:", &UIViewControllerState::setEditing>()
+          .method<"hidesBottomBarWhenPushed", &UIViewControllerState::hidesBottomBarWhenPushed>()
+          .method<"setHidesBottomBarWhenPushed:", &UIViewControllerState::setHidesBottomBar>()
+          .method<"toolbarItems", &UIViewControllerState::toolbarItemsArray>()
+          .method<"setToolbarItems:", &UIViewControllerState::setToolbarItems>()
+          .method<"setToolbarItems:animated:", &UIViewControllerState::setToolbarItemsAnimated>()
+          .method<"viewWillAppear:", &UIViewControllerState::viewWillAppear>()
+          .method<"viewDidAppear:", &UIViewControllerState::viewDidAppear>()
+          .method<"viewWillDisappear:", &UIViewControllerState::viewWillDisappear>()
+          .method<"viewDidDisappear:", &UIViewControllerState::viewDidDisappear>()
+          .method<"viewWillLayoutSubviews", &UIViewControllerState::viewWillLayoutSubviews>()
+          .method<"viewDidLayoutSubviews", &UIViewControllerState::viewDidLayoutSubviews>()
           .method<"viewWillTransitionToSize:withTransitionCoordinator:",
-                  &UIViewController::viewWillTransition>()
-          .method<"_adjustScrollViews", &UIViewController::adjustScrollViews>()
-          .method<"_safeAreaInsets", &UIViewController::safeAreaInsets>()
-          .method<"beginAppearanceTransition:animated:", &UIViewController::beginAppearance>()
-          .method<"endAppearanceTransition", &UIViewController::endAppearance>()
-          .method<"childViewControllers", &UIViewController::childrenArray>()
-          .method<"parentViewController", &UIViewController::parent>()
-          .method<"addChildViewController:", &UIViewController::addChild>()
-          .method<"removeFromParentViewController", &UIViewController::removeFromParent>()
-          .method<"willMoveToParentViewController:", &UIViewController::willMoveToParent>()
-          .method<"didMoveToParentViewController:", &UIViewController::didMoveToParent>()
-          .method<"navigationController", &UIViewController::navigationController>()
-          .method<"tabBarController", &UIViewController::tabBarController>()
-          .method<"presentedViewController", &UIViewController::presentedController>()
-          .method<"presentingViewController", &UIViewController::presentingController>()
-          .method<"popoverPresentationController", &UIViewController::popover>()
-          .method<"modalPresentationStyle", &UIViewController::modalPresentationStyle>()
-          .method<"setModalPresentationStyle:", &UIViewController::setModalPresentationStyle>()
-          .method<"modalTransitionStyle", &UIViewController::modalTransitionStyle>()
-          .method<"setModalTransitionStyle:", &UIViewController::setModalTransitionStyle>()
-          .method<"isBeingPresented", &UIViewController::isBeingPresented>()
-          .method<"isBeingDismissed", &UIViewController::isBeingDismissed>()
-          .method<"presentViewController:animated:completion:", &UIViewController::present>()
-          .method<"dismissViewControllerAnimated:completion:", &UIViewController::dismiss>()
-          .method<"_showPresented:", &UIViewController::showPresented>()
-          .method<"_presentationDuration", &UIViewController::presentationDuration>()
+                  &UIViewControllerState::viewWillTransition>()
+          .method<"_adjustScrollViews", &UIViewControllerState::adjustScrollViews>()
+          .method<"_safeAreaInsets", &UIViewControllerState::safeAreaInsets>()
+          .method<"beginAppearanceTransition:animated:", &UIViewControllerState::beginAppearance>()
+          .method<"endAppearanceTransition", &UIViewControllerState::endAppearance>()
+          .method<"childViewControllers", &UIViewControllerState::childrenArray>()
+          .method<"parentViewController", &UIViewControllerState::parent>()
+          .method<"addChildViewController:", &UIViewControllerState::addChild>()
+          .method<"removeFromParentViewController", &UIViewControllerState::removeFromParent>()
+          .method<"willMoveToParentViewController:", &UIViewControllerState::willMoveToParent>()
+          .method<"didMoveToParentViewController:", &UIViewControllerState::didMoveToParent>()
+          .method<"navigationController", &UIViewControllerState::navigationController>()
+          .method<"tabBarController", &UIViewControllerState::tabBarController>()
+          .method<"presentedViewController", &UIViewControllerState::presentedController>()
+          .method<"presentingViewController", &UIViewControllerState::presentingController>()
+          .method<"popoverPresentationController", &UIViewControllerState::popover>()
+          .method<"modalPresentationStyle", &UIViewControllerState::modalPresentationStyle>()
+          .method<"setModalPresentationStyle:", &UIViewControllerState::setModalPresentationStyle>()
+          .method<"modalTransitionStyle", &UIViewControllerState::modalTransitionStyle>()
+          .method<"setModalTransitionStyle:", &UIViewControllerState::setModalTransitionStyle>()
+          .method<"isBeingPresented", &UIViewControllerState::isBeingPresented>()
+          .method<"isBeingDismissed", &UIViewControllerState::isBeingDismissed>()
+          .method<"presentViewController:animated:completion:", &UIViewControllerState::present>()
+          .method<"dismissViewControllerAnimated:completion:", &UIViewControllerState::dismiss>()
+          .method<"_showPresented:", &UIViewControllerState::showPresented>()
+          .method<"_presentationDuration", &UIViewControllerState::presentationDuration>()
           .build();
   return made;
 }
 
-UIViewController::UIViewController(id self) : Bound(self) {}
+UIViewControllerState::UIViewControllerState(id self) : Bound(self) {}
 
-UIViewController::~UIViewController() {
+UIViewControllerState::~UIViewControllerState() {
   for (const auto& child : _children) of(child.get())._parent = {};
   if (_presentation) {
     of(_presentation->presented.get())._presenting = {};
     _presentation->container->removeFromSuperview();
   }
-  if (_view) UIView::of(_view.get()).setController({});
+  if (_view) UIViewState::of(_view.get()).setController({});
 }
 
-bridge::UIViewController UIViewController::init() {
-  return bridge::send<bridge::UIViewController, "initWithNibName:bundle:">(
-      self(), bridge::NSString(), bridge::Object());
+UIViewController UIViewControllerState::init() {
+  return send<UIViewController, "initWithNibName:bundle:">(self(), NSString(), Object());
 }
 
 // There are no nibs.
-bridge::UIViewController UIViewController::initWithNib(bridge::NSString, bridge::Object) const {
-  return super<bridge::UIViewController, "init">();
+UIViewController UIViewControllerState::initWithNib(NSString, Object) const {
+  return super<UIViewController, "init">();
 }
 
-bridge::UIView UIViewController::view() {
+UIView UIViewControllerState::view() {
   if (_view) return _view;
-  bridge::send<void, "loadView">(self());
+  send<void, "loadView">(self());
   if (!_view) loadView();
-  bridge::send<void, "viewDidLoad">(self());
+  send<void, "viewDidLoad">(self());
   return _view;
 }
 
-void UIViewController::loadView() {
-  const auto made = bridge::makeView<bridge::UIView>(rectOfSize(screen().size));
-  made->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
-  bridge::send<void, "setView:">(self(), made.get());
+void UIViewControllerState::loadView() {
+  const auto made = bridge::makeView<UIView>(rectOfSize(screen().size));
+  made->setAutoresizingMask(flexibleWidth | flexibleHeight);
+  send<void, "setView:">(self(), made.get());
 }
 
-void UIViewController::setView(bridge::UIView view) {
+void UIViewControllerState::setView(UIView view) {
   if (view == _view.get()) return;
-  if (_view) UIView::of(_view.get()).setController({});
-  _view = bridge::Owned<bridge::UIView>::retain(view);
+  if (_view) UIViewState::of(_view.get()).setController({});
+  _view = Owned<UIView>::retain(view);
   if (!_view) return;
-  UIView::of(_view.get()).setController(self());
-  UIView::of(_view.get()).setNeedsLayout();
+  UIViewState::of(_view.get()).setController(self());
+  UIViewState::of(_view.get()).setNeedsLayout();
 }
 
 // What a controller does not take goes to what its view stands in, or to who presented it.
-bridge::UIResponder UIViewController::nextResponder() const {
+UIResponder UIViewControllerState::nextResponder() const {
   if (_presenting) return _presenting;
-  return _view ? UIView::of(_view.get()).superview() : bridge::UIView();
+  return _view ? UIViewState::of(_view.get()).superview() : UIView();
 }
 
 // The items follow the title until they are given one of their own.
-void UIViewController::setTitle(bridge::NSString title) {
-  _title = bridge::Owned<bridge::NSString>::adopt(bridge::send<bridge::NSString, "copy">(title));
+void UIViewControllerState::setTitle(NSString title) {
+  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
   if (_navigationItem) _navigationItem->setTitle(title);
-  bridge::send<void, "setTitle:">(_tabBarItem.get(), title);
+  send<void, "setTitle:">(_tabBarItem.get(), title);
 }
 
-bridge::UINavigationItem UIViewController::navigationItem() {
+UINavigationItem UIViewControllerState::navigationItem() {
   if (!_navigationItem)
-    _navigationItem = bridge::Owned<bridge::UINavigationItem>::adopt(
-        bridge::send<bridge::UINavigationItem, "initWithTitle:">(
-            bridge::send<id, "alloc">(UINavigationItem::classObject()), _title.get()));
+    _navigationItem = Owned<UINavigationItem>::adopt(send<UINavigationItem, "initWithTitle:">(
+        send<id, "alloc">(UINavigationItemState::classObject()), _title.get()));
   return _navigationItem;
 }
 
-bridge::NSObject UIViewController::tabBarItem() {
+NSObject UIViewControllerState::tabBarItem() {
   if (!_tabBarItem) _tabBarItem = UITabBarItem::make(_title, {}, 0);
   return _tabBarItem;
 }
 
-void UIViewController::setTabBarItem(bridge::NSObject item) {
-  _tabBarItem = bridge::Owned<bridge::NSObject>::retain(item);
+void UIViewControllerState::setTabBarItem(NSObject item) {
+  _tabBarItem = Owned<NSObject>::retain(item);
 }
 
-void UIViewController::setEditing(bool editing, bool) {
+void UIViewControllerState::setEditing(bool editing, bool) {
   _isEditing = editing;
 }
 
-void UIViewController::setEditingAtOnce(bool editing) {
-  bridge::send<void, "setEditing:animated:">(self(), editing, false);
+void UIViewControllerState::setEditingAtOnce(bool editing) {
+  send<void, "setEditing:animated:">(self(), editing, false);
 }
 
-bridge::NSArray UIViewController::toolbarItemsArray() const {
+NSArray UIViewControllerState::toolbarItemsArray() const {
   return arrayOrNil(_toolbarItems);
 }
 
-void UIViewController::setToolbarItems(bridge::NSArray items) {
-  _toolbarItems = listOf<bridge::NSObject>(items);
-  const bridge::UIView view(navigationController() ? navigationController().view()
-                                                   : bridge::UIView());
-  if (view) UIView::of(view.get()).setNeedsLayout();
+void UIViewControllerState::setToolbarItems(NSArray items) {
+  _toolbarItems = listOf<NSObject>(items);
+  const UIView view(navigationController() ? navigationController().view() : UIView());
+  if (view) UIViewState::of(view.get()).setNeedsLayout();
 }
 
-bridge::UIPopoverPresentationController UIViewController::popover() {
-  if (!_popover) _popover = bridge::makeNew<bridge::UIPopoverPresentationController>();
+UIPopoverPresentationController UIViewControllerState::popover() {
+  if (!_popover) _popover = makeNew<UIPopoverPresentationController>();
   return _popover;
 }
 
-void UIViewController::setSafeArea(EdgeInsets insets) {
+void UIViewControllerState::setSafeArea(EdgeInsets insets) {
   if (insets == _safeArea) return;
   _safeArea = insets;
   adjustScrollViews();
-  if (_view) UIView::of(_view.get()).setNeedsLayout();
+  if (_view) UIViewState::of(_view.get()).setNeedsLayout();
 }
 
 // The view itself and what stands directly in it.
-void UIViewController::adjustScrollViews() {
+void UIViewControllerState::adjustScrollViews() {
   if (!_view) return;
-  const auto adjust = [this](bridge::UIView view) {
-    if (bridge::isKindOf(view, UIScrollView::classObject()))
-      UIScrollView::of(view.get()).setSafeArea(_safeArea);
+  const auto adjust = [this](UIView view) {
+    if (isKindOf(view, UIScrollViewState::classObject()))
+      UIScrollViewState::of(view.get()).setSafeArea(_safeArea);
   };
   adjust(_view);
-  for (const auto& view : UIView::of(_view.get()).subviews()) adjust(view);
+  for (const auto& view : UIViewState::of(_view.get()).subviews()) adjust(view);
 }
 
 }  // namespace desktop::uikit

@@ -5,20 +5,22 @@
 #pragma once
 
 #include <functional>
+#include "desktop/uikit/controls/ui_control.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
-#include "desktop/uikit/handles.h"
 
 namespace desktop::uikit {
 
-class ActionControl : public bridge::Bound<ActionControl, bridge::UIControl> {
+class ActionControl : public Bound<ActionControl, UIControlState> {
  public:
   explicit ActionControl(id self);
   static Class classObject();
 
   struct Look {
-    bridge::NSString title;
+    NSString title;
     CGFloat fontSize = 17;  // points
     bool isSemibold = false;
     Color color = colors::tint;
@@ -26,19 +28,19 @@ class ActionControl : public bridge::Bound<ActionControl, bridge::UIControl> {
     CGFloat margin = 16;  // points at the left and right of the title
   };
   // A new control; +1. The action is kept until the control goes.
-  static bridge::Owned<bridge::UIControl> make(const Look& look, std::function<void()> action);
+  static Owned<UIControl> make(const Look& look, std::function<void()> action);
 
-  bridge::UILabel label() const { return _label; }
+  UILabel label() const { return _label; }
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
   CGSize sizeThatFits(CGSize size) const;
   void setHighlighted(bool highlighted);
   void setEnabled(bool enabled);
-  void pressed(bridge::Object sender);
+  void pressed(Object sender);
 
-  bridge::Owned<bridge::UILabel> _label;
+  Owned<UILabel> _label;
   std::function<void()> _action;
   Color _color;
   Color _pressedBackground;

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/controls/button_symbols.h"
 #include "desktop/uikit/controls/ui_control.h"
 #include "desktop/uikit/graphics/canvas.h"
@@ -30,171 +31,169 @@ constexpr Color disabledTitle = Color::white(0.56);
 
 }  // namespace
 
-Class UIButton::classObject() {
+Class UIButtonState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIButton>("UIButton")
-          .classMethod<"buttonWithType:", &UIButton::withType>()
-          .method<"buttonType", &UIButton::typeNumber>()
-          .method<"titleLabel", &UIButton::titleLabel>()
-          .method<"imageView", &UIButton::imageView>()
-          .method<"setTitle:forState:", &UIButton::setTitle>()
-          .method<"titleForState:", &UIButton::titleForState>()
-          .method<"currentTitle", &UIButton::currentTitle>()
-          .method<"setTitleColor:forState:", &UIButton::setTitleColor>()
-          .method<"titleColorForState:", &UIButton::titleColorForState>()
-          .method<"currentTitleColor", &UIButton::currentTitleColorObject>()
-          .method<"setImage:forState:", &UIButton::setImage>()
-          .method<"imageForState:", &UIButton::imageForState>()
-          .method<"currentImage", &UIButton::currentImage>()
-          .method<"setBackgroundImage:forState:", &UIButton::setBackgroundImage>()
-          .method<"backgroundImageForState:", &UIButton::backgroundImageForState>()
-          .method<"adjustsImageWhenHighlighted", &UIButton::adjustsImageWhenHighlighted>()
-          .method<"setAdjustsImageWhenHighlighted:", &UIButton::setAdjustsImageWhenHighlighted>()
-          .method<"setHighlighted:", &UIButton::setHighlighted>()
-          .method<"setSelected:", &UIButton::setSelected>()
-          .method<"setEnabled:", &UIButton::setEnabled>()
-          .method<"setTintColor:", &UIButton::setTintColor>()
-          .method<"didMoveToSuperview", &UIButton::didMoveToSuperview>()
-          .method<"layoutSubviews", &UIButton::layoutSubviews>()
-          .method<"sizeThatFits:", &UIButton::sizeThatFits>()
-          .method<"drawContentOn:", &UIButton::drawContent>()
+      ClassBuilder<UIButtonState>("UIButton")
+          .classMethod<"buttonWithType:", &UIButtonState::withType>()
+          .method<"buttonType", &UIButtonState::typeNumber>()
+          .method<"titleLabel", &UIButtonState::titleLabel>()
+          .method<"imageView", &UIButtonState::imageView>()
+          .method<"setTitle:forState:", &UIButtonState::setTitle>()
+          .method<"titleForState:", &UIButtonState::titleForState>()
+          .method<"currentTitle", &UIButtonState::currentTitle>()
+          .method<"setTitleColor:forState:", &UIButtonState::setTitleColor>()
+          .method<"titleColorForState:", &UIButtonState::titleColorForState>()
+          .method<"currentTitleColor", &UIButtonState::currentTitleColorObject>()
+          .method<"setImage:forState:", &UIButtonState::setImage>()
+          .method<"imageForState:", &UIButtonState::imageForState>()
+          .method<"currentImage", &UIButtonState::currentImage>()
+          .method<"setBackgroundImage:forState:", &UIButtonState::setBackgroundImage>()
+          .method<"backgroundImageForState:", &UIButtonState::backgroundImageForState>()
+          .method<"adjustsImageWhenHighlighted", &UIButtonState::adjustsImageWhenHighlighted>()
+          .method<"setAdjustsImageWhenHighlighted:",
+                  &UIButtonState::setAdjustsImageWhenHighlighted>()
+          .method<"setHighlighted:", &UIButtonState::setHighlighted>()
+          .method<"setSelected:", &UIButtonState::setSelected>()
+          .method<"setEnabled:", &UIButtonState::setEnabled>()
+          .method<"setTintColor:", &UIButtonState::setTintColor>()
+          .method<"didMoveToSuperview", &UIButtonState::didMoveToSuperview>()
+          .method<"layoutSubviews", &UIButtonState::layoutSubviews>()
+          .method<"sizeThatFits:", &UIButtonState::sizeThatFits>()
+          .method<"drawContentOn:", &UIButtonState::drawContent>()
           .build();
   return made;
 }
 
-bridge::UIButton UIButton::withType(NSInteger type) {
-  auto made =
-      bridge::Owned<bridge::UIButton>::adopt(bridge::send<bridge::UIButton, "new">(classObject()));
-  UIButton& button = of(made.get());
+UIButton UIButtonState::withType(NSInteger type) {
+  auto made = Owned<UIButton>::adopt(send<UIButton, "new">(classObject()));
+  UIButtonState& button = of(made.get());
   button._type = type >= custom && type <= contactAdd ? static_cast<Type>(type) : custom;
   if (button.hasSymbol()) made->setFrame({{0, 0}, symbolSize});
   return made.autorelease();
 }
 
-NSUInteger UIButton::state() const {
-  return UIControl::of(self()).state();
+NSUInteger UIButtonState::state() const {
+  return UIControlState::state();
 }
 
 template <typename T>
-T UIButton::valueFor(const ByState<T>& values, NSUInteger state) const {
+T UIButtonState::valueFor(const ByState<T>& values, NSUInteger state) const {
   auto found = values.find(state);
-  if (found == values.end()) found = values.find(UIControl::normal);
+  if (found == values.end()) found = values.find(UIControlState::normal);
   return found == values.end() ? T() : found->second.get();
 }
 
 template <typename T>
-void UIButton::setValue(ByState<T>& values, T value, NSUInteger state) {
+void UIButtonState::setValue(ByState<T>& values, T value, NSUInteger state) {
   if (value)
-    values[state] = bridge::Owned<T>::retain(value);
+    values[state] = Owned<T>::retain(value);
   else
     values.erase(state);
   update();
 }
 
 // A title of its own, which a text that is changed later does not reach.
-void UIButton::setTitle(bridge::NSString title, NSUInteger state) {
-  const auto copied =
-      bridge::Owned<bridge::NSString>::adopt(bridge::send<bridge::NSString, "copy">(title));
+void UIButtonState::setTitle(NSString title, NSUInteger state) {
+  const auto copied = Owned<NSString>::adopt(send<NSString, "copy">(title));
   setValue(_titles, copied.get(), state);
 }
 
-bridge::NSString UIButton::titleForState(NSUInteger state) const {
+NSString UIButtonState::titleForState(NSUInteger state) const {
   return valueFor(_titles, state);
 }
 
-bridge::NSString UIButton::currentTitle() const {
+NSString UIButtonState::currentTitle() const {
   return titleForState(state());
 }
 
-void UIButton::setTitleColor(bridge::UIColor color, NSUInteger state) {
+void UIButtonState::setTitleColor(UIColor color, NSUInteger state) {
   setValue(_titleColors, color, state);
 }
 
-bridge::UIColor UIButton::titleColorForState(NSUInteger state) const {
+UIColor UIButtonState::titleColorForState(NSUInteger state) const {
   if (const auto color = valueFor(_titleColors, state)) return color;
-  if ((state & UIControl::disabled) != 0) return UIColor::make(disabledTitle);
-  return UIColor::make(_type == custom ? colors::white : UIView::of(self()).tint());
+  if ((state & UIControlState::disabled) != 0) return UIColorState::make(disabledTitle);
+  return UIColorState::make(_type == custom ? colors::white : UIViewState::of(self()).tint());
 }
 
-bridge::UIColor UIButton::currentTitleColorObject() const {
+UIColor UIButtonState::currentTitleColorObject() const {
   return titleColorForState(state());
 }
 
-Color UIButton::currentTitleColor() const {
-  return UIColor::valueOf(currentTitleColorObject());
+Color UIButtonState::currentTitleColor() const {
+  return UIColorState::valueOf(currentTitleColorObject());
 }
 
-void UIButton::setImage(bridge::UIImage image, NSUInteger state) {
+void UIButtonState::setImage(UIImage image, NSUInteger state) {
   setValue(_images, image, state);
 }
 
-bridge::UIImage UIButton::imageForState(NSUInteger state) const {
+UIImage UIButtonState::imageForState(NSUInteger state) const {
   return valueFor(_images, state);
 }
 
-bridge::UIImage UIButton::currentImage() const {
+UIImage UIButtonState::currentImage() const {
   return imageForState(state());
 }
 
-void UIButton::setBackgroundImage(bridge::UIImage image, NSUInteger state) {
+void UIButtonState::setBackgroundImage(UIImage image, NSUInteger state) {
   setValue(_backgroundImages, image, state);
 }
 
-bridge::UIImage UIButton::backgroundImageForState(NSUInteger state) const {
+UIImage UIButtonState::backgroundImageForState(NSUInteger state) const {
   return valueFor(_backgroundImages, state);
 }
 
-void UIButton::setAdjustsImageWhenHighlighted(bool adjusts) {
+void UIButtonState::setAdjustsImageWhenHighlighted(bool adjusts) {
   _adjustsImageWhenHighlighted = adjusts;
   update();
 }
 
-void UIButton::setHighlighted(bool isHighlighted) {
+void UIButtonState::setHighlighted(bool isHighlighted) {
   super<void, "setHighlighted:">(isHighlighted);
   update();
 }
 
-void UIButton::setSelected(bool isSelected) {
+void UIButtonState::setSelected(bool isSelected) {
   super<void, "setSelected:">(isSelected);
   update();
 }
 
-void UIButton::setEnabled(bool isEnabled) {
+void UIButtonState::setEnabled(bool isEnabled) {
   super<void, "setEnabled:">(isEnabled);
   update();
 }
 
-void UIButton::setTintColor(bridge::UIColor color) {
+void UIButtonState::setTintColor(UIColor color) {
   super<void, "setTintColor:">(color);
   update();
 }
 
 // There may be another tint now.
-void UIButton::didMoveToSuperview() {
+void UIButtonState::didMoveToSuperview() {
   super<void, "didMoveToSuperview">();
   update();
 }
 
-bridge::UILabel UIButton::titleLabel() {
+UILabel UIButtonState::titleLabel() {
   if (_titleLabel) return _titleLabel;
-  _titleLabel = bridge::makeView<bridge::UILabel>({});
-  _titleLabel->setFont(
-      bridge::UIFont::systemFont(_type == custom ? customFontSize : systemFontSize));
-  bridge::UIView(self()).addSubview(_titleLabel);
+  _titleLabel = bridge::makeView<UILabel>({});
+  _titleLabel->setFont(UIFont::systemFont(_type == custom ? customFontSize : systemFontSize));
+  UIView(self()).addSubview(_titleLabel);
   update();
   return _titleLabel;
 }
 
-handles::UIImageView UIButton::imageView() {
+UIImageView UIButtonState::imageView() {
   if (_imageView) return _imageView;
-  _imageView = bridge::makeView<handles::UIImageView>({});
-  UIView::of(self()).insertSubview(_imageView.get(), 0);
+  _imageView = bridge::makeView<UIImageView>({});
+  insertSubview(_imageView.get(), 0);
   update();
   return _imageView;
 }
 
-void UIButton::update() {
-  const bool isHighlighted = UIControl::of(self()).isHighlighted();
+void UIButtonState::update() {
+  const bool isHighlighted = UIControlState::isHighlighted();
   if (currentTitle() && !_titleLabel) return static_cast<void>(titleLabel());
   if (currentImage() && !_imageView) return static_cast<void>(imageView());
   if (_titleLabel) {
@@ -208,23 +207,23 @@ void UIButton::update() {
     const bool isDimmed = isHighlighted && _adjustsImageWhenHighlighted;
     _imageView->setAlpha(isDimmed ? highlightedImageAlpha : 1);
   }
-  UIView::of(self()).setNeedsLayout();
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsLayout();
+  setNeedsDisplay();
 }
 
-CGSize UIButton::imageSize() const {
+CGSize UIButtonState::imageSize() const {
   const auto image = currentImage();
-  return image ? UIImage::of(image).size() : CGSize{};
+  return image ? UIImageState::of(image).size() : CGSize{};
 }
 
-CGSize UIButton::titleSize() const {
+CGSize UIButtonState::titleSize() const {
   constexpr CGSize anySize{10'000, 10'000};
   if (!_titleLabel) return {};
-  const auto size = bridge::send<CGSize, "sizeThatFits:">(_titleLabel.get(), anySize);
+  const auto size = send<CGSize, "sizeThatFits:">(_titleLabel.get(), anySize);
   return {std::ceil(size.width), std::ceil(size.height)};
 }
 
-CGSize UIButton::sizeThatFits(CGSize) const {
+CGSize UIButtonState::sizeThatFits(CGSize) const {
   if (hasSymbol()) return symbolSize;
   const CGSize image = imageSize();
   const bool hasTitle = currentTitle() && currentTitle().length() > 0;
@@ -235,9 +234,9 @@ CGSize UIButton::sizeThatFits(CGSize) const {
 }
 
 // Image and title stand side by side in the middle; the title gives way where there is no room.
-void UIButton::layoutSubviews() {
+void UIButtonState::layoutSubviews() {
   super<void, "layoutSubviews">();
-  const CGRect bounds = UIView::of(self()).bounds();
+  const CGRect bounds = UIViewState::bounds();
   const CGSize image = imageSize();
   CGSize title = titleSize();
   title.width = std::min(title.width, std::max(0.0, bounds.size.width - image.width));
@@ -249,13 +248,13 @@ void UIButton::layoutSubviews() {
     _titleLabel->setFrame({{left + image.width, std::floor(mid.y - title.height / 2)}, title});
 }
 
-void UIButton::drawContent(Canvas* canvas) const {
-  const CGRect bounds = UIView::of(self()).shown().bounds;
-  if (const SharedBitmap background = UIImage::bitmapOf(backgroundImageForState(state())))
+void UIButtonState::drawContent(Canvas* canvas) const {
+  const CGRect bounds = shown().bounds;
+  if (const SharedBitmap background = UIImageState::bitmapOf(backgroundImageForState(state())))
     canvas->image(background, bounds);
   if (!hasSymbol()) return;
-  const Color tint = UIView::of(self()).tint();
-  const bool isHighlighted = UIControl::of(self()).isHighlighted();
+  const Color tint = UIViewState::tint();
+  const bool isHighlighted = UIControlState::isHighlighted();
   const Color color = isHighlighted ? tint.withAlpha(tint.alpha * highlightedAlpha) : tint;
   const CGPoint corner = middle(bounds) - CGPoint{symbolSize.width / 2, symbolSize.height / 2};
   const auto symbol = _type == contactAdd ? ButtonSymbol::plus : ButtonSymbol::info;

@@ -4,13 +4,16 @@
 #pragma once
 
 #include <vector>
+#include "desktop/uikit/views/ui_view.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_controls.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-class UIControl : public bridge::Bound<UIControl, bridge::UIView> {
+class UIControlState : public Bound<UIControlState, UIViewState, UIControl> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -30,15 +33,15 @@ class UIControl : public bridge::Bound<UIControl, bridge::UIView> {
   enum StateBit : NSUInteger { normal = 0, highlighted = 1, disabled = 2, selected = 4 };
 
   struct Target {
-    bridge::NSObject target;  // borrowed; nil is whoever first answers on the way up
+    NSObject target;  // borrowed; nil is whoever first answers on the way up
     SEL action;
     NSUInteger events;
   };
   const std::vector<Target>& targets() const { return _targets; }
   // A pair of target and action is there once, for all of its events together.
-  void addTarget(bridge::NSObject target, SEL action, NSUInteger events);
+  void addTarget(NSObject target, SEL action, NSUInteger events);
   // Nil is every target, null every action.
-  void removeTarget(bridge::NSObject target, SEL action, NSUInteger events);
+  void removeTarget(NSObject target, SEL action, NSUInteger events);
   void sendActions(NSUInteger events);
 
   NSUInteger state() const { return _state; }
@@ -53,22 +56,22 @@ class UIControl : public bridge::Bound<UIControl, bridge::UIView> {
   void setHighlighted(bool isHighlighted) { setBit(highlighted, isHighlighted); }
   void setSelected(bool isSelected) { setBit(selected, isSelected); }
   void setBit(NSUInteger bit, bool isSet);
-  bridge::NSSet allTargets() const;
+  NSSet allTargets() const;
   NSUInteger allControlEvents() const;
-  bridge::NSArray actionsForTarget(bridge::NSObject target, NSUInteger events) const;
-  void sendAction(SEL action, bridge::NSObject target, bridge::UIEvent event);
-  void sendActionsWithEvent(NSUInteger events, bridge::UIEvent event);
-  bool shouldBegin(bridge::UIGestureRecognizer recognizer) const;
+  NSArray actionsForTarget(NSObject target, NSUInteger events) const;
+  void sendAction(SEL action, NSObject target, UIEvent event);
+  void sendActionsWithEvent(NSUInteger events, UIEvent event);
+  bool shouldBegin(UIGestureRecognizer recognizer) const;
 
-  bool beginTracking(bridge::UITouch, bridge::UIEvent) { return true; }
-  bool continueTracking(bridge::UITouch, bridge::UIEvent) { return true; }
-  void endTracking(bridge::UITouch, bridge::UIEvent) {}
-  void cancelTracking(bridge::UIEvent) {}
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
-  bool isNear(bridge::UITouch touch) const;
+  bool beginTracking(UITouch, UIEvent) { return true; }
+  bool continueTracking(UITouch, UIEvent) { return true; }
+  void endTracking(UITouch, UIEvent) {}
+  void cancelTracking(UIEvent) {}
+  void touchesBegan(NSSet touches, UIEvent event);
+  void touchesMoved(NSSet touches, UIEvent event);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void touchesCancelled(NSSet touches, UIEvent event);
+  bool isNear(UITouch touch) const;
   void stopTracking();
 
   std::vector<Target> _targets;

@@ -4,44 +4,44 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_controls.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-class UITextPosition : public bridge::Bound<UITextPosition, bridge::NSObject> {
+class UITextPositionState : public Bound<UITextPositionState, NSObject, UITextPosition> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // A new position; autoreleased.
-  static bridge::UITextPosition make(std::size_t offset);
+  static UITextPosition make(std::size_t offset);
   // In UTF-16 units; 0 for nil and for what is no position.
-  static std::size_t offsetOf(bridge::Object position);
+  static std::size_t offsetOf(Object position);
 
  private:
-  bool isEqual(bridge::Object other) const;
+  bool isEqual(Object other) const;
   NSUInteger hash() const { return _offset; }
 
   std::size_t _offset = 0;
 };
 
-class UITextRange : public bridge::Bound<UITextRange, bridge::NSObject> {
+class UITextRangeState : public Bound<UITextRangeState, NSObject, UITextRange> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // A new range; autoreleased.
-  static bridge::UITextRange make(NSRange range);
+  static UITextRange make(NSRange range);
   // An empty one for nil and for what is no range.
-  static NSRange rangeOf(bridge::Object range);
+  static NSRange rangeOf(Object range);
 
  private:
-  bridge::UITextPosition start() const { return UITextPosition::make(_range.location); }
-  bridge::UITextPosition end() const {
-    return UITextPosition::make(_range.location + _range.length);
-  }
+  UITextPosition start() const { return UITextPositionState::make(_range.location); }
+  UITextPosition end() const { return UITextPositionState::make(_range.location + _range.length); }
   bool isEmpty() const { return _range.length == 0; }
-  bool isEqual(bridge::Object other) const;
+  bool isEqual(Object other) const;
   NSUInteger hash() const { return _range.location; }
 
   NSRange _range;

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -29,10 +30,10 @@ CGFloat pointsUp(CGFloat points) {
 
 }  // namespace
 
-Class UITextView::classObject() {
-  using Self = UITextView;
+Class UITextViewState::classObject() {
+  using Self = UITextViewState;
   static const Class made =
-      bridge::ClassBuilder<UITextView>("UITextView")
+      ClassBuilder<UITextViewState>("UITextView")
           .method<"text", &Self::text>()
           .method<"setText:", &Self::setText>()
           .method<"attributedText", &Self::attributedText>()
@@ -78,35 +79,33 @@ Class UITextView::classObject() {
   return made;
 }
 
-UITextView::UITextView(id self) : Bound(self) {
+UITextViewState::UITextViewState(id self) : Bound(self) {
   _look.face = standardFace;
   _text = std::make_shared<AttributedText>(AttributedText::plain({}, _look.face));
-  _string = bridge::Owned<bridge::NSString>::retain(bridge::NSString::make(""));
+  _string = Owned<NSString>::retain(NSString::make(""));
   addGestures();
 }
 
 // Another text begins without a selection.
-void UITextView::show(AttributedText text) {
+void UITextViewState::show(AttributedText text) {
   _text = std::make_shared<AttributedText>(std::move(text));
   _layout.reset();
-  UIView::of(self()).setNeedsLayout();
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsLayout();
+  setNeedsDisplay();
 }
 
-void UITextView::setText(bridge::NSString text) {
-  if (!text) text = bridge::NSString::make("");
-  _string = bridge::Owned<bridge::NSString>::adopt(bridge::send<bridge::NSString, "copy">(text));
+void UITextViewState::setText(NSString text) {
+  if (!text) text = NSString::make("");
+  _string = Owned<NSString>::adopt(send<NSString, "copy">(text));
   AttributedText plain = AttributedText::plain(utf16Of(_string), _look.face, _look.style);
   plain.runs[0].color = _look.color;
   show(std::move(plain));
   select(std::nullopt);
 }
 
-void UITextView::setAttributedText(bridge::NSAttributedString text) {
-  using bridge::NSString;
-  const auto string = bridge::send<NSString, "string">(text);
-  _string = bridge::Owned<NSString>::adopt(
-      bridge::send<NSString, "copy">(string ? string : NSString::make("")));
+void UITextViewState::setAttributedText(NSAttributedString text) {
+  const auto string = send<NSString, "string">(text);
+  _string = Owned<NSString>::adopt(send<NSString, "copy">(string ? string : NSString::make("")));
   AttributedText attributed = AttributedText::of(text, standardFace);
   // Paragraphs without an alignment of their own stand as the view says.
   for (TextRun& run : attributed.runs)
@@ -116,67 +115,67 @@ void UITextView::setAttributedText(bridge::NSAttributedString text) {
   select(std::nullopt);
 }
 
-bridge::NSAttributedString UITextView::attributedText() const {
+NSAttributedString UITextViewState::attributedText() const {
   return attributedString(_string, _text->runs);
 }
 
 // Changes the look of all text, and of what is set later.
 template <typename Change>
-void UITextView::restyle(const Change& change) {
+void UITextViewState::restyle(const Change& change) {
   AttributedText restyled = *_text;
   for (TextRun& run : restyled.runs) change(run);
   change(_look);
   show(std::move(restyled));
 }
 
-bridge::UIFont UITextView::font() const {
-  return UIFont::make(_look.face);
+UIFont UITextViewState::font() const {
+  return UIFontState::make(_look.face);
 }
 
 // No font is the standard one.
-void UITextView::setFont(bridge::UIFont font) {
-  const FontFace face = UIFont::faceOf(font, standardFace);
+void UITextViewState::setFont(UIFont font) {
+  const FontFace face = UIFontState::faceOf(font, standardFace);
   restyle([&](TextRun& run) { run.face = face; });
 }
 
-bridge::UIColor UITextView::textColorObject() const {
-  return UIColor::make(textColor());
+UIColor UITextViewState::textColorObject() const {
+  return UIColorState::make(textColor());
 }
 
-void UITextView::setTextColor(bridge::UIColor color) {
-  const auto value = color ? std::optional(UIColor::valueOf(color)) : std::nullopt;
+void UITextViewState::setTextColor(UIColor color) {
+  const auto value = color ? std::optional(UIColorState::valueOf(color)) : std::nullopt;
   restyle([&](TextRun& run) { run.color = value; });
 }
 
-void UITextView::setAlignmentNumber(NSInteger alignment) {
+void UITextViewState::setAlignmentNumber(NSInteger alignment) {
   if (alignment < 0 || alignment > static_cast<NSInteger>(TextAlignment::natural)) return;
   restyle([&](TextRun& run) { run.style.alignment = static_cast<TextAlignment>(alignment); });
 }
 
-void UITextView::setSelectable(bool selectable) {
+void UITextViewState::setSelectable(bool selectable) {
   _isSelectable = selectable;
   if (!selectable) select(std::nullopt);
 }
 
-void UITextView::setTextContainerInset(EdgeInsets inset) {
+void UITextViewState::setTextContainerInset(EdgeInsets inset) {
   const bool isFinite = std::isfinite(inset.top + inset.left + inset.bottom + inset.right);
   if (!isFinite || inset == _inset) return;
   _inset = inset;
   _layout.reset();
-  UIView::of(self()).setNeedsLayout();
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsLayout();
+  setNeedsDisplay();
 }
 
-double UITextView::columnWidth(CGFloat viewWidth) const {
+double UITextViewState::columnWidth(CGFloat viewWidth) const {
   return std::max(viewWidth - _inset.left - _inset.right - 2 * padding, 0.0);
 }
 
-CGPoint UITextView::textOrigin() const {
+CGPoint UITextViewState::textOrigin() const {
   return {_inset.left + padding, _inset.top};
 }
 
-const TextLayout& UITextView::layout() const {
-  const double width = columnWidth(UIView::of(self()).bounds().size.width);
+const TextLayout& UITextViewState::layout() {
+  const double width = columnWidth(bounds().size.width);
   if (!_layout || _layout->width() != width) {
     _layout.emplace(_text, width);
     updateContentSize();
@@ -184,60 +183,59 @@ const TextLayout& UITextView::layout() const {
   return *_layout;
 }
 
-CGSize UITextView::sizeAround(const TextLayout& layout, CGFloat width) const {
+CGSize UITextViewState::sizeAround(const TextLayout& layout, CGFloat width) const {
   const CGSize text = layout.size();
   const CGFloat needed = pointsUp(text.width + 2 * padding + _inset.left + _inset.right);
   return {std::min(needed, width), pointsUp(text.height + _inset.top + _inset.bottom)};
 }
 
-void UITextView::updateContentSize() const {
-  const CGFloat width = UIView::of(self()).bounds().size.width;
-  UIScrollView::of(self()).setContentSize({width, sizeAround(*_layout, width).height});
+void UITextViewState::updateContentSize() {
+  const CGFloat width = bounds().size.width;
+  setContentSize({width, sizeAround(*_layout, width).height});
 }
 
-CGSize UITextView::contentSize() const {
+CGSize UITextViewState::contentSize() {
   layout();
-  return UIScrollView::of(self()).contentSize();
+  return UIScrollViewState::contentSize();
 }
 
 // As wide as the longest line; a size without width does not limit it.
-CGSize UITextView::sizeThatFits(CGSize size) const {
+CGSize UITextViewState::sizeThatFits(CGSize size) const {
   const CGFloat width = size.width > 0 ? std::min(size.width, unlimited) : unlimited;
   if (_layout && _layout->width() == columnWidth(width)) return sizeAround(*_layout, width);
   return sizeAround(TextLayout(_text, columnWidth(width)), width);
 }
 
 // What comes into sight is laid out for good; what is in sight then stays where it is.
-void UITextView::layoutSubviews() {
+void UITextViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
   layout();
-  const CGRect seen = UIView::of(self()).bounds();
+  const CGRect seen = bounds();
   const double top = seen.origin.y - _inset.top;
   if (_layout->isExact()) return;
   const double shift = _layout->refine(top, top + seen.size.height);
   updateContentSize();
-  const UIScrollView& scroll = UIScrollView::of(self());
   CGPoint offset = seen.origin;
-  if (shift != 0) offset = scroll.clamped({offset.x, offset.y + shift});
-  if (offset != seen.origin) bridge::send<void, "setContentOffset:">(self(), offset);
-  UIView::of(self()).setNeedsDisplay();
+  if (shift != 0) offset = clamped({offset.x, offset.y + shift});
+  if (offset != seen.origin) send<void, "setContentOffset:">(self(), offset);
+  setNeedsDisplay();
 }
 
-std::size_t UITextView::indexAt(CGPoint point) const {
+std::size_t UITextViewState::indexAt(CGPoint point) {
   return layout().indexAt(point - textOrigin());
 }
 
-CGRect UITextView::caretAt(std::size_t index) const {
+CGRect UITextViewState::caretAt(std::size_t index) {
   return offset(layout().caretAt(std::min(index, _text->text.size())), textOrigin());
 }
 
-void UITextView::scrollRangeToVisible(NSRange range) {
+void UITextViewState::scrollRangeToVisible(NSRange range) {
   const CGRect first = caretAt(range.location);
-  bridge::send<void, "scrollRectToVisible:animated:">(self(), first, false);
+  send<void, "scrollRectToVisible:animated:">(self(), first, false);
 }
 
-void UITextView::drawContent(Canvas* canvas) const {
-  const CGRect seen = UIView::of(self()).bounds();
+void UITextViewState::drawContent(Canvas* canvas) {
+  const CGRect seen = bounds();
   if (hasSelectedText()) drawSelection(*canvas);
   const double top = seen.origin.y - _inset.top;
   layout().draw(*canvas, textOrigin(), textColor(), top, top + seen.size.height);

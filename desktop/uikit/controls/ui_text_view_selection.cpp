@@ -25,7 +25,7 @@ void drawHandle(Canvas& canvas, CGRect caret, Color color, bool isFirst) {
 
 }  // namespace
 
-void UITextView::select(std::optional<NSRange> range) {
+void UITextViewState::select(std::optional<NSRange> range) {
   const NSUInteger length = _text->text.size();
   if (range) {
     range->location = std::min(range->location, length);
@@ -33,102 +33,100 @@ void UITextView::select(std::optional<NSRange> range) {
   }
   if (range == _selection) return;
   _selection = range;
-  UIView::of(self()).setNeedsDisplay();
-  const bridge::NSObject delegate = UIScrollView::of(self()).delegate();
-  if (bridge::respondsTo<"textViewDidChangeSelection:">(delegate))
-    bridge::send<void, "textViewDidChangeSelection:">(delegate, self());
+  setNeedsDisplay();
+  const NSObject delegate = UIScrollViewState::of(self()).delegate();
+  if (respondsTo<"textViewDidChangeSelection:">(delegate))
+    send<void, "textViewDidChangeSelection:">(delegate, self());
 }
 
-void UITextView::setSelectedRange(NSRange range) {
+void UITextViewState::setSelectedRange(NSRange range) {
   if (range.location == static_cast<NSUInteger>(NSNotFound)) return select(std::nullopt);
   select(range);
 }
 
-bridge::UITextRange UITextView::selectedTextRange() const {
-  return _selection ? UITextRange::make(*_selection) : bridge::UITextRange();
+UITextRange UITextViewState::selectedTextRange() const {
+  return _selection ? UITextRangeState::make(*_selection) : UITextRange();
 }
 
-void UITextView::setSelectedTextRange(bridge::UITextRange range) {
+void UITextViewState::setSelectedTextRange(UITextRange range) {
   if (!range) return select(std::nullopt);
-  select(UITextRange::rangeOf(range));
+  select(UITextRangeState::rangeOf(range));
 }
 
-bridge::UITextPosition UITextView::beginningOfDocument() const {
-  return UITextPosition::make(0);
+UITextPosition UITextViewState::beginningOfDocument() const {
+  return UITextPositionState::make(0);
 }
 
-bridge::UITextPosition UITextView::endOfDocument() const {
-  return UITextPosition::make(_text->text.size());
+UITextPosition UITextViewState::endOfDocument() const {
+  return UITextPositionState::make(_text->text.size());
 }
 
-NSInteger UITextView::offsetBetween(bridge::UITextPosition from, bridge::UITextPosition to) const {
-  return static_cast<NSInteger>(UITextPosition::offsetOf(to)) -
-         static_cast<NSInteger>(UITextPosition::offsetOf(from));
+NSInteger UITextViewState::offsetBetween(UITextPosition from, UITextPosition to) const {
+  return static_cast<NSInteger>(UITextPositionState::offsetOf(to)) -
+         static_cast<NSInteger>(UITextPositionState::offsetOf(from));
 }
 
 // Nil outside the text.
-bridge::UITextPosition UITextView::positionFrom(bridge::UITextPosition position,
-                                                NSInteger offset) const {
-  const auto start = static_cast<NSInteger>(UITextPosition::offsetOf(position));
+UITextPosition UITextViewState::positionFrom(UITextPosition position, NSInteger offset) const {
+  const auto start = static_cast<NSInteger>(UITextPositionState::offsetOf(position));
   const auto length = static_cast<NSInteger>(_text->text.size());
   if (!position || offset < -start || offset > length - start) return {};
-  return UITextPosition::make(static_cast<std::size_t>(start + offset));
+  return UITextPositionState::make(static_cast<std::size_t>(start + offset));
 }
 
-bridge::UITextRange UITextView::rangeBetween(bridge::UITextPosition from,
-                                             bridge::UITextPosition to) const {
+UITextRange UITextViewState::rangeBetween(UITextPosition from, UITextPosition to) const {
   if (!from || !to) return {};
   const auto [start, end] =
-      std::minmax({UITextPosition::offsetOf(from), UITextPosition::offsetOf(to)});
-  return UITextRange::make({start, end - start});
+      std::minmax({UITextPositionState::offsetOf(from), UITextPositionState::offsetOf(to)});
+  return UITextRangeState::make({start, end - start});
 }
 
-bridge::NSString UITextView::textInRange(bridge::UITextRange range) const {
-  const NSRange wanted = UITextRange::rangeOf(range);
+NSString UITextViewState::textInRange(UITextRange range) const {
+  const NSRange wanted = UITextRangeState::rangeOf(range);
   const std::size_t start = std::min<std::size_t>(wanted.location, _text->text.size());
   return stringOf(std::u16string_view(_text->text).substr(start, wanted.length));
 }
 
-bridge::UITextPosition UITextView::closestPosition(CGPoint point) const {
-  return UITextPosition::make(indexAt(point));
+UITextPosition UITextViewState::closestPosition(CGPoint point) {
+  return UITextPositionState::make(indexAt(point));
 }
 
-CGRect UITextView::caretRect(bridge::UITextPosition position) const {
-  return caretAt(UITextPosition::offsetOf(position));
+CGRect UITextViewState::caretRect(UITextPosition position) {
+  return caretAt(UITextPositionState::offsetOf(position));
 }
 
 // Chosen from the edit menu, it leaves the menu there for what comes next.
-void UITextView::selectAll(bridge::NSObject sender) {
+void UITextViewState::selectAll(NSObject sender) {
   if (!_isSelectable) return;
   select(NSRange{0, _text->text.size()});
-  bridge::send<bool, "becomeFirstResponder">(self());
-  if (bridge::isKindOf(sender, bridge::UIMenuController::classObject())) showMenu();
+  send<bool, "becomeFirstResponder">(self());
+  if (isKindOf(sender, UIMenuController::classObject())) showMenu();
 }
 
-void UITextView::copyText(bridge::NSObject) {
+void UITextViewState::copyText(NSObject) {
   if (!hasSelectedText() || !outside().copyText) return;
   const auto selected =
       std::u16string_view(_text->text).substr(_selection->location, _selection->length);
   outside().copyText(stringOf(selected).utf8());
 }
 
-bool UITextView::canPerformAction(SEL action, bridge::Object sender) const {
-  if (bridge::sameSelector(action, bridge::selector<"copy:">())) return hasSelectedText();
-  if (bridge::sameSelector(action, bridge::selector<"selectAll:">()))
+bool UITextViewState::canPerformAction(SEL action, Object sender) const {
+  if (sameSelector(action, selector<"copy:">())) return hasSelectedText();
+  if (sameSelector(action, selector<"selectAll:">()))
     return _isSelectable && selectedRange().length < _text->text.size();
   return super<bool, "canPerformAction:withSender:">(action, sender);
 }
 
-std::vector<CGRect> UITextView::selectionInSight() const {
-  const CGRect seen = UIView::of(self()).bounds();
+std::vector<CGRect> UITextViewState::selectionInSight() {
+  const CGRect seen = bounds();
   const double top = seen.origin.y - textOrigin().y;
   std::vector<CGRect> rects = layout().selection(selectedRange(), top, top + seen.size.height);
   for (CGRect& rect : rects) rect = offset(rect, textOrigin());
   return rects;
 }
 
-void UITextView::drawSelection(Canvas& canvas) const {
-  const Color tint = UIView::of(self()).tint();
+void UITextViewState::drawSelection(Canvas& canvas) {
+  const Color tint = UIViewState::tint();
   for (const CGRect& rect : selectionInSight())
     canvas.fill(rect, tint.withAlpha(selectionAlpha), 0);
   drawHandle(canvas, caretAt(_selection->location), tint, true);

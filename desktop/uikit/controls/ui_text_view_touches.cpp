@@ -14,13 +14,11 @@ namespace {
 constexpr CGFloat reach = 20;  // points around an end that take hold of it
 
 // A recogniser of a class, which the view owns; borrowed from it.
-template <bridge::FixedString ClassName, bridge::FixedString Action>
-bridge::UIGestureRecognizer addRecognizer(bridge::UIView view) {
-  using bridge::UIGestureRecognizer;
-  const auto made = bridge::Owned<UIGestureRecognizer>::adopt(
-      bridge::send<UIGestureRecognizer, "initWithTarget:action:">(
-          bridge::send<id, "alloc">(bridge::classNamed<ClassName>()), view,
-          bridge::selector<Action>()));
+template <FixedString ClassName, FixedString Action>
+UIGestureRecognizer addRecognizer(UIView view) {
+  const auto made =
+      Owned<UIGestureRecognizer>::adopt(send<UIGestureRecognizer, "initWithTarget:action:">(
+          send<id, "alloc">(classNamed<ClassName>()), view, selector<Action>()));
   made->setDelegate(view);
   view.addGestureRecognizer(made);
   return made;
@@ -31,78 +29,77 @@ CGFloat distance(CGPoint point, CGRect caret) {
   return std::hypot(point.x - caret.origin.x, point.y - y);
 }
 
-bool isOver(bridge::UIGestureRecognizer recognizer) {
-  return recognizer.state() == bridge::UIGestureRecognizer::ended ||
-         recognizer.state() == bridge::UIGestureRecognizer::cancelled;
+bool isOver(UIGestureRecognizer recognizer) {
+  return recognizer.state() == UIGestureRecognizer::ended ||
+         recognizer.state() == UIGestureRecognizer::cancelled;
 }
 
 void hideMenu() {
-  const auto menu = bridge::send<bridge::UIMenuController, "sharedMenuController">(
-      bridge::UIMenuController::classObject());
-  bridge::send<void, "setMenuVisible:animated:">(menu, false, true);
+  const auto menu = send<UIMenuController, "sharedMenuController">(UIMenuController::classObject());
+  send<void, "setMenuVisible:animated:">(menu, false, true);
 }
 
 }  // namespace
 
-void UITextView::addGestures() {
-  const bridge::UIView view = me();
+void UITextViewState::addGestures() {
+  const UIView view = self();
   _press = addRecognizer<"UILongPressGestureRecognizer", "textPressed:">(view);
   _handle = addRecognizer<"UILongPressGestureRecognizer", "selectionEndDragged:">(view);
-  bridge::send<void, "setMinimumPressDuration:">(_handle, 0.0);
+  send<void, "setMinimumPressDuration:">(_handle, 0.0);
   _tap = addRecognizer<"UITapGestureRecognizer", "textTapped:">(view);
 }
 
-bool UITextView::wantsTouch(bridge::UIGestureRecognizer recognizer, bridge::UITouch touch) const {
-  if (recognizer == _handle) return hasSelectedText() && isNearEnd(touch.locationIn(me()));
+bool UITextViewState::wantsTouch(UIGestureRecognizer recognizer, UITouch touch) {
+  if (recognizer == _handle) return hasSelectedText() && isNearEnd(touch.locationIn(self()));
   if (recognizer == _tap) return _selection.has_value();
   return _isSelectable;
 }
 
-bool UITextView::isNearEnd(CGPoint point) const {
+bool UITextViewState::isNearEnd(CGPoint point) {
   const NSRange range = selectedRange();
   return distance(point, caretAt(range.location)) <= reach ||
          distance(point, caretAt(range.location + range.length)) <= reach;
 }
 
-void UITextView::selectBetween(std::size_t from, std::size_t to) {
+void UITextViewState::selectBetween(std::size_t from, std::size_t to) {
   select(NSRange{std::min(from, to), std::max(from, to) - std::min(from, to)});
 }
 
 // The unit below a point, where a caret nearest to it may stand behind the unit.
-std::size_t UITextView::unitAt(CGPoint point) const {
+std::size_t UITextViewState::unitAt(CGPoint point) {
   const std::size_t index = indexAt(point);
   return index > 0 && caretAt(index).origin.x > point.x ? index - 1 : index;
 }
 
-void UITextView::pressed(bridge::UIGestureRecognizer recognizer) {
-  const NSRange word = wordAt(_text->text, unitAt(recognizer.locationIn(me())));
-  if (recognizer.state() == bridge::UIGestureRecognizer::began) {
+void UITextViewState::pressed(UIGestureRecognizer recognizer) {
+  const NSRange word = wordAt(_text->text, unitAt(recognizer.locationIn(self())));
+  if (recognizer.state() == UIGestureRecognizer::began) {
     hideMenu();
     _pressed = word;
-    bridge::send<bool, "becomeFirstResponder">(self());
+    send<bool, "becomeFirstResponder">(self());
   }
-  if (recognizer.state() != bridge::UIGestureRecognizer::cancelled)
+  if (recognizer.state() != UIGestureRecognizer::cancelled)
     selectBetween(std::min(word.location, _pressed.location),
                   std::max(word.location + word.length, _pressed.location + _pressed.length));
   if (isOver(recognizer)) showMenu();
 }
 
-void UITextView::tapped(bridge::UIGestureRecognizer) {
+void UITextViewState::tapped(UIGestureRecognizer) {
   hideMenu();
   select(std::nullopt);
 }
 
 // The end that is dragged goes with the finger, to the other side of the fixed one too; at least
 // one unit stays selected.
-void UITextView::dragged(bridge::UIGestureRecognizer recognizer) {
-  const CGPoint point = recognizer.locationIn(me());
-  if (recognizer.state() == bridge::UIGestureRecognizer::began) {
+void UITextViewState::dragged(UIGestureRecognizer recognizer) {
+  const CGPoint point = recognizer.locationIn(self());
+  if (recognizer.state() == UIGestureRecognizer::began) {
     const NSRange range = selectedRange();
     const std::size_t end = range.location + range.length;
     const bool isFirst = distance(point, caretAt(range.location)) < distance(point, caretAt(end));
     _fixedEnd = isFirst ? end : range.location;
     hideMenu();
-    bridge::send<bool, "becomeFirstResponder">(self());
+    send<bool, "becomeFirstResponder">(self());
     return;
   }
   const std::size_t index = indexAt(point);
@@ -110,15 +107,14 @@ void UITextView::dragged(bridge::UIGestureRecognizer recognizer) {
   if (isOver(recognizer)) showMenu();
 }
 
-void UITextView::showMenu() {
+void UITextViewState::showMenu() {
   const std::vector<CGRect> rects = selectionInSight();
-  CGRect target = rects.empty() ? CGRect{UIView::of(self()).bounds().origin, {1, 1}} : rects[0];
+  CGRect target = rects.empty() ? CGRect{bounds().origin, {1, 1}} : rects[0];
   for (const CGRect& rect : rects) target = unionOf(target, rect);
-  target = intersection(target, UIView::of(self()).bounds());
-  const auto menu = bridge::send<bridge::UIMenuController, "sharedMenuController">(
-      bridge::UIMenuController::classObject());
-  bridge::send<void, "setTargetRect:inView:">(menu, target, me());
-  bridge::send<void, "setMenuVisible:animated:">(menu, true, true);
+  target = intersection(target, bounds());
+  const auto menu = send<UIMenuController, "sharedMenuController">(UIMenuController::classObject());
+  send<void, "setTargetRect:inView:">(menu, target, self());
+  send<void, "setMenuVisible:animated:">(menu, true, true);
 }
 
 }  // namespace desktop::uikit

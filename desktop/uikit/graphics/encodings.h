@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/coregraphics.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 class Canvas;

@@ -11,6 +11,7 @@
 
 #include "bridge/coregraphics.h"
 #include "bridge/runtime.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/graphics/bitmap.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -120,7 +121,8 @@ CGContextRef UIGraphicsGetCurrentContext() {
 id UIGraphicsGetImageFromCurrentImageContext() {
   const CGContext* context = desktop::uikit::current();
   if (!context) return nullptr;
-  return desktop::uikit::UIImage::make(std::make_shared<const Bitmap>(context->bitmap), 1).get();
+  return desktop::uikit::UIImageState::make(std::make_shared<const Bitmap>(context->bitmap), 1)
+      .get();
 }
 
 void UIGraphicsEndImageContext() {
@@ -129,7 +131,7 @@ void UIGraphicsEndImageContext() {
 
 void CGContextSetFillColorWithColor(CGContextRef context, CGColorRef color) {
   if (CGContext* known = desktop::uikit::alive(context))
-    known->fill = desktop::uikit::UIColor::valueOf(color);
+    known->fill = desktop::uikit::UIColorState::valueOf(color);
 }
 
 void CGContextFillRect(CGContextRef context, CGRect rect) {

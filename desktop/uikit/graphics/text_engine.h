@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "bridge/geometry.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 

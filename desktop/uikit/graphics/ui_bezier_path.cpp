@@ -2,31 +2,32 @@
 #include "desktop/uikit/graphics/ui_bezier_path.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/encodings.h"
 
 namespace desktop::uikit {
 
-Class UIBezierPath::classObject() {
+Class UIBezierPathState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIBezierPath>("UIBezierPath")
-          .classMethod<"bezierPathWithRect:", &UIBezierPath::withRect>()
-          .classMethod<"bezierPathWithRoundedRect:cornerRadius:", &UIBezierPath::withRoundedRect>()
-          .classMethod<"bezierPathWithOvalInRect:", &UIBezierPath::withOval>()
-          .method<"CGPath", &UIBezierPath::cgPath>()
-          .method<"bounds", &UIBezierPath::bounds>()
+      ClassBuilder<UIBezierPathState>("UIBezierPath")
+          .classMethod<"bezierPathWithRect:", &UIBezierPathState::withRect>()
+          .classMethod<"bezierPathWithRoundedRect:cornerRadius:",
+                       &UIBezierPathState::withRoundedRect>()
+          .classMethod<"bezierPathWithOvalInRect:", &UIBezierPathState::withOval>()
+          .method<"CGPath", &UIBezierPathState::cgPath>()
+          .method<"bounds", &UIBezierPathState::bounds>()
           .build();
   return made;
 }
 
-bridge::UIBezierPath UIBezierPath::make(Path path) {
-  auto made = bridge::Owned<bridge::UIBezierPath>::adopt(
-      bridge::send<bridge::UIBezierPath, "new">(classObject()));
+UIBezierPath UIBezierPathState::make(Path path) {
+  auto made = Owned<UIBezierPath>::adopt(send<UIBezierPath, "new">(classObject()));
   if (made) of(made.get())._path = std::move(path);
   return made.autorelease();
 }
 
-const Path* UIBezierPath::valueOf(bridge::Object path) {
-  return bridge::isKindOf(path, classObject()) ? &of(path)._path : nullptr;
+const Path* UIBezierPathState::valueOf(Object path) {
+  return isKindOf(path, classObject()) ? &of(path)._path : nullptr;
 }
 
 }  // namespace desktop::uikit

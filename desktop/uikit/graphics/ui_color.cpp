@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/encodings.h"
 
 namespace desktop::uikit {
@@ -24,68 +25,67 @@ double unit(double component) {
 }  // namespace
 
 template <const Color& Value>
-bridge::UIColor UIColor::constant() {
+UIColor UIColorState::constant() {
   return make(Value);
 }
 
-Class UIColor::classObject() {
+Class UIColorState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIColor>("UIColor")
-          .classMethod<"colorWithWhite:alpha:", &UIColor::colorWithWhite>()
-          .classMethod<"colorWithRed:green:blue:alpha:", &UIColor::colorWithRed>()
-          .classMethod<"blackColor", &UIColor::constant<colors::black>>()
-          .classMethod<"whiteColor", &UIColor::constant<colors::white>>()
-          .classMethod<"clearColor", &UIColor::constant<colors::clear>>()
-          .classMethod<"grayColor", &UIColor::constant<gray>>()
-          .classMethod<"darkGrayColor", &UIColor::constant<darkGray>>()
-          .classMethod<"lightGrayColor", &UIColor::constant<lightGray>>()
-          .classMethod<"redColor", &UIColor::constant<red>>()
-          .classMethod<"greenColor", &UIColor::constant<green>>()
-          .classMethod<"blueColor", &UIColor::constant<blue>>()
-          .method<"colorWithAlphaComponent:", &UIColor::withAlpha>()
-          .method<"CGColor", &UIColor::cgColor>()
-          .method<"copyWithZone:", &UIColor::copyWithZone>()
-          .method<"isEqual:", &UIColor::isEqual>()
-          .method<"hash", &UIColor::hash>()
+      ClassBuilder<UIColorState>("UIColor")
+          .classMethod<"colorWithWhite:alpha:", &UIColorState::colorWithWhite>()
+          .classMethod<"colorWithRed:green:blue:alpha:", &UIColorState::colorWithRed>()
+          .classMethod<"blackColor", &UIColorState::constant<colors::black>>()
+          .classMethod<"whiteColor", &UIColorState::constant<colors::white>>()
+          .classMethod<"clearColor", &UIColorState::constant<colors::clear>>()
+          .classMethod<"grayColor", &UIColorState::constant<gray>>()
+          .classMethod<"darkGrayColor", &UIColorState::constant<darkGray>>()
+          .classMethod<"lightGrayColor", &UIColorState::constant<lightGray>>()
+          .classMethod<"redColor", &UIColorState::constant<red>>()
+          .classMethod<"greenColor", &UIColorState::constant<green>>()
+          .classMethod<"blueColor", &UIColorState::constant<blue>>()
+          .method<"colorWithAlphaComponent:", &UIColorState::withAlpha>()
+          .method<"CGColor", &UIColorState::cgColor>()
+          .method<"copyWithZone:", &UIColorState::copyWithZone>()
+          .method<"isEqual:", &UIColorState::isEqual>()
+          .method<"hash", &UIColorState::hash>()
           .build();
   return made;
 }
 
-bridge::UIColor UIColor::make(Color color) {
-  auto made =
-      bridge::Owned<bridge::UIColor>::adopt(bridge::send<bridge::UIColor, "new">(classObject()));
+UIColor UIColorState::make(Color color) {
+  auto made = Owned<UIColor>::adopt(send<UIColor, "new">(classObject()));
   if (made)
     of(made.get())._value = {unit(color.red), unit(color.green), unit(color.blue),
                              unit(color.alpha)};
   return made.autorelease();
 }
 
-Color UIColor::valueOf(bridge::Object color) {
-  return bridge::isKindOf(color, classObject()) ? of(color.get())._value : Color{};
+Color UIColorState::valueOf(Object color) {
+  return isKindOf(color, classObject()) ? of(color.get())._value : Color{};
 }
 
-Color UIColor::valueOf(CGColorRef color) {
-  return valueOf(bridge::Object(reinterpret_cast<id>(color)));
+Color UIColorState::valueOf(CGColorRef color) {
+  return valueOf(Object(reinterpret_cast<id>(color)));
 }
 
-bridge::UIColor UIColor::colorWithWhite(CGFloat white, CGFloat alpha) {
+UIColor UIColorState::colorWithWhite(CGFloat white, CGFloat alpha) {
   return make(Color::white(white, alpha));
 }
 
-bridge::UIColor UIColor::colorWithRed(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha) {
+UIColor UIColorState::colorWithRed(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha) {
   return make({red, green, blue, alpha});
 }
 
 // A colour never changes: its copy is itself, with a reference for the caller.
-bridge::Object UIColor::copyWithZone(void*) {
-  return bridge::Owned<bridge::NSObject>::retain(self()).detach();
+Object UIColorState::copyWithZone(void*) {
+  return Owned<NSObject>::retain(self()).detach();
 }
 
-bool UIColor::isEqual(bridge::Object other) const {
-  return bridge::isKindOf(other, classObject()) && of(other.get())._value == _value;
+bool UIColorState::isEqual(Object other) const {
+  return isKindOf(other, classObject()) && of(other.get())._value == _value;
 }
 
-NSUInteger UIColor::hash() const {
+NSUInteger UIColorState::hash() const {
   const std::hash<double> hashOf;
   return hashOf(_value.red) ^ hashOf(_value.green) * 3 ^ hashOf(_value.blue) * 5 ^
          hashOf(_value.alpha) * 7;

@@ -11,13 +11,13 @@ constexpr NSUInteger largestIndex = std::numeric_limits<NSInteger>::max();
 
 id pathOf(NSInteger first, NSInteger second) {
   const NSUInteger indexes[] = {static_cast<NSUInteger>(first), static_cast<NSUInteger>(second)};
-  return bridge::send<id, "indexPathWithIndexes:length:">(
-      bridge::NSIndexPath::classObject(), static_cast<const NSUInteger*>(indexes), NSUInteger{2});
+  return send<id, "indexPathWithIndexes:length:">(
+      NSIndexPath::classObject(), static_cast<const NSUInteger*>(indexes), NSUInteger{2});
 }
 
 NSInteger indexAt(id path, NSUInteger position) {
-  if (bridge::send<NSUInteger, "length">(path) <= position) return NSNotFound;
-  const auto index = bridge::send<NSUInteger, "indexAtPosition:">(path, position);
+  if (send<NSUInteger, "length">(path) <= position) return NSNotFound;
+  const auto index = send<NSUInteger, "indexAtPosition:">(path, position);
   return static_cast<NSInteger>(std::min(index, largestIndex));
 }
 
@@ -36,24 +36,24 @@ NSInteger NSIndexPath_item(id self, SEL) {
 template <typename Function>
 void add(Class to, const char* selector, Function* function) {
   class_addMethod(to, sel_registerName(selector), reinterpret_cast<IMP>(function),
-                  bridge::encodingOf<Function>.data());
+                  encodingOf<Function>.data());
 }
 
 }  // namespace
 
-bridge::NSIndexPath indexPathOf(ItemPath path) {
-  return bridge::NSIndexPath(pathOf(path.section, path.item));
+NSIndexPath indexPathOf(ItemPath path) {
+  return NSIndexPath(pathOf(path.section, path.item));
 }
 
-std::optional<ItemPath> itemPathOf(bridge::Object path) {
-  const auto indices = bridge::as<bridge::NSIndexPath>(path);
-  if (bridge::send<NSUInteger, "length">(indices) < 2) return {};
+std::optional<ItemPath> itemPathOf(Object path) {
+  const auto indices = as<NSIndexPath>(path);
+  if (send<NSUInteger, "length">(indices) < 2) return {};
   return ItemPath{indexAt(path.get(), 0), indexAt(path.get(), 1)};
 }
 
 void addIndexPathMethods() {
-  const Class paths = bridge::NSIndexPath::classObject();
-  const Class meta = object_getClass(bridge::rawObject(paths));
+  const Class paths = NSIndexPath::classObject();
+  const Class meta = object_getClass(rawObject(paths));
   add(meta, "indexPathForRow:inSection:", &NSIndexPath_pathForItem);
   add(meta, "indexPathForItem:inSection:", &NSIndexPath_pathForItem);
   add(paths, "section", &NSIndexPath_section);

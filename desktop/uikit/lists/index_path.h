@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "bridge/uikit/ui_lists.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
@@ -24,9 +25,9 @@ struct ItemPath {
 };
 
 // As an object; autoreleased. REQUIRES: no index is negative.
-bridge::NSIndexPath indexPathOf(ItemPath path);
+NSIndexPath indexPathOf(ItemPath path);
 // None for nil, for another object, and for a path of less than two indices.
-std::optional<ItemPath> itemPathOf(bridge::Object path);
+std::optional<ItemPath> itemPathOf(Object path);
 
 // Gives index paths indexPathForRow:inSection:, indexPathForItem:inSection:, section, row and item.
 // An index that a path does not have is NSNotFound.

@@ -11,12 +11,12 @@ void ReusePool::registerClass(const std::string& identifier, Class aClass) {
   _classes[identifier] = aClass;
 }
 
-void ReusePool::put(const std::string& identifier, const bridge::Owned<bridge::UIView>& view) {
+void ReusePool::put(const std::string& identifier, const Owned<UIView>& view) {
   _unsettled.push_back(view);
   if (!identifier.empty()) _waiting[identifier].push_back(view);
 }
 
-bridge::Owned<bridge::UIView> ReusePool::take(const std::string& identifier) {
+Owned<UIView> ReusePool::take(const std::string& identifier) {
   const auto found = _waiting.find(identifier);
   if (found == _waiting.end() || found->second.empty()) return {};
   auto view = std::move(found->second.back());
@@ -24,23 +24,23 @@ bridge::Owned<bridge::UIView> ReusePool::take(const std::string& identifier) {
   return view;
 }
 
-bridge::UIView ReusePool::dequeue(const std::string& identifier, const Make& make) {
+UIView ReusePool::dequeue(const std::string& identifier, const Make& make) {
   if (auto waiting = take(identifier)) {
-    bridge::send<void, "prepareForReuse">(waiting);
+    send<void, "prepareForReuse">(waiting);
     return waiting.autorelease();
   }
   const auto registered = _classes.find(identifier);
   return make(registered == _classes.end() ? nullptr : registered->second).autorelease();
 }
 
-void ReusePool::shown(bridge::UIView view) {
+void ReusePool::shown(UIView view) {
   std::erase_if(_unsettled, [&](const auto& other) { return other.get() == view; });
 }
 
-void ReusePool::settle(bridge::UIView list) {
+void ReusePool::settle(UIView list) {
   const auto leaving = std::exchange(_unsettled, {});
   for (const auto& view : leaving)
-    if (UIView::of(view.get()).superview() == list) view->removeFromSuperview();
+    if (UIViewState::of(view.get()).superview() == list) view->removeFromSuperview();
 }
 
 }  // namespace desktop::uikit

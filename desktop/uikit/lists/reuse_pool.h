@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
@@ -20,22 +21,22 @@ class ReusePool {
 
   // The view stays where it is in the tree until settle(), or for good where it is shown again. One
   // without an identifier is never used again.
-  void put(const std::string& identifier, const bridge::Owned<bridge::UIView>& view);
+  void put(const std::string& identifier, const Owned<UIView>& view);
   // A view that waits, told to prepare for its reuse, or else what is made: of the class that is
   // registered, or null. Autoreleased.
-  using Make = std::function<bridge::Owned<bridge::UIView>(Class registered)>;
-  bridge::UIView dequeue(const std::string& identifier, const Make& make);
+  using Make = std::function<Owned<UIView>(Class registered)>;
+  UIView dequeue(const std::string& identifier, const Make& make);
   // The view shows something.
-  void shown(bridge::UIView view);
+  void shown(UIView view);
   // Takes what shows nothing out of the list that it was put back by.
-  void settle(bridge::UIView list);
+  void settle(UIView list);
 
  private:
-  bridge::Owned<bridge::UIView> take(const std::string& identifier);
+  Owned<UIView> take(const std::string& identifier);
 
   std::map<std::string, Class> _classes;
-  std::map<std::string, std::vector<bridge::Owned<bridge::UIView>>> _waiting;
-  std::vector<bridge::Owned<bridge::UIView>> _unsettled;
+  std::map<std::string, std::vector<Owned<UIView>>> _waiting;
+  std::vector<Owned<UIView>> _unsettled;
 };
 
 }  // namespace desktop::uikit

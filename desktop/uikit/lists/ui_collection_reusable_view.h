@@ -4,18 +4,21 @@
 #pragma once
 
 #include "bridge/bound.h"
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
-class UICollectionReusableView : public bridge::Bound<UICollectionReusableView, bridge::UIView> {
+class UICollectionReusableViewState
+    : public Bound<UICollectionReusableViewState, UIViewState, UICollectionReusableView> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // A new one of a class below this; nil where it makes something else.
-  static bridge::Owned<bridge::UIView> make(Class aClass, bridge::NSString reuseIdentifier,
-                                            std::string poolKey, CGRect frame);
+  static Owned<UIView> make(Class aClass, NSString reuseIdentifier, std::string poolKey,
+                            CGRect frame);
 
   // What it waits under to be used again: for supplementary views with their kind.
   const std::string& poolKey() const { return _poolKey; }
@@ -24,11 +27,11 @@ class UICollectionReusableView : public bridge::Bound<UICollectionReusableView, 
   void setZIndex(NSInteger index) { _zIndex = index; }
 
  private:
-  bridge::NSString reuseIdentifier() const { return _reuseIdentifier; }
+  NSString reuseIdentifier() const { return _reuseIdentifier; }
   void prepareForReuse() {}
-  void applyLayoutAttributes(handles::UICollectionViewLayoutAttributes) {}
+  void applyLayoutAttributes(UICollectionViewLayoutAttributes) {}
 
-  bridge::Owned<bridge::NSString> _reuseIdentifier;
+  Owned<NSString> _reuseIdentifier;
   std::string _poolKey;
   NSInteger _zIndex = 0;
 };

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/lists/collection/collection_placing.h"
 #include "desktop/uikit/lists/ui_collection_reusable_view.h"
@@ -18,24 +19,24 @@
 namespace desktop::uikit {
 namespace {
 
-using View = bridge::Owned<bridge::UIView>;
+using View = Owned<UIView>;
 
-std::set<ItemPath> pathsOf(bridge::NSArray paths) {
+std::set<ItemPath> pathsOf(NSArray paths) {
   std::set<ItemPath> all;
   for (NSUInteger index = 0; index < paths.count(); ++index)
     if (const auto path = itemPathOf(paths.at(index))) all.insert(*path);
   return all;
 }
 
-bridge::UITouch touchOf(bridge::NSSet touches) {
-  return bridge::as<bridge::UITouch>(touches.anyObject());
+UITouch touchOf(NSSet touches) {
+  return as<UITouch>(touches.anyObject());
 }
 
 // Where one direction is to be shown that these bits of a scroll position stand for; none leaves it
 // where it is.
 std::optional<ShownAt> shownAt(NSUInteger position, NSUInteger start, NSUInteger middle,
                                NSUInteger end) {
-  if (position == UICollectionView::none) return ShownAt::nearest;
+  if (position == UICollectionViewState::none) return ShownAt::nearest;
   if (position & end) return ShownAt::end;
   if (position & middle) return ShownAt::middle;
   if (position & start) return ShownAt::start;
@@ -44,10 +45,10 @@ std::optional<ShownAt> shownAt(NSUInteger position, NSUInteger start, NSUInteger
 
 }  // namespace
 
-Class UICollectionView::classObject() {
-  using Self = UICollectionView;
+Class UICollectionViewState::classObject() {
+  using Self = UICollectionViewState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UICollectionView")
+      ClassBuilder<Self>("UICollectionView")
           .method<"initWithFrame:", &Self::initWithFrame>()
           .method<"initWithFrame:collectionViewLayout:", &Self::initWithFrameAndLayout>()
           .method<"dataSource", &Self::dataSource>()
@@ -100,98 +101,95 @@ Class UICollectionView::classObject() {
   return made;
 }
 
-bridge::UIView UICollectionView::initWithFrame(CGRect frame) {
-  return bridge::send<bridge::UIView, "initWithFrame:collectionViewLayout:">(
-      self(), frame, bridge::UICollectionViewLayout());
+UIView UICollectionViewState::initWithFrame(CGRect frame) {
+  return send<UIView, "initWithFrame:collectionViewLayout:">(self(), frame,
+                                                             UICollectionViewLayout());
 }
 
-bridge::UIView UICollectionView::initWithFrameAndLayout(CGRect frame,
-                                                        bridge::UICollectionViewLayout layout) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  self().setBackgroundColor(UIColor::make(colors::black));
+UIView UICollectionViewState::initWithFrameAndLayout(CGRect frame, UICollectionViewLayout layout) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  self().setBackgroundColor(UIColorState::make(colors::black));
   setCollectionViewLayout(layout);
   return self();
 }
 
-void UICollectionView::setDataSource(bridge::NSObject source) {
+void UICollectionViewState::setDataSource(NSObject source) {
   if (source == dataSource()) return;
   _dataSource.setObject(source);
   reloadData();
 }
 
-void UICollectionView::setCollectionViewLayout(bridge::UICollectionViewLayout layout) {
-  layout = bridge::as<bridge::UICollectionViewLayout>(layout);
+void UICollectionViewState::setCollectionViewLayout(UICollectionViewLayout layout) {
+  layout = as<UICollectionViewLayout>(layout);
   if (layout == _layout.object()) return;
-  _layout.replace(layout, me(), [this] { layoutBecameInvalid(); });
+  _layout.replace(layout, self(), [this] { layoutBecameInvalid(); });
   layoutBecameInvalid();
 }
 
-void UICollectionView::setCollectionViewLayoutAnimated(bridge::UICollectionViewLayout layout,
-                                                       bool) {
-  bridge::send<void, "setCollectionViewLayout:">(self(), layout);
+void UICollectionViewState::setCollectionViewLayoutAnimated(UICollectionViewLayout layout, bool) {
+  send<void, "setCollectionViewLayout:">(self(), layout);
 }
 
-void UICollectionView::setBackgroundView(bridge::UIView view) {
+void UICollectionViewState::setBackgroundView(UIView view) {
   if (view == _backgroundView.get()) return;
   _backgroundView->removeFromSuperview();
   _backgroundView = View::retain(view);
-  UIView::of(self()).insertSubview(view, 0);
-  UIView::of(self()).setNeedsLayout();
+  insertSubview(view, 0);
+  setNeedsLayout();
 }
 
 // What there is, and where it lies.
 
-const ItemCounts& UICollectionView::counts() {
+const ItemCounts& UICollectionViewState::counts() {
   if (_counting.renew([this] { _counts = _dataSource.counts(); }))
     _selection.keepOnly([this](ItemPath path) { return _counts.has(path); });
   return _counts;
 }
 
-CollectionLayout::Has UICollectionView::has() {
+CollectionLayout::Has UICollectionViewState::has() {
   return [this](ItemPath path) { return counts().has(path); };
 }
 
-void UICollectionView::prepare() {
+void UICollectionViewState::prepare() {
   counts();
   const auto size = _layout.prepare();
-  const handles::UIScrollView scroll(self());
+  const UIScrollView scroll(self());
   if (!size || *size == scroll.contentSize()) return;
   scroll.setContentSize(*size);
   const CGPoint offset = scroll.contentOffset();
-  const CGPoint inside = UIScrollView::of(self()).clamped(offset);
+  const CGPoint inside = clamped(offset);
   if (offset.x > inside.x || offset.y > inside.y) scroll.setContentOffset(inside);
 }
 
-UICollectionView::Attributes UICollectionView::attributesForItem(bridge::NSIndexPath path) {
+UICollectionViewState::Attributes UICollectionViewState::attributesForItem(NSIndexPath path) {
   prepare();
   const auto at = itemPathOf(path);
   return at && counts().has(*at) ? _layout.item(path) : Attributes();
 }
 
-UICollectionView::Attributes UICollectionView::attributesForSupplementary(
-    bridge::NSString kind, bridge::NSIndexPath path) {
+UICollectionViewState::Attributes UICollectionViewState::attributesForSupplementary(
+    NSString kind, NSIndexPath path) {
   prepare();
   return _layout.supplementary(kind, path);
 }
 
-std::optional<ItemPath> UICollectionView::itemAt(CGPoint point) {
+std::optional<ItemPath> UICollectionViewState::itemAt(CGPoint point) {
   if (!std::isfinite(point.x) || !std::isfinite(point.y)) return {};
   prepare();
   return _layout.itemAt(point, has());
 }
 
-bridge::NSIndexPath UICollectionView::indexPathForItemAt(CGPoint point) {
+NSIndexPath UICollectionViewState::indexPathForItemAt(CGPoint point) {
   const auto path = itemAt(point);
-  return path ? indexPathOf(*path) : bridge::NSIndexPath();
+  return path ? indexPathOf(*path) : NSIndexPath();
 }
 
-void UICollectionView::scrollToItem(bridge::NSIndexPath path, NSUInteger position, bool animated) {
+void UICollectionViewState::scrollToItem(NSIndexPath path, NSUInteger position, bool animated) {
   const Attributes attributes = attributesForItem(path);
   if (!attributes) return;
   const auto [origin, size] = attributes.frame();
-  const UIScrollView& scroll = UIScrollView::of(self());
-  const EdgeInsets insets = scroll.adjustedContentInset();
-  const CGRect seen = UIView::of(self()).bounds();
+  const EdgeInsets insets = adjustedContentInset();
+  const CGRect seen = bounds();
   CGPoint offset = seen.origin;
   if (const auto where = shownAt(position, left, centeredHorizontally, right))
     offset.x = offsetShowing(origin.x, size.width,
@@ -199,17 +197,17 @@ void UICollectionView::scrollToItem(bridge::NSIndexPath path, NSUInteger positio
   if (const auto where = shownAt(position, top, centeredVertically, bottom))
     offset.y = offsetShowing(origin.y, size.height,
                              {offset.y, seen.size.height, insets.top, insets.bottom}, *where);
-  bridge::send<void, "setContentOffset:animated:">(self(), scroll.clamped(offset), animated);
+  send<void, "setContentOffset:animated:">(self(), clamped(offset), animated);
 }
 
 // Views come and go.
 
-void UICollectionView::layoutSubviews() {
+void UICollectionViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
-  const bridge::AutoreleasePool pool;
-  _layout.followBounds(UIView::of(self()).bounds());
+  const AutoreleasePool pool;
+  _layout.followBounds(bounds());
   prepare();
-  const CGRect bounds = UIView::of(self()).bounds();
+  const CGRect bounds = UIViewState::bounds();
   if (_backgroundView) _backgroundView->setFrame(bounds);
   const Inquiry::Pass pass = _layout.pass();
   _cells.shown().follow(
@@ -220,8 +218,8 @@ void UICollectionView::layoutSubviews() {
   _cells.settle(self());
 }
 
-void UICollectionView::show(const CollectionElement& element, Attributes attributes) {
-  const bridge::AutoreleasePool pool;
+void UICollectionViewState::show(const CollectionElement& element, Attributes attributes) {
+  const AutoreleasePool pool;
   const Inquiry::Pass pass = _layout.pass();
   const View view = _dataSource.view(element);
   if (!view || !pass.holds()) return;
@@ -229,115 +227,112 @@ void UICollectionView::show(const CollectionElement& element, Attributes attribu
   animator().withoutAnimation([&] {
     placeElement(view, attributes);
     if (element.isItem()) {
-      const handles::UICollectionViewCell cell(view.get().get());
+      const UICollectionViewCell cell(view.get().get());
       cell.setSelected(_selection.contains(element.path));
       cell.setHighlighted(_press.isOn(element.path));
     }
-    if (UIView::of(view.get()).superview() != self())
-      insertElement(UIView::of(self()), view, UICollectionReusableView::of(view.get()).zIndex(),
+    if (UIViewState::of(view.get()).superview() != self())
+      insertElement(*this, view, UICollectionReusableViewState::of(view.get()).zIndex(),
                     _backgroundView);
   });
   if (element.isItem()) _delegate.willDisplay(view, element.path);
 }
 
-void UICollectionView::recycle(const CollectionElement& element, bridge::UIView view) {
-  const bridge::AutoreleasePool pool;
+void UICollectionViewState::recycle(const CollectionElement& element, UIView view) {
+  const AutoreleasePool pool;
   _cells.putAway(view);
   if (element.isItem()) _delegate.didEndDisplaying(view, element.path);
 }
 
-void UICollectionView::registerCellClass(Class aClass, bridge::NSString identifier) {
+void UICollectionViewState::registerCellClass(Class aClass, NSString identifier) {
   _cells.registerCellClass(identifier, aClass);
 }
 
-void UICollectionView::registerSupplementaryClass(Class aClass, bridge::NSString kind,
-                                                  bridge::NSString identifier) {
+void UICollectionViewState::registerSupplementaryClass(Class aClass, NSString kind,
+                                                       NSString identifier) {
   _cells.registerClass(kind, identifier, aClass);
 }
 
-bridge::UIView UICollectionView::dequeueCell(bridge::NSString identifier,
-                                             bridge::NSIndexPath path) {
+UIView UICollectionViewState::dequeueCell(NSString identifier, NSIndexPath path) {
   return _cells.dequeueCell(identifier, attributesForItem(path).frame());
 }
 
-bridge::UIView UICollectionView::dequeueSupplementary(bridge::NSString kind,
-                                                      bridge::NSString identifier,
-                                                      bridge::NSIndexPath path) {
+UIView UICollectionViewState::dequeueSupplementary(NSString kind, NSString identifier,
+                                                   NSIndexPath path) {
   return _cells.dequeue(kind, identifier, attributesForSupplementary(kind, path).frame());
 }
 
-handles::UICollectionViewCell UICollectionView::cellForItem(bridge::NSIndexPath path) const {
+UICollectionViewCell UICollectionViewState::cellForItem(NSIndexPath path) const {
   const auto at = itemPathOf(path);
-  return at ? _cells.cellAt(*at) : handles::UICollectionViewCell();
+  return at ? _cells.cellAt(*at) : UICollectionViewCell();
 }
 
-bridge::NSIndexPath UICollectionView::indexPathForCell(bridge::UIView cell) const {
+NSIndexPath UICollectionViewState::indexPathForCell(UIView cell) const {
   const auto path = _cells.pathOf(cell);
-  return path ? indexPathOf(*path) : bridge::NSIndexPath();
+  return path ? indexPathOf(*path) : NSIndexPath();
 }
 
-bridge::NSArray UICollectionView::visibleSupplementaryViews(bridge::NSString kind) const {
-  return kind.length() > 0 ? _cells.ofKind(kind.utf8()) : bridge::NSArray::of();
+NSArray UICollectionViewState::visibleSupplementaryViews(NSString kind) const {
+  return kind.length() > 0 ? _cells.ofKind(kind.utf8()) : NSArray::of();
 }
 
-bridge::UIView UICollectionView::supplementaryView(bridge::NSString kind,
-                                                   bridge::NSIndexPath path) const {
+UIView UICollectionViewState::supplementaryView(NSString kind, NSIndexPath path) const {
   const auto at = itemPathOf(path);
-  return at && kind.length() > 0 ? _cells.viewOf({kind.utf8(), *at}) : bridge::UIView();
+  return at && kind.length() > 0 ? _cells.viewOf({kind.utf8(), *at}) : UIView();
 }
 
 // Changes.
 
-void UICollectionView::reloadData() {
+void UICollectionViewState::reloadData() {
   _selection.forgetAll();
   contentsChange();
 }
 
-void UICollectionView::insertItems(bridge::NSArray paths) {
+void UICollectionViewState::insertItems(NSArray paths) {
   _selection.moveForInserted(pathsOf(paths));
   contentsChange();
 }
 
-void UICollectionView::deleteItems(bridge::NSArray paths) {
+void UICollectionViewState::deleteItems(NSArray paths) {
   _selection.moveForDeleted(pathsOf(paths));
   contentsChange();
 }
 
-void UICollectionView::reloadItems(bridge::NSArray) {
+void UICollectionViewState::reloadItems(NSArray) {
   contentsChange();
 }
 
-void UICollectionView::sectionsChange(bridge::Object) {
+void UICollectionViewState::sectionsChange(Object) {
   reloadData();
 }
 
 // Counts are not asked for in the midst of updates: the next layout does it.
-void UICollectionView::performBatchUpdates(const bridge::BlockHeader* updates,
-                                           const bridge::BlockHeader* completion) {
+void UICollectionViewState::performBatchUpdates(const BlockHeader* updates,
+                                                const BlockHeader* completion) {
   const View kept = View::retain(self());
-  const auto done = bridge::Block<void(bool)>::retain(completion);
-  bridge::Block<void()>::retain(updates)();
+  const auto done = Block<void(bool)>::retain(completion);
+  Block<void()>::retain(updates)();
   contentsChange();
   done(true);
 }
 
-void UICollectionView::contentsChange() {
+void UICollectionViewState::contentsChange() {
   release();
   for (const auto& [element, view] : _cells.shown().takeAll()) recycle(element, view);
   _counting.outdate();
   layoutBecameInvalid();
 }
 
-void UICollectionView::layoutBecameInvalid() {
+void UICollectionViewState::layoutBecameInvalid() {
   _layout.outdate();
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
 // Touch: a finger presses an item, and selects it when it leaves it there.
 
-void UICollectionView::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
+void UICollectionViewState::touchesBegan(NSSet touches, UIEvent) {
   release();
-  const bridge::UITouch touch = touchOf(touches);
+  const UITouch touch = touchOf(touches);
   if (!touch || !_selection.isAllowed()) return;
   const auto path = itemAt(touch.locationIn(self()));
   if (!path || !_delegate.shouldHighlight(*path)) return;
@@ -347,36 +342,36 @@ void UICollectionView::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
 }
 
 // Ends a press without any effect.
-void UICollectionView::release() {
+void UICollectionViewState::release() {
   const auto pressed = _press.end();
   if (!pressed) return;
   if (const auto cell = _cells.cellAt(*pressed)) cell.setHighlighted(false);
   _delegate.didUnhighlight(*pressed);
 }
 
-void UICollectionView::touchesMoved(bridge::NSSet touches, bridge::UIEvent) {
+void UICollectionViewState::touchesMoved(NSSet touches, UIEvent) {
   if (_press.hasLeft([&] { return itemAt(touchOf(touches).locationIn(self())); })) release();
 }
 
-void UICollectionView::touchesEnded(bridge::NSSet touches, bridge::UIEvent) {
+void UICollectionViewState::touchesEnded(NSSet touches, UIEvent) {
   const View kept = View::retain(self());
   const auto tapped = _press.tappedBy([&] { return itemAt(touchOf(touches).locationIn(self())); });
   release();
   if (tapped) _selection.tap(*tapped, _delegate, has());
 }
 
-void UICollectionView::touchesCancelled(bridge::NSSet, bridge::UIEvent) {
+void UICollectionViewState::touchesCancelled(NSSet, UIEvent) {
   release();
 }
 
-bridge::NSArray UICollectionView::indexPathsForSelectedItems() const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray UICollectionViewState::indexPathsForSelectedItems() const {
+  const auto all = makeNew<NSMutableArray>();
   for (const ItemPath path : selectedItems()) all->add(indexPathOf(path));
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
 // By code the delegate is not told. No path clears the selection.
-void UICollectionView::selectItem(bridge::NSIndexPath path, bool animated, NSUInteger position) {
+void UICollectionViewState::selectItem(NSIndexPath path, bool animated, NSUInteger position) {
   const auto at = itemPathOf(path);
   if (at && !(counts().has(*at) && allowsSelection())) return;
   if (!at || !allowsMultipleSelection()) _selection.deselectAll();
@@ -385,11 +380,11 @@ void UICollectionView::selectItem(bridge::NSIndexPath path, bool animated, NSUIn
   if (position != none) scrollToItem(path, position, animated);
 }
 
-void UICollectionView::deselectItem(bridge::NSIndexPath path, bool) {
+void UICollectionViewState::deselectItem(NSIndexPath path, bool) {
   if (const auto at = itemPathOf(path)) _selection.set(*at, false);
 }
 
-void UICollectionView::showSelected(ItemPath path, bool isSelected) const {
+void UICollectionViewState::showSelected(ItemPath path, bool isSelected) const {
   if (const auto cell = _cells.cellAt(path)) cell.setSelected(isSelected);
 }
 

@@ -7,7 +7,8 @@
 
 #include "bridge/block.h"
 #include "bridge/bound.h"
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/collection/collection_cells.h"
 #include "desktop/uikit/lists/collection/collection_data_source.h"
 #include "desktop/uikit/lists/collection/collection_delegate.h"
@@ -18,7 +19,8 @@
 
 namespace desktop::uikit {
 
-class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrollView> {
+class UICollectionViewState
+    : public Bound<UICollectionViewState, UIScrollViewState, UICollectionView> {
  public:
   enum ScrollPosition : NSUInteger {
     none = 0,
@@ -40,63 +42,60 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   void reloadData();
 
   // Nil where there is none.
-  handles::UICollectionViewCell cellForItem(bridge::NSIndexPath path) const;
-  bridge::NSIndexPath indexPathForItemAt(CGPoint point);
-  bridge::NSIndexPath indexPathForCell(bridge::UIView cell) const;
+  UICollectionViewCell cellForItem(NSIndexPath path) const;
+  NSIndexPath indexPathForItemAt(CGPoint point);
+  NSIndexPath indexPathForCell(UIView cell) const;
   const std::set<ItemPath>& selectedItems() const { return _selection.paths(); }
   // In sight, items before supplementary views.
   const CollectionCells::Shown::Views& views() const { return _cells.shown().all(); }
 
  private:
-  using Attributes = handles::UICollectionViewLayoutAttributes;
-  bridge::UICollectionView me() const { return bridge::UICollectionView(self().get()); }
+  using Attributes = UICollectionViewLayoutAttributes;
 
   // What is bound of making it, and of what is set.
-  bridge::UIView initWithFrame(CGRect frame);
-  bridge::UIView initWithFrameAndLayout(CGRect frame, bridge::UICollectionViewLayout layout);
-  bridge::NSObject dataSource() const { return _dataSource.object(); }
-  void setDataSource(bridge::NSObject source);
-  bridge::UICollectionViewLayout collectionViewLayout() const { return _layout.object(); }
-  void setCollectionViewLayout(bridge::UICollectionViewLayout layout);
-  void setCollectionViewLayoutAnimated(bridge::UICollectionViewLayout layout, bool animated);
+  UIView initWithFrame(CGRect frame);
+  UIView initWithFrameAndLayout(CGRect frame, UICollectionViewLayout layout);
+  NSObject dataSource() const { return _dataSource.object(); }
+  void setDataSource(NSObject source);
+  UICollectionViewLayout collectionViewLayout() const { return _layout.object(); }
+  void setCollectionViewLayout(UICollectionViewLayout layout);
+  void setCollectionViewLayoutAnimated(UICollectionViewLayout layout, bool animated);
   bool allowsSelection() const { return _selection.isAllowed(); }
   void setAllowsSelection(bool allows) { _selection.allow(allows); }
   bool allowsMultipleSelection() const { return _selection.isMultipleAllowed(); }
   void setAllowsMultipleSelection(bool allows) { _selection.allowMultiple(allows); }
-  bridge::UIView backgroundView() const { return _backgroundView; }
-  void setBackgroundView(bridge::UIView view);
+  UIView backgroundView() const { return _backgroundView; }
+  void setBackgroundView(UIView view);
 
   // Of what there is, and where.
-  Attributes attributesForItem(bridge::NSIndexPath path);
-  Attributes attributesForSupplementary(bridge::NSString kind, bridge::NSIndexPath path);
-  void scrollToItem(bridge::NSIndexPath path, NSUInteger position, bool animated);
+  Attributes attributesForItem(NSIndexPath path);
+  Attributes attributesForSupplementary(NSString kind, NSIndexPath path);
+  void scrollToItem(NSIndexPath path, NSUInteger position, bool animated);
   void layoutSubviews();
-  bridge::NSArray visibleCells() const { return _cells.ofKind({}); }
-  bridge::NSArray visibleItems() const { return _cells.indexPaths(); }
-  bridge::UIView supplementaryView(bridge::NSString kind, bridge::NSIndexPath path) const;
-  bridge::NSArray visibleSupplementaryViews(bridge::NSString kind) const;
-  void registerCellClass(Class aClass, bridge::NSString identifier);
-  void registerSupplementaryClass(Class aClass, bridge::NSString kind, bridge::NSString identifier);
-  bridge::UIView dequeueCell(bridge::NSString identifier, bridge::NSIndexPath path);
-  bridge::UIView dequeueSupplementary(bridge::NSString kind, bridge::NSString identifier,
-                                      bridge::NSIndexPath path);
+  NSArray visibleCells() const { return _cells.ofKind({}); }
+  NSArray visibleItems() const { return _cells.indexPaths(); }
+  UIView supplementaryView(NSString kind, NSIndexPath path) const;
+  NSArray visibleSupplementaryViews(NSString kind) const;
+  void registerCellClass(Class aClass, NSString identifier);
+  void registerSupplementaryClass(Class aClass, NSString kind, NSString identifier);
+  UIView dequeueCell(NSString identifier, NSIndexPath path);
+  UIView dequeueSupplementary(NSString kind, NSString identifier, NSIndexPath path);
 
   // Of changes. They are shown at once, without animation.
-  void insertItems(bridge::NSArray paths);
-  void deleteItems(bridge::NSArray paths);
-  void reloadItems(bridge::NSArray paths);
-  void sectionsChange(bridge::Object sections);
-  void performBatchUpdates(const bridge::BlockHeader* updates,
-                           const bridge::BlockHeader* completion);
+  void insertItems(NSArray paths);
+  void deleteItems(NSArray paths);
+  void reloadItems(NSArray paths);
+  void sectionsChange(Object sections);
+  void performBatchUpdates(const BlockHeader* updates, const BlockHeader* completion);
 
   // Of touch and selection.
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
-  bridge::NSArray indexPathsForSelectedItems() const;
-  void selectItem(bridge::NSIndexPath path, bool animated, NSUInteger position);
-  void deselectItem(bridge::NSIndexPath path, bool animated);
+  void touchesBegan(NSSet touches, UIEvent event);
+  void touchesMoved(NSSet touches, UIEvent event);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void touchesCancelled(NSSet touches, UIEvent event);
+  NSArray indexPathsForSelectedItems() const;
+  void selectItem(NSIndexPath path, bool animated, NSUInteger position);
+  void deselectItem(NSIndexPath path, bool animated);
 
   // How the parts work together.
   const ItemCounts& counts();
@@ -104,7 +103,7 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
   void prepare();
   std::optional<ItemPath> itemAt(CGPoint point);
   void show(const CollectionElement& element, Attributes attributes);
-  void recycle(const CollectionElement& element, bridge::UIView view);
+  void recycle(const CollectionElement& element, UIView view);
   void contentsChange();
   void layoutBecameInvalid();
   void release();
@@ -112,7 +111,7 @@ class UICollectionView : public bridge::Bound<UICollectionView, handles::UIScrol
 
   CollectionDataSource _dataSource{self()};
   CollectionDelegate _delegate{self()};
-  bridge::Owned<bridge::UIView> _backgroundView;
+  Owned<UIView> _backgroundView;
   ItemCounts _counts;
   Inquiry _counting;
   CollectionLayout _layout;

@@ -2,14 +2,15 @@
 #include "desktop/uikit/lists/ui_collection_view_cell.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
-Class UICollectionViewCell::classObject() {
-  using Self = UICollectionViewCell;
+Class UICollectionViewCellState::classObject() {
+  using Self = UICollectionViewCellState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UICollectionViewCell")
+      ClassBuilder<Self>("UICollectionViewCell")
           .method<"initWithFrame:", &Self::initWithFrame>()
           .method<"contentView", &Self::contentView>()
           .method<"isSelected", &Self::isSelected>()
@@ -26,59 +27,58 @@ Class UICollectionViewCell::classObject() {
   return made;
 }
 
-bridge::UIView UICollectionViewCell::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  _contentView = bridge::makeView<bridge::UIView>(UIView::of(self()).bounds());
-  _contentView->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+UIView UICollectionViewCellState::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  _contentView = bridge::makeView<UIView>(bounds());
+  _contentView->setAutoresizingMask(flexibleWidth | flexibleHeight);
   self().addSubview(_contentView);
   return self();
 }
 
-void UICollectionViewCell::setSelected(bool selected) {
+void UICollectionViewCellState::setSelected(bool selected) {
   if (selected == _isSelected) return;
   _isSelected = selected;
   showSelection();
 }
 
-void UICollectionViewCell::setHighlighted(bool highlighted) {
+void UICollectionViewCellState::setHighlighted(bool highlighted) {
   if (highlighted == _isHighlighted) return;
   _isHighlighted = highlighted;
   showSelection();
 }
 
-void UICollectionViewCell::setBackgroundView(bridge::UIView view) {
+void UICollectionViewCellState::setBackgroundView(UIView view) {
   replaceBackground(_backgroundView, view);
 }
 
-void UICollectionViewCell::setSelectedBackgroundView(bridge::UIView view) {
+void UICollectionViewCellState::setSelectedBackgroundView(UIView view) {
   replaceBackground(_selectedBackgroundView, view);
   showSelection();
 }
 
-void UICollectionViewCell::replaceBackground(bridge::Owned<bridge::UIView>& slot,
-                                             bridge::UIView view) {
+void UICollectionViewCellState::replaceBackground(Owned<UIView>& slot, UIView view) {
   if (slot.get() == view) return;
   slot->removeFromSuperview();
-  slot = bridge::Owned<bridge::UIView>::retain(view);
+  slot = Owned<UIView>::retain(view);
   for (const auto& background : {_selectedBackgroundView.get(), _backgroundView.get()})
-    if (background) UIView::of(self()).insertSubview(background, 0);
+    if (background) insertSubview(background, 0);
 }
 
-void UICollectionViewCell::showSelection() const {
+void UICollectionViewCellState::showSelection() const {
   if (_selectedBackgroundView)
-    UIView::of(_selectedBackgroundView.get()).setHidden(!_isSelected && !_isHighlighted);
+    UIViewState::of(_selectedBackgroundView.get()).setHidden(!_isSelected && !_isHighlighted);
 }
 
-void UICollectionViewCell::prepareForReuse() {
+void UICollectionViewCellState::prepareForReuse() {
   super<void, "prepareForReuse">();
-  bridge::send<void, "setSelected:">(self(), false);
-  bridge::send<void, "setHighlighted:">(self(), false);
+  send<void, "setSelected:">(self(), false);
+  send<void, "setHighlighted:">(self(), false);
 }
 
-void UICollectionViewCell::layoutSubviews() {
+void UICollectionViewCellState::layoutSubviews() {
   super<void, "layoutSubviews">();
   for (const auto& view : {_backgroundView.get(), _selectedBackgroundView.get()})
-    view.setFrame(UIView::of(self()).bounds());
+    view.setFrame(bounds());
 }
 
 }  // namespace desktop::uikit

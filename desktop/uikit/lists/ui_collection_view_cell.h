@@ -4,36 +4,38 @@
 #pragma once
 
 #include "bridge/bound.h"
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/lists/ui_collection_reusable_view.h"
 
 namespace desktop::uikit {
 
-class UICollectionViewCell
-    : public bridge::Bound<UICollectionViewCell, handles::UICollectionReusableView> {
+class UICollectionViewCellState
+    : public Bound<UICollectionViewCellState, UICollectionReusableViewState, UICollectionViewCell> {
  public:
   using Bound::Bound;
   static Class classObject();
 
-  bridge::UIView contentView() const { return _contentView; }
+  UIView contentView() const { return _contentView; }
   bool isSelected() const { return _isSelected; }
   bool isHighlighted() const { return _isHighlighted; }
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void setSelected(bool selected);
   void setHighlighted(bool highlighted);
-  bridge::UIView backgroundView() const { return _backgroundView; }
-  void setBackgroundView(bridge::UIView view);
-  bridge::UIView selectedBackgroundView() const { return _selectedBackgroundView; }
-  void setSelectedBackgroundView(bridge::UIView view);
-  void replaceBackground(bridge::Owned<bridge::UIView>& slot, bridge::UIView view);
+  UIView backgroundView() const { return _backgroundView; }
+  void setBackgroundView(UIView view);
+  UIView selectedBackgroundView() const { return _selectedBackgroundView; }
+  void setSelectedBackgroundView(UIView view);
+  void replaceBackground(Owned<UIView>& slot, UIView view);
   void showSelection() const;
   void prepareForReuse();
   void layoutSubviews();
 
-  bridge::Owned<bridge::UIView> _contentView;
-  bridge::Owned<bridge::UIView> _backgroundView;
-  bridge::Owned<bridge::UIView> _selectedBackgroundView;
+  Owned<UIView> _contentView;
+  Owned<UIView> _backgroundView;
+  Owned<UIView> _selectedBackgroundView;
   bool _isSelected = false;
   bool _isHighlighted = false;
 };

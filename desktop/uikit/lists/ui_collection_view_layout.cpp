@@ -2,13 +2,14 @@
 #include "desktop/uikit/lists/ui_collection_view_layout.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-Class UICollectionViewLayout::classObject() {
-  using Self = UICollectionViewLayout;
+Class UICollectionViewLayoutState::classObject() {
+  using Self = UICollectionViewLayoutState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UICollectionViewLayout")
+      ClassBuilder<Self>("UICollectionViewLayout")
           .method<"collectionView", &Self::collectionView>()
           .method<"prepareLayout", &Self::prepareLayout>()
           .method<"collectionViewContentSize", &Self::contentSize>()
@@ -23,13 +24,13 @@ Class UICollectionViewLayout::classObject() {
   return made;
 }
 
-void UICollectionViewLayout::belongTo(bridge::UICollectionView view,
-                                      std::function<void()> becameInvalid) {
+void UICollectionViewLayoutState::belongTo(UICollectionView view,
+                                           std::function<void()> becameInvalid) {
   _collectionView = view;
   _becameInvalid = std::move(becameInvalid);
 }
 
-void UICollectionViewLayout::invalidateLayout() {
+void UICollectionViewLayoutState::invalidateLayout() {
   if (_becameInvalid) _becameInvalid();
 }
 

@@ -9,34 +9,35 @@
 #include <functional>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_lists.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-class UICollectionViewLayout : public bridge::Bound<UICollectionViewLayout, bridge::NSObject> {
+class UICollectionViewLayoutState
+    : public Bound<UICollectionViewLayoutState, NSObject, UICollectionViewLayout> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // Whose layout it is, or nil; borrowed.
-  bridge::UICollectionView collectionView() const { return _collectionView; }
+  UICollectionView collectionView() const { return _collectionView; }
   // Takes it away from the view that it belonged to. This one, which may be nil, hears when what
   // the layout said no longer holds.
-  void belongTo(bridge::UICollectionView view, std::function<void()> becameInvalid);
+  void belongTo(UICollectionView view, std::function<void()> becameInvalid);
 
  private:
   void prepareLayout() {}
   CGSize contentSize() const { return {}; }
-  bridge::NSArray attributesInRect(CGRect) const { return {}; }
-  bridge::Object attributesForItem(bridge::NSIndexPath) const { return {}; }
-  bridge::Object attributesForSupplementary(bridge::NSString, bridge::NSIndexPath) const {
-    return {};
-  }
+  NSArray attributesInRect(CGRect) const { return {}; }
+  Object attributesForItem(NSIndexPath) const { return {}; }
+  Object attributesForSupplementary(NSString, NSIndexPath) const { return {}; }
   bool shouldInvalidateForBoundsChange(CGRect) const { return false; }
   // Everything is asked for anew before the next frame.
   void invalidateLayout();
 
-  bridge::UICollectionView _collectionView;  // borrowed
+  UICollectionView _collectionView;  // borrowed
   std::function<void()> _becameInvalid;
 };
 

@@ -5,15 +5,16 @@
 #include <functional>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-using Attributes = handles::UICollectionViewLayoutAttributes;
+using Attributes = UICollectionViewLayoutAttributes;
 
-Class UICollectionViewLayoutAttributes::classObject() {
-  using Self = UICollectionViewLayoutAttributes;
+Class UICollectionViewLayoutAttributesState::classObject() {
+  using Self = UICollectionViewLayoutAttributesState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UICollectionViewLayoutAttributes")
+      ClassBuilder<Self>("UICollectionViewLayoutAttributes")
           .classMethod<"layoutAttributesForCellWithIndexPath:", &Self::attributesForCell>()
           .classMethod<"layoutAttributesForSupplementaryViewOfKind:withIndexPath:",
                        &Self::attributesForSupplementary>()
@@ -42,59 +43,59 @@ Class UICollectionViewLayoutAttributes::classObject() {
   return made;
 }
 
-Attributes UICollectionViewLayoutAttributes::forItem(ItemPath path, CGRect frame) {
-  auto made = bridge::makeNew<Attributes>();
+Attributes UICollectionViewLayoutAttributesState::forItem(ItemPath path, CGRect frame) {
+  auto made = makeNew<Attributes>();
   of(made.get())._path = path;
   of(made.get()).setFrame(frame);
   return made.autorelease();
 }
 
-Attributes UICollectionViewLayoutAttributes::forSupplementary(bridge::NSString kind, ItemPath path,
-                                                              CGRect frame) {
+Attributes UICollectionViewLayoutAttributesState::forSupplementary(NSString kind, ItemPath path,
+                                                                   CGRect frame) {
   const Attributes made = forItem(path, frame);
   of(made)._kind = kind.utf8();
   return made;
 }
 
-bridge::Object UICollectionViewLayoutAttributes::attributesForCell(bridge::NSIndexPath path) {
+Object UICollectionViewLayoutAttributesState::attributesForCell(NSIndexPath path) {
   return forItem(itemPathOf(path).value_or(ItemPath{}), {});
 }
 
-bridge::Object UICollectionViewLayoutAttributes::attributesForSupplementary(
-    bridge::NSString kind, bridge::NSIndexPath path) {
+Object UICollectionViewLayoutAttributesState::attributesForSupplementary(NSString kind,
+                                                                         NSIndexPath path) {
   return forSupplementary(kind, itemPathOf(path).value_or(ItemPath{}), {});
 }
 
-void UICollectionViewLayoutAttributes::setIndexPath(bridge::NSIndexPath path) {
+void UICollectionViewLayoutAttributesState::setIndexPath(NSIndexPath path) {
   _path = itemPathOf(path).value_or(_path);
 }
 
-CGRect UICollectionViewLayoutAttributes::frame() const {
+CGRect UICollectionViewLayoutAttributesState::frame() const {
   return {{_center.x - _size.width / 2, _center.y - _size.height / 2}, _size};
 }
 
-void UICollectionViewLayoutAttributes::setFrame(CGRect frame) {
+void UICollectionViewLayoutAttributesState::setFrame(CGRect frame) {
   if (!isFinite(frame)) frame = {};
   _center = middle(frame);
   _size = frame.size;
 }
 
-void UICollectionViewLayoutAttributes::setCenter(CGPoint center) {
+void UICollectionViewLayoutAttributesState::setCenter(CGPoint center) {
   if (std::isfinite(center.x) && std::isfinite(center.y)) _center = center;
 }
 
-void UICollectionViewLayoutAttributes::setSize(CGSize size) {
+void UICollectionViewLayoutAttributesState::setSize(CGSize size) {
   _size = isFinite(rectOfSize(size)) ? size : CGSize{};
 }
 
-bridge::NSString UICollectionViewLayoutAttributes::elementKind() const {
-  return _kind.empty() ? bridge::NSString() : bridge::NSString::make(_kind);
+NSString UICollectionViewLayoutAttributesState::elementKind() const {
+  return _kind.empty() ? NSString() : NSString::make(_kind);
 }
 
-bridge::Object UICollectionViewLayoutAttributes::copyWithZone(void*) const {
+Object UICollectionViewLayoutAttributesState::copyWithZone(void*) const {
   const Class own = object_getClass(self().get());
-  const auto made = bridge::send<bridge::Object, "init">(bridge::send<id, "alloc">(own));
-  UICollectionViewLayoutAttributes& copy = of(made);
+  const auto made = send<Object, "init">(send<id, "alloc">(own));
+  UICollectionViewLayoutAttributesState& copy = of(made);
   copy._path = _path;
   copy._kind = _kind;
   copy._center = _center;
@@ -106,15 +107,15 @@ bridge::Object UICollectionViewLayoutAttributes::copyWithZone(void*) const {
   return made;
 }
 
-bool UICollectionViewLayoutAttributes::isEqual(bridge::Object other) const {
-  if (!bridge::isKindOf(other, classObject())) return false;
-  const UICollectionViewLayoutAttributes& its = of(other);
+bool UICollectionViewLayoutAttributesState::isEqual(Object other) const {
+  if (!isKindOf(other, classObject())) return false;
+  const UICollectionViewLayoutAttributesState& its = of(other);
   return _path == its._path && _kind == its._kind && _center == its._center && _size == its._size &&
          _alpha == its._alpha && _transform == its._transform && _zIndex == its._zIndex &&
          _isHidden == its._isHidden;
 }
 
-NSUInteger UICollectionViewLayoutAttributes::hash() const {
+NSUInteger UICollectionViewLayoutAttributesState::hash() const {
   return std::hash<std::string>()(_kind) + static_cast<NSUInteger>(_path.section) * 1000003 +
          static_cast<NSUInteger>(_path.item);
 }

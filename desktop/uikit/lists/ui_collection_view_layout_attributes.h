@@ -6,14 +6,16 @@
 #include <string>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/lists/index_path.h"
 
 namespace desktop::uikit {
 
-class UICollectionViewLayoutAttributes
-    : public bridge::Bound<UICollectionViewLayoutAttributes, bridge::NSObject> {
+class UICollectionViewLayoutAttributesState
+    : public Bound<UICollectionViewLayoutAttributesState, NSObject,
+                   UICollectionViewLayoutAttributes> {
  public:
   enum Category : NSUInteger { cell = 0, supplementaryView = 1, decorationView = 2 };
 
@@ -21,9 +23,9 @@ class UICollectionViewLayoutAttributes
   static Class classObject();
 
   // New attributes of an item, and of a supplementary view of a kind; autoreleased.
-  static handles::UICollectionViewLayoutAttributes forItem(ItemPath path, CGRect frame);
-  static handles::UICollectionViewLayoutAttributes forSupplementary(bridge::NSString kind,
-                                                                    ItemPath path, CGRect frame);
+  static UICollectionViewLayoutAttributes forItem(ItemPath path, CGRect frame);
+  static UICollectionViewLayoutAttributes forSupplementary(NSString kind, ItemPath path,
+                                                           CGRect frame);
 
   ItemPath path() const { return _path; }
   // Empty for items.
@@ -37,10 +39,10 @@ class UICollectionViewLayoutAttributes
   bool isHidden() const { return _isHidden; }
 
  private:
-  static bridge::Object attributesForCell(bridge::NSIndexPath path);
-  static bridge::Object attributesForSupplementary(bridge::NSString kind, bridge::NSIndexPath path);
-  bridge::NSIndexPath indexPath() const { return indexPathOf(_path); }
-  void setIndexPath(bridge::NSIndexPath path);
+  static Object attributesForCell(NSIndexPath path);
+  static Object attributesForSupplementary(NSString kind, NSIndexPath path);
+  NSIndexPath indexPath() const { return indexPathOf(_path); }
+  void setIndexPath(NSIndexPath path);
   CGPoint center() const { return _center; }
   void setCenter(CGPoint center);
   CGSize size() const { return _size; }
@@ -50,9 +52,9 @@ class UICollectionViewLayoutAttributes
   void setZIndex(NSInteger index) { _zIndex = index; }
   void setHidden(bool hidden) { _isHidden = hidden; }
   NSUInteger category() const { return _kind.empty() ? cell : supplementaryView; }
-  bridge::NSString elementKind() const;
-  bridge::Object copyWithZone(void* zone) const;
-  bool isEqual(bridge::Object other) const;
+  NSString elementKind() const;
+  Object copyWithZone(void* zone) const;
+  bool isEqual(Object other) const;
   NSUInteger hash() const;
 
   ItemPath _path;

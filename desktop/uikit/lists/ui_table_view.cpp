@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
@@ -22,20 +23,20 @@ namespace {
 
 constexpr Seconds longPressTime = 0.5;
 
-bridge::UITouch touchOf(bridge::NSSet touches) {
-  return bridge::as<bridge::UITouch>(touches.anyObject());
+UITouch touchOf(NSSet touches) {
+  return as<UITouch>(touches.anyObject());
 }
 
 // None for what is no scroll position.
 std::optional<ShownAt> shownAt(NSInteger position) {
   switch (position) {
-    case UITableView::none:
+    case UITableViewState::none:
       return ShownAt::nearest;
-    case UITableView::top:
+    case UITableViewState::top:
       return ShownAt::start;
-    case UITableView::middle:
+    case UITableViewState::middle:
       return ShownAt::middle;
-    case UITableView::bottom:
+    case UITableViewState::bottom:
       return ShownAt::end;
     default:
       return {};
@@ -44,128 +45,131 @@ std::optional<ShownAt> shownAt(NSInteger position) {
 
 }  // namespace
 
-Class UITableView::classObject() {
+Class UITableViewState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UITableView>("UITableView")
-          .method<"initWithFrame:", &UITableView::initWithFrame>()
-          .method<"initWithFrame:style:", &UITableView::initWithFrameAndStyle>()
-          .method<"style", &UITableView::style>()
-          .method<"dataSource", &UITableView::dataSource>()
-          .method<"setDataSource:", &UITableView::setDataSource>()
-          .method<"setDelegate:", &UITableView::setDelegate>()
-          .method<"rowHeight", &UITableView::rowHeight>()
-          .method<"setRowHeight:", &UITableView::setRowHeight>()
-          .method<"sectionHeaderHeight", &UITableView::sectionHeaderHeight>()
-          .method<"setSectionHeaderHeight:", &UITableView::setSectionHeaderHeight>()
-          .method<"sectionFooterHeight", &UITableView::sectionFooterHeight>()
-          .method<"setSectionFooterHeight:", &UITableView::setSectionFooterHeight>()
-          .method<"separatorStyle", &UITableView::separatorStyle>()
-          .method<"setSeparatorStyle:", &UITableView::setSeparatorStyle>()
-          .method<"separatorColor", &UITableView::separatorColor>()
-          .method<"setSeparatorColor:", &UITableView::setSeparatorColor>()
-          .method<"allowsSelection", &UITableView::allowsSelection>()
-          .method<"setAllowsSelection:", &UITableView::setAllowsSelection>()
-          .method<"tableHeaderView", &UITableView::tableHeaderView>()
-          .method<"setTableHeaderView:", &UITableView::setTableHeaderView>()
-          .method<"tableFooterView", &UITableView::tableFooterView>()
-          .method<"setTableFooterView:", &UITableView::setTableFooterView>()
-          .method<"reloadData", &UITableView::reloadData>()
-          .method<"numberOfSections", &UITableView::numberOfSections>()
-          .method<"numberOfRowsInSection:", &UITableView::numberOfRows>()
-          .method<"rectForSection:", &UITableView::rectForSection>()
-          .method<"rectForHeaderInSection:", &UITableView::rectForHeader>()
-          .method<"rectForFooterInSection:", &UITableView::rectForFooter>()
-          .method<"rectForRowAtIndexPath:", &UITableView::rectForRow>()
-          .method<"indexPathForRowAtPoint:", &UITableView::indexPathForRowAt>()
-          .method<"indexPathForCell:", &UITableView::indexPathForCell>()
-          .method<"cellForRowAtIndexPath:", &UITableView::cellForRow>()
-          .method<"visibleCells", &UITableView::visibleCells>()
-          .method<"indexPathsForVisibleRows", &UITableView::visibleRows>()
-          .method<"scrollToRowAtIndexPath:atScrollPosition:animated:", &UITableView::scrollToRow>()
-          .method<"layoutSubviews", &UITableView::layoutSubviews>()
-          .method<"didMoveToWindow", &UITableView::didMoveToWindow>()
-          .method<"dequeueReusableCellWithIdentifier:", &UITableView::dequeue>()
-          .method<"dequeueReusableCellWithIdentifier:forIndexPath:", &UITableView::dequeueFor>()
-          .method<"registerClass:forCellReuseIdentifier:", &UITableView::registerCellClass>()
-          .method<"insertRowsAtIndexPaths:withRowAnimation:", &UITableView::rowsChange>()
-          .method<"deleteRowsAtIndexPaths:withRowAnimation:", &UITableView::rowsChange>()
-          .method<"reloadRowsAtIndexPaths:withRowAnimation:", &UITableView::rowsChange>()
-          .method<"reloadSections:withRowAnimation:", &UITableView::sectionsChange>()
-          .method<"touchesBegan:withEvent:", &UITableView::touchesBegan>()
-          .method<"touchesMoved:withEvent:", &UITableView::touchesMoved>()
-          .method<"touchesEnded:withEvent:", &UITableView::touchesEnded>()
-          .method<"touchesCancelled:withEvent:", &UITableView::touchesCancelled>()
-          .method<"indexPathForSelectedRow", &UITableView::indexPathForSelectedRow>()
-          .method<"selectRowAtIndexPath:animated:scrollPosition:", &UITableView::selectRow>()
-          .method<"deselectRowAtIndexPath:animated:", &UITableView::deselectRow>()
+      ClassBuilder<UITableViewState>("UITableView")
+          .method<"initWithFrame:", &UITableViewState::initWithFrame>()
+          .method<"initWithFrame:style:", &UITableViewState::initWithFrameAndStyle>()
+          .method<"style", &UITableViewState::style>()
+          .method<"dataSource", &UITableViewState::dataSource>()
+          .method<"setDataSource:", &UITableViewState::setDataSource>()
+          .method<"setDelegate:", &UITableViewState::setDelegate>()
+          .method<"rowHeight", &UITableViewState::rowHeight>()
+          .method<"setRowHeight:", &UITableViewState::setRowHeight>()
+          .method<"sectionHeaderHeight", &UITableViewState::sectionHeaderHeight>()
+          .method<"setSectionHeaderHeight:", &UITableViewState::setSectionHeaderHeight>()
+          .method<"sectionFooterHeight", &UITableViewState::sectionFooterHeight>()
+          .method<"setSectionFooterHeight:", &UITableViewState::setSectionFooterHeight>()
+          .method<"separatorStyle", &UITableViewState::separatorStyle>()
+          .method<"setSeparatorStyle:", &UITableViewState::setSeparatorStyle>()
+          .method<"separatorColor", &UITableViewState::separatorColor>()
+          .method<"setSeparatorColor:", &UITableViewState::setSeparatorColor>()
+          .method<"allowsSelection", &UITableViewState::allowsSelection>()
+          .method<"setAllowsSelection:", &UITableViewState::setAllowsSelection>()
+          .method<"tableHeaderView", &UITableViewState::tableHeaderView>()
+          .method<"setTableHeaderView:", &UITableViewState::setTableHeaderView>()
+          .method<"tableFooterView", &UITableViewState::tableFooterView>()
+          .method<"setTableFooterView:", &UITableViewState::setTableFooterView>()
+          .method<"reloadData", &UITableViewState::reloadData>()
+          .method<"numberOfSections", &UITableViewState::numberOfSections>()
+          .method<"numberOfRowsInSection:", &UITableViewState::numberOfRows>()
+          .method<"rectForSection:", &UITableViewState::rectForSection>()
+          .method<"rectForHeaderInSection:", &UITableViewState::rectForHeader>()
+          .method<"rectForFooterInSection:", &UITableViewState::rectForFooter>()
+          .method<"rectForRowAtIndexPath:", &UITableViewState::rectForRow>()
+          .method<"indexPathForRowAtPoint:", &UITableViewState::indexPathForRowAt>()
+          .method<"indexPathForCell:", &UITableViewState::indexPathForCell>()
+          .method<"cellForRowAtIndexPath:", &UITableViewState::cellForRow>()
+          .method<"visibleCells", &UITableViewState::visibleCells>()
+          .method<"indexPathsForVisibleRows", &UITableViewState::visibleRows>()
+          .method<"scrollToRowAtIndexPath:atScrollPosition:animated:",
+                  &UITableViewState::scrollToRow>()
+          .method<"layoutSubviews", &UITableViewState::layoutSubviews>()
+          .method<"didMoveToWindow", &UITableViewState::didMoveToWindow>()
+          .method<"dequeueReusableCellWithIdentifier:", &UITableViewState::dequeue>()
+          .method<"dequeueReusableCellWithIdentifier:forIndexPath:",
+                  &UITableViewState::dequeueFor>()
+          .method<"registerClass:forCellReuseIdentifier:", &UITableViewState::registerCellClass>()
+          .method<"insertRowsAtIndexPaths:withRowAnimation:", &UITableViewState::rowsChange>()
+          .method<"deleteRowsAtIndexPaths:withRowAnimation:", &UITableViewState::rowsChange>()
+          .method<"reloadRowsAtIndexPaths:withRowAnimation:", &UITableViewState::rowsChange>()
+          .method<"reloadSections:withRowAnimation:", &UITableViewState::sectionsChange>()
+          .method<"touchesBegan:withEvent:", &UITableViewState::touchesBegan>()
+          .method<"touchesMoved:withEvent:", &UITableViewState::touchesMoved>()
+          .method<"touchesEnded:withEvent:", &UITableViewState::touchesEnded>()
+          .method<"touchesCancelled:withEvent:", &UITableViewState::touchesCancelled>()
+          .method<"indexPathForSelectedRow", &UITableViewState::indexPathForSelectedRow>()
+          .method<"selectRowAtIndexPath:animated:scrollPosition:", &UITableViewState::selectRow>()
+          .method<"deselectRowAtIndexPath:animated:", &UITableViewState::deselectRow>()
           .build();
   return made;
 }
 
-bridge::UIView UITableView::initWithFrame(CGRect frame) {
-  return bridge::send<bridge::UIView, "initWithFrame:style:">(self(), frame, NSInteger{plain});
+UIView UITableViewState::initWithFrame(CGRect frame) {
+  return send<UIView, "initWithFrame:style:">(self(), frame, NSInteger{plain});
 }
 
-bridge::UITableView UITableView::initWithFrameAndStyle(CGRect frame, NSInteger style) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
+UITableView UITableViewState::initWithFrameAndStyle(CGRect frame, NSInteger style) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
   _style = style == grouped ? grouped : plain;
-  self().setBackgroundColor(UIColor::make(isGrouped() ? colors::groupedBackground : colors::white));
-  return bridge::UITableView(self().get());
+  self().setBackgroundColor(
+      UIColorState::make(isGrouped() ? colors::groupedBackground : colors::white));
+  return UITableView(self().get());
 }
 
-void UITableView::setDataSource(bridge::NSObject source) {
+void UITableViewState::setDataSource(NSObject source) {
   if (source == dataSource()) return;
   _dataSource.setObject(source);
   reloadData();
 }
 
-void UITableView::setDelegate(bridge::NSObject delegate) {
-  if (delegate == UIScrollView::of(self()).delegate()) return;
+void UITableViewState::setDelegate(NSObject delegate) {
+  if (delegate == UITableViewState::delegate()) return;
   super<void, "setDelegate:">(delegate);
   reloadData();
 }
 
-void UITableView::setRowHeight(CGFloat height) {
+void UITableViewState::setRowHeight(CGFloat height) {
   if (height == _heights.row) return;
   _heights.row = height;
   reloadData();
 }
 
-void UITableView::setSectionHeaderHeight(CGFloat height) {
+void UITableViewState::setSectionHeaderHeight(CGFloat height) {
   _heights.header = height;
   reloadData();
 }
 
-void UITableView::setSectionFooterHeight(CGFloat height) {
+void UITableViewState::setSectionFooterHeight(CGFloat height) {
   _heights.footer = height;
   reloadData();
 }
 
-void UITableView::setSeparatorStyle(NSInteger style) {
+void UITableViewState::setSeparatorStyle(NSInteger style) {
   _separatorStyle = style;
   _separators.areShown = style != noSeparators;
   styleCells();
 }
 
-bridge::UIColor UITableView::separatorColor() const {
-  return UIColor::make(_separators.color);
+UIColor UITableViewState::separatorColor() const {
+  return UIColorState::make(_separators.color);
 }
 
-void UITableView::setSeparatorColor(bridge::UIColor color) {
-  _separators.color = color ? UIColor::valueOf(color) : colors::separator;
+void UITableViewState::setSeparatorColor(UIColor color) {
+  _separators.color = color ? UIColorState::valueOf(color) : colors::separator;
   styleCells();
 }
 
-void UITableView::replaceEdgeView(bridge::Owned<bridge::UIView>& slot, bridge::UIView view) {
+void UITableViewState::replaceEdgeView(Owned<UIView>& slot, UIView view) {
   if (slot.get() != view) slot->removeFromSuperview();
-  slot = bridge::Owned<bridge::UIView>::retain(view);
+  slot = Owned<UIView>::retain(view);
   self().addSubview(view);
   remeasure();
 }
 
 // What there is, and where it lies.
 
-void UITableView::reloadData() {
+void UITableViewState::reloadData() {
   for (const auto& [path, cell] : _cells.shown().takeAll()) recycle(cell, path);
   _titles.removeAll();
   release();
@@ -173,27 +177,27 @@ void UITableView::reloadData() {
   remeasure();
 }
 
-void UITableView::rowsChange(bridge::NSArray, NSInteger) {
+void UITableViewState::rowsChange(NSArray, NSInteger) {
   reloadData();
 }
 
-void UITableView::sectionsChange(bridge::Object, NSInteger) {
+void UITableViewState::sectionsChange(Object, NSInteger) {
   reloadData();
 }
 
-void UITableView::remeasure() {
+void UITableViewState::remeasure() {
   _measuring.outdate();
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
 }
 
-const TableGeometry& UITableView::geometry() {
+const TableGeometry& UITableViewState::geometry() {
   const bool isNew = _measuring.renew([this] {
     const TableMeasuring table{.source = _dataSource,
                                .delegate = _delegate,
                                .heights = _heights,
                                .isGrouped = isGrouped(),
                                .hasHeaderView = static_cast<bool>(_headerView),
-                               .width = UIView::of(self()).bounds().size.width};
+                               .width = bounds().size.width};
     const auto sections = table.sections();
     _geometry = TableGeometry(sections, _headerView ? _headerView->bounds().size.height : 0);
   });
@@ -202,60 +206,59 @@ const TableGeometry& UITableView::geometry() {
 }
 
 // Content that became shorter is not left behind.
-void UITableView::followGeometry() {
+void UITableViewState::followGeometry() {
   if (_selected && !_geometry.contains(*_selected)) _selected.reset();
   const CGFloat footer = _footerView ? _footerView->bounds().size.height : 0;
-  const handles::UIScrollView scroll(self());
-  scroll.setContentSize({UIView::of(self()).bounds().size.width, _geometry.bottom() + footer});
+  const UIScrollView scroll(self());
+  scroll.setContentSize({bounds().size.width, _geometry.bottom() + footer});
   const CGPoint offset = scroll.contentOffset();
-  const CGPoint inside = UIScrollView::of(self()).clamped(offset);
+  const CGPoint inside = clamped(offset);
   if (offset.y > inside.y) scroll.setContentOffset({offset.x, inside.y});
 }
 
-CGRect UITableView::across(Band band) const {
-  return {{0, band.top}, {UIView::of(self()).bounds().size.width, band.height}};
+CGRect UITableViewState::across(Band band) const {
+  return {{0, band.top}, {bounds().size.width, band.height}};
 }
 
-Band UITableView::inSight() const {
-  const CGRect bounds = UIView::of(self()).bounds();
+Band UITableViewState::inSight() const {
+  const CGRect bounds = UIViewState::bounds();
   return {bounds.origin.y, bounds.size.height};
 }
 
-CGRect UITableView::rectForRow(bridge::NSIndexPath path) {
+CGRect UITableViewState::rectForRow(NSIndexPath path) {
   const auto at = itemPathOf(path);
   return at && geometry().contains(*at) ? across(geometry().row(*at)) : CGRect{};
 }
 
-bridge::NSIndexPath UITableView::indexPathForRowAt(CGPoint point) {
+NSIndexPath UITableViewState::indexPathForRowAt(CGPoint point) {
   const auto path = rowAt(point);
-  return path ? indexPathOf(*path) : bridge::NSIndexPath();
+  return path ? indexPathOf(*path) : NSIndexPath();
 }
 
-std::optional<ItemPath> UITableView::rowAt(CGPoint point) {
-  const CGFloat width = UIView::of(self()).bounds().size.width;
+std::optional<ItemPath> UITableViewState::rowAt(CGPoint point) {
+  const CGFloat width = bounds().size.width;
   if (!(point.x >= 0 && point.x < width)) return {};
   return geometry().rowAt(point.y);
 }
 
-void UITableView::scrollToRow(bridge::NSIndexPath path, NSInteger position, bool animated) {
+void UITableViewState::scrollToRow(NSIndexPath path, NSInteger position, bool animated) {
   const auto at = itemPathOf(path);
   if (!at || !geometry().contains(*at)) return;
-  const UIScrollView& scroll = UIScrollView::of(self());
-  const EdgeInsets insets = scroll.adjustedContentInset();
+  const EdgeInsets insets = adjustedContentInset();
   const Band row = _geometry.row(*at);
   const Band seen = inSight();
-  CGPoint offset = scroll.contentOffset();
+  CGPoint offset = contentOffset();
   if (const auto where = shownAt(position))
     offset.y = offsetShowing(row.top, row.height,
                              {seen.top, seen.height, insets.top, insets.bottom}, *where);
-  bridge::send<void, "setContentOffset:animated:">(self(), scroll.clamped(offset), animated);
+  send<void, "setContentOffset:animated:">(self(), clamped(offset), animated);
 }
 
 // Cells and titles come and go.
 
-void UITableView::layoutSubviews() {
+void UITableViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
-  const CGFloat width = UIView::of(self()).bounds().size.width;
+  const CGFloat width = bounds().size.width;
   if (std::exchange(_measuredWidth, width) != width) _measuring.outdate();
   geometry();
   placeEdgeViews();
@@ -264,21 +267,21 @@ void UITableView::layoutSubviews() {
   _cells.settle(self());
 }
 
-void UITableView::didMoveToWindow() {
+void UITableViewState::didMoveToWindow() {
   super<void, "didMoveToWindow">();
-  if (UIView::of(self()).window()) return;
+  if (window()) return;
   release();
   _menu.hide();
 }
 
-void UITableView::placeEdgeViews() {
-  const CGFloat width = UIView::of(self()).bounds().size.width;
+void UITableViewState::placeEdgeViews() {
+  const CGFloat width = bounds().size.width;
   if (_headerView) _headerView->setFrame({{0, 0}, {width, _headerView->bounds().size.height}});
   if (_footerView)
     _footerView->setFrame({{0, _geometry.bottom()}, {width, _footerView->bounds().size.height}});
 }
 
-void UITableView::placeCells() {
+void UITableViewState::placeCells() {
   std::map<ItemPath, CGRect> wanted;
   for (const ItemPath path : _geometry.rowsIn(inSight()))
     wanted[path] = across(_geometry.row(path));
@@ -289,8 +292,8 @@ void UITableView::placeCells() {
       [this](ItemPath path, CGRect frame) { showRow(path, frame); });
 }
 
-void UITableView::showRow(ItemPath path, CGRect frame) {
-  const bridge::AutoreleasePool pool;
+void UITableViewState::showRow(ItemPath path, CGRect frame) {
+  const AutoreleasePool pool;
   const Inquiry::Pass pass(_measuring);
   const auto cell = _dataSource.cell(path);
   if (!pass.holds()) return;
@@ -298,31 +301,31 @@ void UITableView::showRow(ItemPath path, CGRect frame) {
   animator().withoutAnimation([&] {
     cell->setFrame(frame);
     styleCell(cell, path);
-    bridge::send<void, "setSelected:animated:">(cell, _selected == path, false);
-    bridge::send<void, "setHighlighted:animated:">(cell, _press.isOn(path), false);
-    TableCells::insert(cell, UIView::of(self()));
-    UIView::of(cell.get()).setNeedsLayout();
+    send<void, "setSelected:animated:">(cell, _selected == path, false);
+    send<void, "setHighlighted:animated:">(cell, _press.isOn(path), false);
+    TableCells::insert(cell, *this);
+    UIViewState::of(cell.get()).setNeedsLayout();
   });
   _delegate.willDisplay(cell, path);
 }
 
-void UITableView::recycle(bridge::UITableViewCell cell, ItemPath path) {
-  const bridge::AutoreleasePool pool;
+void UITableViewState::recycle(UITableViewCell cell, ItemPath path) {
+  const AutoreleasePool pool;
   _cells.putAway(cell);
   _delegate.didEndDisplaying(cell, path);
 }
 
-void UITableView::styleCell(bridge::UITableViewCell cell, ItemPath path) const {
-  UITableViewCell::of(cell.get())
+void UITableViewState::styleCell(UITableViewCell cell, ItemPath path) const {
+  UITableViewCellState::of(cell.get())
       .setSeparators(_separators.ofRow(path.item, _geometry.rows(path.section), isGrouped()));
 }
 
-void UITableView::styleCells() const {
+void UITableViewState::styleCells() const {
   for (const auto& [path, cell] : cells()) styleCell(cell, path);
 }
 
-void UITableView::placeTitles() {
-  const CGFloat sightTop = inSight().top + UIScrollView::of(self()).adjustedContentInset().top;
+void UITableViewState::placeTitles() {
+  const CGFloat sightTop = inSight().top + adjustedContentInset().top;
   std::map<TitlePlace, CGRect> wanted;
   for (const auto& [place, band] : titlesIn(_geometry, inSight(), sightTop, isGrouped()))
     wanted[place] = across(band);
@@ -331,97 +334,96 @@ void UITableView::placeTitles() {
 }
 
 // The delegate's own view, or one that shows the title; nil where there is neither.
-bridge::UIView UITableView::titleView(TitlePlace place) const {
-  if (const bridge::UIView own = _delegate.titleView(place)) return own;
-  const bridge::NSString title = _dataSource.title(place);
+UIView UITableViewState::titleView(TitlePlace place) const {
+  if (const UIView own = _delegate.titleView(place)) return own;
+  const NSString title = _dataSource.title(place);
   if (title.length() == 0) return {};
   return UITableViewHeaderFooterView::make(title, place.place, isGrouped());
 }
 
-bridge::UITableViewCell UITableView::dequeue(bridge::NSString identifier) {
+UITableViewCell UITableViewState::dequeue(NSString identifier) {
   return _cells.dequeue(identifier);
 }
 
-bridge::UITableViewCell UITableView::dequeueFor(bridge::NSString identifier, bridge::NSIndexPath) {
+UITableViewCell UITableViewState::dequeueFor(NSString identifier, NSIndexPath) {
   return _cells.dequeue(identifier);
 }
 
-void UITableView::registerCellClass(Class aClass, bridge::NSString identifier) {
+void UITableViewState::registerCellClass(Class aClass, NSString identifier) {
   _cells.registerClass(identifier, aClass);
 }
 
-bridge::UITableViewCell UITableView::cellForRow(bridge::NSIndexPath path) const {
+UITableViewCell UITableViewState::cellForRow(NSIndexPath path) const {
   const auto at = itemPathOf(path);
-  return at ? _cells.at(*at) : bridge::UITableViewCell();
+  return at ? _cells.at(*at) : UITableViewCell();
 }
 
-bridge::NSIndexPath UITableView::indexPathForCell(bridge::UITableViewCell cell) const {
+NSIndexPath UITableViewState::indexPathForCell(UITableViewCell cell) const {
   const auto path = _cells.shown().keyOf(cell);
-  return path ? indexPathOf(*path) : bridge::NSIndexPath();
+  return path ? indexPathOf(*path) : NSIndexPath();
 }
 
 // Touch: a finger presses a row, selects it when it leaves it there, and brings up the row's edit
 // menu when it stays.
 
-void UITableView::touchesBegan(bridge::NSSet touches, bridge::UIEvent) {
+void UITableViewState::touchesBegan(NSSet touches, UIEvent) {
   release();
-  const bridge::UITouch touch = touchOf(touches);
+  const UITouch touch = touchOf(touches);
   const auto path = rowAt(touch.locationIn(self()));
   if (!touch || !path || !_allowsSelection) return;
-  if (_delegate.shouldHighlight(*path)) press(*path, UITouch::of(touch.get()).timestamp());
+  if (_delegate.shouldHighlight(*path)) press(*path, UITouchState::of(touch.get()).timestamp());
 }
 
-void UITableView::press(ItemPath path, Seconds since) {
+void UITableViewState::press(ItemPath path, Seconds since) {
   _press.begin(path);
   highlight(path, true);
   _longPress.callAfter(since + longPressTime - scheduler().now(), [this] { pressWasLong(); });
 }
 
 // Ends a press without any effect.
-void UITableView::release() {
+void UITableViewState::release() {
   _longPress.cancel();
   if (const auto pressed = _press.end()) highlight(*pressed, false);
 }
 
-void UITableView::touchesMoved(bridge::NSSet touches, bridge::UIEvent) {
+void UITableViewState::touchesMoved(NSSet touches, UIEvent) {
   if (_press.hasLeft([&] { return rowAt(touchOf(touches).locationIn(self())); })) release();
 }
 
-void UITableView::touchesEnded(bridge::NSSet touches, bridge::UIEvent) {
-  const auto kept = bridge::Owned<bridge::UIView>::retain(self());
+void UITableViewState::touchesEnded(NSSet touches, UIEvent) {
+  const auto kept = Owned<UIView>::retain(self());
   const auto tapped = _press.tappedBy([&] { return rowAt(touchOf(touches).locationIn(self())); });
   release();
   if (tapped) select(*tapped);
 }
 
-void UITableView::touchesCancelled(bridge::NSSet, bridge::UIEvent) {
+void UITableViewState::touchesCancelled(NSSet, UIEvent) {
   release();
 }
 
-void UITableView::pressWasLong() {
-  const bridge::AutoreleasePool pool;
-  const auto kept = bridge::Owned<bridge::UIView>::retain(self());
+void UITableViewState::pressWasLong() {
+  const AutoreleasePool pool;
+  const auto kept = Owned<UIView>::retain(self());
   const auto path = _press.path();
   if (!path || !_delegate.shouldShowMenu(*path)) return;
   release();
   showMenu(*path);
 }
 
-void UITableView::showMenu(ItemPath path) {
+void UITableViewState::showMenu(ItemPath path) {
   const auto perform = [this, path](SEL action) {
-    const auto kept = bridge::Owned<bridge::UIView>::retain(self());
+    const auto kept = Owned<UIView>::retain(self());
     if (geometry().contains(path)) _delegate.perform(action, path);
   };
   auto commands = RowMenu::commands(
       [this, path](SEL action) { return _delegate.canPerform(action, path); }, perform);
   if (commands.empty() || !_geometry.contains(path)) return;
-  _menu.show(std::move(commands),
-             apply(UIView::of(self()).toScreen(), across(_geometry.row(path))));
+  _menu.show(std::move(commands), apply(toScreen(), across(_geometry.row(path))));
 }
 
 // Selection.
 
-void UITableView::select(ItemPath path) {
+void UITableViewState::select(ItemPath path) {
   const auto instead = _delegate.willSelect(path);
   if (!instead || !geometry().contains(*instead)) return;
   const auto before = _selected;
@@ -430,33 +432,33 @@ void UITableView::select(ItemPath path) {
   _delegate.didSelect(*instead);
 }
 
-bridge::NSIndexPath UITableView::indexPathForSelectedRow() const {
-  return _selected ? indexPathOf(*_selected) : bridge::NSIndexPath();
+NSIndexPath UITableViewState::indexPathForSelectedRow() const {
+  return _selected ? indexPathOf(*_selected) : NSIndexPath();
 }
 
 // By code the delegate is not told. No path clears the selection.
-void UITableView::selectRow(bridge::NSIndexPath path, bool animated, NSInteger position) {
+void UITableViewState::selectRow(NSIndexPath path, bool animated, NSInteger position) {
   const auto at = itemPathOf(path);
   if (at && !geometry().contains(*at)) return;
   setSelected(at, animated);
   if (at && position != none) scrollToRow(path, position, animated);
 }
 
-void UITableView::deselectRow(bridge::NSIndexPath path, bool animated) {
+void UITableViewState::deselectRow(NSIndexPath path, bool animated) {
   const auto at = itemPathOf(path);
   if (at && at == _selected) setSelected(std::nullopt, animated);
 }
 
-void UITableView::setSelected(std::optional<ItemPath> path, bool animated) {
+void UITableViewState::setSelected(std::optional<ItemPath> path, bool animated) {
   const auto before = std::exchange(_selected, path);
   for (const auto& changed : {before, path})
-    if (const auto cell = changed ? _cells.at(*changed) : bridge::UITableViewCell())
-      bridge::send<void, "setSelected:animated:">(cell, _selected == changed, animated);
+    if (const auto cell = changed ? _cells.at(*changed) : UITableViewCell())
+      send<void, "setSelected:animated:">(cell, _selected == changed, animated);
 }
 
-void UITableView::highlight(ItemPath path, bool isHighlighted) const {
+void UITableViewState::highlight(ItemPath path, bool isHighlighted) const {
   if (const auto cell = _cells.at(path))
-    bridge::send<void, "setHighlighted:animated:">(cell, isHighlighted, false);
+    send<void, "setHighlighted:animated:">(cell, isHighlighted, false);
 }
 
 }  // namespace desktop::uikit

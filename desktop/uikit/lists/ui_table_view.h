@@ -6,8 +6,9 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/pending_call.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/lists/item_press.h"
 #include "desktop/uikit/lists/table/row_menu.h"
 #include "desktop/uikit/lists/table/row_separators.h"
@@ -21,7 +22,7 @@
 
 namespace desktop::uikit {
 
-class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
+class UITableViewState : public Bound<UITableViewState, UIScrollViewState, UITableView> {
  public:
   enum Style : NSInteger { plain = 0, grouped = 1 };
   enum SeparatorStyle : NSInteger { noSeparators = 0, singleLine = 1 };
@@ -38,22 +39,22 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   NSInteger numberOfSections() { return geometry().sections(); }
   NSInteger numberOfRows(NSInteger section) { return geometry().rows(section); }
   // In the table's own coordinates; empty where there is no such row.
-  CGRect rectForRow(bridge::NSIndexPath path);
+  CGRect rectForRow(NSIndexPath path);
   // Nil where there is none.
-  bridge::NSIndexPath indexPathForRowAt(CGPoint point);
-  bridge::NSIndexPath indexPathForCell(bridge::UITableViewCell cell) const;
-  bridge::UITableViewCell cellForRow(bridge::NSIndexPath path) const;
+  NSIndexPath indexPathForRowAt(CGPoint point);
+  NSIndexPath indexPathForCell(UITableViewCell cell) const;
+  UITableViewCell cellForRow(NSIndexPath path) const;
   std::optional<ItemPath> selectedRow() const { return _selected; }
   // Of the rows in sight, from top to bottom.
   const TableCells::Shown::Views& cells() const { return _cells.shown().all(); }
 
  private:
   // What is bound of making it, and of what is set.
-  bridge::UIView initWithFrame(CGRect frame);
-  bridge::UITableView initWithFrameAndStyle(CGRect frame, NSInteger style);
-  bridge::NSObject dataSource() const { return _dataSource.object(); }
-  void setDataSource(bridge::NSObject source);
-  void setDelegate(bridge::NSObject delegate);
+  UIView initWithFrame(CGRect frame);
+  UITableView initWithFrameAndStyle(CGRect frame, NSInteger style);
+  NSObject dataSource() const { return _dataSource.object(); }
+  void setDataSource(NSObject source);
+  void setDelegate(NSObject delegate);
   CGFloat rowHeight() const { return _heights.row; }
   void setRowHeight(CGFloat height);
   CGFloat sectionHeaderHeight() const { return _heights.header; }
@@ -62,38 +63,38 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   void setSectionFooterHeight(CGFloat height);
   NSInteger separatorStyle() const { return _separatorStyle; }
   void setSeparatorStyle(NSInteger style);
-  bridge::UIColor separatorColor() const;
-  void setSeparatorColor(bridge::UIColor color);
+  UIColor separatorColor() const;
+  void setSeparatorColor(UIColor color);
   bool allowsSelection() const { return _allowsSelection; }
   void setAllowsSelection(bool allows) { _allowsSelection = allows; }
-  bridge::UIView tableHeaderView() const { return _headerView; }
-  void setTableHeaderView(bridge::UIView view) { replaceEdgeView(_headerView, view); }
-  bridge::UIView tableFooterView() const { return _footerView; }
-  void setTableFooterView(bridge::UIView view) { replaceEdgeView(_footerView, view); }
+  UIView tableHeaderView() const { return _headerView; }
+  void setTableHeaderView(UIView view) { replaceEdgeView(_headerView, view); }
+  UIView tableFooterView() const { return _footerView; }
+  void setTableFooterView(UIView view) { replaceEdgeView(_footerView, view); }
 
   // Of where rows are, and what shows them.
   CGRect rectForSection(NSInteger section) { return across(geometry().section(section)); }
   CGRect rectForHeader(NSInteger section) { return across(geometry().header(section)); }
   CGRect rectForFooter(NSInteger section) { return across(geometry().footer(section)); }
-  void scrollToRow(bridge::NSIndexPath path, NSInteger position, bool animated);
+  void scrollToRow(NSIndexPath path, NSInteger position, bool animated);
   void layoutSubviews();
   void didMoveToWindow();
-  bridge::UITableViewCell dequeue(bridge::NSString identifier);
-  bridge::UITableViewCell dequeueFor(bridge::NSString identifier, bridge::NSIndexPath path);
-  void registerCellClass(Class aClass, bridge::NSString identifier);
-  bridge::NSArray visibleCells() const { return _cells.all(); }
-  bridge::NSArray visibleRows() const { return _cells.indexPaths(); }
-  void rowsChange(bridge::NSArray paths, NSInteger animation);
-  void sectionsChange(bridge::Object sections, NSInteger animation);
+  UITableViewCell dequeue(NSString identifier);
+  UITableViewCell dequeueFor(NSString identifier, NSIndexPath path);
+  void registerCellClass(Class aClass, NSString identifier);
+  NSArray visibleCells() const { return _cells.all(); }
+  NSArray visibleRows() const { return _cells.indexPaths(); }
+  void rowsChange(NSArray paths, NSInteger animation);
+  void sectionsChange(Object sections, NSInteger animation);
 
   // Of touch and selection.
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
-  bridge::NSIndexPath indexPathForSelectedRow() const;
-  void selectRow(bridge::NSIndexPath path, bool animated, NSInteger position);
-  void deselectRow(bridge::NSIndexPath path, bool animated);
+  void touchesBegan(NSSet touches, UIEvent event);
+  void touchesMoved(NSSet touches, UIEvent event);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void touchesCancelled(NSSet touches, UIEvent event);
+  NSIndexPath indexPathForSelectedRow() const;
+  void selectRow(NSIndexPath path, bool animated, NSInteger position);
+  void deselectRow(NSIndexPath path, bool animated);
 
   // How the parts work together.
   const TableGeometry& geometry();
@@ -102,14 +103,14 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   std::optional<ItemPath> rowAt(CGPoint point);
   CGRect across(Band band) const;
   Band inSight() const;
-  void replaceEdgeView(bridge::Owned<bridge::UIView>& slot, bridge::UIView view);
+  void replaceEdgeView(Owned<UIView>& slot, UIView view);
   void placeEdgeViews();
   void placeCells();
   void placeTitles();
-  bridge::UIView titleView(TitlePlace place) const;
+  UIView titleView(TitlePlace place) const;
   void showRow(ItemPath path, CGRect frame);
-  void recycle(bridge::UITableViewCell cell, ItemPath path);
-  void styleCell(bridge::UITableViewCell cell, ItemPath path) const;
+  void recycle(UITableViewCell cell, ItemPath path);
+  void styleCell(UITableViewCell cell, ItemPath path) const;
   void styleCells() const;
   void press(ItemPath path, Seconds since);
   void release();
@@ -122,8 +123,8 @@ class UITableView : public bridge::Bound<UITableView, handles::UIScrollView> {
   NSInteger _style = plain;
   NSInteger _separatorStyle = singleLine;
   bool _allowsSelection = true;
-  bridge::Owned<bridge::UIView> _headerView;
-  bridge::Owned<bridge::UIView> _footerView;
+  Owned<UIView> _headerView;
+  Owned<UIView> _footerView;
   TableHeights _heights;
   TableSeparators _separators;
 

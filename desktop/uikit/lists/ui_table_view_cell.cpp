@@ -9,11 +9,12 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/text/ui_font.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -28,25 +29,25 @@ constexpr CGFloat accessoryGap = 10;   // between content and accessory
 constexpr NSUInteger longText = 1000;  // wider than any cell: not worth measuring
 
 CGFloat detailFontSize(NSInteger style) {
-  return style == UITableViewCell::subtitle ? 12 : 17;
+  return style == UITableViewCellState::subtitle ? 12 : 17;
 }
 
 // As much room as a label would like; none for one without text.
-CGSize wishOf(bridge::UILabel label) {
+CGSize wishOf(UILabel label) {
   constexpr CGFloat plenty = 100'000;
   const NSUInteger length = label.text().length();
   if (length == 0) return {};
-  const FontFace face = UIFont::faceOf(bridge::send<bridge::UIFont, "font">(label));
+  const FontFace face = UIFontState::faceOf(send<UIFont, "font">(label));
   const CGFloat height = std::ceil(2 * measuresOf(face).lineHeight()) / 2;
   if (length > longText) return {plenty, height};
-  const CGSize wanted = bridge::send<CGSize, "sizeThatFits:">(label, CGSize{plenty, plenty});
+  const CGSize wanted = send<CGSize, "sizeThatFits:">(label, CGSize{plenty, plenty});
   return {wanted.width, height};
 }
 
 // A picture higher than its row is shown smaller.
-CGSize wishOf(bridge::UIView imageView, CGFloat height) {
-  const auto image = bridge::send<bridge::UIImage, "image">(imageView);
-  const CGSize size = bridge::send<CGSize, "size">(image);
+CGSize wishOf(UIView imageView, CGFloat height) {
+  const auto image = send<UIImage, "image">(imageView);
+  const CGSize size = send<CGSize, "size">(image);
   if (isEmpty(rectOfSize(size))) return {};
   const CGFloat scale = std::min(1.0, height / size.height);
   return {size.width * scale, size.height * scale};
@@ -72,148 +73,144 @@ CGRect atRightEdge(CGSize size, CGRect bounds) {
 
 }  // namespace
 
-Class UITableViewCell::classObject() {
+Class UITableViewCellState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UITableViewCell>("UITableViewCell")
-          .method<"initWithFrame:", &UITableViewCell::initWithFrame>()
-          .method<"initWithStyle:reuseIdentifier:", &UITableViewCell::initWithStyle>()
-          .method<"reuseIdentifier", &UITableViewCell::reuseIdentifier>()
-          .method<"prepareForReuse", &UITableViewCell::prepareForReuse>()
-          .method<"contentView", &UITableViewCell::contentView>()
-          .method<"textLabel", &UITableViewCell::textLabel>()
-          .method<"detailTextLabel", &UITableViewCell::detailTextLabel>()
-          .method<"imageView", &UITableViewCell::imageView>()
-          .method<"accessoryType", &UITableViewCell::accessoryType>()
-          .method<"setAccessoryType:", &UITableViewCell::setAccessoryType>()
-          .method<"accessoryView", &UITableViewCell::accessoryView>()
-          .method<"setAccessoryView:", &UITableViewCell::setAccessoryView>()
-          .method<"selectionStyle", &UITableViewCell::selectionStyle>()
-          .method<"setSelectionStyle:", &UITableViewCell::setSelectionStyle>()
-          .method<"isSelected", &UITableViewCell::isSelected>()
-          .method<"setSelected:", &UITableViewCell::setSelectedAtOnce>()
-          .method<"setSelected:animated:", &UITableViewCell::setSelected>()
-          .method<"isHighlighted", &UITableViewCell::isHighlighted>()
-          .method<"setHighlighted:", &UITableViewCell::setHighlightedAtOnce>()
-          .method<"setHighlighted:animated:", &UITableViewCell::setHighlighted>()
-          .method<"layoutSubviews", &UITableViewCell::layoutSubviews>()
-          .method<"drawContentOn:", &UITableViewCell::drawContent>()
+      ClassBuilder<UITableViewCellState>("UITableViewCell")
+          .method<"initWithFrame:", &UITableViewCellState::initWithFrame>()
+          .method<"initWithStyle:reuseIdentifier:", &UITableViewCellState::initWithStyle>()
+          .method<"reuseIdentifier", &UITableViewCellState::reuseIdentifier>()
+          .method<"prepareForReuse", &UITableViewCellState::prepareForReuse>()
+          .method<"contentView", &UITableViewCellState::contentView>()
+          .method<"textLabel", &UITableViewCellState::textLabel>()
+          .method<"detailTextLabel", &UITableViewCellState::detailTextLabel>()
+          .method<"imageView", &UITableViewCellState::imageView>()
+          .method<"accessoryType", &UITableViewCellState::accessoryType>()
+          .method<"setAccessoryType:", &UITableViewCellState::setAccessoryType>()
+          .method<"accessoryView", &UITableViewCellState::accessoryView>()
+          .method<"setAccessoryView:", &UITableViewCellState::setAccessoryView>()
+          .method<"selectionStyle", &UITableViewCellState::selectionStyle>()
+          .method<"setSelectionStyle:", &UITableViewCellState::setSelectionStyle>()
+          .method<"isSelected", &UITableViewCellState::isSelected>()
+          .method<"setSelected:", &UITableViewCellState::setSelectedAtOnce>()
+          .method<"setSelected:animated:", &UITableViewCellState::setSelected>()
+          .method<"isHighlighted", &UITableViewCellState::isHighlighted>()
+          .method<"setHighlighted:", &UITableViewCellState::setHighlightedAtOnce>()
+          .method<"setHighlighted:animated:", &UITableViewCellState::setHighlighted>()
+          .method<"layoutSubviews", &UITableViewCellState::layoutSubviews>()
+          .method<"drawContentOn:", &UITableViewCellState::drawContent>()
           .build();
   return made;
 }
 
-bridge::Owned<bridge::UITableViewCell> UITableViewCell::make(Class aClass,
-                                                             bridge::NSString identifier) {
-  const auto made = bridge::Owned<bridge::Object>::adopt(
-      bridge::send<bridge::Object, "initWithStyle:reuseIdentifier:">(
-          bridge::send<id, "alloc">(aClass), NSInteger{plain}, identifier));
-  return bridge::Owned<bridge::UITableViewCell>::retain(
-      bridge::as<bridge::UITableViewCell>(made.get()));
+Owned<UITableViewCell> UITableViewCellState::make(Class aClass, NSString identifier) {
+  const auto made = Owned<Object>::adopt(send<Object, "initWithStyle:reuseIdentifier:">(
+      send<id, "alloc">(aClass), NSInteger{plain}, identifier));
+  return Owned<UITableViewCell>::retain(as<UITableViewCell>(made.get()));
 }
 
-bridge::UIView UITableViewCell::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  self().setBackgroundColor(UIColor::make(colors::white));
-  _contentView = bridge::makeView<bridge::UIView>(rectOfSize(frame.size));
+UIView UITableViewCellState::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  self().setBackgroundColor(UIColorState::make(colors::white));
+  _contentView = bridge::makeView<UIView>(rectOfSize(frame.size));
   self().addSubview(_contentView);
   return self();
 }
 
-bridge::UITableViewCell UITableViewCell::initWithStyle(NSInteger style,
-                                                       bridge::NSString reuseIdentifier) {
-  const auto made = bridge::send<bridge::UITableViewCell, "initWithFrame:">(self(), startFrame);
+UITableViewCell UITableViewCellState::initWithStyle(NSInteger style, NSString reuseIdentifier) {
+  const auto made = send<UITableViewCell, "initWithFrame:">(self(), startFrame);
   if (!made) return {};
   _style = style;
-  _reuseIdentifier = bridge::Owned<bridge::NSString>::retain(reuseIdentifier);
+  _reuseIdentifier = Owned<NSString>::retain(reuseIdentifier);
   return made;
 }
 
-bridge::Owned<bridge::UILabel> UITableViewCell::makeLabel(CGFloat fontSize, Color color) const {
-  auto label = bridge::makeView<bridge::UILabel>({});
-  label->setFont(bridge::UIFont::systemFont(fontSize));
-  label->setTextColor(UIColor::make(color));
+Owned<UILabel> UITableViewCellState::makeLabel(CGFloat fontSize, Color color) const {
+  auto label = bridge::makeView<UILabel>({});
+  label->setFont(UIFont::systemFont(fontSize));
+  label->setTextColor(UIColorState::make(color));
   _contentView->addSubview(label);
   return label;
 }
 
 // Who asks for a label may be about to change it, so it is laid out again.
-bridge::UILabel UITableViewCell::textLabel() {
+UILabel UITableViewCellState::textLabel() {
   if (!_textLabel) _textLabel = makeLabel(17, _style == value2 ? colors::tint : colors::black);
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
   return _textLabel;
 }
 
-bridge::UILabel UITableViewCell::detailTextLabel() {
+UILabel UITableViewCellState::detailTextLabel() {
   if (_style == plain) return {};
   const Color color = _style == value1 ? colors::secondaryText : colors::black;
   if (!_detailTextLabel) _detailTextLabel = makeLabel(detailFontSize(_style), color);
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
   return _detailTextLabel;
 }
 
-bridge::UIView UITableViewCell::imageView() {
+UIView UITableViewCellState::imageView() {
   if (!_imageView) {
-    _imageView = bridge::makeView<handles::UIImageView>({});
+    _imageView = bridge::makeView<UIImageView>({});
     _contentView->addSubview(_imageView);
   }
-  UIView::of(self()).setNeedsLayout();
+  setNeedsLayout();
   return _imageView;
 }
 
-void UITableViewCell::setAccessoryType(NSInteger type) {
+void UITableViewCellState::setAccessoryType(NSInteger type) {
   if (type == _accessoryType) return;
   _accessoryType = type;
-  UIView::of(self()).setNeedsLayout();
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsLayout();
+  setNeedsDisplay();
 }
 
-void UITableViewCell::setAccessoryView(bridge::UIView view) {
+void UITableViewCellState::setAccessoryView(UIView view) {
   if (view == _accessoryView.get()) return;
   _accessoryView->removeFromSuperview();
-  _accessoryView = bridge::Owned<bridge::UIView>::retain(view);
+  _accessoryView = Owned<UIView>::retain(view);
   self().addSubview(view);
-  UIView::of(self()).setNeedsLayout();
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsLayout();
+  setNeedsDisplay();
 }
 
-void UITableViewCell::setSelectionStyle(NSInteger style) {
+void UITableViewCellState::setSelectionStyle(NSInteger style) {
   if (style == _selectionStyle) return;
   _selectionStyle = style;
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
-void UITableViewCell::setSeparators(const RowSeparators& separators) {
+void UITableViewCellState::setSeparators(const RowSeparators& separators) {
   if (separators == _separators) return;
   _separators = separators;
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
-void UITableViewCell::setSelectedAtOnce(bool selected) {
-  bridge::send<void, "setSelected:animated:">(self(), selected, false);
+void UITableViewCellState::setSelectedAtOnce(bool selected) {
+  send<void, "setSelected:animated:">(self(), selected, false);
 }
 
-void UITableViewCell::setSelected(bool selected, bool) {
+void UITableViewCellState::setSelected(bool selected, bool) {
   if (selected == _isSelected) return;
   _isSelected = selected;
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
-void UITableViewCell::setHighlightedAtOnce(bool highlighted) {
-  bridge::send<void, "setHighlighted:animated:">(self(), highlighted, false);
+void UITableViewCellState::setHighlightedAtOnce(bool highlighted) {
+  send<void, "setHighlighted:animated:">(self(), highlighted, false);
 }
 
-void UITableViewCell::setHighlighted(bool highlighted, bool) {
+void UITableViewCellState::setHighlighted(bool highlighted, bool) {
   if (highlighted == _isHighlighted) return;
   _isHighlighted = highlighted;
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
-void UITableViewCell::prepareForReuse() {
-  bridge::send<void, "setSelected:animated:">(self(), false, false);
-  bridge::send<void, "setHighlighted:animated:">(self(), false, false);
+void UITableViewCellState::prepareForReuse() {
+  send<void, "setSelected:animated:">(self(), false, false);
+  send<void, "setHighlighted:animated:">(self(), false, false);
 }
 
 // The room that an accessory takes from the content, with the gap before it.
-CGFloat UITableViewCell::accessoryRoom() const {
+CGFloat UITableViewCellState::accessoryRoom() const {
   if (_accessoryView) return margin + _accessoryView->bounds().size.width + accessoryGap;
   switch (_accessoryType) {
     case disclosureIndicator:
@@ -226,9 +223,9 @@ CGFloat UITableViewCell::accessoryRoom() const {
   }
 }
 
-void UITableViewCell::layoutSubviews() {
+void UITableViewCellState::layoutSubviews() {
   super<void, "layoutSubviews">();
-  const CGRect bounds = UIView::of(self()).bounds();
+  const CGRect bounds = UIViewState::bounds();
   const CGFloat hairline = _separators.below ? 1 / screen().scale : 0;
   const CGSize content = {std::max(bounds.size.width - accessoryRoom(), 0.0),
                           std::max(bounds.size.height - hairline, 0.0)};
@@ -245,19 +242,19 @@ void UITableViewCell::layoutSubviews() {
   _detailTextLabel->setFrame(frames.detail);
 }
 
-void UITableViewCell::drawContent(Canvas* canvas) const {
-  const CGRect bounds = UIView::of(self()).bounds();
+void UITableViewCellState::drawContent(Canvas* canvas) const {
+  const CGRect bounds = UIViewState::bounds();
   if (looksSelected()) canvas->fill(bounds, colors::highlight, 0);
   drawSeparators(*canvas, bounds);
   if (_accessoryView) return;
   if (_accessoryType == checkmark) {
-    canvas->stroke(checkmarkIn(atRightEdge(checkmarkSize, bounds)), 2, UIView::of(self()).tint());
+    canvas->stroke(checkmarkIn(atRightEdge(checkmarkSize, bounds)), 2, tint());
   } else if (accessoryRoom() > 0) {
     canvas->stroke(chevronIn(atRightEdge(chevron, bounds)), 2, colors::disclosure);
   }
 }
 
-void UITableViewCell::drawSeparators(Canvas& canvas, CGRect bounds) const {
+void UITableViewCellState::drawSeparators(Canvas& canvas, CGRect bounds) const {
   const CGFloat width = bounds.size.width;
   const CGFloat hairline = 1 / screen().scale;
   const CGFloat left = _separators.insetBelow > 0 ? _separators.insetBelow + imageRoom() : 0;
@@ -268,7 +265,7 @@ void UITableViewCell::drawSeparators(Canvas& canvas, CGRect bounds) const {
 }
 
 // How far a picture moves texts to the right, and the hairline with them.
-CGFloat UITableViewCell::imageRoom() const {
+CGFloat UITableViewCellState::imageRoom() const {
   const CGSize content = _contentView->bounds().size;
   return cellTextInset(wishOf(_imageView, content.height)) - cellTextInset({});
 }

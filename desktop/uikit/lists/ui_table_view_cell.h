@@ -5,17 +5,19 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_lists.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/lists/table/row_separators.h"
 #include "desktop/uikit/lists/table/table_cell_layout.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
 class Canvas;
 
-class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
+class UITableViewCellState : public Bound<UITableViewCellState, UIViewState, UITableViewCell> {
  public:
   using Style = CellParts::Style;
   using enum CellParts::Style;
@@ -32,24 +34,24 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
   static Class classObject();
 
   // A new one of a class below this.
-  static bridge::Owned<bridge::UITableViewCell> make(Class aClass, bridge::NSString identifier);
+  static Owned<UITableViewCell> make(Class aClass, NSString identifier);
 
   NSInteger style() const { return _style; }
   // Nil where the cell is never used again.
-  bridge::NSString reuseIdentifier() const { return _reuseIdentifier; }
-  bridge::UIView contentView() const { return _contentView; }
+  NSString reuseIdentifier() const { return _reuseIdentifier; }
+  UIView contentView() const { return _contentView; }
   // Labels and picture are made when they are first asked for.
-  bridge::UILabel textLabel();
-  bridge::UILabel detailTextLabel();  // nil where the style has none
-  bridge::UIView imageView();
+  UILabel textLabel();
+  UILabel detailTextLabel();  // nil where the style has none
+  UIView imageView();
   // What the labels say; nil without a label. Asking makes none.
-  bridge::NSString text() const { return _textLabel->text(); }
-  bridge::NSString detailText() const { return _detailTextLabel->text(); }
+  NSString text() const { return _textLabel->text(); }
+  NSString detailText() const { return _detailTextLabel->text(); }
 
   NSInteger accessoryType() const { return _accessoryType; }
   void setAccessoryType(NSInteger type);
-  bridge::UIView accessoryView() const { return _accessoryView; }
-  void setAccessoryView(bridge::UIView view);
+  UIView accessoryView() const { return _accessoryView; }
+  void setAccessoryView(UIView view);
   NSInteger selectionStyle() const { return _selectionStyle; }
   void setSelectionStyle(NSInteger style);
   bool isSelected() const { return _isSelected; }
@@ -65,8 +67,8 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
   void drawContent(Canvas* canvas) const;
 
  private:
-  bridge::UITableViewCell initWithStyle(NSInteger style, bridge::NSString reuseIdentifier);
-  bridge::UIView initWithFrame(CGRect frame);
+  UITableViewCell initWithStyle(NSInteger style, NSString reuseIdentifier);
+  UIView initWithFrame(CGRect frame);
   void setSelectedAtOnce(bool selected);
   void setSelected(bool selected, bool animated);
   void setHighlightedAtOnce(bool highlighted);
@@ -77,15 +79,15 @@ class UITableViewCell : public bridge::Bound<UITableViewCell, bridge::UIView> {
   CGFloat accessoryRoom() const;
   CGFloat imageRoom() const;
   void drawSeparators(Canvas& canvas, CGRect bounds) const;
-  bridge::Owned<bridge::UILabel> makeLabel(CGFloat fontSize, Color color) const;
+  Owned<UILabel> makeLabel(CGFloat fontSize, Color color) const;
 
   NSInteger _style = plain;
-  bridge::Owned<bridge::NSString> _reuseIdentifier;
-  bridge::Owned<bridge::UIView> _contentView;
-  bridge::Owned<bridge::UILabel> _textLabel;
-  bridge::Owned<bridge::UILabel> _detailTextLabel;
-  bridge::Owned<handles::UIImageView> _imageView;
-  bridge::Owned<bridge::UIView> _accessoryView;
+  Owned<NSString> _reuseIdentifier;
+  Owned<UIView> _contentView;
+  Owned<UILabel> _textLabel;
+  Owned<UILabel> _detailTextLabel;
+  Owned<UIImageView> _imageView;
+  Owned<UIView> _accessoryView;
   NSInteger _accessoryType = noAccessory;
   NSInteger _selectionStyle = standard;
   bool _isSelected = false;

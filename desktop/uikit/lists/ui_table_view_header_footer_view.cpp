@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/text/ui_font.h"
@@ -24,7 +25,7 @@ constexpr Color plainBackground = Color::bytes(247, 247, 247);
 
 Class UITableViewHeaderFooterView::classObject() {
   using Self = UITableViewHeaderFooterView;
-  static const Class made = bridge::ClassBuilder<Self>("UITableViewHeaderFooterView")
+  static const Class made = ClassBuilder<Self>("UITableViewHeaderFooterView")
                                 .method<"initWithFrame:", &Self::initWithFrame>()
                                 .method<"textLabel", &Self::textLabel>()
                                 .method<"layoutSubviews", &Self::layoutSubviews>()
@@ -32,50 +33,48 @@ Class UITableViewHeaderFooterView::classObject() {
   return made;
 }
 
-bridge::UIView UITableViewHeaderFooterView::initWithFrame(CGRect frame) {
-  if (!super<bridge::UIView, "initWithFrame:">(frame)) return {};
-  _textLabel = bridge::makeView<bridge::UILabel>({});
+UIView UITableViewHeaderFooterView::initWithFrame(CGRect frame) {
+  if (!super<UIView, "initWithFrame:">(frame)) return {};
+  _textLabel = bridge::makeView<UILabel>({});
   self().addSubview(_textLabel);
   return self();
 }
 
-bridge::UIView UITableViewHeaderFooterView::make(bridge::NSString title, Place place,
-                                                 bool isGrouped) {
-  auto made = bridge::Owned<bridge::UIView>::adopt(
-      bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(classObject())));
+UIView UITableViewHeaderFooterView::make(NSString title, Place place, bool isGrouped) {
+  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
   of(made.get()).show(title, place, isGrouped);
   return made.autorelease();
 }
 
-void UITableViewHeaderFooterView::show(bridge::NSString title, Place place, bool isGrouped) {
+void UITableViewHeaderFooterView::show(NSString title, Place place, bool isGrouped) {
   _place = place;
   _isGrouped = isGrouped;
   const bool isUpper = isGrouped && place == Place::header;
-  _textLabel->setText(isUpper ? bridge::send<bridge::NSString, "uppercaseString">(title) : title);
+  _textLabel->setText(isUpper ? send<NSString, "uppercaseString">(title) : title);
   const auto weight = isGrouped ? FontWeight::regular : FontWeight::semibold;
-  _textLabel->setFont(UIFont::make({.weight = weight, .size = isGrouped ? 13.0 : 17.0}));
-  _textLabel->setTextColor(UIColor::make(isGrouped ? groupedText : colors::black));
+  _textLabel->setFont(UIFontState::make({.weight = weight, .size = isGrouped ? 13.0 : 17.0}));
+  _textLabel->setTextColor(UIColorState::make(isGrouped ? groupedText : colors::black));
   _textLabel->setNumberOfLines(isUpper || !isGrouped ? 1 : 0);
-  if (!isGrouped) self().setBackgroundColor(UIColor::make(plainBackground));
+  if (!isGrouped) self().setBackgroundColor(UIColorState::make(plainBackground));
 }
 
 CGSize UITableViewHeaderFooterView::textSize(CGFloat width) const {
   const CGSize room = {std::max(width - 2 * margin, 0.0), 10'000};
-  return bridge::send<CGSize, "sizeThatFits:">(_textLabel, room);
+  return send<CGSize, "sizeThatFits:">(_textLabel, room);
 }
 
-CGFloat UITableViewHeaderFooterView::heightOf(bridge::NSString title, Place place, bool isGrouped,
+CGFloat UITableViewHeaderFooterView::heightOf(NSString title, Place place, bool isGrouped,
                                               CGFloat width) {
   if (!isGrouped) return plainTitle;
   if (place == Place::header) return groupedHeader;
-  const bridge::UIView measured = make(title, place, isGrouped);
+  const UIView measured = make(title, place, isGrouped);
   return std::ceil(of(measured).textSize(width).height) + 2 * groupedPadding;
 }
 
 // A grouped header's text stands on its rows, a grouped footer's hangs from them.
 void UITableViewHeaderFooterView::layoutSubviews() {
   super<void, "layoutSubviews">();
-  const CGSize room = UIView::of(self()).bounds().size;
+  const CGSize room = bounds().size;
   const CGSize text = textSize(room.width);
   CGFloat top = std::round(room.height - text.height) / 2;
   if (_isGrouped && _place == Place::header) top = room.height - text.height - groupedPadding;

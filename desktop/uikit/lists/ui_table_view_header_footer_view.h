@@ -4,12 +4,14 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_controls.h"
+#include "desktop/platform.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
-class UITableViewHeaderFooterView
-    : public bridge::Bound<UITableViewHeaderFooterView, bridge::UIView> {
+class UITableViewHeaderFooterView : public Bound<UITableViewHeaderFooterView, UIViewState> {
  public:
   enum class Place { header, footer };
 
@@ -17,19 +19,19 @@ class UITableViewHeaderFooterView
   static Class classObject();
 
   // A title as a table of this kind shows it. Autoreleased.
-  static bridge::UIView make(bridge::NSString title, Place place, bool isGrouped);
+  static UIView make(NSString title, Place place, bool isGrouped);
   // The height of such a title in a table of the width, in points.
-  static CGFloat heightOf(bridge::NSString title, Place place, bool isGrouped, CGFloat width);
+  static CGFloat heightOf(NSString title, Place place, bool isGrouped, CGFloat width);
 
-  bridge::UILabel textLabel() const { return _textLabel; }
+  UILabel textLabel() const { return _textLabel; }
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
-  void show(bridge::NSString title, Place place, bool isGrouped);
+  UIView initWithFrame(CGRect frame);
+  void show(NSString title, Place place, bool isGrouped);
   CGSize textSize(CGFloat width) const;
   void layoutSubviews();
 
-  bridge::Owned<bridge::UILabel> _textLabel;
+  Owned<UILabel> _textLabel;
   Place _place = Place::header;
   bool _isGrouped = false;
 };

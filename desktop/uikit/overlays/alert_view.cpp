@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controls/action_control.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -19,8 +20,6 @@
 
 namespace desktop::uikit {
 namespace {
-
-using bridge::Owned;
 
 // In points.
 constexpr CGFloat alertWidth = 270;
@@ -44,14 +43,14 @@ constexpr Color boxColor = Color::white(0.98);
 constexpr Color lineColor = Color::white(0, 0.2);
 constexpr Color destructiveColor = Color::bytes(255, 59, 48);
 
-Owned<bridge::UIView> plainView(bridge::UIView parent, Color color) {
-  auto made = bridge::makeView<bridge::UIView>({});
-  made->setBackgroundColor(UIColor::make(color));
+Owned<UIView> plainView(UIView parent, Color color) {
+  auto made = bridge::makeView<UIView>({});
+  made->setBackgroundColor(UIColorState::make(color));
   parent.addSubview(made);
   return made;
 }
 
-Owned<bridge::UIView> makeBox(bridge::UIView parent) {
+Owned<UIView> makeBox(UIView parent) {
   auto made = plainView(parent, boxColor);
   made->layer().setCornerRadius(cornerRadius);
   made->setClipsToBounds(true);
@@ -59,10 +58,10 @@ Owned<bridge::UIView> makeBox(bridge::UIView parent) {
 }
 
 // An empty text keeps its line.
-CGFloat textHeight(bridge::UILabel label, CGFloat width) {
-  const auto font = UILabel::of(label.get()).font();
-  const CGFloat line = std::ceil(bridge::send<CGFloat, "lineHeight">(font));
-  return std::max(line, bridge::send<CGSize, "sizeThatFits:">(label, CGSize{width, 0}).height);
+CGFloat textHeight(UILabel label, CGFloat width) {
+  const auto font = UILabelState::of(label.get()).font();
+  const CGFloat line = std::ceil(send<CGFloat, "lineHeight">(font));
+  return std::max(line, send<CGSize, "sizeThatFits:">(label, CGSize{width, 0}).height);
 }
 
 CGFloat hairline() {
@@ -72,7 +71,7 @@ CGFloat hairline() {
 }  // namespace
 
 Class AlertView::classObject() {
-  static const Class made = bridge::ClassBuilder<AlertView>("_UIAlertControllerView")
+  static const Class made = ClassBuilder<AlertView>("_UIAlertControllerView")
                                 .method<"initWithFrame:", &AlertView::initWithFrame>()
                                 .method<"layoutSubviews", &AlertView::layoutSubviews>()
                                 .method<"touchesEnded:withEvent:", &AlertView::touchesEnded>()
@@ -82,29 +81,29 @@ Class AlertView::classObject() {
 
 AlertView::AlertView(id self) : Bound(self) {}
 
-Owned<bridge::UIView> AlertView::make(CGRect frame) {
-  return Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:">(
-      bridge::send<id, "alloc">(classObject()), frame));
+Owned<UIView> AlertView::make(CGRect frame) {
+  return Owned<UIView>::adopt(
+      send<UIView, "initWithFrame:">(send<id, "alloc">(classObject()), frame));
 }
 
-bridge::UIView AlertView::initWithFrame(CGRect frame) {
-  const auto object = super<bridge::UIView, "initWithFrame:">(frame);
+UIView AlertView::initWithFrame(CGRect frame) {
+  const auto object = super<UIView, "initWithFrame:">(frame);
   _backdrop = plainView(self(), backdropColor);
-  bridge::send<void, "setUserInteractionEnabled:">(_backdrop.get(), false);
+  send<void, "setUserInteractionEnabled:">(_backdrop.get(), false);
   _box = makeBox(self());
   _cancelBox = makeBox(self());
-  _text = Owned<bridge::UIView>::retain(bridge::makeView<handles::UIScrollView>({}).get());
+  _text = Owned<UIView>::retain(bridge::makeView<UIScrollView>({}).get());
   _box->addSubview(_text);
   for (auto* label : {&_title, &_message}) {
-    *label = bridge::makeView<bridge::UILabel>({});
+    *label = bridge::makeView<UILabel>({});
     (*label)->setNumberOfLines(0);
-    (*label)->setTextAlignment(bridge::alignCenter);
+    (*label)->setTextAlignment(alignCenter);
     _text->addSubview(*label);
   }
   return object;
 }
 
-void AlertView::show(const Contents& contents, std::function<void(bridge::UIAlertAction)> choose,
+void AlertView::show(const Contents& contents, std::function<void(UIAlertAction)> choose,
                      std::function<void()> cancel) {
   _isSheet = contents.isSheet;
   _choose = std::move(choose);
@@ -112,10 +111,10 @@ void AlertView::show(const Contents& contents, std::function<void(bridge::UIAler
   _title->setText(contents.title);
   _message->setText(contents.message);
   _title->setFont(semiboldFont(_isSheet ? sheetTextSize : titleSize));
-  _message->setFont(bridge::UIFont::systemFont(_isSheet ? sheetTextSize : messageSize));
+  _message->setFont(UIFont::systemFont(_isSheet ? sheetTextSize : messageSize));
   if (_isSheet) {
-    _title->setTextColor(UIColor::make(colors::secondaryText));
-    _message->setTextColor(UIColor::make(colors::secondaryText));
+    _title->setTextColor(UIColorState::make(colors::secondaryText));
+    _message->setTextColor(UIColorState::make(colors::secondaryText));
   }
   for (const auto& button : _buttons) button->removeFromSuperview();
   for (const auto& line : _lines) line->removeFromSuperview();
@@ -123,28 +122,28 @@ void AlertView::show(const Contents& contents, std::function<void(bridge::UIAler
   _lines.clear();
   _isCancel.clear();
   for (const auto& action : contents.actions)
-    addButton(action, contents.preferred
-                          ? action.get() == contents.preferred
-                          : UIAlertAction::of(action.get()).style() == UIAlertAction::cancel);
-  UIView::of(self()).setNeedsLayout();
+    addButton(action, contents.preferred ? action.get() == contents.preferred
+                                         : UIAlertActionState::of(action.get()).style() ==
+                                               UIAlertActionState::cancel);
+  setNeedsLayout();
 }
 
-void AlertView::addButton(bridge::UIAlertAction action, bool isSemibold) {
-  const UIAlertAction& state = UIAlertAction::of(action.get());
+void AlertView::addButton(UIAlertAction action, bool isSemibold) {
+  const UIAlertActionState& state = UIAlertActionState::of(action.get());
   const ActionControl::Look look{
       .title = state.title(),
       .fontSize = _isSheet ? sheetButtonSize : titleSize,
       .isSemibold = isSemibold,
-      .color = state.style() == UIAlertAction::destructive ? destructiveColor : colors::tint};
-  const auto kept = Owned<bridge::UIAlertAction>::retain(action);
+      .color = state.style() == UIAlertActionState::destructive ? destructiveColor : colors::tint};
+  const auto kept = Owned<UIAlertAction>::retain(action);
   const auto button = ActionControl::make(look, [this, kept] { _choose(kept); });
-  bridge::send<void, "setEnabled:">(button.get(), state.isEnabled());
-  const bool standsAlone = _isSheet && state.style() == UIAlertAction::cancel;
+  send<void, "setEnabled:">(button.get(), state.isEnabled());
+  const bool standsAlone = _isSheet && state.style() == UIAlertActionState::cancel;
   (standsAlone ? _cancelBox : _box)->addSubview(button);
   _buttons.push_back(button);
   _isCancel.push_back(standsAlone);
   _lines.push_back(plainView(standsAlone ? _cancelBox : _box, lineColor));
-  bridge::send<void, "setUserInteractionEnabled:">(_lines.back().get(), false);
+  send<void, "setUserInteractionEnabled:">(_lines.back().get(), false);
 }
 
 // Answers the height of title and message with their margins; nothing takes no room at all.
@@ -152,7 +151,7 @@ CGFloat AlertView::layOutText(CGFloat width) const {
   const CGFloat inner = std::max(0.0, width - 2 * sideMargin);
   CGFloat y = textTop;
   bool isEmpty = true;
-  for (const bridge::UILabel label : {_title.get(), _message.get()}) {
+  for (const UILabel label : {_title.get(), _message.get()}) {
     if (!label.text()) {
       label.setFrame({});
       continue;
@@ -170,7 +169,7 @@ CGFloat AlertView::layOutText(CGFloat width) const {
 bool AlertView::isSideBySide(CGFloat width) const {
   if (_isSheet || _buttons.size() != 2) return false;
   return std::ranges::all_of(_buttons, [width](const auto& button) {
-    return bridge::send<CGSize, "sizeThatFits:">(button.get(), CGSize{}).width <= width / 2;
+    return send<CGSize, "sizeThatFits:">(button.get(), CGSize{}).width <= width / 2;
   });
 }
 
@@ -191,7 +190,7 @@ void AlertView::arrangeButtons(CGFloat top, CGFloat width) {
     const CGPoint at = standsAlone ? CGPoint{} : CGPoint{x, y};
     _buttons[index]->setFrame({at, {own, height}});
     const bool hasLine = !standsAlone && at.y > 0;
-    UIView::of(_lines[index].get()).setHidden(!hasLine);
+    UIViewState::of(_lines[index].get()).setHidden(!hasLine);
     _lines[index]->setFrame({at, {own, hairline()}});
     if (standsAlone) continue;
     if (isBeside)
@@ -200,7 +199,7 @@ void AlertView::arrangeButtons(CGFloat top, CGFloat width) {
       y += height;
   }
   if (!isBeside) return;
-  UIView::of(_lines[1].get()).setHidden(false);
+  UIViewState::of(_lines[1].get()).setHidden(false);
   _lines[0]->setFrame({{0, top}, {width, hairline()}});
   _lines[1]->setFrame({{width / 2, top}, {hairline(), height}});
 }
@@ -222,12 +221,12 @@ void AlertView::arrange() {
   const CGFloat y = _isSheet ? room.height - sheetMargin - below - height
                              : std::round((room.height - height) / 2);
   _backdrop->setFrame(rectOfSize(room));
-  bridge::send<void, "setBounds:">(_box.get(), CGRect{{}, {width, height}});
-  bridge::send<void, "setCenter:">(_box.get(), CGPoint{x + width / 2, y + height / 2});
+  send<void, "setBounds:">(_box.get(), CGRect{{}, {width, height}});
+  send<void, "setCenter:">(_box.get(), CGPoint{x + width / 2, y + height / 2});
   _cancelBox->setFrame({{x, room.height - sheetMargin - sheetButtonHeight},
                         {width, hasCancel ? sheetButtonHeight : 0}});
   _text->setFrame({{0, 0}, {width, shownText}});
-  handles::UIScrollView(_text->get()).setContentSize({width, text});
+  UIScrollView(_text->get()).setContentSize({width, text});
   arrangeButtons(shownText, width);
 }
 
@@ -251,11 +250,10 @@ void AlertView::take(Stance stance) {
 }
 
 // Touches beside the boxes end here.
-void AlertView::touchesEnded(bridge::NSSet touches, bridge::UIEvent) {
-  const bridge::UITouch touch(touches.anyObject().get());
+void AlertView::touchesEnded(NSSet touches, UIEvent) {
+  const UITouch touch(touches.anyObject().get());
   const CGPoint point = touch.locationIn(self());
-  const bool isBeside =
-      !bridge::contains(_box->frame(), point) && !bridge::contains(_cancelBox->frame(), point);
+  const bool isBeside = !contains(_box->frame(), point) && !contains(_cancelBox->frame(), point);
   if (_isSheet && isBeside && _cancel) _cancel();
 }
 

@@ -6,57 +6,60 @@
 
 #include <functional>
 #include <vector>
+#include "desktop/uikit/views/ui_view.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_controllers.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/object_list.h"
 
 namespace desktop::uikit {
 
-class AlertView : public bridge::Bound<AlertView, bridge::UIView> {
+class AlertView : public Bound<AlertView, UIViewState> {
  public:
   explicit AlertView(id self);
   static Class classObject();
 
   struct Contents {
-    bridge::NSString title;    // nil takes no room
-    bridge::NSString message;  // nil takes no room
-    ObjectList<bridge::UIAlertAction> actions;
-    bridge::UIAlertAction preferred;  // nil where none
+    NSString title;    // nil takes no room
+    NSString message;  // nil takes no room
+    ObjectList<UIAlertAction> actions;
+    UIAlertAction preferred;  // nil where none
     bool isSheet = false;
   };
-  static bridge::Owned<bridge::UIView> make(CGRect frame);
+  static Owned<UIView> make(CGRect frame);
   // Shows these, with buttons that call `choose`; a tap beside a sheet calls `cancel`.
-  void show(const Contents& contents, std::function<void(bridge::UIAlertAction)> choose,
+  void show(const Contents& contents, std::function<void(UIAlertAction)> choose,
             std::function<void()> cancel);
 
-  bridge::UIView box() const { return _box; }
-  const ObjectList<bridge::UIControl>& buttons() const { return _buttons; }  // from the first on
+  UIView box() const { return _box; }
+  const ObjectList<UIControl>& buttons() const { return _buttons; }  // from the first on
   // Animated: how it stands when it is shown, before it is, and when it goes.
   enum class Stance { coming, shown, gone };
   void take(Stance stance);
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
+  UIView initWithFrame(CGRect frame);
   void layoutSubviews();
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void addButton(bridge::UIAlertAction action, bool isSemibold);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void addButton(UIAlertAction action, bool isSemibold);
   CGFloat layOutText(CGFloat width) const;
   void arrange();
   void arrangeButtons(CGFloat top, CGFloat width);
   CGFloat buttonsHeight(CGFloat width) const;
   bool isSideBySide(CGFloat width) const;
 
-  bridge::Owned<bridge::UIView> _backdrop;
-  bridge::Owned<bridge::UIView> _box;
-  bridge::Owned<bridge::UIView> _cancelBox;  // of a sheet: its cancel button stands by itself
-  bridge::Owned<bridge::UIView> _text;       // scrolls
-  bridge::Owned<bridge::UILabel> _title;
-  bridge::Owned<bridge::UILabel> _message;
-  ObjectList<bridge::UIControl> _buttons;
-  ObjectList<bridge::UIView> _lines;
+  Owned<UIView> _backdrop;
+  Owned<UIView> _box;
+  Owned<UIView> _cancelBox;  // of a sheet: its cancel button stands by itself
+  Owned<UIView> _text;       // scrolls
+  Owned<UILabel> _title;
+  Owned<UILabel> _message;
+  ObjectList<UIControl> _buttons;
+  ObjectList<UIView> _lines;
   std::vector<bool> _isCancel;
-  std::function<void(bridge::UIAlertAction)> _choose;
+  std::function<void(UIAlertAction)> _choose;
   std::function<void()> _cancel;
   bool _isSheet = false;
 };

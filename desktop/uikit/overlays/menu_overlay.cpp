@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controls/action_control.h"
@@ -30,7 +31,7 @@ constexpr Color separator = Color::white(0.38);
 }  // namespace
 
 Class MenuOverlay::classObject() {
-  static const Class made = bridge::ClassBuilder<MenuOverlay>("UICalloutBar")
+  static const Class made = ClassBuilder<MenuOverlay>("UICalloutBar")
                                 .method<"hitTest:withEvent:", &MenuOverlay::hitTest>()
                                 .method<"drawContentOn:", &MenuOverlay::drawContent>()
                                 .build();
@@ -41,11 +42,10 @@ MenuOverlay::~MenuOverlay() {
   if (const auto begun = std::exchange(_ends.begun, nullptr)) begun();
 }
 
-bridge::UIView MenuOverlay::show(bridge::UIView window, std::vector<MenuCommand> commands,
-                                 CGRect target, Ends ends) {
-  const auto made =
-      bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:">(
-          bridge::send<id, "alloc">(classObject()), window.bounds()));
+UIView MenuOverlay::show(UIView window, std::vector<MenuCommand> commands, CGRect target,
+                         Ends ends) {
+  const auto made = Owned<UIView>::adopt(
+      send<UIView, "initWithFrame:">(send<id, "alloc">(classObject()), window.bounds()));
   MenuOverlay& overlay = of(made.get());
   overlay._commands = std::move(commands);
   overlay._ends = std::move(ends);
@@ -57,7 +57,7 @@ bridge::UIView MenuOverlay::show(bridge::UIView window, std::vector<MenuCommand>
 
 void MenuOverlay::addButtons() {
   for (std::size_t index = 0; index < _commands.size(); ++index) {
-    const ActionControl::Look look{.title = bridge::NSString::make(_commands[index].title),
+    const ActionControl::Look look{.title = NSString::make(_commands[index].title),
                                    .fontSize = fontSize,
                                    .color = colors::white,
                                    .pressedBackground = pressed,
@@ -72,7 +72,7 @@ void MenuOverlay::arrange(CGRect target) {
   const CGSize room = self().bounds().size;
   CGFloat width = 0;
   for (const auto& button : _buttons)
-    width += bridge::send<CGSize, "sizeThatFits:">(button.get(), room).width;
+    width += send<CGSize, "sizeThatFits:">(button.get(), room).width;
   const CGFloat height = buttonHeight + arrowHeight;
   const CGFloat mid = middle(target).x;
   const CGFloat left = std::max(edge, std::min(mid - width / 2, room.width - edge - width));
@@ -85,14 +85,14 @@ void MenuOverlay::arrange(CGRect target) {
   _arrow = std::max(left + reach, std::min(mid, right(_bubble) - reach));
   CGFloat x = left;
   for (const auto& button : _buttons) {
-    const CGFloat own = bridge::send<CGSize, "sizeThatFits:">(button.get(), room).width;
+    const CGFloat own = send<CGSize, "sizeThatFits:">(button.get(), room).width;
     button->setFrame({{x, _pointsDown ? y : y + arrowHeight}, {own, buttonHeight}});
     x += own;
   }
 }
 
 void MenuOverlay::hide() {
-  const auto kept = bridge::Owned<bridge::UIView>::retain(self());
+  const auto kept = Owned<UIView>::retain(self());
   if (const auto begun = std::exchange(_ends.begun, nullptr)) begun();
   self().removeFromSuperview();
   if (const auto hidden = std::exchange(_ends.hidden, nullptr)) hidden();
@@ -106,11 +106,10 @@ void MenuOverlay::run(std::size_t index) {
 }
 
 // Hiding waits until the way of the touch is found: the views are being walked.
-bridge::UIView MenuOverlay::hitTest(CGPoint point, bridge::UIEvent event) {
-  const auto hit = super<bridge::UIView, "hitTest:withEvent:">(point, event);
-  if (hit != self() || bridge::contains(_bubble, point)) return hit;
-  scheduler().callAfter(
-      0, [me = bridge::Owned<bridge::UIView>::retain(self())] { of(me.get()).hide(); });
+UIView MenuOverlay::hitTest(CGPoint point, UIEvent event) {
+  const auto hit = super<UIView, "hitTest:withEvent:">(point, event);
+  if (hit != self() || contains(_bubble, point)) return hit;
+  scheduler().callAfter(0, [me = Owned<UIView>::retain(self())] { of(me.get()).hide(); });
   return {};
 }
 

@@ -7,9 +7,12 @@
 #include <functional>
 #include <string>
 #include <vector>
+#include "desktop/uikit/views/ui_view.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_controllers.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
@@ -20,7 +23,7 @@ struct MenuCommand {
   std::function<void()> run;
 };
 
-class MenuOverlay : public bridge::Bound<MenuOverlay, bridge::UIView> {
+class MenuOverlay : public Bound<MenuOverlay, UIViewState> {
  public:
   using Bound::Bound;
   ~MenuOverlay();
@@ -34,8 +37,7 @@ class MenuOverlay : public bridge::Bound<MenuOverlay, bridge::UIView> {
 
   // Fills a window with a new overlay that it owns; the frame is the bubble's in the window's
   // coordinates.
-  static bridge::UIView show(bridge::UIView window, std::vector<MenuCommand> commands,
-                             CGRect target, Ends ends);
+  static UIView show(UIView window, std::vector<MenuCommand> commands, CGRect target, Ends ends);
 
   const std::vector<MenuCommand>& commands() const { return _commands; }
   // The bubble with its arrow, in the overlay's coordinates.
@@ -45,14 +47,14 @@ class MenuOverlay : public bridge::Bound<MenuOverlay, bridge::UIView> {
   void run(std::size_t index);
 
  private:
-  bridge::UIView hitTest(CGPoint point, bridge::UIEvent event);
+  UIView hitTest(CGPoint point, UIEvent event);
   void drawContent(Canvas* canvas) const;
   void addButtons();
   void arrange(CGRect target);
 
   std::vector<MenuCommand> _commands;
   Ends _ends;
-  std::vector<bridge::Owned<bridge::UIControl>> _buttons;
+  std::vector<Owned<UIControl>> _buttons;
   CGRect _bubble;
   CGFloat _arrow = 0;  // x of its point
   bool _pointsDown = true;

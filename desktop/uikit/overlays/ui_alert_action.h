@@ -5,29 +5,30 @@
 
 #include "bridge/block.h"
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_controllers.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-class UIAlertAction : public bridge::Bound<UIAlertAction, bridge::NSObject> {
+class UIAlertActionState : public Bound<UIAlertActionState, NSObject, UIAlertAction> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   enum Style : NSInteger { normal = 0, cancel = 1, destructive = 2 };
 
-  bridge::NSString title() const { return _title; }
+  NSString title() const { return _title; }
   NSInteger style() const { return _style; }
   bool isEnabled() const { return _isEnabled; }
-  void callHandler() const { _handler(bridge::UIAlertAction(self().get())); }
+  void callHandler() const { _handler(UIAlertAction(self().get())); }
 
  private:
-  static bridge::UIAlertAction make(bridge::NSString title, NSInteger style,
-                                    const bridge::BlockHeader* handler);
+  static UIAlertAction make(NSString title, NSInteger style, const BlockHeader* handler);
   void setEnabled(bool enabled) { _isEnabled = enabled; }
 
-  bridge::Owned<bridge::NSString> _title;
-  bridge::Block<void(bridge::UIAlertAction)> _handler;
+  Owned<NSString> _title;
+  Block<void(UIAlertAction)> _handler;
   NSInteger _style = normal;
   bool _isEnabled = true;
 };

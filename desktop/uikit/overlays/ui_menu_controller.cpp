@@ -2,6 +2,7 @@
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/views/ui_responder.h"
 
@@ -20,11 +21,11 @@ constexpr StandardCommand standardCommands[] = {
 };
 
 // Who takes a command: the first responder, or the first behind it that can.
-bridge::UIResponder takerOf(SEL action) {
-  bridge::UIResponder taker = UIResponder::firstResponder();
-  const auto sender = UIMenuController::sharedMenuController();
-  while (taker && !bridge::send<bool, "canPerformAction:withSender:">(taker, action, sender))
-    taker = bridge::send<bridge::UIResponder, "nextResponder">(taker);
+UIResponder takerOf(SEL action) {
+  UIResponder taker = UIResponderState::firstResponder();
+  const auto sender = UIMenuControllerState::sharedMenuController();
+  while (taker && !send<bool, "canPerformAction:withSender:">(taker, action, sender))
+    taker = send<UIResponder, "nextResponder">(taker);
   return taker;
 }
 
@@ -35,8 +36,8 @@ std::vector<MenuCommand> possibleCommands() {
     if (!takerOf(action)) continue;
     possible.push_back({command.title, [action] {
                           if (const auto taker = takerOf(action))
-                            bridge::dispatch<void>(taker.get(), action,
-                                                   UIMenuController::sharedMenuController().get());
+                            dispatch<void>(taker.get(), action,
+                                           UIMenuControllerState::sharedMenuController().get());
                         }});
   }
   return possible;
@@ -44,47 +45,46 @@ std::vector<MenuCommand> possibleCommands() {
 
 }  // namespace
 
-Class UIMenuController::classObject() {
+Class UIMenuControllerState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIMenuController>("UIMenuController")
-          .classMethod<"sharedMenuController", &UIMenuController::sharedMenuController>()
-          .method<"menuFrame", &UIMenuController::menuFrame>()
-          .method<"isMenuVisible", &UIMenuController::isVisible>()
-          .method<"setTargetRect:inView:", &UIMenuController::setTargetRect>()
-          .method<"setMenuVisible:", &UIMenuController::setMenuVisibleAtOnce>()
-          .method<"setMenuVisible:animated:", &UIMenuController::setMenuVisible>()
+      ClassBuilder<UIMenuControllerState>("UIMenuController")
+          .classMethod<"sharedMenuController", &UIMenuControllerState::sharedMenuController>()
+          .method<"menuFrame", &UIMenuControllerState::menuFrame>()
+          .method<"isMenuVisible", &UIMenuControllerState::isVisible>()
+          .method<"setTargetRect:inView:", &UIMenuControllerState::setTargetRect>()
+          .method<"setMenuVisible:", &UIMenuControllerState::setMenuVisibleAtOnce>()
+          .method<"setMenuVisible:animated:", &UIMenuControllerState::setMenuVisible>()
           .build();
   return made;
 }
 
-bridge::UIMenuController UIMenuController::sharedMenuController() {
-  static const bridge::UIMenuController menu = bridge::makeNew<bridge::UIMenuController>().detach();
+UIMenuController UIMenuControllerState::sharedMenuController() {
+  static const UIMenuController menu = makeNew<UIMenuController>().detach();
   return menu;
 }
 
-UIMenuController& UIMenuController::shared() {
+UIMenuControllerState& UIMenuControllerState::shared() {
   return of(sharedMenuController().get());
 }
 
-void UIMenuController::show(std::vector<MenuCommand> commands, CGRect targetOnScreen,
-                            std::function<void()> hidden) {
+void UIMenuControllerState::show(std::vector<MenuCommand> commands, CGRect targetOnScreen,
+                                 std::function<void()> hidden) {
   hide();
-  const bridge::UIView window = bridge::UIApplication::sharedApplication().keyWindow();
+  const UIView window = UIApplication::sharedApplication().keyWindow();
   if (commands.empty() || !window) return;
   if (!isFinite(targetOnScreen)) targetOnScreen = {};
-  const CGRect target =
-      bridge::send<CGRect, "convertRect:fromView:">(window, targetOnScreen, bridge::UIView());
+  const CGRect target = send<CGRect, "convertRect:fromView:">(window, targetOnScreen, UIView());
   _overlay = MenuOverlay::show(window, std::move(commands), target,
                                {[this] { _overlay = {}; }, std::move(hidden)});
-  _menuFrame = bridge::send<CGRect, "convertRect:toView:">(
-      window, MenuOverlay::of(_overlay.get()).bubbleFrame(), bridge::UIView());
+  _menuFrame = send<CGRect, "convertRect:toView:">(
+      window, MenuOverlay::of(_overlay.get()).bubbleFrame(), UIView());
 }
 
-void UIMenuController::hide() {
+void UIMenuControllerState::hide() {
   if (_overlay) MenuOverlay::of(_overlay.get()).hide();
 }
 
-std::vector<std::string> UIMenuController::titles() const {
+std::vector<std::string> UIMenuControllerState::titles() const {
   std::vector<std::string> titles;
   if (!_overlay) return titles;
   for (const MenuCommand& command : MenuOverlay::of(_overlay.get()).commands())
@@ -92,15 +92,15 @@ std::vector<std::string> UIMenuController::titles() const {
   return titles;
 }
 
-void UIMenuController::run(std::size_t index) {
+void UIMenuControllerState::run(std::size_t index) {
   if (_overlay) MenuOverlay::of(_overlay.get()).run(index);
 }
 
-void UIMenuController::setTargetRect(CGRect rect, bridge::UIView view) {
-  _target = bridge::send<CGRect, "convertRect:toView:">(view, rect, bridge::UIView());
+void UIMenuControllerState::setTargetRect(CGRect rect, UIView view) {
+  _target = send<CGRect, "convertRect:toView:">(view, rect, UIView());
 }
 
-void UIMenuController::setMenuVisible(bool visible, bool) {
+void UIMenuControllerState::setMenuVisible(bool visible, bool) {
   if (!visible) return hide();
   if (!isVisible()) show(possibleCommands(), _target);
 }

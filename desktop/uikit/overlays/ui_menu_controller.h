@@ -9,17 +9,19 @@
 #include <vector>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/overlays/menu_overlay.h"
 
 namespace desktop::uikit {
 
-class UIMenuController : public bridge::Bound<UIMenuController, bridge::NSObject> {
+class UIMenuControllerState : public Bound<UIMenuControllerState, NSObject, UIMenuController> {
  public:
   using Bound::Bound;
   static Class classObject();
 
-  static bridge::UIMenuController sharedMenuController();
-  static UIMenuController& shared();
+  static UIMenuController sharedMenuController();
+  static UIMenuControllerState& shared();
 
   // Shows the commands at a target, in points of the screen, in place of what was shown so far.
   // Pressing a command hides the menu and runs it; a touch elsewhere only hides it. `hidden` is
@@ -38,14 +40,14 @@ class UIMenuController : public bridge::Bound<UIMenuController, bridge::NSObject
   CGRect menuFrame() const { return _menuFrame; }
 
  private:
-  void setTargetRect(CGRect rect, bridge::UIView view);
+  void setTargetRect(CGRect rect, UIView view);
   // Shows what the first responder can do of the platform's standard edit commands.
   void setMenuVisible(bool visible, bool animated);
   void setMenuVisibleAtOnce(bool visible) { setMenuVisible(visible, false); }
 
   CGRect _target;  // in points of the screen
   CGRect _menuFrame;
-  bridge::UIView _overlay;  // what is on show; borrowed from its window
+  UIView _overlay;  // what is on show; borrowed from its window
 };
 
 }  // namespace desktop::uikit

@@ -2,13 +2,14 @@
 #include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-Class UIPopoverPresentationController::classObject() {
-  using Popover = UIPopoverPresentationController;
+Class UIPopoverPresentationControllerState::classObject() {
+  using Popover = UIPopoverPresentationControllerState;
   static const Class made =
-      bridge::ClassBuilder<Popover>("UIPopoverPresentationController")
+      ClassBuilder<Popover>("UIPopoverPresentationController")
           .method<"sourceView", &Popover::sourceView>()
           .method<"setSourceView:", &Popover::setSourceView>()
           .method<"sourceRect", &Popover::sourceRect>()
@@ -23,12 +24,12 @@ Class UIPopoverPresentationController::classObject() {
   return made;
 }
 
-void UIPopoverPresentationController::setSourceView(bridge::UIView view) {
-  _sourceView = bridge::Owned<bridge::UIView>::retain(view);
+void UIPopoverPresentationControllerState::setSourceView(UIView view) {
+  _sourceView = Owned<UIView>::retain(view);
 }
 
-void UIPopoverPresentationController::setBarButtonItem(bridge::UIBarButtonItem item) {
-  _barButtonItem = bridge::Owned<bridge::UIBarButtonItem>::retain(item);
+void UIPopoverPresentationControllerState::setBarButtonItem(UIBarButtonItem item) {
+  _barButtonItem = Owned<UIBarButtonItem>::retain(item);
 }
 
 }  // namespace desktop::uikit

@@ -5,6 +5,7 @@
 
 #include "bridge/geometry.h"
 #include "bridge/runtime/encoding.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/geometry.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 

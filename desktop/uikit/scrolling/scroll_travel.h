@@ -5,6 +5,7 @@
 #pragma once
 
 #include "bridge/geometry.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/scrolling/scroll_motion.h"
 
 namespace desktop::uikit {

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/base/screen.h"
@@ -20,7 +21,7 @@
 namespace desktop::uikit {
 namespace {
 
-using State = bridge::UIGestureRecognizer::State;
+using State = UIGestureRecognizer::State;
 
 constexpr Seconds frame = 1.0 / 60;
 constexpr Seconds scrollTime = 0.3;
@@ -36,10 +37,10 @@ CGPoint onPixels(CGPoint point) {
 
 }  // namespace
 
-Class UIScrollView::classObject() {
-  using Self = UIScrollView;
+Class UIScrollViewState::classObject() {
+  using Self = UIScrollViewState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UIScrollView")
+      ClassBuilder<Self>("UIScrollView")
           .method<"contentOffset", &Self::contentOffset>()
           .method<"setContentOffset:", &Self::setContentOffset>()
           .method<"setContentOffset:animated:", &Self::setContentOffsetAnimated>()
@@ -85,97 +86,93 @@ Class UIScrollView::classObject() {
   return made;
 }
 
-UIScrollView::UIScrollView(id self) : Bound(self) {
-  UIView::of(self).layer().setMasksToBounds(true);
-  _pan = bridge::Owned<handles::UIPanGestureRecognizer>::adopt(
-      bridge::send<handles::UIPanGestureRecognizer, "initWithTarget:action:">(
-          bridge::send<id, "alloc">(UIScrollViewPanGestureRecognizer::classObject()), self,
-          bridge::selector<"handlePan:">()));
+UIScrollViewState::UIScrollViewState(id object) : Bound(object) {
+  layer().setMasksToBounds(true);
+  _pan = makeWith<UIPanGestureRecognizer, "initWithTarget:action:">(
+      UIScrollViewPanGestureRecognizer::classObject(), self(), selector<"handlePan:">());
   UIScrollViewPanGestureRecognizer::of(_pan.get())
       .setFingers({[this] { return fingerDown(); }, [this] { fingerGone(); }});
-  me().addGestureRecognizer(_pan);
+  self().addGestureRecognizer(_pan);
 }
 
-UIScrollView::~UIScrollView() {
+UIScrollViewState::~UIScrollViewState() {
   UIScrollViewPanGestureRecognizer::of(_pan.get()).setFingers({});
 }
 
-CGPoint UIScrollView::contentOffset() const {
-  return UIView::of(self()).bounds().origin;
+CGPoint UIScrollViewState::contentOffset() const {
+  return bounds().origin;
 }
 
-void UIScrollView::setContentOffset(CGPoint offset) {
+void UIScrollViewState::setContentOffset(CGPoint offset) {
   if (!std::isfinite(offset.x) || !std::isfinite(offset.y)) return;
   if (!_isMovingItself) stop();
-  UIView& view = UIView::of(self());
-  const CGRect before = view.bounds();
-  view.setBounds({offset, before.size});
-  if (view.bounds() == before) return;
-  view.setNeedsLayout();
+  const CGRect before = bounds();
+  setBounds({offset, before.size});
+  if (bounds() == before) return;
+  setNeedsLayout();
   told<"scrollViewDidScroll:">(_delegate, self());
 }
 
-void UIScrollView::setContentOffsetAnimated(CGPoint offset, bool animated) {
+void UIScrollViewState::setContentOffsetAnimated(CGPoint offset, bool animated) {
   const CGPoint from = contentOffset();
-  const bool isGoing =
-      animated && UIView::of(self()).window() && isFinite(offset) && offset != from;
-  if (!isGoing) return bridge::send<void, "setContentOffset:">(self(), offset);
+  const bool isGoing = animated && window() && isFinite(offset) && offset != from;
+  if (!isGoing) return send<void, "setContentOffset:">(self(), offset);
   start(ScrollTravel::easing(from, offset, scrollTime));
 }
 
 // Content that became smaller is not left behind.
-void UIScrollView::setContentSize(CGSize size) {
+void UIScrollViewState::setContentSize(CGSize size) {
   if (!std::isfinite(size.width) || !std::isfinite(size.height)) size = {};
   if (size == _content.size) return;
   _content.size = size;
   if (isDragging() || _travel) return;
   const CGPoint inside = clamped(contentOffset());
-  if (inside != contentOffset()) bridge::send<void, "setContentOffset:">(self(), inside);
+  if (inside != contentOffset()) send<void, "setContentOffset:">(self(), inside);
 }
 
-void UIScrollView::setContentInset(EdgeInsets insets) {
+void UIScrollViewState::setContentInset(EdgeInsets insets) {
   const EdgeInsets before = adjustedContentInset();
   _content.inset = insets;
   followInset(before);
 }
 
-void UIScrollView::setSafeArea(EdgeInsets area) {
+void UIScrollViewState::setSafeArea(EdgeInsets area) {
   const EdgeInsets before = adjustedContentInset();
   _content.safeArea = area;
   followInset(before);
 }
 
-void UIScrollView::setAdjustmentBehavior(NSInteger behavior) {
+void UIScrollViewState::setAdjustmentBehavior(NSInteger behavior) {
   const EdgeInsets before = adjustedContentInset();
   _content.adjustment = behavior;
   followInset(before);
 }
 
 // What stood at its top stays there.
-void UIScrollView::followInset(const EdgeInsets& before) {
+void UIScrollViewState::followInset(const EdgeInsets& before) {
   const EdgeInsets after = adjustedContentInset();
   const CGPoint offset = contentOffset();
   if (after != before && offset.y == -before.top)
-    bridge::send<void, "setContentOffset:">(self(), CGPoint{offset.x, -after.top});
+    send<void, "setContentOffset:">(self(), CGPoint{offset.x, -after.top});
 }
 
-void UIScrollView::setScrollEnabled(bool enabled) {
+void UIScrollViewState::setScrollEnabled(bool enabled) {
   if (enabled == _isScrollEnabled) return;
   _isScrollEnabled = enabled;
-  if (!enabled && isDragging()) UIGestureRecognizer::of(_pan.get()).leaveTouches();
+  if (!enabled && isDragging()) UIGestureRecognizerState::of(_pan.get()).leaveTouches();
 }
 
-bool UIScrollView::scrollBy(CGPoint distance) {
+bool UIScrollViewState::scrollBy(CGPoint distance) {
   const CGPoint before = contentOffset();
   const CGPoint after = clamped(before + distance);
   if (!_isScrollEnabled || isDragging() || after == before) return false;
-  bridge::send<void, "setContentOffset:">(self(), after);
+  send<void, "setContentOffset:">(self(), after);
   showIndicators();
   return true;
 }
 
-void UIScrollView::scrollRectToVisible(CGRect rect, bool animated) {
-  const auto [from, size] = UIView::of(self()).bounds();
+void UIScrollViewState::scrollRectToVisible(CGRect rect, bool animated) {
+  const auto [from, size] = bounds();
   const CGPoint offset = {
       offsetShowing(rect.origin.x, rect.size.width, {from.x, size.width}, ShownAt::nearest),
       offsetShowing(rect.origin.y, rect.size.height, {from.y, size.height}, ShownAt::nearest)};
@@ -183,44 +180,44 @@ void UIScrollView::scrollRectToVisible(CGRect rect, bool animated) {
 }
 
 // A finger on content that is moving stops it, and does nothing else.
-bridge::UIView UIScrollView::hitTest(CGPoint point, bridge::UIEvent event) {
-  const auto hit = super<bridge::UIView, "hitTest:withEvent:">(point, event);
-  return hit && isDecelerating() ? me() : hit;
+UIView UIScrollViewState::hitTest(CGPoint point, UIEvent event) {
+  const auto hit = super<UIView, "hitTest:withEvent:">(point, event);
+  return hit && isDecelerating() ? self() : hit;
 }
 
 // A finger on it.
 
-UIScrollViewPanGestureRecognizer::Ways UIScrollView::freeWays() const {
+UIScrollViewPanGestureRecognizer::Ways UIScrollViewState::freeWays() const {
   const CGSize content = _content.whole();
   const bool across = content.width > room().width || (_bounces && _alwaysBounceHorizontal);
   const bool down = content.height > room().height || (_bounces && _alwaysBounceVertical);
   return {_isScrollEnabled && across, _isScrollEnabled && down};
 }
 
-bool UIScrollView::delaysTouches() const {
+bool UIScrollViewState::delaysTouches() const {
   const auto ways = freeWays();
   return _delaysContentTouches && (ways.across || ways.down);
 }
 
-UIScrollViewPanGestureRecognizer::Ways UIScrollView::fingerDown() {
+UIScrollViewPanGestureRecognizer::Ways UIScrollViewState::fingerDown() {
   const auto ways = freeWays();
   _isTracking = true;
   if (isDecelerating()) {
     stop();
-    told<"scrollViewDidEndDecelerating:">(_delegate, me());
+    told<"scrollViewDidEndDecelerating:">(_delegate, self());
   }
   return ways;
 }
 
 // What a finger stopped between two pages, or beyond the end, goes on without it.
-void UIScrollView::fingerGone() {
+void UIScrollViewState::fingerGone() {
   if (!std::exchange(_isTracking, false) || isDragging() || _travel) return;
   _drag.letGoAt(contentOffset());
   const ScrollTravel travel = travelWith({});
   if (travel.duration() > 0) start(travel);
 }
 
-void UIScrollView::handlePan(handles::UIPanGestureRecognizer recognizer) {
+void UIScrollViewState::handlePan(UIPanGestureRecognizer recognizer) {
   switch (recognizer.state()) {
     case State::began:
       beginDragging();
@@ -234,52 +231,52 @@ void UIScrollView::handlePan(handles::UIPanGestureRecognizer recognizer) {
   }
 }
 
-void UIScrollView::beginDragging() {
+void UIScrollViewState::beginDragging() {
   stop();
-  const auto& pan = UIPanGestureRecognizer::of(_pan.get());
+  const auto& pan = UIPanGestureRecognizerState::of(_pan.get());
   _drag.begin(contentOffset(), pan.translationIn({}), pan.velocityIn({}),
               _isDirectionalLockEnabled);
-  told<"scrollViewWillBeginDragging:">(_delegate, me());
+  told<"scrollViewWillBeginDragging:">(_delegate, self());
 }
 
 // Of a way, or a velocity, what the content can follow.
-CGPoint UIScrollView::followed(CGPoint way) const {
+CGPoint UIScrollViewState::followed(CGPoint way) const {
   const auto ways = freeWays();
   return _drag.along(way, ways.across, ways.down);
 }
 
-void UIScrollView::drag() {
+void UIScrollViewState::drag() {
   if (!isDragging()) return;
-  const CGPoint way = followed(UIPanGestureRecognizer::of(_pan.get()).translationIn(me()));
+  const CGPoint way = followed(UIPanGestureRecognizerState::of(_pan.get()).translationIn(self()));
   moveTo(_content.pulledTo(_drag.start() - way, room(), _bounces));
 }
 
-void UIScrollView::endDragging(bool isCancelled) {
+void UIScrollViewState::endDragging(bool isCancelled) {
   if (!_drag.end()) return;
   CGPoint velocity;
   if (!isCancelled)
-    velocity = CGPoint{} - followed(UIPanGestureRecognizer::of(_pan.get()).velocityIn(me()));
+    velocity = CGPoint{} - followed(UIPanGestureRecognizerState::of(_pan.get()).velocityIn(self()));
   ScrollTravel travel = travelWith(velocity);
   const CGPoint wanted = wantedEnd(velocity, travel.end());
   if (wanted != travel.end()) travel = ScrollTravel::springing(contentOffset(), velocity, wanted);
-  const bool goesOn = travel.duration() > 0 && UIView::of(self()).window();
+  const bool goesOn = travel.duration() > 0 && window();
   if (goesOn) start(travel);
-  told<"scrollViewDidEndDragging:willDecelerate:">(_delegate, me(), goesOn);
-  if (goesOn && isDecelerating()) told<"scrollViewWillBeginDecelerating:">(_delegate, me());
+  told<"scrollViewDidEndDragging:willDecelerate:">(_delegate, self(), goesOn);
+  if (goesOn && isDecelerating()) told<"scrollViewWillBeginDecelerating:">(_delegate, self());
   if (!goesOn) moveTo(clamped(contentOffset()));
 }
 
 // Where the delegate wants the content to come to rest that would do so at an end; velocities are
 // told in points a millisecond.
-CGPoint UIScrollView::wantedEnd(CGPoint velocity, CGPoint end) const {
+CGPoint UIScrollViewState::wantedEnd(CGPoint velocity, CGPoint end) const {
   told<"scrollViewWillEndDragging:withVelocity:targetContentOffset:">(
-      _delegate, me(), CGPoint{velocity.x / 1000, velocity.y / 1000}, &end);
+      _delegate, self(), CGPoint{velocity.x / 1000, velocity.y / 1000}, &end);
   return isFinite(end) ? end : contentOffset();
 }
 
 // It moves by itself.
 
-ScrollTravel UIScrollView::travelWith(CGPoint velocity) const {
+ScrollTravel UIScrollViewState::travelWith(CGPoint velocity) const {
   const CGPoint from = contentOffset();
   if (!_isPagingEnabled)
     return ScrollTravel::coasting(from, velocity, clamped({-HUGE_VAL, -HUGE_VAL}),
@@ -289,87 +286,86 @@ ScrollTravel UIScrollView::travelWith(CGPoint velocity) const {
       from, {to.x == from.x ? 0 : velocity.x, to.y == from.y ? 0 : velocity.y}, to);
 }
 
-void UIScrollView::start(ScrollTravel travel) {
+void UIScrollViewState::start(ScrollTravel travel) {
   travel.start = scheduler().now();
   _travel = travel;
-  _tick.callAfter(frame, [this] { tick(); });
+  _tick.callAfter(uikit::frame, [this] { tick(); });
 }
 
 // Content that nobody sees any longer stays where it is.
-void UIScrollView::tick() {
+void UIScrollViewState::tick() {
   if (!_travel) return;
-  const auto kept = bridge::Owned<bridge::UIView>::retain(me());
-  if (!UIView::of(self()).window()) return stop();
+  const auto kept = Owned<UIView>::retain(self());
+  if (!window()) return stop();
   const Seconds time = scheduler().now() - _travel->start;
   if (time >= _travel->duration()) return finish();
-  _tick.callAfter(frame, [this] { tick(); });
+  _tick.callAfter(uikit::frame, [this] { tick(); });
   moveTo(_travel->at(time));
 }
 
 // The content may have become another while it moved.
-void UIScrollView::finish() {
+void UIScrollViewState::finish() {
   const bool wasCoasting = _travel->isCoasting;
   const CGPoint end = _travel->end();
   stop();
   moveTo(wasCoasting ? clamped(onPixels(end)) : end);
   if (wasCoasting) {
-    told<"scrollViewDidEndDecelerating:">(_delegate, me());
+    told<"scrollViewDidEndDecelerating:">(_delegate, self());
   } else {
-    told<"scrollViewDidEndScrollingAnimation:">(_delegate, me());
+    told<"scrollViewDidEndScrollingAnimation:">(_delegate, self());
   }
 }
 
-void UIScrollView::stop() {
+void UIScrollViewState::stop() {
   _travel.reset();
   _tick.cancel();
 }
 
-void UIScrollView::moveTo(CGPoint offset) {
+void UIScrollViewState::moveTo(CGPoint offset) {
   const bool wasMovingItself = std::exchange(_isMovingItself, true);
-  bridge::send<void, "setContentOffset:">(self(), offset);
+  send<void, "setContentOffset:">(self(), offset);
   _isMovingItself = wasMovingItself;
   showIndicators();
 }
 
 // The bars at its edges.
 
-void UIScrollView::setShowsVerticalIndicator(bool shows) {
+void UIScrollViewState::setShowsVerticalIndicator(bool shows) {
   _indicators.setShowsVertical(shows);
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
-void UIScrollView::setShowsHorizontalIndicator(bool shows) {
+void UIScrollViewState::setShowsHorizontalIndicator(bool shows) {
   _indicators.setShowsHorizontal(shows);
-  UIView::of(self()).setNeedsDisplay();
+  setNeedsDisplay();
 }
 
-ScrollIndicators::Bars UIScrollView::bars() const {
-  return _indicators.bars(UIView::of(self()).bounds(), _content);
+ScrollIndicators::Bars UIScrollViewState::bars() const {
+  return _indicators.bars(bounds(), _content);
 }
 
-double UIScrollView::indicatorAlpha() const {
+double UIScrollViewState::indicatorAlpha() const {
   return _indicators.alpha(scheduler().now(), isDragging());
 }
 
-void UIScrollView::drawIndicators(Canvas& canvas) const {
+void UIScrollViewState::drawIndicators(Canvas& canvas) const {
   ScrollIndicators::draw(canvas, bars(), indicatorAlpha());
 }
 
-void UIScrollView::showIndicators() {
+void UIScrollViewState::showIndicators() {
   const auto [vertical, horizontal] = bars();
-  if ((isEmpty(vertical) && isEmpty(horizontal)) || !UIView::of(self()).window()) return;
+  if ((isEmpty(vertical) && isEmpty(horizontal)) || !window()) return;
   _indicators.show(scheduler().now());
   fadeIndicators();
   _fade.callAfter(ScrollIndicators::shownFor, [this] { fadeIndicators(); });
 }
 
 // Asks for the bars to be painted again, until they are gone.
-void UIScrollView::fadeIndicators() {
-  const UIView& view = UIView::of(self());
-  if (!view.window()) return;
+void UIScrollViewState::fadeIndicators() {
+  if (!window()) return;
   for (const CGRect& bar : bars())
-    if (!isEmpty(bar)) screen().damage.add(apply(view.toScreen(), bar));
-  if (indicatorAlpha() > 0) _fade.callAfter(frame, [this] { fadeIndicators(); });
+    if (!isEmpty(bar)) screen().damage.add(apply(toScreen(), bar));
+  if (indicatorAlpha() > 0) _fade.callAfter(uikit::frame, [this] { fadeIndicators(); });
 }
 
 }  // namespace desktop::uikit

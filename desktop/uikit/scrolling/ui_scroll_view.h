@@ -7,8 +7,9 @@
 #include <optional>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/pending_call.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/scrolling/scroll_content.h"
 #include "desktop/uikit/scrolling/scroll_drag.h"
 #include "desktop/uikit/scrolling/scroll_indicators.h"
@@ -18,10 +19,10 @@
 
 namespace desktop::uikit {
 
-class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
+class UIScrollViewState : public Bound<UIScrollViewState, UIViewState, UIScrollView> {
  public:
-  explicit UIScrollView(id self);
-  ~UIScrollView();
+  explicit UIScrollViewState(id self);
+  ~UIScrollViewState();
   static Class classObject();
 
   CGPoint contentOffset() const;
@@ -44,7 +45,7 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
   // Scrolls by a distance as far as there is content: what a wheel does. Whether it moved.
   bool scrollBy(CGPoint distance);
 
-  bridge::NSObject delegate() const { return _delegate; }
+  NSObject delegate() const { return _delegate; }
   bool isScrollEnabled() const { return _isScrollEnabled; }
   bool isPagingEnabled() const { return _isPagingEnabled; }
   // With a finger on it, scrolled by one, and moving on by itself after one.
@@ -59,12 +60,10 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
   void drawOverSubviews(Canvas* canvas) const { drawIndicators(*canvas); }
 
  private:
-  bridge::UIView me() const { return bridge::UIView(self().get()); }
-
   // What is bound of what is set, and asked.
   NSInteger adjustmentBehavior() const { return _content.adjustment; }
   void setAdjustmentBehavior(NSInteger behavior);
-  void setDelegate(bridge::NSObject delegate) { _delegate = delegate; }
+  void setDelegate(NSObject delegate) { _delegate = delegate; }
   void setScrollEnabled(bool enabled);
   void setPagingEnabled(bool enabled) { _isPagingEnabled = enabled; }
   bool bounces() const { return _bounces; }
@@ -81,13 +80,13 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
   void setShowsVerticalIndicator(bool shows);
   bool showsHorizontalIndicator() const { return _indicators.showsHorizontal(); }
   void setShowsHorizontalIndicator(bool shows);
-  handles::UIPanGestureRecognizer panGestureRecognizer() const { return _pan; }
-  void handlePan(handles::UIPanGestureRecognizer recognizer);
+  UIPanGestureRecognizer panGestureRecognizer() const { return _pan; }
+  void handlePan(UIPanGestureRecognizer recognizer);
   void scrollRectToVisible(CGRect rect, bool animated);
-  bridge::UIView hitTest(CGPoint point, bridge::UIEvent event);
+  UIView hitTest(CGPoint point, UIEvent event);
 
   // How the parts work together.
-  CGSize room() const { return UIView::of(self()).bounds().size; }
+  CGSize room() const { return bounds().size; }
   UIScrollViewPanGestureRecognizer::Ways freeWays() const;
   UIScrollViewPanGestureRecognizer::Ways fingerDown();
   void fingerGone();
@@ -108,8 +107,8 @@ class UIScrollView : public bridge::Bound<UIScrollView, bridge::UIView> {
   void fadeIndicators();
   double indicatorAlpha() const;
 
-  bridge::NSObject _delegate;  // borrowed
-  bridge::Owned<handles::UIPanGestureRecognizer> _pan;
+  NSObject _delegate;  // borrowed
+  Owned<UIPanGestureRecognizer> _pan;
   bool _isScrollEnabled = true;
   bool _isPagingEnabled = false;
   bool _bounces = true;

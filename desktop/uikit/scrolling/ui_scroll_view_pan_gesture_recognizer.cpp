@@ -2,13 +2,14 @@
 #include "desktop/uikit/scrolling/ui_scroll_view_pan_gesture_recognizer.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/touch/ui_pan_gesture_recognizer.h"
 
 namespace desktop::uikit {
 
 Class UIScrollViewPanGestureRecognizer::classObject() {
   using Self = UIScrollViewPanGestureRecognizer;
-  static const Class made = bridge::ClassBuilder<Self>("UIScrollViewPanGestureRecognizer")
+  static const Class made = ClassBuilder<Self>("UIScrollViewPanGestureRecognizer")
                                 .method<"touchesBegan:withEvent:", &Self::touchesBegan>()
                                 .method<"reset", &Self::reset>()
                                 .build();
@@ -16,13 +17,13 @@ Class UIScrollViewPanGestureRecognizer::classObject() {
 }
 
 bool UIScrollViewPanGestureRecognizer::isInView() const {
-  return static_cast<bool>(UIGestureRecognizer::of(self()).view());
+  return static_cast<bool>(view());
 }
 
-void UIScrollViewPanGestureRecognizer::touchesBegan(bridge::NSSet touches, bridge::UIEvent event) {
+void UIScrollViewPanGestureRecognizer::touchesBegan(NSSet touches, UIEvent event) {
   if (isInView() && _fingers.came) {
     const Ways ways = _fingers.came();
-    UIPanGestureRecognizer::of(self()).setWays(ways.across, ways.down);
+    setWays(ways.across, ways.down);
   }
   super<void, "touchesBegan:withEvent:">(touches, event);
 }

@@ -5,14 +5,16 @@
 #pragma once
 
 #include <functional>
+#include "desktop/uikit/touch/ui_pan_gesture_recognizer.h"
 
 #include "bridge/bound.h"
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
 class UIScrollViewPanGestureRecognizer
-    : public bridge::Bound<UIScrollViewPanGestureRecognizer, handles::UIPanGestureRecognizer> {
+    : public Bound<UIScrollViewPanGestureRecognizer, UIPanGestureRecognizerState> {
  public:
   struct Ways {
     bool across = false;
@@ -30,7 +32,7 @@ class UIScrollViewPanGestureRecognizer
   void setFingers(Fingers fingers) { _fingers = std::move(fingers); }
 
  private:
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
+  void touchesBegan(NSSet touches, UIEvent event);
   void reset();
   bool isInView() const;
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "bridge/foundation.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/text/ns_paragraph_style.h"
 #include "desktop/uikit/text/ui_font.h"
@@ -12,14 +13,14 @@
 namespace desktop::uikit {
 namespace {
 
-TextRun runOf(bridge::NSDictionary attributes, std::size_t start, const FontFace& face) {
-  using bridge::NSString;
-  TextRun run{.start = start,
-              .face = UIFont::faceOf(attributes.at(NSString::make("NSFont")), face),
-              .style = NSParagraphStyle::valueOf(attributes.at(NSString::make("NSParagraphStyle"))),
-              .color = {}};
-  const bridge::Object color = attributes.at(NSString::make("NSColor"));
-  if (bridge::isKindOf(color, UIColor::classObject())) run.color = UIColor::valueOf(color);
+TextRun runOf(NSDictionary attributes, std::size_t start, const FontFace& face) {
+  TextRun run{
+      .start = start,
+      .face = UIFontState::faceOf(attributes.at(NSString::make("NSFont")), face),
+      .style = NSParagraphStyleState::valueOf(attributes.at(NSString::make("NSParagraphStyle"))),
+      .color = {}};
+  const Object color = attributes.at(NSString::make("NSColor"));
+  if (isKindOf(color, UIColorState::classObject())) run.color = UIColorState::valueOf(color);
   return run;
 }
 
@@ -39,14 +40,14 @@ AttributedText AttributedText::plain(std::u16string text, const FontFace& face,
   return {std::move(text), {{.start = 0, .face = face, .style = style, .color = {}}}};
 }
 
-AttributedText AttributedText::of(bridge::NSAttributedString text, const FontFace& face) {
-  AttributedText made = plain(utf16Of(bridge::send<bridge::NSString, "string">(text)), face);
+AttributedText AttributedText::of(NSAttributedString text, const FontFace& face) {
+  AttributedText made = plain(utf16Of(send<NSString, "string">(text)), face);
   std::vector<TextRun> runs;
   for (std::size_t at = 0; at < made.text.size();) {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     NSRange range{};
-    const auto attributes = bridge::send<bridge::NSDictionary, "attributesAtIndex:effectiveRange:">(
-        text, NSUInteger{at}, &range);
+    const auto attributes =
+        send<NSDictionary, "attributesAtIndex:effectiveRange:">(text, NSUInteger{at}, &range);
     const TextRun run = runOf(attributes, at, face);
     if (runs.empty() || !looksLike(runs.back(), run)) runs.push_back(run);
     at = std::max(at + 1, range.location + range.length);
@@ -55,18 +56,17 @@ AttributedText AttributedText::of(bridge::NSAttributedString text, const FontFac
   return made;
 }
 
-bridge::NSAttributedString attributedString(bridge::NSString string,
-                                            const std::vector<TextRun>& runs) {
-  using bridge::NSString;
-  auto made = bridge::NSMutableAttributedString::withString(string);
+NSAttributedString attributedString(NSString string, const std::vector<TextRun>& runs) {
+  auto made = NSMutableAttributedString::withString(string);
   for (std::size_t index = 0; index < runs.size(); ++index) {
     const TextRun& run = runs[index];
     const NSUInteger end = index + 1 < runs.size() ? runs[index + 1].start : string.length();
     const NSRange range{run.start, end - run.start};
-    made->addAttribute(bridge::fontAttributeName(), UIFont::make(run.face), range);
-    made->addAttribute(bridge::paragraphStyleAttributeName(), NSParagraphStyle::make(run.style),
+    made->addAttribute(fontAttributeName(), UIFontState::make(run.face), range);
+    made->addAttribute(paragraphStyleAttributeName(), NSParagraphStyleState::make(run.style),
                        range);
-    if (run.color) made->addAttribute(NSString::make("NSColor"), UIColor::make(*run.color), range);
+    if (run.color)
+      made->addAttribute(NSString::make("NSColor"), UIColorState::make(*run.color), range);
   }
   return made.autorelease();
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "bridge/foundation/ns_text.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
 #include "desktop/uikit/graphics/text_engine.h"
 #include "desktop/uikit/text/paragraph_style.h"
@@ -33,12 +34,11 @@ struct AttributedText {
   static AttributedText plain(std::u16string text, const FontFace& face,
                               const ParagraphStyle& style = {});
   // What an attributed string holds, in the face where it names none. Nil is empty.
-  static AttributedText of(bridge::NSAttributedString text, const FontFace& face);
+  static AttributedText of(NSAttributedString text, const FontFace& face);
 };
 
 // The platform's object of a string with these runs. Autoreleased.
-bridge::NSAttributedString attributedString(bridge::NSString string,
-                                            const std::vector<TextRun>& runs);
+NSAttributedString attributedString(NSString string, const std::vector<TextRun>& runs);
 
 // Shared by those who lay it out; never changed once it is.
 using SharedText = std::shared_ptr<const AttributedText>;

@@ -7,11 +7,11 @@
 
 namespace desktop::uikit {
 
-inline bridge::UIFont semiboldFont(CGFloat size) {
-  return UIFont::make({.weight = FontWeight::semibold, .size = size});
+inline UIFont semiboldFont(CGFloat size) {
+  return UIFontState::make({.weight = FontWeight::semibold, .size = size});
 }
-inline bridge::UIFont boldFont(CGFloat size) {
-  return UIFont::make({.weight = FontWeight::bold, .size = size});
+inline UIFont boldFont(CGFloat size) {
+  return UIFontState::make({.weight = FontWeight::bold, .size = size});
 }
 
 }  // namespace desktop::uikit

@@ -5,13 +5,14 @@
 #include <functional>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 namespace {
 
-bridge::NSObject newStyle(Class style, const ParagraphStyle& value) {
-  const auto made = bridge::send<bridge::NSObject, "new">(style);
-  if (made) NSParagraphStyle::of(made).setValue(value);
+NSObject newStyle(Class style, const ParagraphStyle& value) {
+  const auto made = send<NSObject, "new">(style);
+  if (made) NSParagraphStyleState::of(made).setValue(value);
   return made;
 }
 
@@ -24,7 +25,7 @@ constexpr bool isOneOf(NSInteger value, Enum last) {
 
 // Numbers as they are, choices as the platform numbers them.
 template <auto Field>
-auto NSParagraphStyle::get() const {
+auto NSParagraphStyleState::get() const {
   using Type = std::decay_t<decltype(_value.*Field)>;
   if constexpr (std::is_enum_v<Type>)
     return static_cast<NSInteger>(_value.*Field);
@@ -32,56 +33,56 @@ auto NSParagraphStyle::get() const {
     return CGFloat{_value.*Field};
 }
 
-Class NSParagraphStyle::classObject() {
+Class NSParagraphStyleState::classObject() {
   using Style = ParagraphStyle;
   static const Class made =
-      bridge::ClassBuilder<NSParagraphStyle>("NSParagraphStyle")
-          .classMethod<"defaultParagraphStyle", &NSParagraphStyle::defaultParagraphStyle>()
-          .method<"paragraphSpacing", &NSParagraphStyle::get<&Style::spacing>>()
-          .method<"paragraphSpacingBefore", &NSParagraphStyle::get<&Style::spacingBefore>>()
-          .method<"firstLineHeadIndent", &NSParagraphStyle::get<&Style::firstLineHeadIndent>>()
-          .method<"headIndent", &NSParagraphStyle::get<&Style::headIndent>>()
-          .method<"lineSpacing", &NSParagraphStyle::get<&Style::lineSpacing>>()
-          .method<"alignment", &NSParagraphStyle::get<&Style::alignment>>()
-          .method<"lineBreakMode", &NSParagraphStyle::get<&Style::lineBreakMode>>()
-          .method<"copyWithZone:", &NSParagraphStyle::copyWithZone>()
-          .method<"mutableCopyWithZone:", &NSParagraphStyle::mutableCopyWithZone>()
-          .method<"isEqual:", &NSParagraphStyle::isEqual>()
-          .method<"hash", &NSParagraphStyle::hash>()
+      ClassBuilder<NSParagraphStyleState>("NSParagraphStyle")
+          .classMethod<"defaultParagraphStyle", &NSParagraphStyleState::defaultParagraphStyle>()
+          .method<"paragraphSpacing", &NSParagraphStyleState::get<&Style::spacing>>()
+          .method<"paragraphSpacingBefore", &NSParagraphStyleState::get<&Style::spacingBefore>>()
+          .method<"firstLineHeadIndent", &NSParagraphStyleState::get<&Style::firstLineHeadIndent>>()
+          .method<"headIndent", &NSParagraphStyleState::get<&Style::headIndent>>()
+          .method<"lineSpacing", &NSParagraphStyleState::get<&Style::lineSpacing>>()
+          .method<"alignment", &NSParagraphStyleState::get<&Style::alignment>>()
+          .method<"lineBreakMode", &NSParagraphStyleState::get<&Style::lineBreakMode>>()
+          .method<"copyWithZone:", &NSParagraphStyleState::copyWithZone>()
+          .method<"mutableCopyWithZone:", &NSParagraphStyleState::mutableCopyWithZone>()
+          .method<"isEqual:", &NSParagraphStyleState::isEqual>()
+          .method<"hash", &NSParagraphStyleState::hash>()
           .build();
   return made;
 }
 
-ParagraphStyle NSParagraphStyle::valueOf(bridge::Object style) {
-  return bridge::isKindOf(style, classObject()) ? of(style)._value : ParagraphStyle{};
+ParagraphStyle NSParagraphStyleState::valueOf(Object style) {
+  return isKindOf(style, classObject()) ? of(style)._value : ParagraphStyle{};
 }
 
-bridge::NSObject NSParagraphStyle::make(const ParagraphStyle& value) {
-  return bridge::Owned<bridge::NSObject>::adopt(newStyle(classObject(), value)).autorelease();
+NSObject NSParagraphStyleState::make(const ParagraphStyle& value) {
+  return Owned<NSObject>::adopt(newStyle(classObject(), value)).autorelease();
 }
 
-bridge::Object NSParagraphStyle::copyWithZone(void*) const {
+Object NSParagraphStyleState::copyWithZone(void*) const {
   return newStyle(classObject(), _value);
 }
 
-bridge::Object NSParagraphStyle::mutableCopyWithZone(void*) const {
-  return newStyle(NSMutableParagraphStyle::classObject(), _value);
+Object NSParagraphStyleState::mutableCopyWithZone(void*) const {
+  return newStyle(NSMutableParagraphStyleState::classObject(), _value);
 }
 
-bool NSParagraphStyle::isEqual(bridge::Object other) const {
-  return bridge::isKindOf(other, classObject()) && of(other)._value == _value;
+bool NSParagraphStyleState::isEqual(Object other) const {
+  return isKindOf(other, classObject()) && of(other)._value == _value;
 }
 
-NSUInteger NSParagraphStyle::hash() const {
+NSUInteger NSParagraphStyleState::hash() const {
   const std::hash<double> hashOf;
   return hashOf(_value.spacing) ^ hashOf(_value.headIndent) * 3;
 }
 
-Class NSMutableParagraphStyle::classObject() {
-  using Own = NSMutableParagraphStyle;
+Class NSMutableParagraphStyleState::classObject() {
+  using Own = NSMutableParagraphStyleState;
   using Style = ParagraphStyle;
   static const Class made =
-      bridge::ClassBuilder<NSMutableParagraphStyle>("NSMutableParagraphStyle")
+      ClassBuilder<NSMutableParagraphStyleState>("NSMutableParagraphStyle")
           .method<"setParagraphSpacing:", &Own::setLength<&Style::spacing>>()
           .method<"setParagraphSpacingBefore:", &Own::setLength<&Style::spacingBefore>>()
           .method<"setFirstLineHeadIndent:", &Own::setLength<&Style::firstLineHeadIndent>>()
@@ -96,31 +97,31 @@ Class NSMutableParagraphStyle::classObject() {
 
 // What is no length is none at all.
 template <auto Field>
-void NSMutableParagraphStyle::setLength(CGFloat points) {
-  NSParagraphStyle& style = NSParagraphStyle::of(self());
+void NSMutableParagraphStyleState::setLength(CGFloat points) {
+  NSParagraphStyleState& style = *this;
   ParagraphStyle value = style.value();
   value.*Field = std::isfinite(points) ? points : 0;
   style.setValue(value);
 }
 
-void NSMutableParagraphStyle::setAlignment(NSInteger alignment) {
+void NSMutableParagraphStyleState::setAlignment(NSInteger alignment) {
   if (!isOneOf(alignment, TextAlignment::natural)) return;
-  NSParagraphStyle& style = NSParagraphStyle::of(self());
+  NSParagraphStyleState& style = *this;
   ParagraphStyle value = style.value();
   value.alignment = static_cast<TextAlignment>(alignment);
   style.setValue(value);
 }
 
-void NSMutableParagraphStyle::setLineBreakMode(NSInteger mode) {
+void NSMutableParagraphStyleState::setLineBreakMode(NSInteger mode) {
   if (!isOneOf(mode, LineBreakMode::byTruncatingMiddle)) return;
-  NSParagraphStyle& style = NSParagraphStyle::of(self());
+  NSParagraphStyleState& style = *this;
   ParagraphStyle value = style.value();
   value.lineBreakMode = static_cast<LineBreakMode>(mode);
   style.setValue(value);
 }
 
-void NSMutableParagraphStyle::setParagraphStyle(bridge::NSObject style) {
-  NSParagraphStyle::of(self()).setValue(NSParagraphStyle::valueOf(style));
+void NSMutableParagraphStyleState::setParagraphStyle(NSObject style) {
+  setValue(NSParagraphStyleState::valueOf(style));
 }
 
 }  // namespace desktop::uikit

@@ -4,39 +4,40 @@
 #pragma once
 
 #include "bridge/bound.h"
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/text/paragraph_style.h"
 
 namespace desktop::uikit {
 
-class NSParagraphStyle : public bridge::Bound<NSParagraphStyle, bridge::NSObject> {
+class NSParagraphStyleState : public Bound<NSParagraphStyleState, NSObject, NSParagraphStyle> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // A new style; autoreleased.
-  static bridge::NSObject make(const ParagraphStyle& value);
+  static NSObject make(const ParagraphStyle& value);
   // The value of a style; the standard one for nil and for what is no style.
-  static ParagraphStyle valueOf(bridge::Object style);
+  static ParagraphStyle valueOf(Object style);
 
   const ParagraphStyle& value() const { return _value; }
   void setValue(const ParagraphStyle& value) { _value = value; }
 
  private:
-  static bridge::NSObject defaultParagraphStyle() { return make({}); }
+  static NSObject defaultParagraphStyle() { return make({}); }
 
   template <auto Field>
   auto get() const;
-  bridge::Object copyWithZone(void* zone) const;
-  bridge::Object mutableCopyWithZone(void* zone) const;
-  bool isEqual(bridge::Object other) const;
+  Object copyWithZone(void* zone) const;
+  Object mutableCopyWithZone(void* zone) const;
+  bool isEqual(Object other) const;
   NSUInteger hash() const;
 
   ParagraphStyle _value;
 };
 
-class NSMutableParagraphStyle
-    : public bridge::Bound<NSMutableParagraphStyle, handles::NSParagraphStyle> {
+class NSMutableParagraphStyleState
+    : public Bound<NSMutableParagraphStyleState, NSParagraphStyleState, NSMutableParagraphStyle> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -46,7 +47,7 @@ class NSMutableParagraphStyle
   void setLength(CGFloat points);
   void setAlignment(NSInteger alignment);
   void setLineBreakMode(NSInteger mode);
-  void setParagraphStyle(bridge::NSObject style);
+  void setParagraphStyle(NSObject style);
 };
 
 }  // namespace desktop::uikit

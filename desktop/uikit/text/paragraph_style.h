@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/runtime/objc.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 

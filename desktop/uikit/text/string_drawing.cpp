@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "bridge/foundation.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/text/ui_font.h"
 #include "desktop/uikit/text/utf16.h"
 
@@ -16,9 +17,9 @@ constexpr FontFace faceWithoutFont{.size = 12};
 
 // As wide as the longest line, as high as the lines.
 CGSize NSString_sizeWithAttributes(id self, SEL, id attributes) {
-  const FontFace face = UIFont::faceOf(
-      bridge::NSDictionary(attributes).at(bridge::Object(NSFontAttributeName)), faceWithoutFont);
-  const std::u16string text = utf16Of(bridge::NSString(self));
+  const FontFace face = UIFontState::faceOf(
+      NSDictionary(attributes).at(Object(NSFontAttributeName)), faceWithoutFont);
+  const std::u16string text = utf16Of(NSString(self));
   CGSize size;
   for (std::size_t start = 0; start <= text.size();) {
     const std::size_t end = std::min(text.find(u'\n', start), text.size());
@@ -33,12 +34,11 @@ CGSize NSString_sizeWithAttributes(id self, SEL, id attributes) {
 }  // namespace
 
 void addStringDrawing() {
-  const bridge::AutoreleasePool pool;
-  NSFontAttributeName =
-      bridge::Owned<bridge::NSString>::retain(bridge::NSString::make("NSFont")).detach().get();
-  class_addMethod(bridge::NSString::classObject(), bridge::selector<"sizeWithAttributes:">(),
+  const AutoreleasePool pool;
+  NSFontAttributeName = Owned<NSString>::retain(NSString::make("NSFont")).detach().get();
+  class_addMethod(NSString::classObject(), selector<"sizeWithAttributes:">(),
                   reinterpret_cast<IMP>(&NSString_sizeWithAttributes),
-                  bridge::encodingOf<CGSize(id, SEL, id)>.data());
+                  encodingOf<CGSize(id, SEL, id)>.data());
 }
 
 }  // namespace desktop::uikit

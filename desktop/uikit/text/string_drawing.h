@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/runtime/types.h"
+#include "desktop/platform.h"
 
 #pragma GCC visibility push(default)
 extern "C" {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "bridge/geometry.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 

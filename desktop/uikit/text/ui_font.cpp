@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 namespace {
@@ -36,56 +37,55 @@ FontWeight nearestWeight(double weight) {
 
 }  // namespace
 
-Class UIFont::classObject() {
+Class UIFontState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIFont>("UIFont")
-          .classMethod<"systemFontOfSize:", &UIFont::systemFontOfSize>()
-          .classMethod<"boldSystemFontOfSize:", &UIFont::boldSystemFontOfSize>()
-          .classMethod<"systemFontOfSize:weight:", &UIFont::systemFontOfWeight>()
-          .classMethod<"fontWithName:size:", &UIFont::fontWithName>()
-          .method<"fontWithSize:", &UIFont::fontWithSize>()
-          .method<"fontName", &UIFont::fontName>()
-          .method<"familyName", &UIFont::familyName>()
-          .method<"pointSize", &UIFont::pointSize>()
-          .method<"lineHeight", &UIFont::lineHeight>()
-          .method<"ascender", &UIFont::ascender>()
-          .method<"descender", &UIFont::descender>()
-          .method<"leading", &UIFont::leading>()
-          .method<"capHeight", &UIFont::capHeight>()
-          .method<"xHeight", &UIFont::xHeight>()
-          .method<"copyWithZone:", &UIFont::copyWithZone>()
-          .method<"isEqual:", &UIFont::isEqual>()
-          .method<"hash", &UIFont::hash>()
+      ClassBuilder<UIFontState>("UIFont")
+          .classMethod<"systemFontOfSize:", &UIFontState::systemFontOfSize>()
+          .classMethod<"boldSystemFontOfSize:", &UIFontState::boldSystemFontOfSize>()
+          .classMethod<"systemFontOfSize:weight:", &UIFontState::systemFontOfWeight>()
+          .classMethod<"fontWithName:size:", &UIFontState::fontWithName>()
+          .method<"fontWithSize:", &UIFontState::fontWithSize>()
+          .method<"fontName", &UIFontState::fontName>()
+          .method<"familyName", &UIFontState::familyName>()
+          .method<"pointSize", &UIFontState::pointSize>()
+          .method<"lineHeight", &UIFontState::lineHeight>()
+          .method<"ascender", &UIFontState::ascender>()
+          .method<"descender", &UIFontState::descender>()
+          .method<"leading", &UIFontState::leading>()
+          .method<"capHeight", &UIFontState::capHeight>()
+          .method<"xHeight", &UIFontState::xHeight>()
+          .method<"copyWithZone:", &UIFontState::copyWithZone>()
+          .method<"isEqual:", &UIFontState::isEqual>()
+          .method<"hash", &UIFontState::hash>()
           .build();
   return made;
 }
 
-bridge::UIFont UIFont::make(const FontFace& face) {
-  auto font =
-      bridge::Owned<bridge::UIFont>::adopt(bridge::send<bridge::UIFont, "new">(classObject()));
+UIFont UIFontState::make(const FontFace& face) {
+  auto font = Owned<UIFont>::adopt(send<UIFont, "new">(classObject()));
   if (!font) return {};
   of(font.get())._face = face;
   if (!(std::isfinite(face.size) && face.size > 0)) of(font.get())._face.size = standardSize;
   return font.autorelease();
 }
 
-FontFace UIFont::faceOf(bridge::Object font, const FontFace& otherwise) {
-  return bridge::isKindOf(font, classObject()) ? of(font.get())._face : otherwise;
+FontFace UIFontState::faceOf(Object font, const FontFace& otherwise) {
+  return isKindOf(font, classObject()) ? of(font.get())._face : otherwise;
 }
 
-bridge::UIFont UIFont::systemFontOfSize(CGFloat size) {
+UIFont UIFontState::systemFontOfSize(CGFloat size) {
   return make({.size = size});
 }
 
-bridge::UIFont UIFont::boldSystemFontOfSize(CGFloat size) {
+UIFont UIFontState::boldSystemFontOfSize(CGFloat size) {
   return make({.weight = FontWeight::bold, .size = size});
 }
 
-bridge::UIFont UIFont::systemFontOfWeight(CGFloat size, CGFloat weight) {
+UIFont UIFontState::systemFontOfWeight(CGFloat size, CGFloat weight) {
   return make({.weight = nearestWeight(weight), .size = size});
 }
 
-bridge::UIFont UIFont::fontWithName(bridge::NSString name, CGFloat size) {
+UIFont UIFontState::fontWithName(NSString name, CGFloat size) {
   const std::string text = name.utf8();
   for (const Family& known : families) {
     if (!text.starts_with(known.name)) continue;
@@ -95,11 +95,11 @@ bridge::UIFont UIFont::fontWithName(bridge::NSString name, CGFloat size) {
   return {};
 }
 
-bridge::UIFont UIFont::fontWithSize(CGFloat size) const {
+UIFont UIFontState::fontWithSize(CGFloat size) const {
   return make({_face.family, _face.weight, size});
 }
 
-std::string_view UIFont::name() const {
+std::string_view UIFontState::name() const {
   const bool isCourier = _face.family == FontFamily::courier;
   switch (_face.weight) {
     case FontWeight::semibold:
@@ -111,28 +111,28 @@ std::string_view UIFont::name() const {
   }
 }
 
-bridge::NSString UIFont::familyName() const {
-  return bridge::NSString::make(familyOf(_face).name);
+NSString UIFontState::familyName() const {
+  return NSString::make(familyOf(_face).name);
 }
 
-CGFloat UIFont::capHeight() const {
+CGFloat UIFontState::capHeight() const {
   return familyOf(_face).capHeight * _face.size;
 }
 
-CGFloat UIFont::xHeight() const {
+CGFloat UIFontState::xHeight() const {
   return familyOf(_face).xHeight * _face.size;
 }
 
 // A font never changes: its copy is itself, with a reference for the caller.
-bridge::Object UIFont::copyWithZone(void*) {
-  return bridge::Owned<bridge::NSObject>::retain(self()).detach();
+Object UIFontState::copyWithZone(void*) {
+  return Owned<NSObject>::retain(self()).detach();
 }
 
-bool UIFont::isEqual(bridge::Object other) const {
-  return bridge::isKindOf(other, classObject()) && of(other.get())._face == _face;
+bool UIFontState::isEqual(Object other) const {
+  return isKindOf(other, classObject()) && of(other.get())._face == _face;
 }
 
-NSUInteger UIFont::hash() const {
+NSUInteger UIFontState::hash() const {
   return std::hash<double>()(_face.size);
 }
 

@@ -4,20 +4,22 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_appearance.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/text_engine.h"
 
 namespace desktop::uikit {
 
-class UIFont : public bridge::Bound<UIFont, bridge::NSObject> {
+class UIFontState : public Bound<UIFontState, NSObject, UIFont> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // A new font; autoreleased. A size that is not positive and finite becomes the standard one.
-  static bridge::UIFont make(const FontFace& face);
+  static UIFont make(const FontFace& face);
   // The face of a font; another one for nil and for what is no font.
-  static FontFace faceOf(bridge::Object font, const FontFace& otherwise = {});
+  static FontFace faceOf(Object font, const FontFace& otherwise = {});
 
   const FontFace& face() const { return _face; }
   CGFloat pointSize() const { return _face.size; }
@@ -25,23 +27,23 @@ class UIFont : public bridge::Bound<UIFont, bridge::NSObject> {
   std::string_view name() const;
 
  private:
-  static bridge::UIFont systemFontOfSize(CGFloat size);
-  static bridge::UIFont boldSystemFontOfSize(CGFloat size);
-  static bridge::UIFont systemFontOfWeight(CGFloat size, CGFloat weight);
+  static UIFont systemFontOfSize(CGFloat size);
+  static UIFont boldSystemFontOfSize(CGFloat size);
+  static UIFont systemFontOfWeight(CGFloat size, CGFloat weight);
   // Nil for a name that is not known.
-  static bridge::UIFont fontWithName(bridge::NSString name, CGFloat size);
+  static UIFont fontWithName(NSString name, CGFloat size);
 
-  bridge::UIFont fontWithSize(CGFloat size) const;
-  bridge::NSString fontName() const { return bridge::NSString::make(name()); }
-  bridge::NSString familyName() const;
+  UIFont fontWithSize(CGFloat size) const;
+  NSString fontName() const { return NSString::make(name()); }
+  NSString familyName() const;
   CGFloat lineHeight() const { return measuresOf(_face).lineHeight(); }
   CGFloat ascender() const { return measuresOf(_face).ascender; }
   CGFloat descender() const { return measuresOf(_face).descender; }
   CGFloat leading() const { return 0; }
   CGFloat capHeight() const;
   CGFloat xHeight() const;
-  bridge::Object copyWithZone(void* zone);
-  bool isEqual(bridge::Object other) const;
+  Object copyWithZone(void* zone);
+  bool isEqual(Object other) const;
   NSUInteger hash() const;
 
   FontFace _face;

@@ -27,19 +27,18 @@ std::u16string withoutLoneSurrogates(std::u16string_view text) {
   return made;
 }
 
-std::u16string utf16Of(bridge::NSString text) {
+std::u16string utf16Of(NSString text) {
   std::u16string units(text.length(), u'\0');
   auto* const start = reinterpret_cast<unsigned short*>(units.data());
-  bridge::send<void, "getCharacters:range:">(text, start, NSRange{0, units.size()});
+  send<void, "getCharacters:range:">(text, start, NSRange{0, units.size()});
   return units;
 }
 
-bridge::NSString stringOf(std::u16string_view units) {
-  using bridge::NSString;
+NSString stringOf(std::u16string_view units) {
   const std::u16string valid = withoutLoneSurrogates(units);
   const auto* const start = reinterpret_cast<const unsigned short*>(valid.data());
-  auto made = bridge::Owned<NSString>::adopt(bridge::send<NSString, "initWithCharacters:length:">(
-      bridge::send<id, "alloc">(NSString::classObject()), start, NSUInteger{valid.size()}));
+  auto made = Owned<NSString>::adopt(send<NSString, "initWithCharacters:length:">(
+      send<id, "alloc">(NSString::classObject()), start, NSUInteger{valid.size()}));
   return made.autorelease();
 }
 

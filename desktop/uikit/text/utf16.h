@@ -6,6 +6,7 @@
 #include <string>
 
 #include "bridge/foundation/ns_string.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
@@ -23,10 +24,10 @@ std::size_t outsidePair(std::u16string_view text, std::size_t index);
 std::u16string withoutLoneSurrogates(std::u16string_view text);
 
 // The units of a string, lone surrogates included; empty for nil.
-std::u16string utf16Of(bridge::NSString text);
+std::u16string utf16Of(NSString text);
 
 // A string of these units without lone surrogates, which the platform's strings cannot be made
 // of. Autoreleased.
-bridge::NSString stringOf(std::u16string_view units);
+NSString stringOf(std::u16string_view units);
 
 }  // namespace desktop::uikit

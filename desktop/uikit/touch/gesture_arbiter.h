@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
@@ -23,20 +24,20 @@ class GestureArbiter {
     Turn& operator=(const Turn&) = delete;
 
    private:
-    const bridge::AutoreleasePool _pool;
+    const AutoreleasePool _pool;
     GestureArbiter& _arbiter;
   };
 
-  using Recognizers = std::vector<bridge::Owned<bridge::UIGestureRecognizer>>;
+  using Recognizers = std::vector<Owned<UIGestureRecognizer>>;
   // All that take part in a touch which the recogniser takes part in, without itself.
-  virtual Recognizers rivalsOf(bridge::UIGestureRecognizer recognizer) const = 0;
-  virtual bool takesPart(bridge::UIGestureRecognizer recognizer) const = 0;
+  virtual Recognizers rivalsOf(UIGestureRecognizer recognizer) const = 0;
+  virtual bool takesPart(UIGestureRecognizer recognizer) const = 0;
   // The view below the finger that the recogniser watches, or watched last; nil where it does not.
-  virtual bridge::UIView touchedViewOf(bridge::UIGestureRecognizer recognizer) const = 0;
+  virtual UIView touchedViewOf(UIGestureRecognizer recognizer) const = 0;
   // The touches that the recogniser takes part in are now its own.
-  virtual void takeFromViews(bridge::UIGestureRecognizer recognizer) = 0;
+  virtual void takeFromViews(UIGestureRecognizer recognizer) = 0;
   // It takes part in no touch any longer.
-  virtual void forget(bridge::UIGestureRecognizer recognizer) = 0;
+  virtual void forget(UIGestureRecognizer recognizer) = 0;
 
  private:
   virtual void beginTurn() = 0;

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "bridge/uikit/ui_controllers.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/touch/touch_session.h"
@@ -38,12 +39,11 @@ void TouchDispatcher::endTurn() {
   --_turns;
 }
 
-bridge::UIView TouchDispatcher::viewAt(CGPoint point, bridge::UIEvent event) const {
-  const auto windows = bridge::UIApplication::sharedApplication().windows();
+UIView TouchDispatcher::viewAt(CGPoint point, UIEvent event) const {
+  const auto windows = UIApplication::sharedApplication().windows();
   for (NSUInteger index = windows.count(); index-- > 0;) {
-    const bridge::UIView window(windows.at(index).get());
-    const auto hit = bridge::send<bridge::UIView, "hitTest:withEvent:">(
-        window, fromScreen(point, window), event);
+    const UIView window(windows.at(index).get());
+    const auto hit = send<UIView, "hitTest:withEvent:">(window, fromScreen(point, window), event);
     if (hit) return hit;
   }
   return {};
@@ -59,26 +59,26 @@ void TouchDispatcher::down(CGPoint point) {
   if (!isFinite(point)) return;
   cancel();
   const Turn turn(*this);
-  const auto event = UIEvent::make();
-  const bridge::UIView view = viewAt(point, event);
+  const auto event = UIEventState::make();
+  const UIView view = viewAt(point, event);
   if (!view) return;
   _taps = tapsWith(point);
-  const auto touch = UITouch::make(view, point, _taps);
-  UIEvent::of(event.get()).setTouch(touch);
+  const auto touch = UITouchState::make(view, point, _taps);
+  UIEventState::of(event.get()).setTouch(touch);
   const auto session = std::make_shared<TouchSession>(touch, event);
   _current = session;
   _sessions.push_back(session);
-  session->deliver(UITouch::began);
+  session->deliver(UITouchState::began);
 }
 
 void TouchDispatcher::move(CGPoint point) {
   if (!_current || !isFinite(point)) return;
   const Turn turn(*this);
   const Session session = _current;
-  UITouch& touch = UITouch::of(session->touch());
+  UITouchState& touch = UITouchState::of(session->touch());
   if (touch.location() == point) return;
   touch.moveTo(point);
-  session->deliver(UITouch::moved);
+  session->deliver(UITouchState::moved);
 }
 
 void TouchDispatcher::up(CGPoint point) {
@@ -88,25 +88,25 @@ void TouchDispatcher::up(CGPoint point) {
 
 void TouchDispatcher::cancel() {
   if (!_current) return;
-  finish(UITouch::of(_current->touch()).location(), true);
+  finish(UITouchState::of(_current->touch()).location(), true);
 }
 
 void TouchDispatcher::finish(CGPoint point, bool isCancelled) {
   const Turn turn(*this);
   const Session session = std::exchange(_current, nullptr);
-  UITouch::of(session->touch()).moveTo(point);
+  UITouchState::of(session->touch()).moveTo(point);
   _lastUp = point;
   _lastUpTime = scheduler().now();
   if (isCancelled) _taps = 0;
-  session->deliver(isCancelled ? UITouch::cancelled : UITouch::ended);
+  session->deliver(isCancelled ? UITouchState::cancelled : UITouchState::ended);
 }
 
 void TouchDispatcher::scroll(CGPoint at, CGPoint distance) {
   if (!isFinite(at) || !isFinite(distance)) return;
   const Turn turn(*this);
-  bridge::UIView view = viewAt(at, UIEvent::make());
-  for (; view; view = UIView::of(view).superview())
-    if (bridge::send<bool, "_scrollBy:">(view, distance)) return;
+  UIView view = viewAt(at, UIEventState::make());
+  for (; view; view = UIViewState::of(view).superview())
+    if (send<bool, "_scrollBy:">(view, distance)) return;
 }
 
 void TouchDispatcher::abandon() {
@@ -115,11 +115,10 @@ void TouchDispatcher::abandon() {
   const auto sessions = std::exchange(_sessions, {});
   for (const Session& session : sessions)
     for (const auto& recognizer : session->recognizers())
-      UIGestureRecognizer::of(recognizer.get()).startAnew();
+      UIGestureRecognizerState::of(recognizer.get()).startAnew();
 }
 
-TouchDispatcher::Recognizers TouchDispatcher::rivalsOf(
-    bridge::UIGestureRecognizer recognizer) const {
+TouchDispatcher::Recognizers TouchDispatcher::rivalsOf(UIGestureRecognizer recognizer) const {
   Recognizers rivals;
   for (const Session& session : _sessions) {
     if (!session->has(recognizer)) continue;
@@ -129,31 +128,31 @@ TouchDispatcher::Recognizers TouchDispatcher::rivalsOf(
   return rivals;
 }
 
-bool TouchDispatcher::takesPart(bridge::UIGestureRecognizer recognizer) const {
+bool TouchDispatcher::takesPart(UIGestureRecognizer recognizer) const {
   return std::ranges::any_of(_sessions,
                              [&](const Session& session) { return session->has(recognizer); });
 }
 
-bridge::UIView TouchDispatcher::touchedViewOf(bridge::UIGestureRecognizer recognizer) const {
-  bridge::UIView view;
+UIView TouchDispatcher::touchedViewOf(UIGestureRecognizer recognizer) const {
+  UIView view;
   for (const Session& session : _sessions)
-    if (session->has(recognizer)) view = UITouch::of(session->touch()).view();
+    if (session->has(recognizer)) view = UITouchState::of(session->touch()).view();
   return view;
 }
 
-void TouchDispatcher::takeFromViews(bridge::UIGestureRecognizer recognizer) {
+void TouchDispatcher::takeFromViews(UIGestureRecognizer recognizer) {
   const Turn turn(*this);
   const auto present = _sessions;
   for (const Session& session : present)
     if (session->has(recognizer)) session->cancelInView();
 }
 
-void TouchDispatcher::forget(bridge::UIGestureRecognizer recognizer) {
+void TouchDispatcher::forget(UIGestureRecognizer recognizer) {
   if (!takesPart(recognizer)) return;
   const Turn turn(*this);
-  const auto kept = bridge::Owned<bridge::UIGestureRecognizer>::retain(recognizer);
+  const auto kept = Owned<UIGestureRecognizer>::retain(recognizer);
   for (const Session& session : _sessions) session->drop(recognizer);
-  UIGestureRecognizer::of(recognizer).startAnew();
+  UIGestureRecognizerState::of(recognizer).startAnew();
 }
 
 void TouchDispatcher::tidy() {
@@ -168,7 +167,7 @@ bool TouchDispatcher::tidyOnce() {
   for (const Session& session : present) {
     const auto recognizers = session->recognizers();
     for (const auto& recognizer : recognizers)
-      moved |= UIGestureRecognizer::of(recognizer.get()).tryAgain();
+      moved |= UIGestureRecognizerState::of(recognizer.get()).tryAgain();
     moved |= session->flush();
   }
   if (moved) return true;
@@ -181,7 +180,7 @@ void TouchDispatcher::release(const Session& session) {
   if (session->isFingerDown()) return;
   const auto recognizers = session->recognizers();
   for (const auto& recognizer : recognizers) {
-    UIGestureRecognizer& state = UIGestureRecognizer::of(recognizer.get());
+    UIGestureRecognizerState& state = UIGestureRecognizerState::of(recognizer.get());
     if (state.isUndecided()) continue;
     session->drop(recognizer);
     if (!takesPart(recognizer)) state.startAnew();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/touch/gesture_arbiter.h"
 
@@ -39,18 +40,18 @@ class TouchDispatcher : public GestureArbiter {
   void abandon();
 
   // For recognisers.
-  Recognizers rivalsOf(bridge::UIGestureRecognizer recognizer) const override;
-  bool takesPart(bridge::UIGestureRecognizer recognizer) const override;
-  bridge::UIView touchedViewOf(bridge::UIGestureRecognizer recognizer) const override;
-  void takeFromViews(bridge::UIGestureRecognizer recognizer) override;
-  void forget(bridge::UIGestureRecognizer recognizer) override;
+  Recognizers rivalsOf(UIGestureRecognizer recognizer) const override;
+  bool takesPart(UIGestureRecognizer recognizer) const override;
+  UIView touchedViewOf(UIGestureRecognizer recognizer) const override;
+  void takeFromViews(UIGestureRecognizer recognizer) override;
+  void forget(UIGestureRecognizer recognizer) override;
 
  private:
   using Session = std::shared_ptr<TouchSession>;
 
   void beginTurn() override { ++_turns; }
   void endTurn() override;
-  bridge::UIView viewAt(CGPoint point, bridge::UIEvent event) const;
+  UIView viewAt(CGPoint point, UIEvent event) const;
   NSInteger tapsWith(CGPoint point) const;
   void finish(CGPoint point, bool isCancelled);
   void tidy();

@@ -14,72 +14,72 @@ namespace {
 constexpr Seconds scrollingTime =
     0.15;  // in which a finger on scrollable content moves, or is a touch
 
-void tell(bridge::UIView view, UITouch::Phase phase, bridge::NSSet touches, bridge::UIEvent event) {
+void tell(UIView view, UITouchState::Phase phase, NSSet touches, UIEvent event) {
   switch (phase) {
-    case UITouch::began:
-      return bridge::send<void, "touchesBegan:withEvent:">(view, touches, event);
-    case UITouch::moved:
-    case UITouch::stationary:
-      return bridge::send<void, "touchesMoved:withEvent:">(view, touches, event);
-    case UITouch::ended:
-      return bridge::send<void, "touchesEnded:withEvent:">(view, touches, event);
-    case UITouch::cancelled:
-      return bridge::send<void, "touchesCancelled:withEvent:">(view, touches, event);
+    case UITouchState::began:
+      return send<void, "touchesBegan:withEvent:">(view, touches, event);
+    case UITouchState::moved:
+    case UITouchState::stationary:
+      return send<void, "touchesMoved:withEvent:">(view, touches, event);
+    case UITouchState::ended:
+      return send<void, "touchesEnded:withEvent:">(view, touches, event);
+    case UITouchState::cancelled:
+      return send<void, "touchesCancelled:withEvent:">(view, touches, event);
   }
 }
 
-UIGestureRecognizer& stateOf(bridge::UIGestureRecognizer recognizer) {
-  return UIGestureRecognizer::of(recognizer);
+UIGestureRecognizerState& stateOf(UIGestureRecognizer recognizer) {
+  return UIGestureRecognizerState::of(recognizer);
 }
 
 }  // namespace
 
-TouchSession::TouchSession(bridge::UITouch touch, bridge::UIEvent event)
-    : _touch(bridge::Owned<bridge::UITouch>::retain(touch)),
-      _event(bridge::Owned<bridge::UIEvent>::retain(event)) {
+TouchSession::TouchSession(UITouch touch, UIEvent event)
+    : _touch(Owned<UITouch>::retain(touch)), _event(Owned<UIEvent>::retain(event)) {
   findRecognizers();
   holdForScrolling();
 }
 
 void TouchSession::findRecognizers() {
-  for (bridge::UIView view = UITouch::of(_touch.get()).view(); view;
-       view = UIView::of(view).superview()) {
-    const auto candidates = UIView::of(view).gestureRecognizers();
+  for (UIView view = UITouchState::of(_touch.get()).view(); view;
+       view = UIViewState::of(view).superview()) {
+    const auto candidates = UIViewState::of(view).gestureRecognizers();
     for (const auto& candidate : candidates)
       if (stateOf(candidate).wantsTouch(_touch)) _recognizers.push_back(candidate);
   }
 }
 
 void TouchSession::holdForScrolling() {
-  bridge::UIView view = UITouch::of(_touch.get()).view();
-  while ((view = UIView::of(view).superview())) {
-    if (!bridge::send<bool, "_delaysTouches">(view)) continue;
+  UIView view = UITouchState::of(_touch.get()).view();
+  while ((view = UIViewState::of(view).superview())) {
+    if (!send<bool, "_delaysTouches">(view)) continue;
     return _scrolling.callAfter(scrollingTime,
                                 [] { const GestureArbiter::Turn turn(gestureArbiter()); });
   }
 }
 
-bool TouchSession::has(bridge::UIGestureRecognizer recognizer) const {
-  return std::ranges::find(_recognizers, recognizer,
-                           &bridge::Owned<bridge::UIGestureRecognizer>::get) != _recognizers.end();
+bool TouchSession::has(UIGestureRecognizer recognizer) const {
+  return std::ranges::find(_recognizers, recognizer, &Owned<UIGestureRecognizer>::get) !=
+         _recognizers.end();
 }
 
 bool TouchSession::isOpen() const {
   return _isFingerDown || !_untold.empty() || !_recognizers.empty();
 }
 
-void TouchSession::deliver(UITouch::Phase phase) {
+void TouchSession::deliver(UITouchState::Phase phase) {
   const auto present = _recognizers;
   for (const auto& recognizer : present) {
-    UITouch::of(_touch.get()).setPhase(phase);  // the view may have heard of another one meanwhile
+    UITouchState::of(_touch.get())
+        .setPhase(phase);  // the view may have heard of another one meanwhile
     if (has(recognizer)) stateOf(recognizer).touched(_touch, _event);
   }
-  if (phase == UITouch::ended || phase == UITouch::cancelled) {
+  if (phase == UITouchState::ended || phase == UITouchState::cancelled) {
     _isFingerDown = false;
     _scrolling.cancel();
     giveUpUndecided();
   }
-  _untold.push_back({phase, UITouch::of(_touch.get()).location()});
+  _untold.push_back({phase, UITouchState::of(_touch.get()).location()});
   flush();
 }
 
@@ -90,13 +90,13 @@ void TouchSession::giveUpUndecided() {
     if (has(recognizer) && !stateOf(recognizer).staysUndecided()) stateOf(recognizer).giveUp();
 }
 
-bool TouchSession::isHeld(UITouch::Phase phase) const {
+bool TouchSession::isHeld(UITouchState::Phase phase) const {
   if (!_viewKnows && _scrolling.isWaiting()) return true;
   return std::ranges::any_of(_recognizers, [&](const auto& recognizer) {
-    const UIGestureRecognizer& state = stateOf(recognizer);
+    const UIGestureRecognizerState& state = stateOf(recognizer);
     if (!state.isUndecided()) return false;
     return (!_viewKnows && state.delaysTouchesBegan()) ||
-           (phase == UITouch::ended && state.delaysTouchesEnded());
+           (phase == UITouchState::ended && state.delaysTouchesEnded());
   });
 }
 
@@ -114,13 +114,14 @@ bool TouchSession::flush() {
 
 // What was kept back is told with the finger where it was then.
 void TouchSession::tellView(const Step& step) {
-  UITouch& touch = UITouch::of(_touch.get());
-  if (step.phase == UITouch::began) _viewKnows = true;
-  if (step.phase == UITouch::ended || step.phase == UITouch::cancelled) _isOverForView = true;
+  UITouchState& touch = UITouchState::of(_touch.get());
+  if (step.phase == UITouchState::began) _viewKnows = true;
+  if (step.phase == UITouchState::ended || step.phase == UITouchState::cancelled)
+    _isOverForView = true;
   const CGPoint now = touch.location();
   touch.setLocation(step.at);
   touch.setPhase(step.phase);
-  tell(touch.view(), step.phase, UIEvent::of(_event.get()).allTouches(), _event);
+  tell(touch.view(), step.phase, UIEventState::of(_event.get()).allTouches(), _event);
   touch.setLocation(now);
 }
 
@@ -128,10 +129,10 @@ void TouchSession::cancelInView() {
   if (_isOverForView) return;
   _untold.clear();
   _isOverForView = true;
-  if (_viewKnows) tellView({UITouch::cancelled, UITouch::of(_touch.get()).location()});
+  if (_viewKnows) tellView({UITouchState::cancelled, UITouchState::of(_touch.get()).location()});
 }
 
-void TouchSession::drop(bridge::UIGestureRecognizer recognizer) {
+void TouchSession::drop(UIGestureRecognizer recognizer) {
   std::erase_if(_recognizers, [&](const auto& known) { return known.get() == recognizer; });
 }
 

@@ -15,37 +15,37 @@ namespace desktop::uikit {
 
 class TouchSession {
  public:
-  TouchSession(bridge::UITouch touch, bridge::UIEvent event);
+  TouchSession(UITouch touch, UIEvent event);
 
-  bridge::UITouch touch() const { return _touch; }
+  UITouch touch() const { return _touch; }
   const GestureArbiter::Recognizers& recognizers() const { return _recognizers; }
-  bool has(bridge::UIGestureRecognizer recognizer) const;
+  bool has(UIGestureRecognizer recognizer) const;
   bool isFingerDown() const { return _isFingerDown; }
   // Whether something may still come of it.
   bool isOpen() const;
 
   // Tells the recognisers, then the view, unless a recogniser keeps that back.
-  void deliver(UITouch::Phase phase);
+  void deliver(UITouchState::Phase phase);
   // Tells the view what may be told by now. Whether there was something.
   bool flush();
   // The view hears that the touch is over, if it has heard of it at all.
   void cancelInView();
-  void drop(bridge::UIGestureRecognizer recognizer);
+  void drop(UIGestureRecognizer recognizer);
 
  private:
   void findRecognizers();
   void holdForScrolling();
   void giveUpUndecided();
-  bool isHeld(UITouch::Phase phase) const;
+  bool isHeld(UITouchState::Phase phase) const;
   // A step of the touch, and where the finger was on the screen.
   struct Step {
-    UITouch::Phase phase;
+    UITouchState::Phase phase;
     CGPoint at;
   };
   void tellView(const Step& step);
 
-  bridge::Owned<bridge::UITouch> _touch;
-  bridge::Owned<bridge::UIEvent> _event;
+  Owned<UITouch> _touch;
+  Owned<UIEvent> _event;
   GestureArbiter::Recognizers _recognizers;  // the touched view's first, then those around it
   std::deque<Step> _untold;                  // what the view has not been told yet
   PendingCall _scrolling;                    // waits whether the finger scrolls

@@ -2,47 +2,48 @@
 #include "desktop/uikit/touch/ui_event.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/touch/ui_touch.h"
 
 namespace desktop::uikit {
 namespace {
 
-bridge::NSSet setOf(bridge::UITouch touch) {
-  return touch ? bridge::send<bridge::NSSet, "setWithObject:">(bridge::NSSet::classObject(), touch)
-               : bridge::send<bridge::NSSet, "set">(bridge::NSSet::classObject());
+NSSet setOf(UITouch touch) {
+  return touch ? send<NSSet, "setWithObject:">(NSSet::classObject(), touch)
+               : send<NSSet, "set">(NSSet::classObject());
 }
 
 }  // namespace
 
-Class UIEvent::classObject() {
-  static const Class made = bridge::ClassBuilder<UIEvent>("UIEvent")
-                                .method<"allTouches", &UIEvent::allTouches>()
-                                .method<"touchesForView:", &UIEvent::touchesForView>()
-                                .method<"type", &UIEvent::type>()
-                                .method<"timestamp", &UIEvent::timestamp>()
+Class UIEventState::classObject() {
+  static const Class made = ClassBuilder<UIEventState>("UIEvent")
+                                .method<"allTouches", &UIEventState::allTouches>()
+                                .method<"touchesForView:", &UIEventState::touchesForView>()
+                                .method<"type", &UIEventState::type>()
+                                .method<"timestamp", &UIEventState::timestamp>()
                                 .build();
   return made;
 }
 
-bridge::Owned<bridge::UIEvent> UIEvent::make() {
-  return bridge::makeNew<bridge::UIEvent>();
+Owned<UIEvent> UIEventState::make() {
+  return makeNew<UIEvent>();
 }
 
-void UIEvent::setTouch(bridge::UITouch touch) {
-  _touch = bridge::Owned<bridge::UITouch>::retain(touch);
+void UIEventState::setTouch(UITouch touch) {
+  _touch = Owned<UITouch>::retain(touch);
 }
 
-bridge::NSSet UIEvent::allTouches() const {
+NSSet UIEventState::allTouches() const {
   return setOf(_touch);
 }
 
-bridge::NSSet UIEvent::touchesForView(bridge::UIView view) const {
-  const bool isOnIt = _touch && UITouch::of(_touch.get()).view() == view;
-  return setOf(isOnIt ? _touch.get() : bridge::UITouch());
+NSSet UIEventState::touchesForView(UIView view) const {
+  const bool isOnIt = _touch && UITouchState::of(_touch.get()).view() == view;
+  return setOf(isOnIt ? _touch.get() : UITouch());
 }
 
-Seconds UIEvent::timestamp() const {
-  return _touch ? UITouch::of(_touch.get()).timestamp() : 0;
+Seconds UIEventState::timestamp() const {
+  return _touch ? UITouchState::of(_touch.get()).timestamp() : 0;
 }
 
 }  // namespace desktop::uikit

@@ -4,28 +4,30 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 
 namespace desktop::uikit {
 
-class UIEvent : public bridge::Bound<UIEvent, bridge::NSObject> {
+class UIEventState : public Bound<UIEventState, NSObject, UIEvent> {
  public:
   using Bound::Bound;
   static Class classObject();
-  static bridge::Owned<bridge::UIEvent> make();
+  static Owned<UIEvent> make();
 
   // What it is about; nil while the touched view is still looked for.
-  void setTouch(bridge::UITouch touch);
+  void setTouch(UITouch touch);
   // A set of the one touch; autoreleased.
-  bridge::NSSet allTouches() const;
+  NSSet allTouches() const;
 
  private:
-  bridge::NSSet touchesForView(bridge::UIView view) const;
+  NSSet touchesForView(UIView view) const;
   NSInteger type() const { return 0; }  // touches
   Seconds timestamp() const;
 
-  bridge::Owned<bridge::UITouch> _touch;
+  Owned<UITouch> _touch;
 };
 
 }  // namespace desktop::uikit

@@ -9,6 +9,7 @@
 
 #include "bridge/class_builder.h"
 #include "bridge/runtime/fields.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/touch/gesture_arbiter.h"
 #include "desktop/uikit/touch/ui_event.h"
 #include "desktop/uikit/touch/ui_touch.h"
@@ -20,47 +21,45 @@ constexpr const char* targetsField = "_targets";
 constexpr const char* targetField = "_target";
 constexpr const char* actionField = "_action";
 
-bridge::NSMutableArray recordsOf(bridge::Object recognizer) {
-  return bridge::NSMutableArray(bridge::objectField(recognizer, targetsField).get());
+NSMutableArray recordsOf(Object recognizer) {
+  return NSMutableArray(objectField(recognizer, targetsField).get());
 }
 
-UIGestureRecognizer::Action actionOf(bridge::Object record) {
-  return {bridge::NSObject(bridge::objectField(record, targetField).get()),
-          bridge::selectorField(record, actionField)};
+UIGestureRecognizerState::Action actionOf(Object record) {
+  return {NSObject(objectField(record, targetField).get()), selectorField(record, actionField)};
 }
 
-bridge::Owned<bridge::NSObject> makeRecord(bridge::NSObject target, SEL action) {
-  auto record = bridge::Owned<bridge::NSObject>::adopt(
-      bridge::send<bridge::NSObject, "new">(UIGestureRecognizerTarget::classObject()));
-  bridge::setBorrowedField(record, targetField, target);
-  bridge::setSelectorField(record, actionField, action);
+Owned<NSObject> makeRecord(NSObject target, SEL action) {
+  auto record =
+      Owned<NSObject>::adopt(send<NSObject, "new">(UIGestureRecognizerTarget::classObject()));
+  setBorrowedField(record, targetField, target);
+  setSelectorField(record, actionField, action);
   return record;
 }
 
 // With the recogniser as its argument where the action takes one.
-void perform(const UIGestureRecognizer::Action& action, bridge::UIGestureRecognizer sender) {
+void perform(const UIGestureRecognizerState::Action& action, UIGestureRecognizer sender) {
   if (!action.target || !action.action) return;
-  if (bridge::argumentCount(sel_getName(action.action)) == 0)
-    bridge::dispatch<void>(action.target.get(), action.action);
+  if (argumentCount(sel_getName(action.action)) == 0)
+    dispatch<void>(action.target.get(), action.action);
   else
-    bridge::dispatch<void>(action.target.get(), action.action, sender.get());
+    dispatch<void>(action.target.get(), action.action, sender.get());
 }
 
 }  // namespace
 
 Class UIGestureRecognizerTarget::classObject() {
-  static const Class made =
-      bridge::ClassBuilder<UIGestureRecognizerTarget>("UIGestureRecognizerTarget")
-          .field(targetField, "@")
-          .field(actionField, ":")
-          .build();
+  static const Class made = ClassBuilder<UIGestureRecognizerTarget>("UIGestureRecognizerTarget")
+                                .field(targetField, "@")
+                                .field(actionField, ":")
+                                .build();
   return made;
 }
 
-Class UIGestureRecognizer::classObject() {
-  using Self = UIGestureRecognizer;
+Class UIGestureRecognizerState::classObject() {
+  using Self = UIGestureRecognizerState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UIGestureRecognizer")
+      ClassBuilder<Self>("UIGestureRecognizer")
           .field(targetsField, "@")
           .method<"init", &Self::init>()
           .method<"initWithTarget:action:", &Self::initWithTarget>()
@@ -95,134 +94,130 @@ Class UIGestureRecognizer::classObject() {
   return made;
 }
 
-UIGestureRecognizer::~UIGestureRecognizer() {
-  bridge::setObjectField(self(), targetsField, {});
+UIGestureRecognizerState::~UIGestureRecognizerState() {
+  setObjectField(self(), targetsField, {});
 }
 
-bridge::UIGestureRecognizer UIGestureRecognizer::init() {
-  return bridge::send<bridge::UIGestureRecognizer, "initWithTarget:action:">(
-      self(), bridge::NSObject(), SEL{});
+UIGestureRecognizer UIGestureRecognizerState::init() {
+  return send<UIGestureRecognizer, "initWithTarget:action:">(self(), NSObject(), SEL{});
 }
 
-bridge::UIGestureRecognizer UIGestureRecognizer::initWithTarget(bridge::NSObject target,
-                                                                SEL action) {
-  const auto object = super<bridge::UIGestureRecognizer, "init">();
+UIGestureRecognizer UIGestureRecognizerState::initWithTarget(NSObject target, SEL action) {
+  const auto object = super<UIGestureRecognizer, "init">();
   if (!object) return object;
-  bridge::setObjectField(object, targetsField, bridge::makeNew<bridge::NSMutableArray>().get());
+  setObjectField(object, targetsField, makeNew<NSMutableArray>().get());
   addTarget(target, action);
   return object;
 }
 
-std::vector<UIGestureRecognizer::Action> UIGestureRecognizer::actions() const {
+std::vector<UIGestureRecognizerState::Action> UIGestureRecognizerState::actions() const {
   std::vector<Action> all;
-  const bridge::NSMutableArray records = recordsOf(self());
+  const NSMutableArray records = recordsOf(self());
   for (NSUInteger index = 0; index < records.count(); ++index)
     all.push_back(actionOf(records.at(index)));
   return all;
 }
 
-void UIGestureRecognizer::addTarget(bridge::NSObject target, SEL action) {
+void UIGestureRecognizerState::addTarget(NSObject target, SEL action) {
   if (!target || !action) return;
   for (const Action& known : actions())
-    if (known.target == target && bridge::sameSelector(known.action, action)) return;
+    if (known.target == target && sameSelector(known.action, action)) return;
   recordsOf(self()).add(makeRecord(target, action).get());
 }
 
 // Nil is every target, null every action.
-void UIGestureRecognizer::removeTarget(bridge::NSObject target, SEL action) {
-  const bridge::NSMutableArray records = recordsOf(self());
+void UIGestureRecognizerState::removeTarget(NSObject target, SEL action) {
+  const NSMutableArray records = recordsOf(self());
   for (NSUInteger index = records.count(); index-- > 0;) {
     const Action known = actionOf(records.at(index));
-    if ((!target || known.target == target) &&
-        (!action || bridge::sameSelector(known.action, action)))
-      bridge::send<void, "removeObjectAtIndex:">(records, index);
+    if ((!target || known.target == target) && (!action || sameSelector(known.action, action)))
+      send<void, "removeObjectAtIndex:">(records, index);
   }
 }
 
-void UIGestureRecognizer::moveToView(bridge::UIView view) {
+void UIGestureRecognizerState::moveToView(UIView view) {
   if (view == _view) return;
   leaveTouches();
   _view = view;
 }
 
-void UIGestureRecognizer::leaveTouches() {
-  if (!gestureArbiter().takesPart(me())) return;
+void UIGestureRecognizerState::leaveTouches() {
+  if (!gestureArbiter().takesPart(self())) return;
   const GestureArbiter::Turn turn(gestureArbiter());
   giveUp();
-  gestureArbiter().forget(me());
+  gestureArbiter().forget(self());
 }
 
-void UIGestureRecognizer::viewIsGone() {
+void UIGestureRecognizerState::viewIsGone() {
   _view = {};
-  gestureArbiter().forget(me());
+  gestureArbiter().forget(self());
 }
 
-void UIGestureRecognizer::setEnabled(bool enabled) {
+void UIGestureRecognizerState::setEnabled(bool enabled) {
   if (enabled == _isEnabled) return;
   _isEnabled = enabled;
   if (!enabled) leaveTouches();
 }
 
-void UIGestureRecognizer::requireToFail(bridge::UIGestureRecognizer other) {
-  if (other && other != me())
-    _required.push_back(bridge::Owned<bridge::UIGestureRecognizer>::retain(other));
+void UIGestureRecognizerState::requireToFail(UIGestureRecognizer other) {
+  if (other && other != self()) _required.push_back(Owned<UIGestureRecognizer>::retain(other));
 }
 
-CGPoint UIGestureRecognizer::locationIn(bridge::UIView view) const {
+CGPoint UIGestureRecognizerState::locationIn(UIView view) const {
   return fromScreen(_location, view);
 }
 
-CGPoint UIGestureRecognizer::locationOfTouch(NSUInteger, bridge::UIView view) const {
+CGPoint UIGestureRecognizerState::locationOfTouch(NSUInteger, UIView view) const {
   return locationIn(view);
 }
 
-bool UIGestureRecognizer::wantsTouch(bridge::UITouch touch) const {
+bool UIGestureRecognizerState::wantsTouch(UITouch touch) const {
   if (!_isEnabled || !isUndecided() || isWaiting()) return false;
-  if (!bridge::respondsTo<"gestureRecognizer:shouldReceiveTouch:">(_delegate)) return true;
-  return bridge::send<bool, "gestureRecognizer:shouldReceiveTouch:">(_delegate, me(), touch);
+  if (!respondsTo<"gestureRecognizer:shouldReceiveTouch:">(_delegate)) return true;
+  return send<bool, "gestureRecognizer:shouldReceiveTouch:">(_delegate, self(), touch);
 }
 
-void UIGestureRecognizer::touched(bridge::UITouch touch, bridge::UIEvent event) {
+void UIGestureRecognizerState::touched(UITouch touch, UIEvent event) {
   if (isWaiting() || !(isUndecided() || isUnderWay())) return;
-  const auto kept = bridge::Owned<bridge::UIGestureRecognizer>::retain(me());
-  const bridge::NSSet touches = UIEvent::of(event.get()).allTouches();
-  const UITouch& state = UITouch::of(touch.get());
+  const auto kept = Owned<UIGestureRecognizer>::retain(self());
+  const NSSet touches = UIEventState::of(event.get()).allTouches();
+  const UITouchState& state = UITouchState::of(touch.get());
   _location = state.location();
   _hasTouch = true;
   switch (state.phase()) {
-    case UITouch::began:
-      return bridge::send<void, "touchesBegan:withEvent:">(me(), touches, event);
-    case UITouch::moved:
-    case UITouch::stationary:
-      return bridge::send<void, "touchesMoved:withEvent:">(me(), touches, event);
-    case UITouch::ended:
-      bridge::send<void, "touchesEnded:withEvent:">(me(), touches, event);
+    case UITouchState::began:
+      return send<void, "touchesBegan:withEvent:">(self(), touches, event);
+    case UITouchState::moved:
+    case UITouchState::stationary:
+      return send<void, "touchesMoved:withEvent:">(self(), touches, event);
+    case UITouchState::ended:
+      send<void, "touchesEnded:withEvent:">(self(), touches, event);
       break;
-    case UITouch::cancelled:
-      bridge::send<void, "touchesCancelled:withEvent:">(me(), touches, event);
+    case UITouchState::cancelled:
+      send<void, "touchesCancelled:withEvent:">(self(), touches, event);
       break;
   }
   _hasTouch = false;
 }
 
-void UIGestureRecognizer::giveUp() {
+void UIGestureRecognizerState::giveUp() {
   if (isUndecided())
     fail();
   else if (isUnderWay())
     become(State::cancelled);
 }
 
-void UIGestureRecognizer::startAnew() {
+void UIGestureRecognizerState::startAnew() {
   _state = State::possible;
   _awaited = State::possible;
   _hasTouch = false;
   _expectsMoreTouches = false;
-  bridge::send<void, "reset">(self());
+  send<void, "reset">(self());
 }
 
-void UIGestureRecognizer::become(State next) {
+void UIGestureRecognizerState::become(State next) {
   const GestureArbiter::Turn turn(gestureArbiter());
-  const auto kept = bridge::Owned<bridge::UIGestureRecognizer>::retain(me());
+  const auto kept = Owned<UIGestureRecognizer>::retain(self());
   if (isUndecided()) {
     if (next == State::failed || next == State::cancelled) return fail();
     if (next != State::possible) recognize(next);
@@ -234,13 +229,13 @@ void UIGestureRecognizer::become(State next) {
   fire();
 }
 
-void UIGestureRecognizer::fail() {
+void UIGestureRecognizerState::fail() {
   if (!isUndecided()) return;
   _state = State::failed;
   _awaited = State::possible;
 }
 
-void UIGestureRecognizer::recognize(State first) {
+void UIGestureRecognizerState::recognize(State first) {
   if (!_isEnabled || isExcluded() || !mayBegin()) return fail();
   if (!isUndecided()) return;  // the delegate decided otherwise
   _awaited = mustWait() ? first : State::possible;
@@ -248,73 +243,71 @@ void UIGestureRecognizer::recognize(State first) {
   _state = first;
   excludeOthers();
   fire();
-  if (_cancelsTouchesInView) gestureArbiter().takeFromViews(me());
+  if (_cancelsTouchesInView) gestureArbiter().takeFromViews(self());
 }
 
-bool UIGestureRecognizer::tryAgain() {
+bool UIGestureRecognizerState::tryAgain() {
   if (!isUndecided() || !isWaiting() || mustWait()) return false;
-  const auto kept = bridge::Owned<bridge::UIGestureRecognizer>::retain(me());
+  const auto kept = Owned<UIGestureRecognizer>::retain(self());
   recognize(std::exchange(_awaited, State::possible));
   return true;
 }
 
 // The touched view is asked too: a control keeps taps on it to itself.
-bool UIGestureRecognizer::mayBegin() const {
-  if (bridge::respondsTo<"gestureRecognizerShouldBegin:">(_delegate) &&
-      !bridge::send<bool, "gestureRecognizerShouldBegin:">(_delegate, me()))
+bool UIGestureRecognizerState::mayBegin() const {
+  if (respondsTo<"gestureRecognizerShouldBegin:">(_delegate) &&
+      !send<bool, "gestureRecognizerShouldBegin:">(_delegate, self()))
     return false;
-  const auto touched = gestureArbiter().touchedViewOf(me());
-  for (const bridge::UIView view : {_view, touched == _view ? bridge::UIView() : touched})
-    if (bridge::respondsTo<"gestureRecognizerShouldBegin:">(view) &&
-        !bridge::send<bool, "gestureRecognizerShouldBegin:">(view, me()))
+  const auto touched = gestureArbiter().touchedViewOf(self());
+  for (const UIView view : {_view, touched == _view ? UIView() : touched})
+    if (respondsTo<"gestureRecognizerShouldBegin:">(view) &&
+        !send<bool, "gestureRecognizerShouldBegin:">(view, self()))
       return false;
   return true;
 }
 
-bool UIGestureRecognizer::mustWait() const {
+bool UIGestureRecognizerState::mustWait() const {
   return std::ranges::any_of(_required, [](const auto& other) {
     return of(other.get()).isUndecided() && gestureArbiter().takesPart(other);
   });
 }
 
 // Whether one that it has to give way to has recognised.
-bool UIGestureRecognizer::isExcluded() const {
+bool UIGestureRecognizerState::isExcluded() const {
   const auto hasRecognized = [](const auto& other) {
-    const UIGestureRecognizer& state = of(other.get());
+    const UIGestureRecognizerState& state = of(other.get());
     return state.isUnderWay() || state._state == State::ended;
   };
   if (std::ranges::any_of(_required, hasRecognized)) return true;
-  const auto rivals = gestureArbiter().rivalsOf(me());
+  const auto rivals = gestureArbiter().rivalsOf(self());
   return std::ranges::any_of(
       rivals, [&](const auto& other) { return hasRecognized(other) && !goesTogetherWith(other); });
 }
 
-void UIGestureRecognizer::excludeOthers() const {
-  const auto rivals = gestureArbiter().rivalsOf(me());
+void UIGestureRecognizerState::excludeOthers() const {
+  const auto rivals = gestureArbiter().rivalsOf(self());
   for (const auto& rival : rivals) {
-    UIGestureRecognizer& state = of(rival.get());
+    UIGestureRecognizerState& state = of(rival.get());
     if (state.isUndecided() && !goesTogetherWith(rival)) state.fail();
   }
 }
 
-bool UIGestureRecognizer::allowsTogether(bridge::UIGestureRecognizer other) const {
-  constexpr bridge::FixedString question =
+bool UIGestureRecognizerState::allowsTogether(UIGestureRecognizer other) const {
+  constexpr FixedString question =
       "gestureRecognizer:shouldRecognizeSimultaneouslyWithGestureRecognizer:";
-  return bridge::respondsTo<question>(_delegate) &&
-         bridge::send<bool, question>(_delegate, me(), other);
+  return respondsTo<question>(_delegate) && send<bool, question>(_delegate, self(), other);
 }
 
-bool UIGestureRecognizer::goesTogetherWith(bridge::UIGestureRecognizer other) const {
-  return allowsTogether(other) || of(other).allowsTogether(me());
+bool UIGestureRecognizerState::goesTogetherWith(UIGestureRecognizer other) const {
+  return allowsTogether(other) || of(other).allowsTogether(self());
 }
 
 // A target that is taken away by an action before its own is not told.
-void UIGestureRecognizer::fire() {
-  const auto records = bridge::Owned<bridge::NSArray>::adopt(
-      bridge::send<bridge::NSArray, "copy">(recordsOf(self())));
+void UIGestureRecognizerState::fire() {
+  const auto records = Owned<NSArray>::adopt(send<NSArray, "copy">(recordsOf(self())));
   for (NSUInteger index = 0; index < records->count(); ++index)
     if (recordsOf(self()).containsIdentical(records->at(index)))
-      perform(actionOf(records->at(index)), me());
+      perform(actionOf(records->at(index)), self());
 }
 
 }  // namespace desktop::uikit

@@ -8,26 +8,29 @@
 #include <vector>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-class UIGestureRecognizer : public bridge::Bound<UIGestureRecognizer, bridge::NSObject> {
+class UIGestureRecognizerState
+    : public Bound<UIGestureRecognizerState, NSObject, UIGestureRecognizer> {
  public:
-  using State = bridge::UIGestureRecognizer::State;
+  using State = UIGestureRecognizer::State;
   using Bound::Bound;
   static Class classObject();
-  ~UIGestureRecognizer();
+  ~UIGestureRecognizerState();
 
   struct Action {
-    bridge::NSObject target;  // borrowed
+    NSObject target;  // borrowed
     SEL action;
   };
   std::vector<Action> actions() const;
-  void addTarget(bridge::NSObject target, SEL action);
+  void addTarget(NSObject target, SEL action);
   State state() const { return _state; }
   // Nil where it is of no view. Borrowed.
-  bridge::UIView view() const { return _view; }
+  UIView view() const { return _view; }
   bool isEnabled() const { return _isEnabled; }
   bool cancelsTouchesInView() const { return _cancelsTouchesInView; }
   bool delaysTouchesBegan() const { return _delaysTouchesBegan; }
@@ -40,8 +43,8 @@ class UIGestureRecognizer : public bridge::Bound<UIGestureRecognizer, bridge::NS
   bool isWaiting() const { return _awaited != State::possible; }
   // Whether it goes on without a finger: between taps.
   bool staysUndecided() const { return isWaiting() || _expectsMoreTouches; }
-  bool wantsTouch(bridge::UITouch touch) const;
-  void touched(bridge::UITouch touch, bridge::UIEvent event);
+  bool wantsTouch(UITouch touch) const;
+  void touched(UITouch touch, UIEvent event);
   // Ends what is under way, and gives up what is undecided.
   void giveUp();
   // Gives up and takes part in no touch: its view is no longer shown.
@@ -59,40 +62,39 @@ class UIGestureRecognizer : public bridge::Bound<UIGestureRecognizer, bridge::NS
   CGPoint locationOnScreen() const { return _location; }
 
  private:
-  bridge::UIGestureRecognizer init();
-  bridge::UIGestureRecognizer initWithTarget(bridge::NSObject target, SEL action);
-  void removeTarget(bridge::NSObject target, SEL action);
-  void moveToView(bridge::UIView view);
+  UIGestureRecognizer init();
+  UIGestureRecognizer initWithTarget(NSObject target, SEL action);
+  void removeTarget(NSObject target, SEL action);
+  void moveToView(UIView view);
   NSInteger stateNumber() const { return _state; }
   void setStateNumber(NSInteger state) { become(static_cast<State>(state)); }
-  CGPoint locationIn(bridge::UIView view) const;
-  CGPoint locationOfTouch(NSUInteger index, bridge::UIView view) const;
+  CGPoint locationIn(UIView view) const;
+  CGPoint locationOfTouch(NSUInteger index, UIView view) const;
   NSUInteger numberOfTouches() const { return _hasTouch ? 1 : 0; }
   void setEnabled(bool enabled);
-  bridge::NSObject delegate() const { return _delegate; }
-  void setDelegate(bridge::NSObject delegate) { _delegate = delegate; }
+  NSObject delegate() const { return _delegate; }
+  void setDelegate(NSObject delegate) { _delegate = delegate; }
   void setCancelsTouchesInView(bool cancels) { _cancelsTouchesInView = cancels; }
   void setDelaysTouchesBegan(bool delays) { _delaysTouchesBegan = delays; }
   void setDelaysTouchesEnded(bool delays) { _delaysTouchesEnded = delays; }
-  void requireToFail(bridge::UIGestureRecognizer other);
-  void ignoreTouches(bridge::NSSet, bridge::UIEvent) {}
+  void requireToFail(UIGestureRecognizer other);
+  void ignoreTouches(NSSet, UIEvent) {}
   void reset() {}
 
-  bridge::UIGestureRecognizer me() const { return bridge::UIGestureRecognizer(self().get()); }
   void recognize(State first);
   bool mayBegin() const;
   bool mustWait() const;
   bool isExcluded() const;
-  bool goesTogetherWith(bridge::UIGestureRecognizer other) const;
-  bool allowsTogether(bridge::UIGestureRecognizer other) const;
+  bool goesTogetherWith(UIGestureRecognizer other) const;
+  bool allowsTogether(UIGestureRecognizer other) const;
   void excludeOthers() const;
   void fail();
   void fire();
 
-  bridge::UIView _view;                   // borrowed
-  bridge::NSObject _delegate;             // borrowed
-  bridge::Owned<bridge::UITouch> _touch;  // asked about by the view; the last one
-  std::vector<bridge::Owned<bridge::UIGestureRecognizer>> _required;  // to fail first
+  UIView _view;                                       // borrowed
+  NSObject _delegate;                                 // borrowed
+  Owned<UITouch> _touch;                              // asked about by the view; the last one
+  std::vector<Owned<UIGestureRecognizer>> _required;  // to fail first
   State _state = State::possible;
   State _awaited = State::possible;  // what it becomes once those required have failed
   CGPoint _location;                 // on the screen
@@ -105,8 +107,7 @@ class UIGestureRecognizer : public bridge::Bound<UIGestureRecognizer, bridge::NS
 };
 
 // What a recogniser tells, and whom: the objects in its field `_targets`.
-class UIGestureRecognizerTarget
-    : public bridge::Bound<UIGestureRecognizerTarget, bridge::NSObject> {
+class UIGestureRecognizerTarget : public Bound<UIGestureRecognizerTarget, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject();

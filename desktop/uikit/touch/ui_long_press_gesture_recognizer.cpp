@@ -4,13 +4,14 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-Class UILongPressGestureRecognizer::classObject() {
-  using Self = UILongPressGestureRecognizer;
+Class UILongPressGestureRecognizerState::classObject() {
+  using Self = UILongPressGestureRecognizerState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UILongPressGestureRecognizer")
+      ClassBuilder<Self>("UILongPressGestureRecognizer")
           .method<"minimumPressDuration", &Self::minimumPressDuration>()
           .method<"setMinimumPressDuration:", &Self::setMinimumPressDuration>()
           .method<"allowableMovement", &Self::allowableMovement>()
@@ -24,31 +25,27 @@ Class UILongPressGestureRecognizer::classObject() {
   return made;
 }
 
-UIGestureRecognizer& UILongPressGestureRecognizer::base() const {
-  return UIGestureRecognizer::of(self());
+void UILongPressGestureRecognizerState::touchesBegan(NSSet, UIEvent) {
+  _start = locationOnScreen();
+  _press.callAfter(_minimumPressDuration, [this] { become(State::began); });
 }
 
-void UILongPressGestureRecognizer::touchesBegan(bridge::NSSet, bridge::UIEvent) {
-  _start = base().locationOnScreen();
-  _press.callAfter(_minimumPressDuration, [this] { base().become(State::began); });
-}
-
-void UILongPressGestureRecognizer::touchesMoved(bridge::NSSet, bridge::UIEvent) {
-  if (base().isUnderWay()) return base().become(State::changed);
-  const CGPoint location = base().locationOnScreen();
+void UILongPressGestureRecognizerState::touchesMoved(NSSet, UIEvent) {
+  if (isUnderWay()) return become(State::changed);
+  const CGPoint location = locationOnScreen();
   if (std::hypot(location.x - _start.x, location.y - _start.y) > _allowableMovement)
-    base().become(State::failed);
+    become(State::failed);
 }
 
-void UILongPressGestureRecognizer::touchesEnded(bridge::NSSet, bridge::UIEvent) {
-  base().become(base().isUnderWay() ? State::ended : State::failed);
+void UILongPressGestureRecognizerState::touchesEnded(NSSet, UIEvent) {
+  become(isUnderWay() ? State::ended : State::failed);
 }
 
-void UILongPressGestureRecognizer::touchesCancelled(bridge::NSSet, bridge::UIEvent) {
-  base().become(State::cancelled);
+void UILongPressGestureRecognizerState::touchesCancelled(NSSet, UIEvent) {
+  become(State::cancelled);
 }
 
-void UILongPressGestureRecognizer::reset() {
+void UILongPressGestureRecognizerState::reset() {
   _press.cancel();
 }
 

@@ -5,13 +5,16 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/pending_call.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
 
 namespace desktop::uikit {
 
-class UILongPressGestureRecognizer
-    : public bridge::Bound<UILongPressGestureRecognizer, bridge::UIGestureRecognizer> {
+class UILongPressGestureRecognizerState
+    : public Bound<UILongPressGestureRecognizerState, UIGestureRecognizerState,
+                   UILongPressGestureRecognizer> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -20,15 +23,14 @@ class UILongPressGestureRecognizer
   CGFloat allowableMovement() const { return _allowableMovement; }
 
  private:
-  using State = UIGestureRecognizer::State;
+  using State = UIGestureRecognizerState::State;
 
-  UIGestureRecognizer& base() const;
   void setMinimumPressDuration(Seconds duration) { _minimumPressDuration = duration; }
   void setAllowableMovement(CGFloat points) { _allowableMovement = points; }
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
+  void touchesBegan(NSSet touches, UIEvent event);
+  void touchesMoved(NSSet touches, UIEvent event);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void touchesCancelled(NSSet touches, UIEvent event);
   void reset();
 
   Seconds _minimumPressDuration = 0.5;

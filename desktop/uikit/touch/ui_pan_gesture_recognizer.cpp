@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/touch/ui_touch.h"
@@ -17,16 +18,16 @@ constexpr CGFloat slop = 10;             // points from where the finger came do
 constexpr Seconds velocityWindow = 0.1;  // what counts for the velocity
 
 // A way on the screen as one in a view's coordinates.
-CGPoint wayIn(CGPoint way, bridge::UIView view) {
+CGPoint wayIn(CGPoint way, UIView view) {
   return fromScreen(way, view) - fromScreen({0, 0}, view);
 }
 
 }  // namespace
 
-Class UIPanGestureRecognizer::classObject() {
-  using Self = UIPanGestureRecognizer;
+Class UIPanGestureRecognizerState::classObject() {
+  using Self = UIPanGestureRecognizerState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UIPanGestureRecognizer")
+      ClassBuilder<Self>("UIPanGestureRecognizer")
           .method<"translationInView:", &Self::translationIn>()
           .method<"setTranslation:inView:", &Self::setTranslation>()
           .method<"velocityInView:", &Self::velocityIn>()
@@ -43,31 +44,27 @@ Class UIPanGestureRecognizer::classObject() {
   return made;
 }
 
-UIGestureRecognizer& UIPanGestureRecognizer::base() const {
-  return UIGestureRecognizer::of(self());
-}
-
-CGPoint UIPanGestureRecognizer::translationIn(bridge::UIView view) const {
+CGPoint UIPanGestureRecognizerState::translationIn(UIView view) const {
   return wayIn(_last - _start, view);
 }
 
-void UIPanGestureRecognizer::setTranslation(CGPoint translation, bridge::UIView view) {
+void UIPanGestureRecognizerState::setTranslation(CGPoint translation, UIView view) {
   if (!std::isfinite(translation.x) || !std::isfinite(translation.y)) return;
   const CGPoint start = fromScreen(_last, view) - translation;
-  _start = view ? apply(UIView::of(view.get()).toScreen(), start) : start;
+  _start = view ? apply(UIViewState::of(view.get()).toScreen(), start) : start;
 }
 
-CGPoint UIPanGestureRecognizer::velocityIn(bridge::UIView view) const {
+CGPoint UIPanGestureRecognizerState::velocityIn(UIView view) const {
   return wayIn(velocityOnScreen(), view);
 }
 
-void UIPanGestureRecognizer::setWays(bool across, bool down) {
+void UIPanGestureRecognizerState::setWays(bool across, bool down) {
   _goesAcross = across;
   _goesDown = down;
 }
 
 // A finger that has come to rest has none.
-CGPoint UIPanGestureRecognizer::velocityOnScreen() const {
+CGPoint UIPanGestureRecognizerState::velocityOnScreen() const {
   const Seconds now = scheduler().now();
   const auto first = std::ranges::find_if(
       _samples, [&](const Sample& sample) { return sample.time >= now - velocityWindow; });
@@ -79,7 +76,7 @@ CGPoint UIPanGestureRecognizer::velocityOnScreen() const {
           (last.location.y - first->location.y) / time};
 }
 
-void UIPanGestureRecognizer::note(CGPoint location) {
+void UIPanGestureRecognizerState::note(CGPoint location) {
   _last = location;
   const Seconds now = scheduler().now();
   while (!_samples.empty() && _samples.front().time < now - velocityWindow) _samples.pop_front();
@@ -88,36 +85,36 @@ void UIPanGestureRecognizer::note(CGPoint location) {
   _samples.push_back({location, now});
 }
 
-void UIPanGestureRecognizer::touchesBegan(bridge::NSSet, bridge::UIEvent) {
-  if (_minimumTouches > 1 || !(_goesAcross || _goesDown)) return base().become(State::failed);
+void UIPanGestureRecognizerState::touchesBegan(NSSet, UIEvent) {
+  if (_minimumTouches > 1 || !(_goesAcross || _goesDown)) return become(State::failed);
   _samples.clear();
-  _start = base().locationOnScreen();
+  _start = locationOnScreen();
   note(_start);
 }
 
 // What is counted begins where the slop was overcome.
-void UIPanGestureRecognizer::touchesMoved(bridge::NSSet, bridge::UIEvent) {
-  note(base().locationOnScreen());
-  if (base().isUnderWay()) return base().become(State::changed);
+void UIPanGestureRecognizerState::touchesMoved(NSSet, UIEvent) {
+  note(locationOnScreen());
+  if (isUnderWay()) return become(State::changed);
   const CGPoint way = _last - _start;
   const CGFloat distance = std::hypot(_goesAcross ? way.x : 0, _goesDown ? way.y : 0);
   if (distance < slop) return;
   const CGFloat part = slop / distance;
   _start = _start + CGPoint{way.x * part, way.y * part};
-  base().become(State::began);
+  become(State::began);
 }
 
-void UIPanGestureRecognizer::touchesEnded(bridge::NSSet, bridge::UIEvent) {
-  if (_last != base().locationOnScreen()) note(base().locationOnScreen());
-  base().become(base().isUnderWay() ? State::ended : State::failed);
+void UIPanGestureRecognizerState::touchesEnded(NSSet, UIEvent) {
+  if (_last != locationOnScreen()) note(locationOnScreen());
+  become(isUnderWay() ? State::ended : State::failed);
 }
 
-void UIPanGestureRecognizer::touchesCancelled(bridge::NSSet, bridge::UIEvent) {
+void UIPanGestureRecognizerState::touchesCancelled(NSSet, UIEvent) {
   _samples.clear();
-  base().become(State::cancelled);
+  become(State::cancelled);
 }
 
-void UIPanGestureRecognizer::reset() {
+void UIPanGestureRecognizerState::reset() {
   _samples.clear();
 }
 

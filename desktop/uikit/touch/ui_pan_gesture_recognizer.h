@@ -7,38 +7,39 @@
 #include <deque>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
 
 namespace desktop::uikit {
 
-class UIPanGestureRecognizer
-    : public bridge::Bound<UIPanGestureRecognizer, bridge::UIGestureRecognizer> {
+class UIPanGestureRecognizerState
+    : public Bound<UIPanGestureRecognizerState, UIGestureRecognizerState, UIPanGestureRecognizer> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   // In a view's coordinates; no view is the screen.
-  CGPoint translationIn(bridge::UIView view) const;
+  CGPoint translationIn(UIView view) const;
   // In points a second, of the finger's last tenth of a second.
-  CGPoint velocityIn(bridge::UIView view) const;
+  CGPoint velocityIn(UIView view) const;
 
   // Which ways of the finger make it a pan, until said otherwise.
   void setWays(bool across, bool down);
 
  private:
-  using State = UIGestureRecognizer::State;
+  using State = UIGestureRecognizerState::State;
 
-  UIGestureRecognizer& base() const;
-  void setTranslation(CGPoint translation, bridge::UIView view);
+  void setTranslation(CGPoint translation, UIView view);
   NSUInteger minimumNumberOfTouches() const { return _minimumTouches; }
   void setMinimumNumberOfTouches(NSUInteger touches) { _minimumTouches = touches; }
   NSUInteger maximumNumberOfTouches() const { return _maximumTouches; }
   void setMaximumNumberOfTouches(NSUInteger touches) { _maximumTouches = touches; }
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
+  void touchesBegan(NSSet touches, UIEvent event);
+  void touchesMoved(NSSet touches, UIEvent event);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void touchesCancelled(NSSet touches, UIEvent event);
   void reset();
 
   struct Sample {

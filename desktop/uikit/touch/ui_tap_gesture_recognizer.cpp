@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 namespace {
@@ -14,10 +15,10 @@ constexpr CGFloat allowedMovement = 45;  // points
 
 }  // namespace
 
-Class UITapGestureRecognizer::classObject() {
-  using Self = UITapGestureRecognizer;
+Class UITapGestureRecognizerState::classObject() {
+  using Self = UITapGestureRecognizerState;
   static const Class made =
-      bridge::ClassBuilder<Self>("UITapGestureRecognizer")
+      ClassBuilder<Self>("UITapGestureRecognizer")
           .method<"numberOfTapsRequired", &Self::numberOfTapsRequired>()
           .method<"setNumberOfTapsRequired:", &Self::setNumberOfTapsRequired>()
           .method<"numberOfTouchesRequired", &Self::numberOfTouchesRequired>()
@@ -31,43 +32,39 @@ Class UITapGestureRecognizer::classObject() {
   return made;
 }
 
-UIGestureRecognizer& UITapGestureRecognizer::base() const {
-  return UIGestureRecognizer::of(self());
-}
-
 // There is one finger only: more of them never come.
-void UITapGestureRecognizer::touchesBegan(bridge::NSSet touches, bridge::UIEvent event) {
-  base().setExpectsMoreTouches(false);
-  if (_touchesRequired > 1) return base().become(State::failed);
-  if (_taps == 0) _start = base().locationOnScreen();
+void UITapGestureRecognizerState::touchesBegan(NSSet touches, UIEvent event) {
+  setExpectsMoreTouches(false);
+  if (_touchesRequired > 1) return become(State::failed);
+  if (_taps == 0) _start = locationOnScreen();
   failAfter(longestTap);
   touchesMoved(touches, event);
 }
 
-void UITapGestureRecognizer::touchesMoved(bridge::NSSet, bridge::UIEvent) {
-  const CGPoint location = base().locationOnScreen();
+void UITapGestureRecognizerState::touchesMoved(NSSet, UIEvent) {
+  const CGPoint location = locationOnScreen();
   if (std::hypot(location.x - _start.x, location.y - _start.y) > allowedMovement)
-    base().become(State::failed);
+    become(State::failed);
 }
 
-void UITapGestureRecognizer::touchesEnded(bridge::NSSet touches, bridge::UIEvent event) {
+void UITapGestureRecognizerState::touchesEnded(NSSet touches, UIEvent event) {
   touchesMoved(touches, event);
-  if (!base().isUndecided()) return;
+  if (!isUndecided()) return;
   _limit.cancel();
-  if (++_taps >= _tapsRequired) return base().become(State::ended);
-  base().setExpectsMoreTouches(true);
+  if (++_taps >= _tapsRequired) return become(State::ended);
+  setExpectsMoreTouches(true);
   failAfter(longestPause);
 }
 
-void UITapGestureRecognizer::touchesCancelled(bridge::NSSet, bridge::UIEvent) {
-  base().become(State::failed);
+void UITapGestureRecognizerState::touchesCancelled(NSSet, UIEvent) {
+  become(State::failed);
 }
 
-void UITapGestureRecognizer::failAfter(Seconds time) {
-  _limit.callAfter(time, [this] { base().become(State::failed); });
+void UITapGestureRecognizerState::failAfter(Seconds time) {
+  _limit.callAfter(time, [this] { become(State::failed); });
 }
 
-void UITapGestureRecognizer::reset() {
+void UITapGestureRecognizerState::reset() {
   _limit.cancel();
   _taps = 0;
 }

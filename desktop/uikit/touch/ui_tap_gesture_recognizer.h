@@ -4,13 +4,15 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/pending_call.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
 
 namespace desktop::uikit {
 
-class UITapGestureRecognizer
-    : public bridge::Bound<UITapGestureRecognizer, bridge::UIGestureRecognizer> {
+class UITapGestureRecognizerState
+    : public Bound<UITapGestureRecognizerState, UIGestureRecognizerState, UITapGestureRecognizer> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -18,16 +20,15 @@ class UITapGestureRecognizer
   NSUInteger numberOfTapsRequired() const { return _tapsRequired; }
 
  private:
-  using State = UIGestureRecognizer::State;
+  using State = UIGestureRecognizerState::State;
 
-  UIGestureRecognizer& base() const;
   void setNumberOfTapsRequired(NSUInteger taps) { _tapsRequired = taps > 0 ? taps : 1; }
   NSUInteger numberOfTouchesRequired() const { return _touchesRequired; }
   void setNumberOfTouchesRequired(NSUInteger touches) { _touchesRequired = touches; }
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
+  void touchesBegan(NSSet touches, UIEvent event);
+  void touchesMoved(NSSet touches, UIEvent event);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void touchesCancelled(NSSet touches, UIEvent event);
   void reset();
   void failAfter(Seconds time);
 

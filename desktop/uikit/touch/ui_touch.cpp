@@ -2,51 +2,53 @@
 #include "desktop/uikit/touch/ui_touch.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
-Class UITouch::classObject() {
-  static const Class made = bridge::ClassBuilder<UITouch>("UITouch")
-                                .method<"view", &UITouch::view>()
-                                .method<"window", &UITouch::window>()
-                                .method<"phase", &UITouch::phaseNumber>()
-                                .method<"tapCount", &UITouch::tapCount>()
-                                .method<"timestamp", &UITouch::timestamp>()
-                                .method<"locationInView:", &UITouch::locationIn>()
-                                .method<"previousLocationInView:", &UITouch::previousLocationIn>()
-                                .build();
+Class UITouchState::classObject() {
+  static const Class made =
+      ClassBuilder<UITouchState>("UITouch")
+          .method<"view", &UITouchState::view>()
+          .method<"window", &UITouchState::window>()
+          .method<"phase", &UITouchState::phaseNumber>()
+          .method<"tapCount", &UITouchState::tapCount>()
+          .method<"timestamp", &UITouchState::timestamp>()
+          .method<"locationInView:", &UITouchState::locationIn>()
+          .method<"previousLocationInView:", &UITouchState::previousLocationIn>()
+          .build();
   return made;
 }
 
-bridge::Owned<bridge::UITouch> UITouch::make(bridge::UIView view, CGPoint point, NSInteger taps) {
-  auto touch = bridge::makeNew<bridge::UITouch>();
-  UITouch& state = of(touch.get());
-  state._view = bridge::Owned<bridge::UIView>::retain(view);
-  state._window = bridge::Owned<bridge::UIView>::retain(UIView::of(view).window());
+Owned<UITouch> UITouchState::make(UIView view, CGPoint point, NSInteger taps) {
+  auto touch = makeNew<UITouch>();
+  UITouchState& state = of(touch.get());
+  state._view = Owned<UIView>::retain(view);
+  state._window = Owned<UIView>::retain(UIViewState::of(view).window());
   state._tapCount = taps;
   state._location = point;
   state.moveTo(point);
   return touch;
 }
 
-void UITouch::moveTo(CGPoint point) {
+void UITouchState::moveTo(CGPoint point) {
   _previous = _location;
   _location = point;
   _timestamp = scheduler().now();
 }
 
-CGPoint UITouch::locationIn(bridge::UIView view) const {
+CGPoint UITouchState::locationIn(UIView view) const {
   return fromScreen(_location, view);
 }
 
-CGPoint UITouch::previousLocationIn(bridge::UIView view) const {
+CGPoint UITouchState::previousLocationIn(UIView view) const {
   return fromScreen(_previous, view);
 }
 
-CGPoint fromScreen(CGPoint point, bridge::UIView view) {
-  return view ? apply(inverse(UIView::of(view).toScreen()), point) : point;
+CGPoint fromScreen(CGPoint point, UIView view) {
+  return view ? apply(inverse(UIViewState::of(view).toScreen()), point) : point;
 }
 
 }  // namespace desktop::uikit

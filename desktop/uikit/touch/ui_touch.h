@@ -4,12 +4,14 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 
 namespace desktop::uikit {
 
-class UITouch : public bridge::Bound<UITouch, bridge::NSObject> {
+class UITouchState : public Bound<UITouchState, NSObject, UITouch> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -17,10 +19,10 @@ class UITouch : public bridge::Bound<UITouch, bridge::NSObject> {
   enum Phase : NSInteger { began, moved, stationary, ended, cancelled };
 
   // A finger that comes down on a view at a point of the screen, the taps counted in a row.
-  static bridge::Owned<bridge::UITouch> make(bridge::UIView view, CGPoint point, NSInteger taps);
+  static Owned<UITouch> make(UIView view, CGPoint point, NSInteger taps);
 
   // The view it came down on, which it keeps alive.
-  bridge::UIView view() const { return _view; }
+  UIView view() const { return _view; }
   Phase phase() const { return _phase; }
   // On the screen.
   CGPoint location() const { return _location; }
@@ -34,13 +36,13 @@ class UITouch : public bridge::Bound<UITouch, bridge::NSObject> {
   void setLocation(CGPoint point) { _location = point; }
 
  private:
-  bridge::UIView window() const { return _window; }
-  CGPoint locationIn(bridge::UIView view) const;
-  CGPoint previousLocationIn(bridge::UIView view) const;
+  UIView window() const { return _window; }
+  CGPoint locationIn(UIView view) const;
+  CGPoint previousLocationIn(UIView view) const;
   NSInteger phaseNumber() const { return _phase; }
 
-  bridge::Owned<bridge::UIView> _view;
-  bridge::Owned<bridge::UIView> _window;
+  Owned<UIView> _view;
+  Owned<UIView> _window;
   CGPoint _location;
   CGPoint _previous;
   Phase _phase = began;
@@ -49,6 +51,6 @@ class UITouch : public bridge::Bound<UITouch, bridge::NSObject> {
 };
 
 // A point of the screen in a view's coordinates; no view is the screen.
-CGPoint fromScreen(CGPoint point, bridge::UIView view);
+CGPoint fromScreen(CGPoint point, UIView view);
 
 }  // namespace desktop::uikit

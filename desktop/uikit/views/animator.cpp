@@ -94,7 +94,7 @@ void Animator::withoutAnimation(const Animations& changes) {
   _described.pop_back();
 }
 
-void Animator::appearanceChanges(bridge::UIView view, const ViewAppearance& from,
+void Animator::appearanceChanges(UIView view, const ViewAppearance& from,
                                  const ViewAppearance& to) {
   if (_described.empty() || !_described.back() || from == to) return;
   const std::shared_ptr<Group> group = _described.back();
@@ -120,10 +120,10 @@ void Animator::appearanceChanges(bridge::UIView view, const ViewAppearance& from
     if (part.view.get() == view && overlap(part.from, part.to, start, to))
       replaced.push_back(part.group);
   for (const auto& old : replaced) cutShort(old);
-  _running.push_back({bridge::Owned<bridge::UIView>::retain(view), start, to, group});
+  _running.push_back({Owned<UIView>::retain(view), start, to, group});
 }
 
-ViewAppearance Animator::shown(bridge::UIView view, const ViewAppearance& own) const {
+ViewAppearance Animator::shown(UIView view, const ViewAppearance& own) const {
   ViewAppearance seen = own;
   const Seconds now = scheduler().now();
   for (const Part& part : _running) {
@@ -140,11 +140,11 @@ ViewAppearance Animator::shown(bridge::UIView view, const ViewAppearance& own) c
   return seen;
 }
 
-bool Animator::isAnimating(bridge::UIView view) const {
+bool Animator::isAnimating(UIView view) const {
   return std::ranges::any_of(_running, [&](const Part& part) { return part.view.get() == view; });
 }
 
-void Animator::stop(bridge::UIView view) {
+void Animator::stop(UIView view) {
   std::vector<std::shared_ptr<Group>> groups;
   for (const Part& part : _running)
     if (part.view.get() == view) groups.push_back(part.group);
@@ -155,7 +155,7 @@ void Animator::tick() {
   std::vector<std::shared_ptr<Group>> over;
   const Seconds now = scheduler().now();
   for (const Part& part : _running) {
-    bridge::send<void, "setNeedsDisplay">(part.view.get());
+    send<void, "setNeedsDisplay">(part.view.get());
     const bool isOver = now >= part.group->start + part.group->duration;
     if (isOver && std::ranges::find(over, part.group) == over.end()) over.push_back(part.group);
   }
@@ -167,7 +167,7 @@ void Animator::finish(const std::shared_ptr<Group>& group) {
   for (Part& part : _running)
     if (part.group == group) ended.push_back(part);
   std::erase_if(_running, [&](const Part& part) { return part.group == group; });
-  for (const Part& part : ended) bridge::send<void, "setNeedsDisplay">(part.view.get());
+  for (const Part& part : ended) send<void, "setNeedsDisplay">(part.view.get());
   if (const Completion done = std::exchange(group->completion, nullptr)) done(!group->wasCut);
 }
 

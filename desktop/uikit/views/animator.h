@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/graphics/color.h"
 
@@ -43,14 +44,14 @@ class Animator {
 
   // A view tells what it was and is, before it shows it: part of the animation being described,
   // or nothing where there is none.
-  void appearanceChanges(bridge::UIView view, const ViewAppearance& from, const ViewAppearance& to);
+  void appearanceChanges(UIView view, const ViewAppearance& from, const ViewAppearance& to);
   // What is shown of a view whose own appearance this is.
-  ViewAppearance shown(bridge::UIView view, const ViewAppearance& own) const;
-  bool isAnimating(bridge::UIView view) const;
+  ViewAppearance shown(UIView view, const ViewAppearance& own) const;
+  bool isAnimating(UIView view) const;
   bool isIdle() const { return _running.empty(); }
 
   // Cuts short what runs on a view.
-  void stop(bridge::UIView view);
+  void stop(UIView view);
   // Shows the state at the present moment and completes what is over.
   void tick();
 
@@ -64,7 +65,7 @@ class Animator {
   };
   // One view's part in a group; a property takes part where from and to differ.
   struct Part {
-    bridge::Owned<bridge::UIView> view;
+    Owned<UIView> view;
     ViewAppearance from;
     ViewAppearance to;
     std::shared_ptr<Group> group;

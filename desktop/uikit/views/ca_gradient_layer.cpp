@@ -2,31 +2,32 @@
 #include "desktop/uikit/views/ca_gradient_layer.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/ui_color.h"
 
 namespace desktop::uikit {
 
-Class CAGradientLayer::classObject() {
-  static const Class made = bridge::ClassBuilder<CAGradientLayer>("CAGradientLayer")
-                                .method<"colors", &CAGradientLayer::colorsArray>()
-                                .method<"setColors:", &CAGradientLayer::setColors>()
-                                .method<"startPoint", &CAGradientLayer::startPoint>()
-                                .method<"setStartPoint:", &CAGradientLayer::setStartPoint>()
-                                .method<"endPoint", &CAGradientLayer::endPoint>()
-                                .method<"setEndPoint:", &CAGradientLayer::setEndPoint>()
+Class CAGradientLayerState::classObject() {
+  static const Class made = ClassBuilder<CAGradientLayerState>("CAGradientLayer")
+                                .method<"colors", &CAGradientLayerState::colorsArray>()
+                                .method<"setColors:", &CAGradientLayerState::setColors>()
+                                .method<"startPoint", &CAGradientLayerState::startPoint>()
+                                .method<"setStartPoint:", &CAGradientLayerState::setStartPoint>()
+                                .method<"endPoint", &CAGradientLayerState::endPoint>()
+                                .method<"setEndPoint:", &CAGradientLayerState::setEndPoint>()
                                 .build();
   return made;
 }
 
-std::vector<Color> CAGradientLayer::colors() const {
+std::vector<Color> CAGradientLayerState::colors() const {
   std::vector<Color> values;
   for (NSUInteger index = 0; index < _colors->count(); ++index)
-    values.push_back(UIColor::valueOf(_colors->at(index)));
+    values.push_back(UIColorState::valueOf(_colors->at(index)));
   return values;
 }
 
-void CAGradientLayer::setColors(bridge::NSArray colors) {
-  _colors = bridge::Owned<bridge::NSArray>::adopt(bridge::send<bridge::NSArray, "copy">(colors));
+void CAGradientLayerState::setColors(NSArray colors) {
+  _colors = Owned<NSArray>::adopt(send<NSArray, "copy">(colors));
 }
 
 }  // namespace desktop::uikit

@@ -4,11 +4,13 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/views/ca_layer.h"
 
 namespace desktop::uikit {
 
-class CAGradientLayer : public bridge::Bound<CAGradientLayer, bridge::CALayer> {
+class CAGradientLayerState : public Bound<CAGradientLayerState, CALayerState, CAGradientLayer> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -19,13 +21,13 @@ class CAGradientLayer : public bridge::Bound<CAGradientLayer, bridge::CALayer> {
   CGPoint endPoint() const { return _end; }
 
  private:
-  bridge::NSArray colorsArray() const { return _colors; }
-  void setColors(bridge::NSArray colors);
+  NSArray colorsArray() const { return _colors; }
+  void setColors(NSArray colors);
   void setStartPoint(CGPoint point) { _start = point; }
   void setEndPoint(CGPoint point) { _end = point; }
 
-  bridge::Owned<bridge::NSArray> _colors;  // of CGColorRefs
-  CGPoint _start{0.5, 0};                  // fractions of the layer
+  Owned<NSArray> _colors;  // of CGColorRefs
+  CGPoint _start{0.5, 0};  // fractions of the layer
   CGPoint _end{0.5, 1};
 };
 

@@ -8,13 +8,15 @@
 
 #include "bridge/bound.h"
 #include "bridge/quartz.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
 #include "desktop/uikit/graphics/path.h"
 
 namespace desktop::uikit {
 
-class CALayer : public bridge::Bound<CALayer, bridge::NSObject> {
+class CALayerState : public Bound<CALayerState, NSObject, CALayer> {
  public:
   using Bound::Bound;
   static Class classObject();
@@ -23,13 +25,13 @@ class CALayer : public bridge::Bound<CALayer, bridge::NSObject> {
   struct Style {
     CGFloat cornerRadius = 0;
     CGFloat borderWidth = 0;
-    bridge::Owned<bridge::Object> borderColor;
-    bridge::Owned<bridge::Object> backgroundColor;  // of a sublayer
-    bridge::Owned<bridge::Object> shadowColor;      // nil is black
+    Owned<Object> borderColor;
+    Owned<Object> backgroundColor;  // of a sublayer
+    Owned<Object> shadowColor;      // nil is black
     float shadowOpacity = 0;
     CGSize shadowOffset{0, -3};
     CGFloat shadowRadius = 3;
-    bridge::Owned<bridge::Object> shadowPath;  // nil is the layer's own outline
+    Owned<Object> shadowPath;  // nil is the layer's own outline
     bool masksToBounds = false;
     bool isHidden = false;
     float opacity = 1;
@@ -42,10 +44,10 @@ class CALayer : public bridge::Bound<CALayer, bridge::NSObject> {
   CGRect frame() const;
   CGRect bounds() const;
   void setFrame(CGRect frame);
-  const std::vector<bridge::Owned<bridge::CALayer>>& sublayers() const { return _sublayers; }
+  const std::vector<Owned<CALayer>>& sublayers() const { return _sublayers; }
 
   // The view that this is the layer of, or none; a view detaches itself when it goes.
-  void setView(bridge::UIView view) { _view = view; }
+  void setView(UIView view) { _view = view; }
 
  private:
   void setCornerRadius(CGFloat radius);
@@ -59,23 +61,23 @@ class CALayer : public bridge::Bound<CALayer, bridge::NSObject> {
   void setShadowPath(CGPathRef path);
   void setHidden(bool hidden);
   void setOpacity(float opacity);
-  void addSublayer(bridge::CALayer layer);
-  void insertSublayer(bridge::CALayer layer, unsigned index);
+  void addSublayer(CALayer layer);
+  void insertSublayer(CALayer layer, unsigned index);
   void removeFromSuperlayer();
-  bridge::NSArray sublayersArray() const;
-  static bridge::CALayer layer();
+  NSArray sublayersArray() const;
+  static CALayer layer();
 
   // Asks for painting again.
   void changed() const;
 
-  bridge::UIView _view;         // borrowed
-  bridge::CALayer _superlayer;  // borrowed
+  UIView _view;         // borrowed
+  CALayer _superlayer;  // borrowed
   CGRect _frame;
   Style _style;
-  std::vector<bridge::Owned<bridge::CALayer>> _sublayers;
+  std::vector<Owned<CALayer>> _sublayers;
 
  public:
-  ~CALayer();
+  ~CALayerState();
 };
 
 }  // namespace desktop::uikit

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_image.h"
@@ -12,8 +13,8 @@
 namespace desktop::uikit {
 namespace {
 
-CGSize sizeOf(bridge::UIImage image) {
-  return bridge::isKindOf(image, UIImage::classObject()) ? UIImage::of(image).size() : CGSize{};
+CGSize sizeOf(UIImage image) {
+  return isKindOf(image, UIImageState::classObject()) ? UIImageState::of(image).size() : CGSize{};
 }
 
 }  // namespace
@@ -40,43 +41,42 @@ CGRect placed(CGSize picture, CGRect room, ContentMode mode) {
   return {middle(room) - CGPoint{size.width / 2, size.height / 2}, size};
 }
 
-Class UIImageView::classObject() {
-  static const Class made = bridge::ClassBuilder<UIImageView>("UIImageView")
-                                .method<"initWithImage:", &UIImageView::initWithImage>()
-                                .method<"image", &UIImageView::image>()
-                                .method<"setImage:", &UIImageView::setImage>()
-                                .method<"sizeThatFits:", &UIImageView::sizeThatFits>()
-                                .method<"drawContentOn:", &UIImageView::drawContent>()
+Class UIImageViewState::classObject() {
+  static const Class made = ClassBuilder<UIImageViewState>("UIImageView")
+                                .method<"initWithImage:", &UIImageViewState::initWithImage>()
+                                .method<"image", &UIImageViewState::image>()
+                                .method<"setImage:", &UIImageViewState::setImage>()
+                                .method<"sizeThatFits:", &UIImageViewState::sizeThatFits>()
+                                .method<"drawContentOn:", &UIImageViewState::drawContent>()
                                 .build();
   return made;
 }
 
-UIImageView::UIImageView(id self) : Bound(self) {
-  bridge::send<void, "setUserInteractionEnabled:">(self, false);
+UIImageViewState::UIImageViewState(id self) : Bound(self) {
+  send<void, "setUserInteractionEnabled:">(self, false);
 }
 
-bridge::UIView UIImageView::initWithImage(bridge::UIImage image) {
-  const auto object =
-      bridge::send<bridge::UIView, "initWithFrame:">(self(), CGRect{{0, 0}, sizeOf(image)});
+UIView UIImageViewState::initWithImage(UIImage image) {
+  const auto object = send<UIView, "initWithFrame:">(self(), CGRect{{0, 0}, sizeOf(image)});
   if (object) setImage(image);
   return object;
 }
 
-void UIImageView::setImage(bridge::UIImage image) {
+void UIImageViewState::setImage(UIImage image) {
   if (image == _image.get()) return;
-  _image = bridge::Owned<bridge::UIImage>::retain(image);
-  UIView::of(self()).setNeedsDisplay();
+  _image = Owned<UIImage>::retain(image);
+  setNeedsDisplay();
 }
 
-CGSize UIImageView::sizeThatFits(CGSize) const {
+CGSize UIImageViewState::sizeThatFits(CGSize) const {
   return sizeOf(_image);
 }
 
-void UIImageView::drawContent(Canvas* canvas) const {
-  const SharedBitmap bitmap = UIImage::bitmapOf(_image.get());
+void UIImageViewState::drawContent(Canvas* canvas) const {
+  const SharedBitmap bitmap = UIImageState::bitmapOf(_image.get());
   if (!bitmap) return;
-  const auto mode = static_cast<ContentMode>(bridge::send<NSInteger, "contentMode">(self()));
-  const CGRect rect = placed(sizeOf(_image), UIView::of(self()).shown().bounds, mode);
+  const auto mode = static_cast<ContentMode>(send<NSInteger, "contentMode">(self()));
+  const CGRect rect = placed(sizeOf(_image), shown().bounds, mode);
   if (!isEmpty(rect)) canvas->image(bitmap, rect);
 }
 

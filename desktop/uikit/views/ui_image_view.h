@@ -4,8 +4,11 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
@@ -17,21 +20,21 @@ enum class ContentMode : NSInteger { scaleToFill = 0, aspectFit = 1, aspectFill 
 // Where a picture of this size is shown in a rectangle; empty where either is.
 CGRect placed(CGSize picture, CGRect room, ContentMode mode);
 
-class UIImageView : public bridge::Bound<UIImageView, bridge::UIView> {
+class UIImageViewState : public Bound<UIImageViewState, UIViewState, UIImageView> {
  public:
-  explicit UIImageView(id self);
+  explicit UIImageViewState(id self);
   static Class classObject();
 
-  bridge::UIImage image() const { return _image; }
+  UIImage image() const { return _image; }
 
   void drawContent(Canvas* canvas) const;
 
  private:
-  bridge::UIView initWithImage(bridge::UIImage image);
-  void setImage(bridge::UIImage image);
+  UIView initWithImage(UIImage image);
+  void setImage(UIImage image);
   CGSize sizeThatFits(CGSize size) const;
 
-  bridge::Owned<bridge::UIImage> _image;
+  Owned<UIImage> _image;
 };
 
 }  // namespace desktop::uikit

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_controls.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/text/attributed_text.h"
 #include "desktop/uikit/text/text_layout.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -22,13 +24,13 @@ struct LabelLine {
   CGPoint baseline;  // in the label's coordinates
 };
 
-class UILabel : public bridge::Bound<UILabel, bridge::UIView> {
+class UILabelState : public Bound<UILabelState, UIViewState, UILabel> {
  public:
-  explicit UILabel(id self);
+  explicit UILabelState(id self);
   static Class classObject();
 
-  bridge::NSString text() const { return _text; }
-  bridge::UIFont font() const { return _font; }
+  NSString text() const { return _text; }
+  UIFont font() const { return _font; }
   Color textColor() const { return _textColor; }
   TextAlignment alignment() const { return _alignment; }
   LineBreakMode lineBreakMode() const { return _lineBreakMode; }
@@ -38,19 +40,19 @@ class UILabel : public bridge::Bound<UILabel, bridge::UIView> {
   // What is painted: the lines that there is room for, cut where they are too long.
   const std::vector<LabelLine>& lines() const;
 
-  void setText(bridge::NSString text);
-  void setFont(bridge::UIFont font);
+  void setText(NSString text);
+  void setFont(UIFont font);
   void setColor(Color color);
   // As wide as the text or as the size, where it has a width; as high as the lines.
   CGSize sizeThatFits(CGSize size) const;
 
  private:
-  bridge::NSAttributedString attributedText() const;
-  void setAttributedText(bridge::NSAttributedString text);
-  bridge::UIColor textColorObject() const;
-  void setTextColor(bridge::UIColor color);
-  bridge::UIColor highlightedTextColor() const { return _highlightedTextColor; }
-  void setHighlightedTextColor(bridge::UIColor color);
+  NSAttributedString attributedText() const;
+  void setAttributedText(NSAttributedString text);
+  UIColor textColorObject() const;
+  void setTextColor(UIColor color);
+  UIColor highlightedTextColor() const { return _highlightedTextColor; }
+  void setHighlightedTextColor(UIColor color);
   bool isHighlighted() const { return _isHighlighted; }
   void setHighlighted(bool highlighted);
   NSInteger alignmentNumber() const { return static_cast<NSInteger>(_alignment); }
@@ -80,11 +82,11 @@ class UILabel : public bridge::Bound<UILabel, bridge::UIView> {
   std::vector<LabelLine> linesIn(CGSize size) const;
   Color colorOf(const TextRun& run) const;
 
-  bridge::Owned<bridge::NSString> _text;                      // nil: none
-  bridge::Owned<bridge::NSAttributedString> _attributedText;  // nil: plain
-  bridge::Owned<bridge::UIFont> _font;
+  Owned<NSString> _text;                      // nil: none
+  Owned<NSAttributedString> _attributedText;  // nil: plain
+  Owned<UIFont> _font;
   Color _textColor = colors::black;
-  bridge::Owned<bridge::UIColor> _highlightedTextColor;  // nil: the same
+  Owned<UIColor> _highlightedTextColor;  // nil: the same
   TextAlignment _alignment = TextAlignment::natural;
   LineBreakMode _lineBreakMode = LineBreakMode::byTruncatingTail;
   NSInteger _numberOfLines = 1;  // 0: as many as there are

@@ -69,7 +69,7 @@ bool isWithin(const LabelLine& line, CGSize size) {
 }  // namespace
 
 // The text with the label's own alignment.
-AttributedText UILabel::textIn(const FontFace& face) const {
+AttributedText UILabelState::textIn(const FontFace& face) const {
   AttributedText text = _attributedText ? AttributedText::of(_attributedText, face)
                                         : AttributedText::plain(utf16Of(_text), face);
   for (TextRun& run : text.runs)
@@ -77,16 +77,16 @@ AttributedText UILabel::textIn(const FontFace& face) const {
   return text;
 }
 
-CGFloat UILabel::shownFontSize() const {
-  const FontFace face = UIFont::faceOf(_font.get());
+CGFloat UILabelState::shownFontSize() const {
+  const FontFace face = UIFontState::faceOf(_font.get());
   if (!_adjustsFontSize || _numberOfLines != 1 || _attributedText || !_text) return face.size;
   const double smallest = std::max(_minimumFontSize, _minimumScaleFactor * face.size);
-  return sizeFitting(utf16Of(_text), face, UIView::of(self()).bounds().size.width, smallest);
+  return sizeFitting(utf16Of(_text), face, bounds().size.width, smallest);
 }
 
-CGSize UILabel::sizeThatFits(CGSize size) const {
+CGSize UILabelState::sizeThatFits(CGSize size) const {
   if (_text.get().length() == 0) return {};
-  const FontFace face = UIFont::faceOf(_font.get());
+  const FontFace face = UIFontState::faceOf(_font.get());
   const bool isBroken = _numberOfLines != 1 && size.width > 0;
   const TextLayout layout(std::make_shared<AttributedText>(textIn(face)),
                           isBroken ? size.width : unlimited);
@@ -96,19 +96,19 @@ CGSize UILabel::sizeThatFits(CGSize size) const {
   return {pixelsUp(fitting.width), pixelsUp(fitting.height)};
 }
 
-CGSize UILabel::intrinsicContentSize() const {
-  return bridge::send<CGSize, "sizeThatFits:">(self(), CGSize{});
+CGSize UILabelState::intrinsicContentSize() const {
+  return send<CGSize, "sizeThatFits:">(self(), CGSize{});
 }
 
-const std::vector<LabelLine>& UILabel::lines() const {
-  const CGSize size = UIView::of(self()).bounds().size;
+const std::vector<LabelLine>& UILabelState::lines() const {
+  const CGSize size = bounds().size;
   if (_shown.scale != screen().scale || _shown.size != size)
     _shown = {size, screen().scale, linesIn(size)};
   return _shown.lines;
 }
 
 // As many lines of the layout as the label may show and has room for; one at least.
-std::vector<PlacedLine> UILabel::linesWithRoom(const TextLayout& layout, CGSize size) const {
+std::vector<PlacedLine> UILabelState::linesWithRoom(const TextLayout& layout, CGSize size) const {
   const double lineHeight = measuresOf(layout.text().runs[0].face).lineHeight();
   auto count = static_cast<std::size_t>(std::clamp(size.height / lineHeight, 1.0, 1e6));
   if (_numberOfLines > 0) count = std::min(count, static_cast<std::size_t>(_numberOfLines));
@@ -117,10 +117,10 @@ std::vector<PlacedLine> UILabel::linesWithRoom(const TextLayout& layout, CGSize 
   return lines;
 }
 
-std::vector<LabelLine> UILabel::linesIn(CGSize size) const {
+std::vector<LabelLine> UILabelState::linesIn(CGSize size) const {
   std::vector<LabelLine> made;
   if (_text.get().length() == 0 || isEmpty(rectOfSize(size))) return made;
-  FontFace face = UIFont::faceOf(_font.get());
+  FontFace face = UIFontState::faceOf(_font.get());
   face.size = shownFontSize();
   const auto text = std::make_shared<AttributedText>(textIn(face));
   const TextLayout layout(text, _numberOfLines == 1 ? unlimited : size.width);
@@ -144,13 +144,13 @@ std::vector<LabelLine> UILabel::linesIn(CGSize size) const {
   return made;
 }
 
-Color UILabel::colorOf(const TextRun& run) const {
-  if (_isHighlighted && _highlightedTextColor) return UIColor::valueOf(_highlightedTextColor);
+Color UILabelState::colorOf(const TextRun& run) const {
+  if (_isHighlighted && _highlightedTextColor) return UIColorState::valueOf(_highlightedTextColor);
   return run.color.value_or(_textColor);
 }
 
-void UILabel::drawContent(Canvas* canvas) const {
-  const CGRect bounds = UIView::of(self()).bounds();
+void UILabelState::drawContent(Canvas* canvas) const {
+  const CGRect bounds = UIViewState::bounds();
   const auto& shown = lines();
   const bool fits = std::ranges::all_of(
       shown, [&](const LabelLine& line) { return isWithin(line, bounds.size); });

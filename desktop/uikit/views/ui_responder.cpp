@@ -2,6 +2,7 @@
 #include "desktop/uikit/views/ui_responder.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 namespace {
@@ -10,70 +11,70 @@ constinit id currentFirstResponder = nullptr;  // borrowed: it resigns when it g
 
 }  // namespace
 
-Class UIResponder::classObject() {
+Class UIResponderState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIResponder>("UIResponder")
-          .method<"nextResponder", &UIResponder::nextResponder>()
-          .method<"canBecomeFirstResponder", &UIResponder::canBecomeFirstResponder>()
-          .method<"becomeFirstResponder", &UIResponder::becomeFirstResponder>()
-          .method<"resignFirstResponder", &UIResponder::resignFirstResponder>()
-          .method<"isFirstResponder", &UIResponder::isFirstResponder>()
-          .method<"canPerformAction:withSender:", &UIResponder::canPerformAction>()
-          .method<"touchesBegan:withEvent:", &UIResponder::touchesBegan>()
-          .method<"touchesMoved:withEvent:", &UIResponder::touchesMoved>()
-          .method<"touchesEnded:withEvent:", &UIResponder::touchesEnded>()
-          .method<"touchesCancelled:withEvent:", &UIResponder::touchesCancelled>()
+      ClassBuilder<UIResponderState>("UIResponder")
+          .method<"nextResponder", &UIResponderState::nextResponder>()
+          .method<"canBecomeFirstResponder", &UIResponderState::canBecomeFirstResponder>()
+          .method<"becomeFirstResponder", &UIResponderState::becomeFirstResponder>()
+          .method<"resignFirstResponder", &UIResponderState::resignFirstResponder>()
+          .method<"isFirstResponder", &UIResponderState::isFirstResponder>()
+          .method<"canPerformAction:withSender:", &UIResponderState::canPerformAction>()
+          .method<"touchesBegan:withEvent:", &UIResponderState::touchesBegan>()
+          .method<"touchesMoved:withEvent:", &UIResponderState::touchesMoved>()
+          .method<"touchesEnded:withEvent:", &UIResponderState::touchesEnded>()
+          .method<"touchesCancelled:withEvent:", &UIResponderState::touchesCancelled>()
           .build();
   return made;
 }
 
-UIResponder::~UIResponder() {
+UIResponderState::~UIResponderState() {
   if (isFirstResponder()) currentFirstResponder = nullptr;
 }
 
-bridge::UIResponder UIResponder::firstResponder() {
-  return bridge::UIResponder(currentFirstResponder);
+UIResponder UIResponderState::firstResponder() {
+  return UIResponder(currentFirstResponder);
 }
 
-bool UIResponder::becomeFirstResponder() {
+bool UIResponderState::becomeFirstResponder() {
   if (isFirstResponder()) return true;
-  if (!bridge::send<bool, "canBecomeFirstResponder">(self())) return false;
-  bridge::send<bool, "resignFirstResponder">(firstResponder());
+  if (!send<bool, "canBecomeFirstResponder">(self())) return false;
+  send<bool, "resignFirstResponder">(firstResponder());
   currentFirstResponder = self().get();
   return true;
 }
 
-bool UIResponder::resignFirstResponder() {
+bool UIResponderState::resignFirstResponder() {
   if (isFirstResponder()) currentFirstResponder = nullptr;
   return true;
 }
 
-bool UIResponder::isFirstResponder() const {
+bool UIResponderState::isFirstResponder() const {
   return currentFirstResponder == self().get();
 }
 
-bool UIResponder::canPerformAction(SEL action, bridge::Object) const {
-  return bridge::send<bool, "respondsToSelector:">(self(), action);
+bool UIResponderState::canPerformAction(SEL action, Object) const {
+  return send<bool, "respondsToSelector:">(self(), action);
 }
 
-bridge::UIResponder UIResponder::next() const {
-  return bridge::send<bridge::UIResponder, "nextResponder">(self());
+UIResponder UIResponderState::next() const {
+  return send<UIResponder, "nextResponder">(self());
 }
 
-void UIResponder::touchesBegan(bridge::NSSet touches, bridge::UIEvent event) {
-  bridge::send<void, "touchesBegan:withEvent:">(next(), touches, event);
+void UIResponderState::touchesBegan(NSSet touches, UIEvent event) {
+  send<void, "touchesBegan:withEvent:">(next(), touches, event);
 }
 
-void UIResponder::touchesMoved(bridge::NSSet touches, bridge::UIEvent event) {
-  bridge::send<void, "touchesMoved:withEvent:">(next(), touches, event);
+void UIResponderState::touchesMoved(NSSet touches, UIEvent event) {
+  send<void, "touchesMoved:withEvent:">(next(), touches, event);
 }
 
-void UIResponder::touchesEnded(bridge::NSSet touches, bridge::UIEvent event) {
-  bridge::send<void, "touchesEnded:withEvent:">(next(), touches, event);
+void UIResponderState::touchesEnded(NSSet touches, UIEvent event) {
+  send<void, "touchesEnded:withEvent:">(next(), touches, event);
 }
 
-void UIResponder::touchesCancelled(bridge::NSSet touches, bridge::UIEvent event) {
-  bridge::send<void, "touchesCancelled:withEvent:">(next(), touches, event);
+void UIResponderState::touchesCancelled(NSSet touches, UIEvent event) {
+  send<void, "touchesCancelled:withEvent:">(next(), touches, event);
 }
 
 }  // namespace desktop::uikit

@@ -4,31 +4,33 @@
 #pragma once
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
-class UIResponder : public bridge::Bound<UIResponder, bridge::NSObject> {
+class UIResponderState : public Bound<UIResponderState, NSObject, UIResponder> {
  public:
   using Bound::Bound;
   static Class classObject();
-  ~UIResponder();
+  ~UIResponderState();
 
   // The responder that takes commands at present, or nil. Borrowed.
-  static bridge::UIResponder firstResponder();
+  static UIResponder firstResponder();
 
  private:
-  bridge::UIResponder nextResponder() const { return {}; }
+  UIResponder nextResponder() const { return {}; }
   bool canBecomeFirstResponder() const { return false; }
   bool becomeFirstResponder();
   bool resignFirstResponder();
   bool isFirstResponder() const;
-  bool canPerformAction(SEL action, bridge::Object sender) const;
-  void touchesBegan(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesMoved(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesEnded(bridge::NSSet touches, bridge::UIEvent event);
-  void touchesCancelled(bridge::NSSet touches, bridge::UIEvent event);
-  bridge::UIResponder next() const;
+  bool canPerformAction(SEL action, Object sender) const;
+  void touchesBegan(NSSet touches, UIEvent event);
+  void touchesMoved(NSSet touches, UIEvent event);
+  void touchesEnded(NSSet touches, UIEvent event);
+  void touchesCancelled(NSSet touches, UIEvent event);
+  UIResponder next() const;
 };
 
 }  // namespace desktop::uikit

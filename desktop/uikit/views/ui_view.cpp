@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "bridge/class_builder.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
@@ -16,111 +17,111 @@
 
 namespace desktop::uikit {
 
-Class UIView::classObject() {
+Class UIViewState::classObject() {
   static const Class made =
-      bridge::ClassBuilder<UIView>("UIView")
-          .method<"init", &UIView::init>()
-          .method<"initWithFrame:", &UIView::initWithFrame>()
-          .method<"frame", &UIView::frame>()
-          .method<"setFrame:", &UIView::setFrame>()
-          .method<"bounds", &UIView::bounds>()
-          .method<"setBounds:", &UIView::setBounds>()
-          .method<"center", &UIView::center>()
-          .method<"setCenter:", &UIView::setCenter>()
-          .method<"transform", &UIView::transform>()
-          .method<"setTransform:", &UIView::setTransform>()
-          .method<"alpha", &UIView::alpha>()
-          .method<"setAlpha:", &UIView::setAlpha>()
-          .method<"isHidden", &UIView::isHidden>()
-          .method<"setHidden:", &UIView::setHidden>()
-          .method<"isOpaque", &UIView::isOpaque>()
-          .method<"setOpaque:", &UIView::setOpaque>()
-          .method<"backgroundColor", &UIView::backgroundColorObject>()
-          .method<"setBackgroundColor:", &UIView::setBackgroundColor>()
-          .method<"tintColor", &UIView::tintColor>()
-          .method<"setTintColor:", &UIView::setTintColor>()
-          .method<"clipsToBounds", &UIView::clipsToBounds>()
-          .method<"setClipsToBounds:", &UIView::setClipsToBounds>()
-          .method<"contentMode", &UIView::contentMode>()
-          .method<"setContentMode:", &UIView::setContentMode>()
-          .method<"layer", &UIView::layer>()
-          .method<"tag", &UIView::tag>()
-          .method<"setTag:", &UIView::setTag>()
-          .method<"viewWithTag:", &UIView::viewWithTag>()
-          .method<"autoresizingMask", &UIView::autoresizingMask>()
-          .method<"setAutoresizingMask:", &UIView::setAutoresizingMask>()
-          .method<"translatesAutoresizingMaskIntoConstraints", &UIView::translatesMask>()
-          .method<"setTranslatesAutoresizingMaskIntoConstraints:", &UIView::setTranslatesMask>()
-          .method<"isUserInteractionEnabled", &UIView::isUserInteractionEnabled>()
-          .method<"setUserInteractionEnabled:", &UIView::setUserInteractionEnabled>()
-          .method<"subviews", &UIView::subviewsArray>()
-          .method<"superview", &UIView::superview>()
-          .method<"window", &UIView::window>()
-          .method<"isDescendantOfView:", &UIView::isDescendantOf>()
-          .method<"addSubview:", &UIView::addSubview>()
-          .method<"insertSubview:atIndex:", &UIView::insertSubviewAtIndex>()
-          .method<"insertSubview:aboveSubview:", &UIView::insertAbove>()
-          .method<"insertSubview:belowSubview:", &UIView::insertBelow>()
-          .method<"bringSubviewToFront:", &UIView::bringToFront>()
-          .method<"sendSubviewToBack:", &UIView::sendToBack>()
-          .method<"removeFromSuperview", &UIView::removeFromSuperview>()
-          .method<"willMoveToSuperview:", &UIView::willMoveToSuperview>()
-          .method<"didMoveToSuperview", &UIView::didMoveToSuperview>()
-          .method<"didMoveToWindow", &UIView::didMoveToWindow>()
-          .method<"nextResponder", &UIView::nextResponder>()
-          .method<"setNeedsLayout", &UIView::setNeedsLayout>()
-          .method<"setNeedsDisplay", &UIView::setNeedsDisplay>()
-          .method<"layoutSubviews", &UIView::layoutSubviews>()
-          .method<"layoutIfNeeded", &UIView::layoutIfNeeded>()
-          .method<"sizeThatFits:", &UIView::sizeThatFits>()
-          .method<"sizeToFit", &UIView::sizeToFit>()
-          .method<"hitTest:withEvent:", &UIView::hitTest>()
-          .method<"pointInside:withEvent:", &UIView::pointInside>()
-          .method<"convertPoint:toView:", &UIView::convertPointTo>()
-          .method<"convertPoint:fromView:", &UIView::convertPointFrom>()
-          .method<"convertRect:toView:", &UIView::convertRectTo>()
-          .method<"convertRect:fromView:", &UIView::convertRectFrom>()
-          .method<"_scrollBy:", &UIView::scrollBy>()
-          .method<"_delaysTouches", &UIView::delaysTouches>()
-          .method<"gestureRecognizers", &UIView::gestureRecognizersArray>()
-          .method<"addGestureRecognizer:", &UIView::addGestureRecognizer>()
-          .method<"removeGestureRecognizer:", &UIView::removeGestureRecognizer>()
-          .method<"drawContentOn:", &UIView::drawContent>()
-          .method<"drawOverSubviewsOn:", &UIView::drawOverSubviews>()
+      ClassBuilder<UIViewState>("UIView")
+          .method<"init", &UIViewState::init>()
+          .method<"initWithFrame:", &UIViewState::initWithFrame>()
+          .method<"frame", &UIViewState::frame>()
+          .method<"setFrame:", &UIViewState::setFrame>()
+          .method<"bounds", &UIViewState::bounds>()
+          .method<"setBounds:", &UIViewState::setBounds>()
+          .method<"center", &UIViewState::center>()
+          .method<"setCenter:", &UIViewState::setCenter>()
+          .method<"transform", &UIViewState::transform>()
+          .method<"setTransform:", &UIViewState::setTransform>()
+          .method<"alpha", &UIViewState::alpha>()
+          .method<"setAlpha:", &UIViewState::setAlpha>()
+          .method<"isHidden", &UIViewState::isHidden>()
+          .method<"setHidden:", &UIViewState::setHidden>()
+          .method<"isOpaque", &UIViewState::isOpaque>()
+          .method<"setOpaque:", &UIViewState::setOpaque>()
+          .method<"backgroundColor", &UIViewState::backgroundColorObject>()
+          .method<"setBackgroundColor:", &UIViewState::setBackgroundColor>()
+          .method<"tintColor", &UIViewState::tintColor>()
+          .method<"setTintColor:", &UIViewState::setTintColor>()
+          .method<"clipsToBounds", &UIViewState::clipsToBounds>()
+          .method<"setClipsToBounds:", &UIViewState::setClipsToBounds>()
+          .method<"contentMode", &UIViewState::contentMode>()
+          .method<"setContentMode:", &UIViewState::setContentMode>()
+          .method<"layer", &UIViewState::layer>()
+          .method<"tag", &UIViewState::tag>()
+          .method<"setTag:", &UIViewState::setTag>()
+          .method<"viewWithTag:", &UIViewState::viewWithTag>()
+          .method<"autoresizingMask", &UIViewState::autoresizingMask>()
+          .method<"setAutoresizingMask:", &UIViewState::setAutoresizingMask>()
+          .method<"translatesAutoresizingMaskIntoConstraints", &UIViewState::translatesMask>()
+          .method<"setTranslatesAutoresizingMaskIntoConstraints:",
+                  &UIViewState::setTranslatesMask>()
+          .method<"isUserInteractionEnabled", &UIViewState::isUserInteractionEnabled>()
+          .method<"setUserInteractionEnabled:", &UIViewState::setUserInteractionEnabled>()
+          .method<"subviews", &UIViewState::subviewsArray>()
+          .method<"superview", &UIViewState::superview>()
+          .method<"window", &UIViewState::window>()
+          .method<"isDescendantOfView:", &UIViewState::isDescendantOf>()
+          .method<"addSubview:", &UIViewState::addSubview>()
+          .method<"insertSubview:atIndex:", &UIViewState::insertSubviewAtIndex>()
+          .method<"insertSubview:aboveSubview:", &UIViewState::insertAbove>()
+          .method<"insertSubview:belowSubview:", &UIViewState::insertBelow>()
+          .method<"bringSubviewToFront:", &UIViewState::bringToFront>()
+          .method<"sendSubviewToBack:", &UIViewState::sendToBack>()
+          .method<"removeFromSuperview", &UIViewState::removeFromSuperview>()
+          .method<"willMoveToSuperview:", &UIViewState::willMoveToSuperview>()
+          .method<"didMoveToSuperview", &UIViewState::didMoveToSuperview>()
+          .method<"didMoveToWindow", &UIViewState::didMoveToWindow>()
+          .method<"nextResponder", &UIViewState::nextResponder>()
+          .method<"setNeedsLayout", &UIViewState::setNeedsLayout>()
+          .method<"setNeedsDisplay", &UIViewState::setNeedsDisplay>()
+          .method<"layoutSubviews", &UIViewState::layoutSubviews>()
+          .method<"layoutIfNeeded", &UIViewState::layoutIfNeeded>()
+          .method<"sizeThatFits:", &UIViewState::sizeThatFits>()
+          .method<"sizeToFit", &UIViewState::sizeToFit>()
+          .method<"hitTest:withEvent:", &UIViewState::hitTest>()
+          .method<"pointInside:withEvent:", &UIViewState::pointInside>()
+          .method<"convertPoint:toView:", &UIViewState::convertPointTo>()
+          .method<"convertPoint:fromView:", &UIViewState::convertPointFrom>()
+          .method<"convertRect:toView:", &UIViewState::convertRectTo>()
+          .method<"convertRect:fromView:", &UIViewState::convertRectFrom>()
+          .method<"_scrollBy:", &UIViewState::scrollBy>()
+          .method<"_delaysTouches", &UIViewState::delaysTouches>()
+          .method<"gestureRecognizers", &UIViewState::gestureRecognizersArray>()
+          .method<"addGestureRecognizer:", &UIViewState::addGestureRecognizer>()
+          .method<"removeGestureRecognizer:", &UIViewState::removeGestureRecognizer>()
+          .method<"drawContentOn:", &UIViewState::drawContent>()
+          .method<"drawOverSubviewsOn:", &UIViewState::drawOverSubviews>()
           .build();
   return made;
 }
 
-UIView::UIView(id self) : Bound(self) {
-  _layer = bridge::makeNew<bridge::CALayer>();
-  CALayer::of(_layer.get()).setView(bridge::UIView(self));
+UIViewState::UIViewState(id self) : Bound(self) {
+  _layer = makeNew<CALayer>();
+  CALayerState::of(_layer.get()).setView(UIView(self));
 }
 
-UIView::~UIView() {
-  CALayer::of(_layer.get()).setView({});
+UIViewState::~UIViewState() {
+  CALayerState::of(_layer.get()).setView({});
   for (const auto& view : _subviews) of(view.get())._superview = {};
-  for (const auto& recognizer : _gestureRecognizers)
-    bridge::send<void, "_viewIsGone">(recognizer.get());
+  for (const auto& recognizer : _gestureRecognizers) send<void, "_viewIsGone">(recognizer.get());
 }
 
-bridge::UIView UIView::init() {
-  return bridge::send<bridge::UIView, "initWithFrame:">(self(), CGRect{});
+UIView UIViewState::init() {
+  return send<UIView, "initWithFrame:">(self(), CGRect{});
 }
 
-bridge::UIView UIView::initWithFrame(CGRect frame) {
-  const auto object = super<bridge::UIView, "init">();
+UIView UIViewState::initWithFrame(CGRect frame) {
+  const auto object = super<UIView, "init">();
   if (object) setFrame(frame);
   return object;
 }
 
-CGRect UIView::frame() const {
+CGRect UIViewState::frame() const {
   const CGRect around = uikit::apply(
       _own.transform,
       CGRect{{-_own.bounds.size.width / 2, -_own.bounds.size.height / 2}, _own.bounds.size});
   return offset(around, _own.center);
 }
 
-void UIView::setFrame(CGRect frame) {
+void UIViewState::setFrame(CGRect frame) {
   if (!isFinite(frame)) frame = {};
   ViewAppearance next = _own;
   next.bounds.size = frame.size;
@@ -128,43 +129,43 @@ void UIView::setFrame(CGRect frame) {
   become(next);
 }
 
-void UIView::setBounds(CGRect bounds) {
+void UIViewState::setBounds(CGRect bounds) {
   if (!isFinite(bounds)) bounds = {};
   ViewAppearance next = _own;
   next.bounds = bounds;
   become(next);
 }
 
-void UIView::setCenter(CGPoint center) {
+void UIViewState::setCenter(CGPoint center) {
   ViewAppearance next = _own;
   if (std::isfinite(center.x) && std::isfinite(center.y)) next.center = center;
   become(next);
 }
 
-void UIView::setTransform(CGAffineTransform transform) {
+void UIViewState::setTransform(CGAffineTransform transform) {
   ViewAppearance next = _own;
   next.transform = transform;
   become(next);
 }
 
-void UIView::setAlpha(CGFloat alpha) {
+void UIViewState::setAlpha(CGFloat alpha) {
   ViewAppearance next = _own;
   next.alpha = alpha > 0 ? std::min(alpha, 1.0) : 0;
   become(next);
 }
 
-void UIView::setBackgroundColor(bridge::UIColor color) {
+void UIViewState::setBackgroundColor(UIColor color) {
   ViewAppearance next = _own;
-  next.background = UIColor::valueOf(color);
+  next.background = UIColorState::valueOf(color);
   become(next);
 }
 
-void UIView::become(const ViewAppearance& appearance) {
+void UIViewState::become(const ViewAppearance& appearance) {
   if (appearance == _own) return;
   setNeedsDisplay();
   const ViewAppearance before = _own;
   _own = appearance;
-  animator().appearanceChanges(bridge::UIView(self().get()), before, _own);
+  animator().appearanceChanges(UIView(self().get()), before, _own);
   if (before.bounds.size != _own.bounds.size) {
     resizeSubviews(before.bounds.size);
     setNeedsLayout();
@@ -172,24 +173,24 @@ void UIView::become(const ViewAppearance& appearance) {
   setNeedsDisplay();
 }
 
-ViewAppearance UIView::shown() const {
-  return animator().shown(bridge::UIView(self().get()), _own);
+ViewAppearance UIViewState::shown() const {
+  return animator().shown(UIView(self().get()), _own);
 }
 
-CGAffineTransform UIView::toSuperview() const {
+CGAffineTransform UIViewState::toSuperview() const {
   const ViewAppearance seen = shown();
   const CGPoint mid = middle(seen.bounds);
   return concat(concat(translation({-mid.x, -mid.y}), seen.transform), translation(seen.center));
 }
 
-CGAffineTransform UIView::toScreen() const {
+CGAffineTransform UIViewState::toScreen() const {
   CGAffineTransform all = toSuperview();
-  for (bridge::UIView view = _superview; view; view = of(view.get())._superview)
+  for (UIView view = _superview; view; view = of(view.get())._superview)
     all = concat(all, of(view.get()).toSuperview());
   return all;
 }
 
-void UIView::setHidden(bool hidden) {
+void UIViewState::setHidden(bool hidden) {
   if (hidden == _isHidden) return;
   setNeedsDisplay();
   _isHidden = hidden;
@@ -197,9 +198,9 @@ void UIView::setHidden(bool hidden) {
 }
 
 // What stands out of the bounds by a shadow is painted again too.
-void UIView::setNeedsDisplay() const {
+void UIViewState::setNeedsDisplay() const {
   if (!window()) return;
-  const CALayer::Style& style = CALayer::of(_layer.get()).style();
+  const CALayerState::Style& style = CALayerState::of(_layer.get()).style();
   CGRect touched = shown().bounds;
   if (style.shadowOpacity > 0) {
     const CGFloat reach = 2 * style.shadowRadius + std::abs(style.shadowOffset.width) +
@@ -211,36 +212,36 @@ void UIView::setNeedsDisplay() const {
   screen().damage.add(uikit::apply(toScreen(), touched));
 }
 
-void UIView::drawContent(Canvas*) const {}
+void UIViewState::drawContent(Canvas*) const {}
 
-bridge::UIColor UIView::backgroundColorObject() const {
-  return _own.background == Color{} ? bridge::UIColor() : UIColor::make(_own.background);
+UIColor UIViewState::backgroundColorObject() const {
+  return _own.background == Color{} ? UIColor() : UIColorState::make(_own.background);
 }
 
-Color UIView::tint() const {
-  if (_tintColor) return UIColor::valueOf(_tintColor);
+Color UIViewState::tint() const {
+  if (_tintColor) return UIColorState::valueOf(_tintColor);
   return _superview ? of(_superview.get()).tint() : colors::tint;
 }
 
-bridge::UIColor UIView::tintColor() const {
+UIColor UIViewState::tintColor() const {
   if (_tintColor) return _tintColor;
-  return _superview ? _superview.tintColor() : UIColor::make(colors::tint);
+  return _superview ? _superview.tintColor() : UIColorState::make(colors::tint);
 }
 
-void UIView::setTintColor(bridge::UIColor color) {
-  _tintColor = bridge::Owned<bridge::UIColor>::retain(color);
+void UIViewState::setTintColor(UIColor color) {
+  _tintColor = Owned<UIColor>::retain(color);
   setNeedsDisplay();
 }
 
-bool UIView::clipsToBounds() const {
-  return CALayer::of(_layer.get()).masksToBounds();
+bool UIViewState::clipsToBounds() const {
+  return CALayerState::of(_layer.get()).masksToBounds();
 }
 
-void UIView::setClipsToBounds(bool clips) {
+void UIViewState::setClipsToBounds(bool clips) {
   _layer->setMasksToBounds(clips);
 }
 
-void UIView::setContentMode(NSInteger mode) {
+void UIViewState::setContentMode(NSInteger mode) {
   _contentMode = mode;
   setNeedsDisplay();
 }

@@ -5,9 +5,12 @@
 #pragma once
 
 #include <vector>
+#include "desktop/uikit/views/ui_responder.h"
 
 #include "bridge/bound.h"
+#include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/views/animator.h"
 
@@ -15,10 +18,10 @@ namespace desktop::uikit {
 
 class Canvas;
 
-class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
+class UIViewState : public Bound<UIViewState, UIResponderState, UIView> {
  public:
-  explicit UIView(id self);
-  ~UIView();
+  explicit UIViewState(id self);
+  ~UIViewState();
   static Class classObject();
 
   // Geometry. A frame that is not finite counts as zero; one of a transformed view is the
@@ -44,27 +47,27 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   bool isHidden() const { return _isHidden; }
   void setHidden(bool hidden);
   Color backgroundColor() const { return _own.background; }
-  void setBackgroundColor(bridge::UIColor color);
+  void setBackgroundColor(UIColor color);
   // Its own, or the nearest superview's that has one, or the standard one.
   Color tint() const;
   bool clipsToBounds() const;
-  bridge::CALayer layer() const { return _layer; }
+  CALayer layer() const { return _layer; }
   NSInteger tag() const { return _tag; }
   NSUInteger autoresizingMask() const { return _autoresizingMask; }
 
   // Tree. Subviews are from back to front; superview and window are borrowed, nil where none.
-  const std::vector<bridge::Owned<bridge::UIView>>& subviews() const { return _subviews; }
-  bridge::UIView superview() const { return _superview; }
-  bridge::UIView window() const;
+  const std::vector<Owned<UIView>>& subviews() const { return _subviews; }
+  UIView superview() const { return _superview; }
+  UIView window() const;
   // Says that this view is a window: the top of what is on screen.
   void standAsWindow() { _isWindow = true; }
-  bool isDescendantOf(bridge::UIView view) const;
-  void insertSubview(bridge::UIView view, std::size_t index);
+  bool isDescendantOf(UIView view) const;
+  void insertSubview(UIView view, std::size_t index);
   // The controller whose view this is, or nil; set by the controller, borrowed.
-  bridge::UIResponder controller() const { return _controller; }
-  void setController(bridge::UIResponder controller) { _controller = controller; }
+  UIResponder controller() const { return _controller; }
+  void setController(UIResponder controller) { _controller = controller; }
 
-  const std::vector<bridge::Owned<bridge::UIGestureRecognizer>>& gestureRecognizers() const {
+  const std::vector<Owned<UIGestureRecognizer>>& gestureRecognizers() const {
     return _gestureRecognizers;
   }
   bool isUserInteractionEnabled() const { return _isUserInteractionEnabled; }
@@ -80,11 +83,11 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   void drawOverSubviews(Canvas*) const {}
 
  private:
-  bridge::UIView initWithFrame(CGRect frame);
-  bridge::UIView init();
-  bridge::UIColor backgroundColorObject() const;
-  bridge::UIColor tintColor() const;
-  void setTintColor(bridge::UIColor color);
+  UIView initWithFrame(CGRect frame);
+  UIView init();
+  UIColor backgroundColorObject() const;
+  UIColor tintColor() const;
+  void setTintColor(UIColor color);
   void setClipsToBounds(bool clips);
   void setTag(NSInteger tag) { _tag = tag; }
   void setAutoresizingMask(NSUInteger mask) { _autoresizingMask = mask; }
@@ -96,19 +99,19 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   bool isOpaque() const { return _isOpaque; }
   void setOpaque(bool opaque) { _isOpaque = opaque; }
 
-  bridge::NSArray subviewsArray() const;
-  void addSubview(bridge::UIView view);
-  void insertSubviewAtIndex(bridge::UIView view, NSInteger index);
-  void insertAbove(bridge::UIView view, bridge::UIView sibling);
-  void insertBelow(bridge::UIView view, bridge::UIView sibling);
-  void bringToFront(bridge::UIView view);
-  void sendToBack(bridge::UIView view);
+  NSArray subviewsArray() const;
+  void addSubview(UIView view);
+  void insertSubviewAtIndex(UIView view, NSInteger index);
+  void insertAbove(UIView view, UIView sibling);
+  void insertBelow(UIView view, UIView sibling);
+  void bringToFront(UIView view);
+  void sendToBack(UIView view);
   void removeFromSuperview();
-  void willMoveToSuperview(bridge::UIView) {}
+  void willMoveToSuperview(UIView) {}
   void didMoveToSuperview() {}
   void didMoveToWindow() {}
-  bridge::UIView viewWithTag(NSInteger tag);
-  bridge::UIResponder nextResponder() const;
+  UIView viewWithTag(NSInteger tag);
+  UIResponder nextResponder() const;
 
   void layoutSubviews() {}
   void layoutIfNeeded();
@@ -116,35 +119,35 @@ class UIView : public bridge::Bound<UIView, bridge::UIResponder> {
   void sizeToFit();
   void resizeSubviews(CGSize oldSize);
 
-  bridge::UIView hitTest(CGPoint point, bridge::UIEvent event);
-  bool pointInside(CGPoint point, bridge::UIEvent event) const;
-  CGPoint convertPointTo(CGPoint point, bridge::UIView view) const;
-  CGPoint convertPointFrom(CGPoint point, bridge::UIView view) const;
-  CGRect convertRectTo(CGRect rect, bridge::UIView view) const;
-  CGRect convertRectFrom(CGRect rect, bridge::UIView view) const;
+  UIView hitTest(CGPoint point, UIEvent event);
+  bool pointInside(CGPoint point, UIEvent event) const;
+  CGPoint convertPointTo(CGPoint point, UIView view) const;
+  CGPoint convertPointFrom(CGPoint point, UIView view) const;
+  CGRect convertRectTo(CGRect rect, UIView view) const;
+  CGRect convertRectFrom(CGRect rect, UIView view) const;
 
   // What scrolls answers these otherwise: a wheel over it, and whether a touch in it may be one
   // that scrolls.
   bool scrollBy(CGPoint) { return false; }
   bool delaysTouches() const { return false; }
 
-  bridge::NSArray gestureRecognizersArray() const;
-  void addGestureRecognizer(bridge::UIGestureRecognizer recognizer);
-  void removeGestureRecognizer(bridge::UIGestureRecognizer recognizer);
+  NSArray gestureRecognizersArray() const;
+  void addGestureRecognizer(UIGestureRecognizer recognizer);
+  void removeGestureRecognizer(UIGestureRecognizer recognizer);
 
   // Moves to another appearance: animated where an animation is being described.
   void become(const ViewAppearance& appearance);
-  void detach(bridge::UIView subview);
+  void detach(UIView subview);
   void tellMovedToWindow();
   bool layOut();
 
   ViewAppearance _own;
-  bridge::Owned<bridge::UIColor> _tintColor;  // nil: inherited
-  bridge::Owned<bridge::CALayer> _layer;
-  std::vector<bridge::Owned<bridge::UIView>> _subviews;
-  bridge::UIView _superview;        // borrowed
-  bridge::UIResponder _controller;  // borrowed
-  std::vector<bridge::Owned<bridge::UIGestureRecognizer>> _gestureRecognizers;
+  Owned<UIColor> _tintColor;  // nil: inherited
+  Owned<CALayer> _layer;
+  std::vector<Owned<UIView>> _subviews;
+  UIView _superview;        // borrowed
+  UIResponder _controller;  // borrowed
+  std::vector<Owned<UIGestureRecognizer>> _gestureRecognizers;
   NSInteger _tag = 0;
   NSUInteger _autoresizingMask = 0;
   NSInteger _contentMode = 0;

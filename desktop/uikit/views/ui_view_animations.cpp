@@ -2,14 +2,12 @@
 //
 // The class methods of UIView that animate: blocks in, the animator does the work.
 #include "bridge/block.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 namespace {
-
-using bridge::Block;
-using bridge::BlockHeader;
 
 // The platform's option bits that are honoured: the curve, in bits 16 and 17.
 AnimationCurve curveOf(NSUInteger options) {
@@ -51,9 +49,9 @@ struct Row;
 template <typename R, typename... Arguments>
 struct Row<R (*)(id, SEL, Arguments...)> {
   static void add(const char* selector, R (*function)(id, SEL, Arguments...)) {
-    class_addMethod(object_getClass(bridge::rawObject(UIView::classObject())),
+    class_addMethod(object_getClass(rawObject(UIViewState::classObject())),
                     sel_registerName(selector), reinterpret_cast<IMP>(function),
-                    bridge::encodingOf<R(id, SEL, Arguments...)>.data());
+                    encodingOf<R(id, SEL, Arguments...)>.data());
   }
 };
 

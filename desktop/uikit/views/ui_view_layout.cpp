@@ -47,7 +47,7 @@ Stretch stretched(Stretch old, CGFloat oldWhole, CGFloat newWhole, bool before, 
 
 }  // namespace
 
-void UIView::resizeSubviews(CGSize oldSize) {
+void UIViewState::resizeSubviews(CGSize oldSize) {
   const CGSize size = _own.bounds.size;
   const auto children = _subviews;
   for (const auto& child : children) {
@@ -62,73 +62,72 @@ void UIView::resizeSubviews(CGSize oldSize) {
   }
 }
 
-void UIView::layoutIfNeeded() {
+void UIViewState::layoutIfNeeded() {
   for (int pass = 0; pass < maximalPasses && layOut(); ++pass) {
   }
 }
 
 // Lays out this view and all below that need it; whether any did.
-bool UIView::layOut() {
-  const bridge::UIView me(self().get());
+bool UIViewState::layOut() {
+  const UIView me(self().get());
   bool didAny = _needsLayout;
   if (std::exchange(_needsLayout, false)) {
-    bridge::send<void, "_adjustScrollViews">(_controller);
-    bridge::send<void, "viewWillLayoutSubviews">(_controller);
-    bridge::send<void, "layoutSubviews">(me);
-    bridge::send<void, "viewDidLayoutSubviews">(_controller);
+    send<void, "_adjustScrollViews">(_controller);
+    send<void, "viewWillLayoutSubviews">(_controller);
+    send<void, "layoutSubviews">(me);
+    send<void, "viewDidLayoutSubviews">(_controller);
   }
   const auto children = _subviews;
   for (const auto& child : children) didAny |= of(child.get()).layOut();
   return didAny;
 }
 
-CGSize UIView::sizeThatFits(CGSize) const {
+CGSize UIViewState::sizeThatFits(CGSize) const {
   return _own.bounds.size;
 }
 
-void UIView::sizeToFit() {
-  const bridge::UIView me(self().get());
-  const CGSize size = bridge::send<CGSize, "sizeThatFits:">(me, _own.bounds.size);
+void UIViewState::sizeToFit() {
+  const UIView me(self().get());
+  const CGSize size = send<CGSize, "sizeThatFits:">(me, _own.bounds.size);
   me.setFrame({me.frame().origin, size});
 }
 
 // Views that are hidden, nearly transparent, switched off or being animated take no touches.
-bridge::UIView UIView::hitTest(CGPoint point, bridge::UIEvent event) {
+UIView UIViewState::hitTest(CGPoint point, UIEvent event) {
   constexpr CGFloat leastAlpha = 0.01;
-  const bridge::UIView me(self().get());
+  const UIView me(self().get());
   if (_isHidden || !_isUserInteractionEnabled || _own.alpha < leastAlpha) return {};
   if (animator().isAnimating(me)) return {};
-  if (!bridge::send<bool, "pointInside:withEvent:">(me, point, event)) return {};
+  if (!send<bool, "pointInside:withEvent:">(me, point, event)) return {};
   for (auto child = _subviews.rbegin(); child != _subviews.rend(); ++child) {
     const CGPoint inChild = uikit::apply(inverse(of(child->get().get()).toSuperview()), point);
-    const auto hit =
-        bridge::send<bridge::UIView, "hitTest:withEvent:">(child->get(), inChild, event);
+    const auto hit = send<UIView, "hitTest:withEvent:">(child->get(), inChild, event);
     if (hit) return hit;
   }
   return me;
 }
 
-bool UIView::pointInside(CGPoint point, bridge::UIEvent) const {
-  return bridge::contains(_own.bounds, point);
+bool UIViewState::pointInside(CGPoint point, UIEvent) const {
+  return contains(_own.bounds, point);
 }
 
 // No view stands for the screen.
-CGPoint UIView::convertPointTo(CGPoint point, bridge::UIView view) const {
+CGPoint UIViewState::convertPointTo(CGPoint point, UIView view) const {
   const CGPoint onScreen = uikit::apply(toScreen(), point);
   return view ? uikit::apply(inverse(of(view.get()).toScreen()), onScreen) : onScreen;
 }
 
-CGPoint UIView::convertPointFrom(CGPoint point, bridge::UIView view) const {
+CGPoint UIViewState::convertPointFrom(CGPoint point, UIView view) const {
   const CGPoint onScreen = view ? uikit::apply(of(view.get()).toScreen(), point) : point;
   return uikit::apply(inverse(toScreen()), onScreen);
 }
 
-CGRect UIView::convertRectTo(CGRect rect, bridge::UIView view) const {
+CGRect UIViewState::convertRectTo(CGRect rect, UIView view) const {
   const CGRect onScreen = uikit::apply(toScreen(), rect);
   return view ? uikit::apply(inverse(of(view.get()).toScreen()), onScreen) : onScreen;
 }
 
-CGRect UIView::convertRectFrom(CGRect rect, bridge::UIView view) const {
+CGRect UIViewState::convertRectFrom(CGRect rect, UIView view) const {
   const CGRect onScreen = view ? uikit::apply(of(view.get()).toScreen(), rect) : rect;
   return uikit::apply(inverse(toScreen()), onScreen);
 }

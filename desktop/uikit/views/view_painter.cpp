@@ -10,26 +10,26 @@
 namespace desktop::uikit {
 namespace {
 
-void paintShadow(const CALayer::Style& style, CGRect bounds, Canvas& canvas) {
+void paintShadow(const CALayerState::Style& style, CGRect bounds, Canvas& canvas) {
   if (!(style.shadowOpacity > 0) || style.masksToBounds) return;
-  const Color color = style.shadowColor ? UIColor::valueOf(style.shadowColor) : colors::black;
-  const Path* given = UIBezierPath::valueOf(style.shadowPath.get());
+  const Color color = style.shadowColor ? UIColorState::valueOf(style.shadowColor) : colors::black;
+  const Path* given = UIBezierPathState::valueOf(style.shadowPath.get());
   const Path path = given ? *given : Path::roundedRect(bounds, style.cornerRadius);
   canvas.shadow(path, color.withAlpha(color.alpha * static_cast<double>(style.shadowOpacity)),
                 style.shadowOffset, style.shadowRadius);
 }
 
-void paintBorder(const CALayer::Style& style, CGRect bounds, Canvas& canvas) {
+void paintBorder(const CALayerState::Style& style, CGRect bounds, Canvas& canvas) {
   if (!(style.borderWidth > 0)) return;
-  const Color color = style.borderColor ? UIColor::valueOf(style.borderColor) : colors::black;
+  const Color color = style.borderColor ? UIColorState::valueOf(style.borderColor) : colors::black;
   const CGFloat half = style.borderWidth / 2;
   canvas.stroke(Path::roundedRect(inset(bounds, half, half), style.cornerRadius - half),
                 style.borderWidth, color);
 }
 
-void paintLayer(bridge::CALayer layer, Canvas& canvas) {
-  const CALayer& state = CALayer::of(layer.get());
-  const CALayer::Style& style = state.style();
+void paintLayer(CALayer layer, Canvas& canvas) {
+  const CALayerState& state = CALayerState::of(layer.get());
+  const CALayerState::Style& style = state.style();
   const CGRect frame = state.frame();
   if (style.isHidden || !(style.opacity > 0)) return;
   canvas.save();
@@ -38,9 +38,9 @@ void paintLayer(bridge::CALayer layer, Canvas& canvas) {
   if (style.opacity < 1) canvas.beginGroup(static_cast<double>(style.opacity), bounds);
   paintShadow(style, bounds, canvas);
   if (style.backgroundColor)
-    canvas.fill(bounds, UIColor::valueOf(style.backgroundColor), style.cornerRadius);
-  if (bridge::isKindOf(layer, CAGradientLayer::classObject())) {
-    const CAGradientLayer& gradient = CAGradientLayer::of(layer.get());
+    canvas.fill(bounds, UIColorState::valueOf(style.backgroundColor), style.cornerRadius);
+  if (isKindOf(layer, CAGradientLayerState::classObject())) {
+    const CAGradientLayerState& gradient = CAGradientLayerState::of(layer.get());
     const std::vector<Color> values = gradient.colors();
     if (!values.empty())
       canvas.gradient(bounds, values, gradient.startPoint(), gradient.endPoint(),
@@ -53,7 +53,7 @@ void paintLayer(bridge::CALayer layer, Canvas& canvas) {
 }
 
 // What of a view can be seen at all: its bounds, or anything where it does not clip.
-bool isOutOfSight(const UIView& view, const CALayer::Style& style, CGRect bounds,
+bool isOutOfSight(const UIViewState& view, const CALayerState::Style& style, CGRect bounds,
                   const Canvas& canvas) {
   const bool reachesOut =
       !style.masksToBounds && (!view.subviews().empty() || style.shadowOpacity > 0);
@@ -62,12 +62,12 @@ bool isOutOfSight(const UIView& view, const CALayer::Style& style, CGRect bounds
 
 }  // namespace
 
-void paintView(bridge::UIView view, Canvas& canvas) {
-  const UIView& state = UIView::of(view.get());
+void paintView(UIView view, Canvas& canvas) {
+  const UIViewState& state = UIViewState::of(view.get());
   const ViewAppearance seen = state.shown();
   if (state.isHidden() || !(seen.alpha > 0)) return;
-  const CALayer& layer = CALayer::of(state.layer().get());
-  const CALayer::Style& style = layer.style();
+  const CALayerState& layer = CALayerState::of(state.layer().get());
+  const CALayerState::Style& style = layer.style();
   canvas.save();
   canvas.transform(state.toSuperview());
   if (!isOutOfSight(state, style, seen.bounds, canvas)) {
@@ -76,9 +76,9 @@ void paintView(bridge::UIView view, Canvas& canvas) {
     if (seen.background.alpha > 0) canvas.fill(seen.bounds, seen.background, style.cornerRadius);
     if (style.masksToBounds) canvas.clip(seen.bounds, style.cornerRadius);
     for (const auto& sublayer : layer.sublayers()) paintLayer(sublayer, canvas);
-    bridge::send<void, "drawContentOn:">(view, &canvas);
+    send<void, "drawContentOn:">(view, &canvas);
     for (const auto& subview : state.subviews()) paintView(subview, canvas);
-    bridge::send<void, "drawOverSubviewsOn:">(view, &canvas);
+    send<void, "drawOverSubviewsOn:">(view, &canvas);
     paintBorder(style, seen.bounds, canvas);
   }
   canvas.restore();

@@ -5,12 +5,13 @@
 #pragma once
 
 #include "bridge/uikit/ui_view.h"
+#include "desktop/platform.h"
 
 namespace desktop::uikit {
 
 class Canvas;
 
 // Paints a view and what is in it, as shown now, where it stands in its superview.
-void paintView(bridge::UIView view, Canvas& canvas);
+void paintView(UIView view, Canvas& canvas);
 
 }  // namespace desktop::uikit

@@ -24,28 +24,25 @@ namespace photohost {
 namespace {
 
 using namespace desktop;
-using bridge::UIButton;
-using photos_ui::PUOneUpViewController;
+using photos_ui::PUOneUpViewControllerState;
 
 // Something that counts how often it is pressed.
-class Presses : public bridge::Bound<Presses, bridge::NSObject> {
+class Presses : public Bound<Presses, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
-    static const Class made = bridge::ClassBuilder<Presses>("KeysTestPresses")
-                                  .method<"pressed:", &Presses::pressed>()
-                                  .build();
+    static const Class made =
+        ClassBuilder<Presses>("KeysTestPresses").method<"pressed:", &Presses::pressed>().build();
     return made;
   }
   int count = 0;
 
  private:
-  void pressed(bridge::NSObject) { ++count; }
+  void pressed(NSObject) { ++count; }
 };
 
-bridge::Owned<bridge::NSObject> makePresses() {
-  return bridge::Owned<bridge::NSObject>::adopt(
-      bridge::send<bridge::NSObject, "new">(Presses::classObject()));
+Owned<NSObject> makePresses() {
+  return Owned<NSObject>::adopt(send<NSObject, "new">(Presses::classObject()));
 }
 
 class KeysTest : public photos_ui::OneUpTest {
@@ -60,38 +57,38 @@ class KeysTest : public photos_ui::OneUpTest {
     settle();
   }
   void showPhoto(long item) {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     ASSERT_FALSE(photos_ui::openItem(item));
     settle();
   }
   bool press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     const bool isUsed = pressKey(QKeyEvent(QEvent::KeyPress, key, modifiers), _window);
     settle();
     return isUsed;
   }
   bool isFullScreen() const { return _window.visibility() == QWindow::FullScreen; }
   static std::size_t index() {
-    return PUOneUpViewController::of(photos_ui::oneUpOnShow()).currentIndex();
+    return PUOneUpViewControllerState::of(photos_ui::oneUpOnShow()).currentIndex();
   }
   static CGFloat scrolled() {
-    return uikit::UIScrollView::of(grid().collectionView()).contentOffset().y;
+    return uikit::UIScrollViewState::of(grid().collectionView()).contentOffset().y;
   }
   // Another bar item of the single photo, on the right.
-  static void addItem(bridge::UIBarButtonItem item) {
-    const auto items = bridge::makeNew<bridge::NSMutableArray>();
+  static void addItem(UIBarButtonItem item) {
+    const auto items = makeNew<NSMutableArray>();
     const auto known = top().navigationItem().rightBarButtonItems();
     for (NSUInteger place = 0; place < known.count(); ++place) items->add(known.at(place));
     items->add(item);
     top().navigationItem().setRightBarButtonItems(items.get());
     settle();
   }
-  static bridge::Owned<UIButton> addButton(uikit::UIButton::Type type, Presses& target) {
-    const bridge::AutoreleasePool pool;
-    auto button = bridge::Owned<UIButton>::retain(
-        bridge::send<UIButton, "buttonWithType:">(UIButton::classObject(), NSInteger{type}));
-    button->addTarget(target.self(), bridge::selector<"pressed:">(), bridge::touchUpInside);
-    addItem(bridge::UIBarButtonItem::withCustomView(button.get()).get());
+  static Owned<UIButton> addButton(uikit::UIButtonState::Type type, Presses& target) {
+    const AutoreleasePool pool;
+    auto button = Owned<UIButton>::retain(
+        send<UIButton, "buttonWithType:">(UIButton::classObject(), NSInteger{type}));
+    button->addTarget(target.self(), selector<"pressed:">(), touchUpInside);
+    addItem(UIBarButtonItem::withCustomView(button.get()).get());
     return button;
   }
 
@@ -180,7 +177,7 @@ TEST_F(KeysTest, IAndAltReturnPressTheInfoButton) {
   const auto presses = makePresses();
   Presses& target = Presses::of(presses.get());
   EXPECT_FALSE(press(Qt::Key_I)) << "there is none";
-  addButton(uikit::UIButton::infoLight, target);
+  addButton(uikit::UIButtonState::infoLight, target);
   EXPECT_TRUE(press(Qt::Key_I));
   EXPECT_TRUE(press(Qt::Key_Return, Qt::AltModifier));
   EXPECT_TRUE(press(Qt::Key_Enter, Qt::AltModifier | Qt::KeypadModifier));
@@ -191,7 +188,7 @@ TEST_F(KeysTest, IAndAltReturnPressTheInfoButton) {
 }
 
 TEST_F(KeysTest, ThreeKindsOfButtonsAreInfoButtons) {
-  using Button = uikit::UIButton;
+  using Button = uikit::UIButtonState;
   showPhoto(0);
   const auto presses = makePresses();
   Presses& target = Presses::of(presses.get());
@@ -212,13 +209,13 @@ TEST_F(KeysTest, TheFirstInfoButtonThatIsEnabledIsPressed) {
   showPhoto(0);
   const auto first = makePresses();
   const auto second = makePresses();
-  const auto disabled = addButton(uikit::UIButton::infoLight, Presses::of(first.get()));
-  bridge::send<void, "setEnabled:">(disabled.get(), false);
-  addButton(uikit::UIButton::infoLight, Presses::of(second.get()));
+  const auto disabled = addButton(uikit::UIButtonState::infoLight, Presses::of(first.get()));
+  send<void, "setEnabled:">(disabled.get(), false);
+  addButton(uikit::UIButtonState::infoLight, Presses::of(second.get()));
   EXPECT_TRUE(press(Qt::Key_I));
   EXPECT_EQ(Presses::of(first.get()).count, 0);
   EXPECT_EQ(Presses::of(second.get()).count, 1);
-  bridge::send<void, "setEnabled:">(disabled.get(), true);
+  send<void, "setEnabled:">(disabled.get(), true);
   EXPECT_TRUE(press(Qt::Key_I));
   EXPECT_EQ(Presses::of(first.get()).count, 1);
   EXPECT_EQ(Presses::of(second.get()).count, 1);
@@ -227,11 +224,10 @@ TEST_F(KeysTest, TheFirstInfoButtonThatIsEnabledIsPressed) {
 TEST_F(KeysTest, APhotoBelowAnotherPageHearsNoKeys) {
   showPhoto(3);
   const auto presses = makePresses();
-  addButton(uikit::UIButton::infoLight, Presses::of(presses.get()));
-  const auto shown = PUOneUpViewController::of(photos_ui::oneUpOnShow()).self();
-  bridge::UIViewController(shown.get())
-      .present(bridge::makeNew<bridge::UIViewController>(), bridge::UIViewController::immediately,
-               {});
+  addButton(uikit::UIButtonState::infoLight, Presses::of(presses.get()));
+  const auto shown = PUOneUpViewControllerState::of(photos_ui::oneUpOnShow()).self();
+  UIViewController(shown.get())
+      .present(makeNew<UIViewController>(), UIViewController::immediately, {});
   settle();
   EXPECT_FALSE(press(Qt::Key_I));
   EXPECT_FALSE(press(Qt::Key_Right));

@@ -14,24 +14,23 @@ namespace {
 class BarsVisibilityTest : public uikit::ApplicationTest {
  protected:
   BarsVisibilityTest() {
-    _navigation->push(_first, bridge::UIViewController::immediately);
-    _navigation->push(_second, bridge::UIViewController::immediately);
+    _navigation->push(_first, UIViewController::immediately);
+    _navigation->push(_second, UIViewController::immediately);
     window().setRootViewController(_navigation);
     uikit::application().statusBar.isShown = true;
   }
 
-  uikit::UINavigationController& navigation() const {
-    return uikit::UINavigationController::of(_navigation.get());
+  uikit::UINavigationControllerState& navigation() const {
+    return uikit::UINavigationControllerState::of(_navigation.get());
   }
-  uikit::Color background() const { return uikit::UIView::of(_second->view()).backgroundColor(); }
+  uikit::Color background() const {
+    return uikit::UIViewState::of(_second->view()).backgroundColor();
+  }
 
  private:
-  const bridge::Owned<bridge::UINavigationController> _navigation =
-      bridge::makeNew<bridge::UINavigationController>();
-  const bridge::Owned<bridge::UIViewController> _first =
-      bridge::makeNew<bridge::UIViewController>();
-  const bridge::Owned<bridge::UIViewController> _second =
-      bridge::makeNew<bridge::UIViewController>();
+  const Owned<UINavigationController> _navigation = makeNew<UINavigationController>();
+  const Owned<UIViewController> _first = makeNew<UIViewController>();
+  const Owned<UIViewController> _second = makeNew<UIViewController>();
 
  protected:
   BarsVisibility bars{_second.get()};

@@ -13,12 +13,12 @@
 
 namespace desktop::photos_ui {
 
-class GridOwner : public bridge::Bound<GridOwner, bridge::NSObject> {
+class GridOwner : public Bound<GridOwner, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<GridOwner>("GridOwner")
+        ClassBuilder<GridOwner>("GridOwner")
             .method<"numberOfSectionsInCollectionView:", &GridOwner::sections>()
             .method<"collectionView:numberOfItemsInSection:", &GridOwner::items>()
             .method<"collectionView:cellForItemAtIndexPath:", &GridOwner::cell>()
@@ -32,14 +32,10 @@ class GridOwner : public bridge::Bound<GridOwner, bridge::NSObject> {
   GridSelection selection{grid};
 
  private:
-  NSInteger sections(bridge::UICollectionView) const { return grid.sectionCount(); }
-  NSInteger items(bridge::UICollectionView, NSInteger section) const {
-    return grid.itemCount(section);
-  }
-  bridge::UIView cell(bridge::UICollectionView view, bridge::NSIndexPath path) const {
-    return grid.cell(view, path);
-  }
-  void scrolled(bridge::UIView) { place.scrolled(); }
+  NSInteger sections(UICollectionView) const { return grid.sectionCount(); }
+  NSInteger items(UICollectionView, NSInteger section) const { return grid.itemCount(section); }
+  UIView cell(UICollectionView view, NSIndexPath path) const { return grid.cell(view, path); }
+  void scrolled(UIView) { place.scrolled(); }
 };
 
 // A window of 375 by 667 points with a grid in it: rows of four items, one point apart, of which
@@ -48,9 +44,9 @@ class GridPartTest : public uikit::ApplicationTest {
  protected:
   GridPartTest() {
     registerPhotosUI();
-    _owner = bridge::makeWith<bridge::NSObject, "init">(GridOwner::classObject());
+    _owner = makeWith<NSObject, "init">(GridOwner::classObject());
     grid().make(_owner.get(), window().bounds(), 0);
-    bridge::send<void, "setItemSize:">(grid().layout().self(), CGSize{93, 93});
+    send<void, "setItemSize:">(grid().layout().self(), CGSize{93, 93});
     window().addSubview(grid().view());
   }
 
@@ -62,15 +58,15 @@ class GridPartTest : public uikit::ApplicationTest {
     grid().show(std::move(list));
     layOut();
   }
-  void layOut() const { bridge::send<void, "layoutIfNeeded">(grid().view()); }
+  void layOut() const { send<void, "layoutIfNeeded">(grid().view()); }
   CGFloat offset() const { return grid().scroll().contentOffset().y; }
   void scrollTo(CGFloat y) const {
-    bridge::send<void, "setContentOffset:">(grid().view(), CGPoint{0, y});
+    send<void, "setContentOffset:">(grid().view(), CGPoint{0, y});
     layOut();
   }
 
  private:
-  bridge::Owned<bridge::NSObject> _owner;
+  Owned<NSObject> _owner;
 };
 
 }  // namespace desktop::photos_ui

@@ -14,7 +14,7 @@ using testing::IsEmpty;
 class GridSelectionTest : public GridPartTest {
  protected:
   void select(NSInteger item) const {
-    bridge::send<void, "selectItemAtIndexPath:animated:scrollPosition:">(
+    send<void, "selectItemAtIndexPath:animated:scrollPosition:">(
         grid().view(), uikit::indexPathOf({0, item}), false, NSUInteger{0});
   }
   std::vector<std::string> selected() const {

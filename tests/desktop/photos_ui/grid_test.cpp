@@ -42,7 +42,7 @@ class GridTest : public LibraryScreenTest {
                  index * aDay);
   }
   static void beginSelecting() {
-    bridge::send<void, "setEditing:animated:">(top(), true, false);
+    send<void, "setEditing:animated:">(top(), true, false);
     settle();
   }
   static CGRect frameOf(long item) {
@@ -84,12 +84,12 @@ CGSize largerItems(id, SEL, NSInteger) {
 
 TEST_F(GridTest, ShowsAsManyColumnsAsTheSizesLeaveRoomFor) {
   openAlbumOf(5);
-  const SEL selector = bridge::selector<"layoutItemSizeForColumn:">();
-  const Class aClass = PUSectionedGridLayout::classObject();
-  const Method method = class_getInstanceMethod(aClass, selector);
+  const SEL sizeForColumn = selector<"layoutItemSizeForColumn:">();
+  const Class aClass = PUSectionedGridLayoutState::classObject();
+  const Method method = class_getInstanceMethod(aClass, sizeForColumn);
   const IMP before = method_setImplementation(method, reinterpret_cast<IMP>(&largerItems));
-  const bridge::AutoreleasePool pool;
-  const bridge::PUPhotosAlbumViewController album(top().get());
+  const AutoreleasePool pool;
+  const PUPhotosAlbumViewController album(top().get());
   album.mainGridLayout().invalidateLayout();
   album.updateLayoutMetrics();
   settle();
@@ -104,7 +104,7 @@ TEST_F(GridTest, ShowsAsManyColumnsAsTheSizesLeaveRoomFor) {
 
 TEST_F(GridTest, MakesCellsAsLargeAsTheyWillBe) {
   openAlbumOf(2);
-  const auto& views = uikit::UICollectionView::of(grid().collectionView()).views();
+  const auto& views = uikit::UICollectionViewState::of(grid().collectionView()).views();
   const auto cell = views.at({{}, {0, 1}});
   EXPECT_EQ(cell->bounds().size.width, 93);
 }
@@ -122,8 +122,8 @@ TEST_F(GridTest, OpensAPhotoByATap) {
 
 TEST_F(GridTest, AnswersTheAssetOfAPlace) {
   openAlbumOf(2);
-  const bridge::AutoreleasePool pool;
-  const bridge::PUPhotosGridViewController controller(top().get());
+  const AutoreleasePool pool;
+  const PUPhotosGridViewController controller(top().get());
   EXPECT_EQ(controller.assetAt(uikit::indexPathOf({0, 1})).uuid().utf8(),
             grid().list()->at(1)->uuid);
   EXPECT_FALSE(controller.assetAt(uikit::indexPathOf({0, 2})));
@@ -140,7 +140,7 @@ TEST_F(GridTest, SelectsByTapsAndCountsInTheTitle) {
   EXPECT_THAT(selected(), ElementsAre("Album/00.jpg", "Album/02.jpg"));
   tap(placeOf(2));
   EXPECT_EQ(title(), "1 Photo Selected");
-  bridge::send<void, "setEditing:animated:">(top(), false, false);
+  send<void, "setEditing:animated:">(top(), false, false);
   EXPECT_EQ(title(), "Album");
   EXPECT_THAT(selected(), IsEmpty());
 }
@@ -211,8 +211,8 @@ TEST_F(GridTest, KeepsTheSelectionWhenFilesComeAndGo) {
 
 TEST_F(GridTest, KeepsItsPlaceWhenFilesComeAbove) {
   openAlbumOf(90);
-  const auto& scroll = uikit::UIScrollView::of(grid().collectionView());
-  bridge::send<void, "setContentOffset:">(grid().collectionView(), CGPoint{0, 500});
+  const auto& scroll = uikit::UIScrollViewState::of(grid().collectionView());
+  send<void, "setContentOffset:">(grid().collectionView(), CGPoint{0, 500});
   settle();
   const CGFloat before = frameOf(40).origin.y - scroll.contentOffset().y;
   for (int index = 0; index < 8; ++index)
@@ -244,9 +244,9 @@ TEST_F(GridTest, SaysThatALibraryIsEmpty) {
 }
 
 TEST_F(GridTest, SaysWhyALibraryIsNotOpen) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   host().libraryProblem = "/nowhere: No such file or directory";
-  const auto window = bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(screen().size));
+  const auto window = bridge::makeView<UIWindow>(uikit::rectOfSize(screen().size));
   window->setRootViewController(makeRootController().get());
   window->makeKeyAndVisible();
   settle();
@@ -257,10 +257,10 @@ TEST_F(GridTest, SaysWhyALibraryIsNotOpen) {
 TEST_F(GridTest, EndsEachSharedAlbumWithACellForAdding) {
   folder.write("Trip/.shared", "");
   openAlbumOf(2, "Trip");
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   const auto view = grid().collectionView();
   EXPECT_EQ(view.numberOfItemsInSection(0), 3);
-  EXPECT_FALSE(bridge::PUPhotosGridViewController(top().get()).assetAt(uikit::indexPathOf({0, 2})));
+  EXPECT_FALSE(PUPhotosGridViewController(top().get()).assetAt(uikit::indexPathOf({0, 2})));
   const CGPoint last = placeOf(1);
   tap({last.x + 94, last.y});
   EXPECT_FALSE(oneUpOnShow());
@@ -272,16 +272,16 @@ TEST_F(GridTest, MarksVideosAndLeavesTheMarkWhereOthersPutIt) {
   open();
   ASSERT_FALSE(openAlbum("Album"));
   settle();
-  const bridge::AutoreleasePool pool;
-  const auto& views = uikit::UICollectionView::of(grid().collectionView()).views();
-  const auto& cell = PUPhotosGridCell::of(views.at({{}, {0, 0}}).get());
+  const AutoreleasePool pool;
+  const auto& views = uikit::UICollectionViewState::of(grid().collectionView()).views();
+  const auto& cell = PUPhotosGridCellState::of(views.at({{}, {0, 0}}).get());
   const auto helper = cell.photoContentView().contentHelper();
-  const bridge::UIView badge(bridge::objectField(helper, "__badgeView").get());
+  const UIView badge(objectField(helper, "__badgeView").get());
   ASSERT_TRUE(badge);
   EXPECT_EQ(badge.frame().origin.y, 93 - VideoBadge::height);
-  EXPECT_FALSE(bridge::objectField(helper, "_badgeView"));
+  EXPECT_FALSE(objectField(helper, "_badgeView"));
   badge.setFrame({{0, 10}, {20, 20}});
-  bridge::send<void, "layoutSubviewsOfContentView">(helper);
+  send<void, "layoutSubviewsOfContentView">(helper);
   EXPECT_EQ(badge.frame().origin.y, 10);
 }
 

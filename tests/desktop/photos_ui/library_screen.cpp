@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <ctime>
 
+#include "bridge/uikit.h"
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/photos_ui/base/library_observer.h"
 #include "desktop/photos_ui/base/photos_host.h"
@@ -13,7 +14,6 @@
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -30,15 +30,15 @@ long registeredObjects() {
   uikit::registerUIKit();
   registerPhotosUI();
   uikit::resetApplication();
-  uikit::UIMenuController::shared();  // made once, and kept, as the application is
-  bridge::UIApplication::sharedApplication();
-  return bridge::liveBoundObjects();
+  uikit::UIMenuControllerState::shared();  // made once, and kept, as the application is
+  UIApplication::sharedApplication();
+  return liveBoundObjects();
 }
 
-void addTexts(bridge::UIView view, std::vector<std::string>& all) {
-  const uikit::UIView& state = uikit::UIView::of(view);
+void addTexts(UIView view, std::vector<std::string>& all) {
+  const uikit::UIViewState& state = uikit::UIViewState::of(view);
   if (state.isHidden()) return;
-  if (const auto label = bridge::as<bridge::UILabel>(view))
+  if (const auto label = as<UILabel>(view))
     if (label.text().length() > 0) all.push_back(label.text().utf8());
   for (const auto& each : state.subviews()) addTexts(each, all);
 }
@@ -54,11 +54,11 @@ LibraryScreenTest::~LibraryScreenTest() {
   uikit::resetApplication();
   host() = {};
   _pool.reset();
-  EXPECT_EQ(bridge::liveBoundObjects(), _objectsBefore) << "something outlives the screen";
+  EXPECT_EQ(liveBoundObjects(), _objectsBefore) << "something outlives the screen";
 }
 
 void LibraryScreenTest::open() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   auto opened = library::PhotoLibrary::open(folder.path(), foundation::DeviceRoot(_root.path()));
   if (opened) {
     library = *std::move(opened);
@@ -68,25 +68,25 @@ void LibraryScreenTest::open() {
     host().libraryProblem = folder.path() + ": " + opened.error().reason;
   }
   host().library = library.get();
-  const auto window = bridge::makeView<uikit::handles::UIWindow>(uikit::rectOfSize(screen().size));
+  const auto window = bridge::makeView<UIWindow>(uikit::rectOfSize(screen().size));
   window->setRootViewController(makeRootController().get());
   window->makeKeyAndVisible();
   settle();
 }
 
 void LibraryScreenTest::deliver() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   library->waitAndDeliver();
   settle();
 }
 
 void LibraryScreenTest::settle(double seconds) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   application().advance(seconds);
 }
 
 void LibraryScreenTest::tap(CGPoint point) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   touches().down(point);
   settle(0.1);
   touches().up(point);
@@ -94,40 +94,40 @@ void LibraryScreenTest::tap(CGPoint point) {
 }
 
 CGPoint LibraryScreenTest::placeOf(long item) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   const auto place = placeOfItem(item);
   EXPECT_TRUE(place) << item;
   return place ? *place : CGPoint{};
 }
 
-bridge::UIViewController LibraryScreenTest::top() {
-  const uikit::handles::UIWindow window(application().windows.at(0)->get());
-  const auto tabs = bridge::as<uikit::handles::UITabBarController>(window.rootViewController());
-  return uikit::UINavigationController::of(tabs.selectedViewController()).top();
+UIViewController LibraryScreenTest::top() {
+  const UIWindow window(application().windows.at(0)->get());
+  const auto tabs = as<UITabBarController>(window.rootViewController());
+  return uikit::UINavigationControllerState::of(tabs.selectedViewController()).top();
 }
 
-PUPhotosGridViewController& LibraryScreenTest::grid() {
-  return PUPhotosGridViewController::of(top());
+PUPhotosGridViewControllerState& LibraryScreenTest::grid() {
+  return PUPhotosGridViewControllerState::of(top());
 }
 
 std::string LibraryScreenTest::title() {
-  const bridge::AutoreleasePool pool;
-  return bridge::send<bridge::NSString, "title">(top().navigationItem()).utf8();
+  const AutoreleasePool pool;
+  return send<NSString, "title">(top().navigationItem()).utf8();
 }
 
 std::vector<std::string> LibraryScreenTest::texts() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   std::vector<std::string> all;
   addTexts(application().windows.at(0), all);
   return all;
 }
 
 std::vector<std::string> LibraryScreenTest::selected() const {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   std::vector<std::string> names;
-  const auto assets = bridge::PUPhotosGridViewController(top().get()).selectedAssets();
+  const auto assets = PUPhotosGridViewController(top().get()).selectedAssets();
   for (NSUInteger index = 0; index < assets.count(); ++index)
-    names.push_back(folder.below(faces::PHAsset::itemOf(assets.at(index))->path));
+    names.push_back(folder.below(faces::PHAssetState::itemOf(assets.at(index))->path));
   return names;
 }
 

@@ -31,9 +31,9 @@ class LibraryScreenTest : public testing::Test {
   static void tap(CGPoint point);
   // The middle of an item of the grid on show.
   static CGPoint placeOf(long item);
-  static bridge::UIViewController top();
+  static UIViewController top();
   // REQUIRES: a grid is on top.
-  static PUPhotosGridViewController& grid();
+  static PUPhotosGridViewControllerState& grid();
   static std::string title();
   // The texts of all labels on the screen.
   static std::vector<std::string> texts();
@@ -46,7 +46,7 @@ class LibraryScreenTest : public testing::Test {
  private:
   support::TemporaryFolder _root;
   const long _objectsBefore;
-  std::optional<bridge::AutoreleasePool> _pool{std::in_place};
+  std::optional<AutoreleasePool> _pool{std::in_place};
 };
 
 }  // namespace desktop::photos_ui

@@ -40,14 +40,12 @@ TEST_F(NavigationTest, GoesToEachZoomLevelAndBack) {
 
 TEST_F(NavigationTest, SaysAtWhichLevelAGridIs) {
   openSample();
-  const bridge::AutoreleasePool pool;
-  const auto info = [] {
-    return bridge::PUZoomableGridViewController(top().get()).zoomLevelInfo();
-  };
-  EXPECT_TRUE(bridge::isKindOf(info(), bridge::PUFullMomentsZoomLevelInfo::classObject()));
+  const AutoreleasePool pool;
+  const auto info = [] { return PUZoomableGridViewController(top().get()).zoomLevelInfo(); };
+  EXPECT_TRUE(isKindOf(info(), PUFullMomentsZoomLevelInfo::classObject()));
   ASSERT_FALSE(setZoomLevel("years"));
   EXPECT_TRUE(info());
-  EXPECT_FALSE(bridge::isKindOf(info(), bridge::PUFullMomentsZoomLevelInfo::classObject()));
+  EXPECT_FALSE(isKindOf(info(), PUFullMomentsZoomLevelInfo::classObject()));
 }
 
 TEST_F(NavigationTest, LooksCloserWhereAPhotoIsTapped) {

@@ -65,8 +65,8 @@ TEST_F(OneUpTest, LeavesWhenTheLastFileIsGone) {
 TEST_F(OneUpTest, LeavesWithAllThatWasOpenedFromIt) {
   addPictures(1);
   show(0);
-  const auto page = bridge::makeNew<bridge::UIViewController>();
-  top().navigationController().push(page, bridge::UIViewController::animated);
+  const auto page = makeNew<UIViewController>();
+  top().navigationController().push(page, UIViewController::animated);
   settle();
   removeFile("0.bmp");
   EXPECT_EQ(title(), "Album");

@@ -9,8 +9,6 @@
 namespace desktop::photos_ui {
 namespace {
 
-using bridge::replaced;
-using bridge::stock;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -34,7 +32,7 @@ void OneUp_viewDidLoad(id self, SEL command) {
 void OneUp_setTilingView(id self, SEL command, id view) {
   stock<&OneUp_setTilingView>(self, command, view);
   note(command);
-  EXPECT_EQ(bridge::objectField(bridge::Object(self), "_tilingView"), bridge::Object(view));
+  EXPECT_EQ(objectField(Object(self), "_tilingView"), Object(view));
 }
 void OneUp_viewWillAppear(id self, SEL command, BOOL animated) {
   note(command);
@@ -49,7 +47,7 @@ void Bars_updateBars(id self, SEL command) {
   stock<&Bars_updateBars>(self, command);
 }
 
-constinit const bridge::HookRow rows[] = {
+constinit const HookRow rows[] = {
     replaced<"PUOneUpTilingLayout", "init", &Layout_init>,
     replaced<"PUOneUpViewController", "viewDidLoad", &OneUp_viewDidLoad>,
     replaced<"PUOneUpViewController", "_setTilingView:", &OneUp_setTilingView>,
@@ -61,7 +59,7 @@ constinit const bridge::HookRow rows[] = {
 class OneUpOrderTest : public OneUpTest {
  protected:
   OneUpOrderTest() {
-    static const bool isHooked = (bridge::applyHooks(rows), true);
+    static const bool isHooked = (applyHooks(rows), true);
     EXPECT_TRUE(isHooked);
     addPictures(3);
     open();
@@ -96,7 +94,7 @@ TEST_F(OneUpOrderTest, UpdatesTheBarsWithEachPageAndWhenTheyComeAndGo) {
 TEST_F(OneUpOrderTest, ComesUpAgainWithEachOpening) {
   show(1);
   callsSince();
-  bridge::send<id, "popViewControllerAnimated:">(navigation().self(), true);
+  send<id, "popViewControllerAnimated:">(navigation().self(), true);
   settle();
   EXPECT_THAT(callsSince(), ElementsAre("viewWillDisappear:"));
   show(0);
@@ -105,7 +103,7 @@ TEST_F(OneUpOrderTest, ComesUpAgainWithEachOpening) {
 
 TEST_F(OneUpOrderTest, TellsExtensionsThatAPreviewIsOne) {
   peek(1);
-  EXPECT_TRUE((bridge::send<bool, "isPresentedForPreview">(oneUp().self())));
+  EXPECT_TRUE((send<bool, "isPresentedForPreview">(oneUp().self())));
   const auto all = callsSince();
   EXPECT_THAT(all, ElementsAre("init", "viewDidLoad", "_setTilingView:", "viewWillAppear:"));
 }

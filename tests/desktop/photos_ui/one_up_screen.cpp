@@ -54,7 +54,7 @@ void OneUpTest::addPictures(int count) const {
 }
 
 void OneUpTest::show(long item) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   if (!library) open();
   ASSERT_FALSE(openAlbum("Album"));
   ASSERT_FALSE(openItem(item));
@@ -62,7 +62,7 @@ void OneUpTest::show(long item) {
 }
 
 void OneUpTest::peek(long item) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   if (!library) open();
   ASSERT_FALSE(openAlbum("Album"));
   ASSERT_FALSE(peekItem(item));
@@ -70,7 +70,7 @@ void OneUpTest::peek(long item) {
 }
 
 void OneUpTest::deliverPictures() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   settle();
   EXPECT_TRUE(_loader.waitUntilIdle(std::chrono::seconds(30)));
   settle();
@@ -81,27 +81,27 @@ void OneUpTest::removeFile(const std::string& name) {
   deliver();
 }
 
-PUOneUpViewController& OneUpTest::oneUp() {
-  return PUOneUpViewController::of(oneUpOnShow());
+PUOneUpViewControllerState& OneUpTest::oneUp() {
+  return PUOneUpViewControllerState::of(oneUpOnShow());
 }
 
 bool OneUpTest::isOneUpOnShow() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   return static_cast<bool>(oneUpOnShow());
 }
 
-uikit::UINavigationController& OneUpTest::navigation() {
-  return uikit::UINavigationController::of(top().navigationController());
+uikit::UINavigationControllerState& OneUpTest::navigation() {
+  return uikit::UINavigationControllerState::of(top().navigationController());
 }
 
 PUTilingView& OneUpTest::tilingView() {
-  return PUTilingView::of(bridge::objectField(oneUpOnShow(), "_tilingView"));
+  return PUTilingView::of(objectField(oneUpOnShow(), "_tilingView"));
 }
 
 std::vector<std::string> OneUpTest::pages() {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   std::vector<std::string> names;
-  for (const auto& view : uikit::UIView::of(tilingView().self()).subviews())
+  for (const auto& view : uikit::UIViewState::of(tilingView().self()).subviews())
     names.push_back(nameOf(PUOneUpPhotoView::of(view.get()).item()));
   return names;
 }
@@ -111,9 +111,9 @@ PUOneUpPhotoView& OneUpTest::currentPhoto() {
 }
 
 CGRect OneUpTest::pictureFrame() {
-  const bridge::AutoreleasePool pool;
-  const auto& view = uikit::UIView::of(currentPhoto().self());
-  const auto& picture = uikit::UIView::of(view.subviews().at(0).get());
+  const AutoreleasePool pool;
+  const auto& view = uikit::UIViewState::of(currentPhoto().self());
+  const auto& picture = uikit::UIViewState::of(view.subviews().at(0).get());
   const CGSize size = picture.bounds().size;
   return {uikit::apply(picture.toScreen(), CGPoint{}), size};
 }
@@ -123,7 +123,7 @@ std::string OneUpTest::nameOf(const library::ItemPointer& item) {
 }
 
 bool OneUpTest::act(OneUpAction action) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   const bool isDone = performOneUpAction(oneUpOnShow(), action);
   settle();
   return isDone;
@@ -131,7 +131,7 @@ bool OneUpTest::act(OneUpAction action) {
 
 void OneUpTest::drag(CGPoint from, CGPoint to) {
   constexpr int steps = 10;
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   touches().down(from);
   for (int step = 1; step <= steps; ++step) {
     const CGFloat share = static_cast<CGFloat>(step) / steps;
@@ -144,7 +144,7 @@ void OneUpTest::drag(CGPoint from, CGPoint to) {
 }
 
 void OneUpTest::doubleTap(CGPoint point) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   for (int tapped = 0; tapped < 2; ++tapped) {
     touches().down(point);
     settle(0.05);

@@ -30,9 +30,9 @@ class OneUpTest : public LibraryScreenTest {
   void deliverPictures();
   void removeFile(const std::string& name);
 
-  static PUOneUpViewController& oneUp();
+  static PUOneUpViewControllerState& oneUp();
   static bool isOneUpOnShow();
-  static uikit::UINavigationController& navigation();
+  static uikit::UINavigationControllerState& navigation();
   static PUTilingView& tilingView();
   // The photos that exist, current or not.
   static std::vector<std::string> pages();

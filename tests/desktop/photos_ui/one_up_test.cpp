@@ -21,15 +21,14 @@ using testing::UnorderedElementsAre;
 using uikit::application;
 
 // The item that extensions are told is on show.
-std::string assetOnShow(const PUOneUpViewController& oneUp, const library::LibraryFolder& folder,
-                        bridge::Object layout) {
-  const bridge::AutoreleasePool pool;
-  const auto path = bridge::send<bridge::NSIndexPath, "indexPathOfCurrentItem">(layout);
+std::string assetOnShow(const PUOneUpViewControllerState& oneUp,
+                        const library::LibraryFolder& folder, Object layout) {
+  const AutoreleasePool pool;
+  const auto path = send<NSIndexPath, "indexPathOfCurrentItem">(layout);
   const auto reference =
-      bridge::send<bridge::PUAssetReference, "_assetReferenceAtIndexPath:layout:">(oneUp.self(),
-                                                                                   path, layout);
-  const auto asset = bridge::send<bridge::Object, "asset">(reference);
-  return asset ? folder.below(faces::PHAsset::itemOf(asset)->path) : "";
+      send<PUAssetReference, "_assetReferenceAtIndexPath:layout:">(oneUp.self(), path, layout);
+  const auto asset = send<Object, "asset">(reference);
+  return asset ? folder.below(faces::PHAssetState::itemOf(asset)->path) : "";
 }
 
 TEST_F(OneUpTest, TurnsPagesByDraggingAndStopsAtTheEnds) {
@@ -88,18 +87,17 @@ TEST_F(OneUpTest, KeepsOnlyThePageOnShowAndItsNeighbours) {
 }
 
 TEST_F(OneUpTest, SaysWhichItemIsOnShow) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   addPictures(3);
   show(1);
   const auto& layout = oneUp().layout();
   EXPECT_EQ(assetOnShow(oneUp(), folder, layout), "Album/1.bmp");
   act(OneUpAction::next);
   EXPECT_EQ(assetOnShow(oneUp(), folder, layout), "Album/2.bmp");
-  EXPECT_FALSE((bridge::send<id, "_assetReferenceAtIndexPath:layout:">(
+  EXPECT_FALSE((send<id, "_assetReferenceAtIndexPath:layout:">(
       oneUp().self(), uikit::indexPathOf({0, 3}), layout)));
-  EXPECT_FALSE(
-      (bridge::send<id, "_assetReferenceAtIndexPath:layout:">(oneUp().self(), id{}, id{})));
-  const auto fresh = bridge::makeNew<bridge::PUOneUpTilingLayout>();
+  EXPECT_FALSE((send<id, "_assetReferenceAtIndexPath:layout:">(oneUp().self(), id{}, id{})));
+  const auto fresh = makeNew<PUOneUpTilingLayout>();
   EXPECT_FALSE(fresh->indexPathOfCurrentItem()) << "nothing is shown by it";
 }
 
@@ -139,8 +137,8 @@ TEST_F(OneUpTest, HidesAndShowsBarsByTaps) {
   addPictures(2);
   show(0);
   const auto background = [] {
-    const bridge::AutoreleasePool pool;
-    return uikit::UIView::of(top().view()).backgroundColor();
+    const AutoreleasePool pool;
+    return uikit::UIViewState::of(top().view()).backgroundColor();
   };
   const auto& bars = navigation();
   EXPECT_FALSE(bars.isNavigationBarHidden());
@@ -223,7 +221,7 @@ TEST_F(OneUpTest, KeepsPreviewsOfAnyShapeOnTheScreen) {
   addPicture("wide.bmp", 1, 400, 10);
   for (const long item : {0, 1}) {
     peek(item);
-    const CGRect card = uikit::UIView::of(tilingView().self()).frame();
+    const CGRect card = uikit::UIViewState::of(tilingView().self()).frame();
     EXPECT_GE(card.origin.x, 16) << item;
     EXPECT_GE(card.origin.y, 16) << item;
     EXPECT_GE(card.size.height, 96) << item;
@@ -239,7 +237,7 @@ TEST_F(OneUpTest, LeavesNothingBehind) {
   ASSERT_FALSE(openAlbum("Album"));
   long before = 0;
   for (int turn = 0; turn < 3; ++turn) {
-    std::optional<bridge::AutoreleasePool> pool{std::in_place};
+    std::optional<AutoreleasePool> pool{std::in_place};
     ASSERT_FALSE(openItem(turn));
     settle();
     act(OneUpAction::next);
@@ -252,8 +250,8 @@ TEST_F(OneUpTest, LeavesNothingBehind) {
     ASSERT_FALSE(goBack());
     settle();
     pool.reset();
-    if (turn == 0) before = bridge::liveBoundObjects();
-    EXPECT_EQ(bridge::liveBoundObjects(), before) << turn;
+    if (turn == 0) before = liveBoundObjects();
+    EXPECT_EQ(liveBoundObjects(), before) << turn;
   }
 }
 
@@ -262,7 +260,7 @@ TEST_F(OneUpTest, WantsNoPicturesOnceItIsLeft) {
   open();
   ASSERT_FALSE(openAlbum("Album"));
   deliverPictures();
-  std::optional<bridge::AutoreleasePool> pool{std::in_place};
+  std::optional<AutoreleasePool> pool{std::in_place};
   ASSERT_FALSE(openItem(1));
   EXPECT_FALSE(host().pictures->waitUntilIdle(std::chrono::milliseconds(0)));
   ASSERT_FALSE(goBack());
@@ -272,13 +270,13 @@ TEST_F(OneUpTest, WantsNoPicturesOnceItIsLeft) {
 }
 
 TEST_F(OneUpTest, SharesThePathOfTheItem) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   addPictures(2);
   show(1);
   tap({20, 645});
-  const auto sheet = bridge::send<bridge::UIViewController, "presentedViewController">(top());
-  ASSERT_TRUE(bridge::isKindOf(sheet, bridge::UIActivityViewController::classObject()));
-  EXPECT_EQ(uikit::UIActivityViewController::of(sheet).text(), folder.file("Album/1.bmp"));
+  const auto sheet = send<UIViewController, "presentedViewController">(top());
+  ASSERT_TRUE(isKindOf(sheet, UIActivityViewController::classObject()));
+  EXPECT_EQ(uikit::UIActivityViewControllerState::of(sheet).text(), folder.file("Album/1.bmp"));
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ class OneUpZoomTest : public OneUpTest {
     show(item);
   }
   static CGFloat offset() {
-    return uikit::UIScrollView::of(currentPhoto().self()).contentOffset().x;
+    return uikit::UIScrollViewState::of(currentPhoto().self()).contentOffset().x;
   }
 };
 
@@ -88,10 +88,10 @@ TEST_F(OneUpZoomTest, StaysWithinItsLimits) {
 TEST_F(OneUpZoomTest, GetsMorePixelsForACloserLook) {
   showLarge();
   const auto pixels = [] {
-    const bridge::AutoreleasePool pool;
-    const auto& view = uikit::UIView::of(currentPhoto().self()).subviews().at(0);
-    const auto image = bridge::as<uikit::handles::UIImageView>(view.get()).image();
-    return bridge::send<CGSize, "size">(image).width * uikit::screen().scale;
+    const AutoreleasePool pool;
+    const auto& view = uikit::UIViewState::of(currentPhoto().self()).subviews().at(0);
+    const auto image = as<UIImageView>(view.get()).image();
+    return send<CGSize, "size">(image).width * uikit::screen().scale;
   };
   EXPECT_EQ(pixels(), 750);
   act(OneUpAction::actualSize);

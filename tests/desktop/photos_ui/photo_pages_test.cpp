@@ -28,14 +28,14 @@ class PhotoPagesTest : public uikit::ApplicationTest {
   void show(ItemListPointer list, std::size_t index) {
     items.set(std::move(list), index);
     pages.show(items);
-    bridge::send<void, "layoutIfNeeded">(pages.view());
+    send<void, "layoutIfNeeded">(pages.view());
   }
   bool perform(OneUpAction action) {
     const bool isDone = pages.perform(action);
     uikit::application().advance(1);
     return isDone;
   }
-  bridge::UIView currentPage() const { return PUTilingView::of(pages.view()).currentPage(); }
+  UIView currentPage() const { return PUTilingView::of(pages.view()).currentPage(); }
 
   BrowsedItems items;
   PhotoPages pages;
@@ -67,7 +67,7 @@ TEST_F(PhotoPagesTest, DoesNothingWithoutPages) {
 TEST_F(PhotoPagesTest, KeepsThePageOfAnItemThatStays) {
   const auto list = sampleList(4);
   show(list, 1);
-  const auto page = bridge::Owned<bridge::UIView>::retain(currentPage());
+  const auto page = Owned<UIView>::retain(currentPage());
   show(std::make_shared<ItemList>(std::vector{list->at(1), list->at(2)}), 0);
   EXPECT_EQ(currentPage(), page.get());
   show(sampleList(4), 1);

@@ -17,7 +17,7 @@
 namespace desktop::photos_ui {
 namespace {
 
-using State = PUPhotoViewContentHelper::State;
+using State = PUPhotoViewContentHelperState::State;
 
 constexpr char decoderArgument[] = "--decode-pictures";
 
@@ -42,14 +42,14 @@ class ThumbnailTest : public LibraryScreenTest {
     ASSERT_TRUE(_pictures.waitUntilIdle(std::chrono::seconds(20)));
     settle();
   }
-  static PUPhotosGridCell* cell(NSInteger item) {
-    const auto& views = uikit::UICollectionView::of(grid().collectionView()).views();
+  static PUPhotosGridCellState* cell(NSInteger item) {
+    const auto& views = uikit::UICollectionViewState::of(grid().collectionView()).views();
     const auto found = views.find({{}, {0, item}});
-    return found == views.end() ? nullptr : &PUPhotosGridCell::of(found->second.get());
+    return found == views.end() ? nullptr : &PUPhotosGridCellState::of(found->second.get());
   }
-  static uikit::handles::UIImageView imageView(NSInteger item) {
+  static UIImageView imageView(NSInteger item) {
     const auto photo = cell(item)->photoContentView();
-    return bridge::as<uikit::handles::UIImageView>(photo.subviews().at(0));
+    return as<UIImageView>(photo.subviews().at(0));
   }
   pictures::PictureLoader& loader() { return _pictures; }
 
@@ -67,7 +67,7 @@ TEST_F(ThumbnailTest, FillsTheCellUnscaledAndInItsMiddle) {
   EXPECT_EQ(frame.size.width, 186);
   EXPECT_EQ(frame.size.height, 93);
   EXPECT_EQ(frame.origin.x, -46.5);
-  EXPECT_EQ(uikit::UIImage::bitmapOf(imageView(0).image())->height, 186);
+  EXPECT_EQ(uikit::UIImageState::bitmapOf(imageView(0).image())->height, 186);
 }
 
 TEST_F(ThumbnailTest, NotesWhatCannotBeShown) {
@@ -96,8 +96,7 @@ TEST_F(ThumbnailTest, DropsWhatIsScrolledAwayBeforeItCame) {
     folder.photo("Album/" + std::to_string(10'000 + index) + ".jpg", index);
   openAlbum();
   for (int y = 0; y < 20'000; y += 700) {
-    bridge::send<void, "setContentOffset:">(grid().collectionView(),
-                                            CGPoint{0, static_cast<CGFloat>(y)});
+    send<void, "setContentOffset:">(grid().collectionView(), CGPoint{0, static_cast<CGFloat>(y)});
     settle(0.016);
   }
   waitForPictures();

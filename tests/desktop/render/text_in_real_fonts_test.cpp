@@ -12,22 +12,20 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSString;
-
 class TextInRealFontsTest : public ApplicationTest {
  protected:
   TextInRealFontsTest() { setTextEngine(render::makeQtTextEngine()); }
   ~TextInRealFontsTest() override { setTextEngine(nullptr); }
 
-  static bridge::Owned<bridge::UITextView> textView(std::u16string_view text, bridge::UIFont font,
-                                                    double indent, double width) {
-    const auto style = bridge::makeNew<bridge::NSMutableParagraphStyle>();
+  static Owned<UITextView> textView(std::u16string_view text, UIFont font, double indent,
+                                    double width) {
+    const auto style = makeNew<NSMutableParagraphStyle>();
     style->setHeadIndent(indent);
     style->setParagraphSpacing(1.5);
-    const auto attributed = bridge::NSMutableAttributedString::withString(stringOf(text));
-    attributed->addAttribute(bridge::fontAttributeName(), font, {0, text.size()});
-    attributed->addAttribute(bridge::paragraphStyleAttributeName(), style, {0, text.size()});
-    auto view = bridge::makeView<bridge::UITextView>({{0, 0}, {width, 300}});
+    const auto attributed = NSMutableAttributedString::withString(stringOf(text));
+    attributed->addAttribute(fontAttributeName(), font, {0, text.size()});
+    attributed->addAttribute(paragraphStyleAttributeName(), style, {0, text.size()});
+    auto view = bridge::makeView<UITextView>({{0, 0}, {width, 300}});
     view->setAttributedText(attributed);
     return view;
   }
@@ -46,9 +44,9 @@ class TextInRealFontsTest : public ApplicationTest {
 };
 
 TEST_F(TextInRealFontsTest, AReportHasFiftyLettersALine) {
-  const auto courier = bridge::UIFont::named(NSString::make("Courier"), 12);
+  const auto courier = UIFont::named(NSString::make("Courier"), 12);
   const auto view = textView(std::u16string(50 + 47 + 1, u'x'), courier, 22, 375);
-  const auto lines = UITextView::of(view.get()).layout().lines(0, 1000);
+  const auto lines = UITextViewState::of(view.get()).layout().lines(0, 1000);
   ASSERT_EQ(lines.size(), 3u);
   EXPECT_EQ(lines[0].length, 50u);
   EXPECT_EQ(lines[1].length, 47u);
@@ -61,7 +59,7 @@ TEST_F(TextInRealFontsTest, FittingAViewToItsTextLeavesTheLinesAsTheyAre) {
   for (int round = 0; round < 200; ++round) {
     const std::u16string text = randomText(random);
     SCOPED_TRACE(stringOf(text).utf8());
-    const auto font = bridge::UIFont::systemFont(9 + static_cast<double>(random() % 17) / 2);
+    const auto font = UIFont::systemFont(9 + static_cast<double>(random() % 17) / 2);
     const auto view = textView(text, font, 22, 100 + static_cast<double>(random() % 220));
     const CGFloat height = view->contentSize().height;
     const CGFloat width = view->frame().size.width;
@@ -79,16 +77,16 @@ TEST_F(TextInRealFontsTest, ALabelAsLargeAsItWantsShowsAll) {
     std::u16string text = randomText(random);
     std::erase(text, u'\n');
     SCOPED_TRACE(stringOf(text).utf8());
-    const auto label = bridge::makeView<bridge::UILabel>({});
-    label->setFont(bridge::UIFont::systemFont(9 + static_cast<double>(random() % 30) / 2));
+    const auto label = bridge::makeView<UILabel>({});
+    label->setFont(UIFont::systemFont(9 + static_cast<double>(random() % 30) / 2));
     label->setText(stringOf(text));
     label->sizeToFit();
-    const auto& lines = UILabel::of(label.get()).lines();
+    const auto& lines = UILabelState::of(label.get()).lines();
     ASSERT_EQ(lines.size(), 1u);
     EXPECT_EQ(lines[0].text, text);
     label->setAdjustsFontSizeToFitWidth(true);
     label->setFrame({{0, 0}, {40, 20}});
-    const LabelLine shrunk = UILabel::of(label.get()).lines().at(0);
+    const LabelLine shrunk = UILabelState::of(label.get()).lines().at(0);
     while (text.ends_with(u' ')) text.pop_back();
     EXPECT_LE(textEngine().width(shrunk.face, text), 40.01);
     EXPECT_TRUE(shrunk.text.starts_with(text));

@@ -4,14 +4,12 @@
 #include <array>
 #include <thread>
 
+#include "desktop/platform.h"
 #include "tests/bridge/victims.h"
 
 namespace desktop::runtime {
 namespace {
 
-using bridge::Object;
-using bridge::Owned;
-using bridge::send;
 using victims::deaths;
 
 constexpr std::uintptr_t assign = 0;
@@ -27,7 +25,7 @@ Owned<Object> makeMortal() {
 }
 
 Object string(const char* text) {
-  return send<Object, "stringWithUTF8String:">(bridge::classNamed<"NSString">(), text);
+  return send<Object, "stringWithUTF8String:">(classNamed<"NSString">(), text);
 }
 
 TEST(AssociatedObjects, GoWithOwnersOfAnyClass) {
@@ -38,7 +36,7 @@ TEST(AssociatedObjects, GoWithOwnersOfAnyClass) {
   for (const char* name : classes) {
     deaths = 0;
     {
-      const bridge::AutoreleasePool pool;
+      const AutoreleasePool pool;
       const auto owner = victims::make(objc_getClass(name));
       ASSERT_TRUE(owner) << name;
       objc_setAssociatedObject(owner.get().get(), &key, makeMortal().get().get(), retain);
@@ -60,10 +58,10 @@ TEST(AssociatedObjects, GoWithClassesMadeAtRunTime) {
 }
 
 TEST(AssociatedObjects, FollowTheirPolicy) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   const auto owner = victims::make(objc_getClass("NSObject"));
-  const Object text = send<Object, "stringWithString:">(bridge::classNamed<"NSMutableString">(),
-                                                        string("changeable"));
+  const Object text =
+      send<Object, "stringWithString:">(classNamed<"NSMutableString">(), string("changeable"));
   for (const std::uintptr_t policy : {copyNonatomic, copy}) {
     objc_setAssociatedObject(owner.get().get(), &key, text.get(), policy);
     const Object kept(objc_getAssociatedObject(owner.get().get(), &key));
@@ -77,7 +75,7 @@ TEST(AssociatedObjects, FollowTheirPolicy) {
 TEST(AssociatedObjects, OfAnAtomicPolicyOutliveTheirOwnerInTheGettersPool) {
   deaths = 0;
   {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     {
       const auto owner = victims::make(objc_getClass("NSObject"));
       objc_setAssociatedObject(owner.get().get(), &key, makeMortal().get().get(), retain);
@@ -107,7 +105,7 @@ TEST(AssociatedObjects, AreSafeToUseFromSeveralThreads) {
   for (std::thread& thread : threads) {
     thread = std::thread([] {
       for (int round = 0; round < 5000; ++round) {
-        const bridge::AutoreleasePool pool;
+        const AutoreleasePool pool;
         const auto owner = victims::make(objc_getClass("NSObject"));
         const auto value = victims::make(objc_getClass("NSObject"));
         objc_setAssociatedObject(owner.get().get(), &key, value.get().get(), retain);

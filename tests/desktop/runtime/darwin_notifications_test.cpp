@@ -17,8 +17,7 @@ namespace {
 std::vector<std::string> heard;
 
 CFStringRef name(const char* text) {
-  return bridge::toCFString(bridge::send<bridge::Object, "stringWithUTF8String:">(
-      bridge::classNamed<"NSString">(), text));
+  return toCFString(send<Object, "stringWithUTF8String:">(classNamed<"NSString">(), text));
 }
 
 void note(CFNotificationCenterRef centre, void* observer, CFStringRef posted, const void* object,
@@ -27,7 +26,7 @@ void note(CFNotificationCenterRef centre, void* observer, CFStringRef posted, co
   EXPECT_EQ(observer, nullptr);
   EXPECT_EQ(object, nullptr);
   EXPECT_EQ(userInfo, nullptr);
-  heard.emplace_back(bridge::send<const char*, "UTF8String">(bridge::fromCFString(posted)));
+  heard.emplace_back(send<const char*, "UTF8String">(fromCFString(posted)));
 }
 
 class DarwinNotificationsTest : public testing::Test {
@@ -39,7 +38,7 @@ class DarwinNotificationsTest : public testing::Test {
   }
   ~DarwinNotificationsTest() override { std::filesystem::remove_all(root); }
 
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   std::string root;
 };
 
@@ -47,10 +46,10 @@ TEST_F(DarwinNotificationsTest, ReachObserversAddedBeforeAndAfterOpening) {
   const CFNotificationCenterRef centre = CFNotificationCenterGetDarwinNotifyCenter();
   ASSERT_NE(centre, nullptr);
   CFNotificationCenterAddObserver(centre, nullptr, &note, name("com.example/early"), nullptr,
-                                  bridge::suspensionBehaviourCoalesce);
+                                  suspensionBehaviourCoalesce);
   openDarwinNotifications(foundation::notificationFolder(root));
   CFNotificationCenterAddObserver(centre, nullptr, &note, name("com.example/late"), nullptr,
-                                  bridge::suspensionBehaviourCoalesce);
+                                  suspensionBehaviourCoalesce);
   ASSERT_GE(darwinNotificationDescriptor(), 0);
   CFNotificationCenterPostNotification(centre, name("com.example/late"), nullptr, nullptr, 1);
   CFNotificationCenterPostNotification(centre, name("com.example/early"), nullptr, nullptr, 1);

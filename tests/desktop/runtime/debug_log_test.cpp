@@ -8,6 +8,7 @@
 
 #include "bridge/guard.h"
 #include "bridge/log.h"
+#include "desktop/platform.h"
 
 namespace desktop::runtime {
 namespace {
@@ -23,7 +24,7 @@ class DebugLogTest : public testing::Test {
 };
 
 TEST_F(DebugLogTest, HandsOnFormatSourceLineAndText) {
-  bridge::logDebug("Source", 12, "couldn't find it");
+  logDebug("Source", 12, "couldn't find it");
   ASSERT_EQ(lines.size(), 1U);
   EXPECT_EQ(lines[0],
             (DebugLogLine{"[%{public}s:%{public}d] %{public}@", "Source", 12, "couldn't find it"}));
@@ -31,14 +32,14 @@ TEST_F(DebugLogTest, HandsOnFormatSourceLineAndText) {
 }
 
 TEST_F(DebugLogTest, TellsOfExceptionsThatAGuardCaught) {
-  bridge::guarded([] { throw std::runtime_error("out of luck"); });
+  guarded([] { throw std::runtime_error("out of luck"); });
   ASSERT_EQ(lines.size(), 1U);
   EXPECT_EQ(lines[0].text, "out of luck");
 }
 
 TEST_F(DebugLogTest, DropsLinesWithoutASink) {
   setDebugLogSink({});
-  bridge::logDebug("Source", 12, "unheard");
+  logDebug("Source", 12, "unheard");
   EXPECT_TRUE(lines.empty());
 }
 

@@ -8,7 +8,6 @@
 namespace desktop::runtime {
 namespace {
 
-using bridge::send;
 using victims::ClassMaker;
 
 using Number = int (*)(id, SEL);
@@ -59,7 +58,7 @@ TEST(MethodHooks, ReplaceClassMethodsThroughTheMetaclass) {
                              "number", +[](id, SEL) { return 3; })
                          .build();
   const Class hooked = ClassMaker("ClassMethodHost", "ClassMethodBase").build();
-  hook(object_getClass(bridge::rawObject(hooked)), "number");
+  hook(object_getClass(rawObject(hooked)), "number");
   EXPECT_EQ((send<int, "number">(hooked)), 30);
   EXPECT_EQ((send<int, "number">(base)), 3);
 }

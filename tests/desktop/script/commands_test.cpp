@@ -69,8 +69,8 @@ TEST_F(CommandsTest, AScreenshotHasTheScalesPixels) {
 }
 
 TEST_F(CommandsTest, ExpectingLooksAtTheScreen) {
-  const auto label = bridge::makeView<bridge::UILabel>({{0, 0}, {100, 20}});
-  label->setText(bridge::NSString::make("hello"));
+  const auto label = bridge::makeView<UILabel>({{0, 0}, {100, 20}});
+  label->setText(NSString::make("hello"));
   window().addSubview(label);
   expectDone("expect \"hello\"");
   expectDone("expect-not \"goodbye\"");

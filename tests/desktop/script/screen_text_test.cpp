@@ -10,10 +10,9 @@ namespace {
 
 class ScreenTextTest : public uikit::ApplicationTest {
  protected:
-  static bridge::Owned<bridge::UILabel> addLabel(bridge::UIView to, CGRect frame,
-                                                 const char* text) {
-    const auto label = bridge::makeView<bridge::UILabel>(frame);
-    label->setText(bridge::NSString::make(text));
+  static Owned<UILabel> addLabel(UIView to, CGRect frame, const char* text) {
+    const auto label = bridge::makeView<UILabel>(frame);
+    label->setText(NSString::make(text));
     to.addSubview(label);
     return label;
   }
@@ -30,7 +29,7 @@ TEST_F(ScreenTextTest, FindsTextsThatCanBeSeen) {
 TEST_F(ScreenTextTest, DoesNotFindWhatIsHiddenTransparentOrOutside) {
   addLabel(window(), {{10, 20}, {100, 20}}, "hidden")->setAlpha(0);
   addLabel(window(), {{1000, 20}, {100, 20}}, "outside");
-  const auto clipping = bridge::makeView<bridge::UIView>({{0, 0}, {50, 50}});
+  const auto clipping = bridge::makeView<UIView>({{0, 0}, {50, 50}});
   clipping->setClipsToBounds(true);
   window().addSubview(clipping);
   addLabel(clipping.get(), {{0, 60}, {50, 20}}, "clipped");

@@ -19,11 +19,11 @@ using Json = nlohmann::ordered_json;
 class TreeDumpTest : public uikit::ApplicationTest {};
 
 TEST_F(TreeDumpTest, TellsWhereAViewIsAndHowItLooks) {
-  const auto box = bridge::makeView<bridge::UIView>({{10, 20}, {30, 40}});
+  const auto box = bridge::makeView<UIView>({{10, 20}, {30, 40}});
   box->setTag(7);
   box->setAutoresizingMask(18);
-  box->setBackgroundColor(bridge::UIColor::white(1, 0.5));
-  box->setTransform(bridge::scaling(2, 2));
+  box->setBackgroundColor(UIColor::white(1, 0.5));
+  box->setTransform(scaling(2, 2));
   window().addSubview(box);
   const Json node = dumpView(box.get());
   EXPECT_EQ(node, Json::parse(R"({"class": "UIView", "frame": [-5.0, 0.0, 60.0, 80.0],
@@ -32,10 +32,10 @@ TEST_F(TreeDumpTest, TellsWhereAViewIsAndHowItLooks) {
 }
 
 TEST_F(TreeDumpTest, TellsOfLayersWhatIsNotPlain) {
-  const auto box = bridge::makeView<bridge::UIView>({{0, 0}, {10, 10}});
+  const auto box = bridge::makeView<UIView>({{0, 0}, {10, 10}});
   box->layer().setCornerRadius(5);
   box->layer().setShadowOpacity(0.5F);
-  box->layer().setShadowPath(bridge::UIBezierPath::withRect({{0, 0}, {15, 15}}).cgPath());
+  box->layer().setShadowPath(UIBezierPath::withRect({{0, 0}, {15, 15}}).cgPath());
   const Json layer = dumpView(box.get())["layer"];
   EXPECT_EQ(layer["cornerRadius"], 5.0);
   EXPECT_EQ(layer["shadowOpacity"], 0.5);
@@ -44,9 +44,9 @@ TEST_F(TreeDumpTest, TellsOfLayersWhatIsNotPlain) {
 }
 
 TEST_F(TreeDumpTest, ShowsWhatIsAnimatedAsItIsNow) {
-  const auto box = bridge::makeView<bridge::UIView>({{0, 0}, {10, 10}});
+  const auto box = bridge::makeView<UIView>({{0, 0}, {10, 10}});
   window().addSubview(box);
-  bridge::UIView::animate(1, bridge::Block<void()>([&box] { box->setAlpha(0); }));
+  UIView::animate(1, Block<void()>([&box] { box->setAlpha(0); }));
   uikit::scheduler().advanceTo(0.5);
   EXPECT_EQ(dumpView(box.get())["alpha"], 0.5);
 }

@@ -11,7 +11,6 @@
 #include "desktop/uikit/application/uikit.h"
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/base/screen.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 
 namespace desktop::uikit {
@@ -22,7 +21,7 @@ class ApplicationTest : public testing::Test {
     registerUIKit();
     makeWhatThereIsOneOf();
     resetApplication();
-    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(screen().size));
+    const auto made = bridge::makeView<UIWindow>(rectOfSize(screen().size));
     made->makeKeyAndVisible();
     application().prepareFrame();
   }
@@ -30,17 +29,15 @@ class ApplicationTest : public testing::Test {
 
   // These stay for the life of the process: whoever counts objects finds them there already.
   static void makeWhatThereIsOneOf() {
-    bridge::UIApplication::sharedApplication();
-    bridge::UIScreen::mainScreen();
-    UIMenuController::sharedMenuController();
+    UIApplication::sharedApplication();
+    UIScreen::mainScreen();
+    UIMenuControllerState::sharedMenuController();
   }
 
-  static handles::UIWindow window() {
-    return handles::UIWindow(application().windows.at(0)->get());
-  }
+  static UIWindow window() { return UIWindow(application().windows.at(0)->get()); }
 
  private:
-  const bridge::AutoreleasePool _pool;
+  const AutoreleasePool _pool;
 };
 
 }  // namespace desktop::uikit

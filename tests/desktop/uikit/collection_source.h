@@ -19,12 +19,12 @@
 namespace desktop::uikit {
 
 // Sections of equally many items, in columns of `side` points with 1 point between.
-class GridLayout : public bridge::Bound<GridLayout, bridge::UICollectionViewLayout> {
+class GridLayout : public Bound<GridLayout, UICollectionViewLayout> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<GridLayout>("GridLayout")
+        ClassBuilder<GridLayout>("GridLayout")
             .method<"prepareLayout", &GridLayout::prepare>()
             .method<"collectionViewContentSize", &GridLayout::contentSize>()
             .method<"layoutAttributesForElementsInRect:", &GridLayout::elementsIn>()
@@ -52,12 +52,10 @@ class GridLayout : public bridge::Bound<GridLayout, bridge::UICollectionViewLayo
   }
 
  private:
-  bridge::UICollectionView view() const {
-    return bridge::send<bridge::UICollectionView, "collectionView">(self());
-  }
+  UICollectionView view() const { return send<UICollectionView, "collectionView">(self()); }
   void prepare() {
     ++prepared;
-    _sections = bridge::send<NSInteger, "numberOfSections">(view());
+    _sections = send<NSInteger, "numberOfSections">(view());
     _items = _sections > 0 ? view().numberOfItemsInSection(0) : 0;
   }
   NSInteger rows() const { return (_items + columns - 1) / columns; }
@@ -68,14 +66,14 @@ class GridLayout : public bridge::Bound<GridLayout, bridge::UICollectionViewLayo
   }
   bool shouldInvalidate(CGRect) const { return invalidatesAlways; }
 
-  bridge::Object elementsIn(CGRect rect) {
+  Object elementsIn(CGRect rect) {
     if (answer == Answer::nothing) return {};
-    if (answer == Answer::text) return bridge::NSString::make("no elements");
-    const auto all = bridge::makeNew<bridge::NSMutableArray>();
+    if (answer == Answer::text) return NSString::make("no elements");
+    const auto all = makeNew<NSMutableArray>();
     if (answer == Answer::absurd) addAbsurd(all);
     const auto [first, last] = indices(rect, sectionHeight(), _sections);
     for (NSInteger section = first; section < last; ++section) addSection(all, section, rect);
-    return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+    return Owned<NSArray>::retain(all.get()).autorelease();
   }
 
   static std::pair<NSInteger, NSInteger> indices(CGRect rect, CGFloat step, NSInteger count) {
@@ -86,12 +84,12 @@ class GridLayout : public bridge::Bound<GridLayout, bridge::UICollectionViewLayo
     return {index(std::floor(rect.origin.y / step)), index(std::ceil(bottom(rect) / step))};
   }
 
-  void addSection(bridge::NSMutableArray all, NSInteger section, CGRect rect) {
+  void addSection(NSMutableArray all, NSInteger section, CGRect rect) {
     const CGFloat top = static_cast<CGFloat>(section) * sectionHeight();
     const CGRect header = {{0, top}, {375, headerHeight}};
     if (headerHeight > 0 && intersects(header, rect)) {
-      const auto made = UICollectionViewLayoutAttributes::forSupplementary(
-          bridge::NSString::make("UICollectionElementKindSectionHeader"), {section, 0}, header);
+      const auto made = UICollectionViewLayoutAttributesState::forSupplementary(
+          NSString::make("UICollectionElementKindSectionHeader"), {section, 0}, header);
       made.setZIndex(1);
       all.add(made);
     }
@@ -99,20 +97,21 @@ class GridLayout : public bridge::Bound<GridLayout, bridge::UICollectionViewLayo
     const auto [first, last] = indices(inItems, side + 1, rows());
     for (NSInteger item = first * columns; item < std::min(last * columns, _items); ++item) {
       ++attributesMade;
-      all.add(UICollectionViewLayoutAttributes::forItem({section, item}, frameOf({section, item})));
+      all.add(UICollectionViewLayoutAttributesState::forItem({section, item},
+                                                             frameOf({section, item})));
     }
   }
 
-  void addAbsurd(bridge::NSMutableArray all) const {
-    all.add(bridge::NSString::make("no attributes"));
+  void addAbsurd(NSMutableArray all) const {
+    all.add(NSString::make("no attributes"));
     for (const ItemPath path : {ItemPath{7, 0}, ItemPath{0, 5'000'000}, ItemPath{0, 1}})
-      all.add(UICollectionViewLayoutAttributes::forItem(path, {{NAN, 0}, {10, 10}}));
-    all.add(UICollectionViewLayoutAttributes::forItem({9, 9}, {{0, 0}, {10, 10}}));
+      all.add(UICollectionViewLayoutAttributesState::forItem(path, {{NAN, 0}, {10, 10}}));
+    all.add(UICollectionViewLayoutAttributesState::forItem({9, 9}, {{0, 0}, {10, 10}}));
   }
 
-  bridge::Object item(bridge::NSIndexPath path) const {
+  Object item(NSIndexPath path) const {
     const ItemPath at = *itemPathOf(path);
-    return UICollectionViewLayoutAttributes::forItem(at, frameOf(at));
+    return UICollectionViewLayoutAttributesState::forItem(at, frameOf(at));
   }
 
   NSInteger _sections = 0;
@@ -120,11 +119,11 @@ class GridLayout : public bridge::Bound<GridLayout, bridge::UICollectionViewLayo
 };
 
 // The cell of these tests: knows what it shows.
-class TestCell : public bridge::Bound<TestCell, handles::UICollectionViewCell> {
+class TestCell : public Bound<TestCell, UICollectionViewCell> {
  public:
   using Bound::Bound;
   static Class classObject() {
-    static const Class made = bridge::ClassBuilder<TestCell>("TestCell")
+    static const Class made = ClassBuilder<TestCell>("TestCell")
                                   .method<"prepareForReuse", &TestCell::prepareForReuse>()
                                   .build();
     return made;
@@ -138,12 +137,12 @@ class TestCell : public bridge::Bound<TestCell, handles::UICollectionViewCell> {
   }
 };
 
-class CollectionSource : public bridge::Bound<CollectionSource, bridge::NSObject> {
+class CollectionSource : public Bound<CollectionSource, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<CollectionSource>("CollectionSource")
+        ClassBuilder<CollectionSource>("CollectionSource")
             .method<"numberOfSectionsInCollectionView:", &CollectionSource::sections>()
             .method<"collectionView:numberOfItemsInSection:", &CollectionSource::items>()
             .method<"collectionView:cellForItemAtIndexPath:", &CollectionSource::cell>()
@@ -172,36 +171,31 @@ class CollectionSource : public bridge::Bound<CollectionSource, bridge::NSObject
   long ended = 0;
 
  private:
-  NSInteger sections(bridge::UICollectionView) const { return sectionCount; }
-  NSInteger items(bridge::UICollectionView, NSInteger) const { return itemCount; }
-  bridge::Object cell(bridge::UICollectionView view, bridge::NSIndexPath path) const {
-    if (reloadsMeanwhile) bridge::send<void, "reloadData">(view);
+  NSInteger sections(UICollectionView) const { return sectionCount; }
+  NSInteger items(UICollectionView, NSInteger) const { return itemCount; }
+  Object cell(UICollectionView view, NSIndexPath path) const {
+    if (reloadsMeanwhile) send<void, "reloadData">(view);
     if (answer == Answer::nothing) return {};
-    if (answer == Answer::text) return bridge::NSString::make("no cell");
-    const auto made =
-        bridge::send<bridge::UIView, "dequeueReusableCellWithReuseIdentifier:forIndexPath:">(
-            view, bridge::NSString::make("cell"), path);
+    if (answer == Answer::text) return NSString::make("no cell");
+    const auto made = send<UIView, "dequeueReusableCellWithReuseIdentifier:forIndexPath:">(
+        view, NSString::make("cell"), path);
     made.setTag(path.row());
     return made;
   }
-  bridge::Object header(bridge::UICollectionView view, bridge::NSString kind,
-                        bridge::NSIndexPath path) const {
-    return bridge::send<bridge::Object,
-                        "dequeueReusableSupplementaryViewOfKind:withReuseIdentifier:forIndexPath:">(
-        view, kind, bridge::NSString::make("header"), path);
+  Object header(UICollectionView view, NSString kind, NSIndexPath path) const {
+    return send<Object, "dequeueReusableSupplementaryViewOfKind:withReuseIdentifier:forIndexPath:">(
+        view, kind, NSString::make("header"), path);
   }
-  static std::string text(bridge::NSIndexPath path) {
+  static std::string text(NSIndexPath path) {
     return std::to_string(path.section()) + "." + std::to_string(path.row());
   }
-  bool mayChange(bridge::UICollectionView, bridge::NSIndexPath) const { return allowsChanges; }
-  void didSelect(bridge::UICollectionView, bridge::NSIndexPath path) {
-    events.push_back("select " + text(path));
-  }
-  void didDeselect(bridge::UICollectionView, bridge::NSIndexPath path) {
+  bool mayChange(UICollectionView, NSIndexPath) const { return allowsChanges; }
+  void didSelect(UICollectionView, NSIndexPath path) { events.push_back("select " + text(path)); }
+  void didDeselect(UICollectionView, NSIndexPath path) {
     events.push_back("deselect " + text(path));
   }
-  void willDisplay(bridge::UICollectionView, bridge::UIView, bridge::NSIndexPath) { ++displayed; }
-  void didEndDisplaying(bridge::UICollectionView, bridge::UIView, bridge::NSIndexPath) { ++ended; }
+  void willDisplay(UICollectionView, UIView, NSIndexPath) { ++displayed; }
+  void didEndDisplaying(UICollectionView, UIView, NSIndexPath) { ++ended; }
 };
 
 }  // namespace desktop::uikit

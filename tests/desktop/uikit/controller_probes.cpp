@@ -10,13 +10,13 @@
 namespace desktop::uikit {
 namespace {
 
-bridge::UIView find(bridge::UIView view, std::string_view text) {
-  const UIView& state = UIView::of(view.get());
+UIView find(UIView view, std::string_view text) {
+  const UIViewState& state = UIViewState::of(view.get());
   if (state.isHidden() || !(state.alpha() > 0)) return {};
   for (auto child = state.subviews().rbegin(); child != state.subviews().rend(); ++child)
     if (const auto found = find(child->get(), text)) return found;
-  const bool isLabel = bridge::isKindOf(view, UILabel::classObject());
-  return isLabel && bridge::UILabel(view.get()).text().utf8() == text ? view : bridge::UIView();
+  const bool isLabel = isKindOf(view, UILabelState::classObject());
+  return isLabel && UILabel(view.get()).text().utf8() == text ? view : UIView();
 }
 
 }  // namespace
@@ -24,7 +24,7 @@ bridge::UIView find(bridge::UIView view, std::string_view text) {
 std::vector<std::string> ProbeController::calls;
 
 Class ProbeController::classObject() {
-  static const Class made = bridge::ClassBuilder<ProbeController>("ProbeController")
+  static const Class made = ClassBuilder<ProbeController>("ProbeController")
                                 .method<"viewDidLoad", &ProbeController::viewDidLoad>()
                                 .method<"viewWillAppear:", &ProbeController::viewWillAppear>()
                                 .method<"viewDidAppear:", &ProbeController::viewDidAppear>()
@@ -37,17 +37,17 @@ Class ProbeController::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::UIViewController> ProbeController::make(std::string name) {
-  auto made = bridge::Owned<bridge::UIViewController>::adopt(
-      bridge::send<bridge::UIViewController, "init">(bridge::send<id, "alloc">(classObject())));
+Owned<UIViewController> ProbeController::make(std::string name) {
+  auto made = Owned<UIViewController>::adopt(
+      send<UIViewController, "init">(send<id, "alloc">(classObject())));
   of(made.get())._name = name;
-  bridge::send<void, "setTitle:">(made.get(), bridge::NSString::make(name));
+  send<void, "setTitle:">(made.get(), NSString::make(name));
   return made;
 }
 
 void ProbeController::viewDidLoad() {
   super<void, "viewDidLoad">();
-  self().view().setBackgroundColor(bridge::UIColor::whiteColor());
+  self().view().setBackgroundColor(UIColor::whiteColor());
   note("didLoad");
 }
 
@@ -72,21 +72,20 @@ void ProbeController::viewDidDisappear(bool animated) {
   note("didDisappear");
 }
 
-void ProbeController::willBecome(CGSize size, bridge::Object coordinator) {
+void ProbeController::willBecome(CGSize size, Object coordinator) {
   super<void, "viewWillTransitionToSize:withTransitionCoordinator:">(size, coordinator);
   note((std::to_string(static_cast<int>(size.width)) + " x " +
         std::to_string(static_cast<int>(size.height)))
            .c_str());
 }
 
-void ProbeController::press(bridge::Object from) {
+void ProbeController::press(Object from) {
   sender = from;
   note("pressed");
   if (onPress) onPress();
 }
 
-bridge::Owned<bridge::UIViewController> ControllerTest::showRoot(
-    const bridge::Owned<bridge::UIViewController>& root) {
+Owned<UIViewController> ControllerTest::showRoot(const Owned<UIViewController>& root) {
   window().setRootViewController(root);
   wait(0.1);
   takeCalls();
@@ -100,12 +99,12 @@ void ControllerTest::tap(CGPoint point) {
   wait(0.02);
 }
 
-void ControllerTest::tap(bridge::UIView view) {
+void ControllerTest::tap(UIView view) {
   ASSERT_TRUE(view);
-  tap(middle(apply(UIView::of(view.get()).toScreen(), view.bounds())));
+  tap(middle(apply(UIViewState::of(view.get()).toScreen(), view.bounds())));
 }
 
-bridge::UIView ControllerTest::viewWithText(std::string_view text) {
+UIView ControllerTest::viewWithText(std::string_view text) {
   application().prepareFrame();
   for (auto each = application().windows.rbegin(); each != application().windows.rend(); ++each)
     if (const auto found = find(each->get(), text)) return found;
@@ -122,8 +121,8 @@ std::vector<double> numbers(CGRect rect) {
   return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
 }
 
-std::vector<double> onScreen(bridge::UIView view) {
-  return numbers(apply(UIView::of(view.get()).toScreen(), view.bounds()));
+std::vector<double> onScreen(UIView view) {
+  return numbers(apply(UIViewState::of(view.get()).toScreen(), view.bounds()));
 }
 
 }  // namespace desktop::uikit

@@ -18,17 +18,17 @@
 namespace desktop::uikit {
 
 // Tells its name and what happens: "A willAppear". Its view is white.
-class ProbeController : public bridge::Bound<ProbeController, bridge::UIViewController> {
+class ProbeController : public Bound<ProbeController, UIViewController> {
  public:
   using Bound::Bound;
   static Class classObject();
-  static bridge::Owned<bridge::UIViewController> make(std::string name);
+  static Owned<UIViewController> make(std::string name);
 
   static std::vector<std::string> calls;  // of all of them
 
   std::function<void()> onPress;      // "press:"
   std::function<void()> onDisappear;  // viewWillDisappear:
-  bridge::Object sender;              // of the last press
+  Object sender;                      // of the last press
 
  private:
   void note(const char* what) { calls.push_back(_name + " " + what); }
@@ -37,8 +37,8 @@ class ProbeController : public bridge::Bound<ProbeController, bridge::UIViewCont
   void viewDidAppear(bool animated);
   void viewWillDisappear(bool animated);
   void viewDidDisappear(bool animated);
-  void willBecome(CGSize size, bridge::Object coordinator);
-  void press(bridge::Object from);
+  void willBecome(CGSize size, Object coordinator);
+  void press(Object from);
 
   std::string _name;
 };
@@ -52,21 +52,20 @@ class ControllerTest : public ApplicationTest {
 
   static Calls takeCalls() { return std::exchange(ProbeController::calls, {}); }
   // A controller that fills the window and has appeared; its calls are taken.
-  static bridge::Owned<bridge::UIViewController> showRoot(
-      const bridge::Owned<bridge::UIViewController>& root);
+  static Owned<UIViewController> showRoot(const Owned<UIViewController>& root);
 
   static void wait(Seconds time) { application().advance(time); }
   static void tap(CGPoint point);
   // In the middle of the view.
-  static void tap(bridge::UIView view);
+  static void tap(UIView view);
   // The first view that shows this text and can be seen, from the front; nil where there is none.
-  static bridge::UIView viewWithText(std::string_view text);
+  static UIView viewWithText(std::string_view text);
   static void tap(std::string_view text);
   static bool isShown(std::string_view text) { return static_cast<bool>(viewWithText(text)); }
 };
 
 // A frame on the screen as numbers, which tell more when they differ.
-std::vector<double> onScreen(bridge::UIView view);
+std::vector<double> onScreen(UIView view);
 std::vector<double> numbers(CGRect rect);
 
 }  // namespace desktop::uikit

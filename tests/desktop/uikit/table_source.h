@@ -19,12 +19,12 @@ inline std::string textOf(ItemPath path) {
   return std::to_string(path.section) + "." + std::to_string(path.item);
 }
 
-class TableSource : public bridge::Bound<TableSource, bridge::NSObject> {
+class TableSource : public Bound<TableSource, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<TableSource>("TableSource")
+        ClassBuilder<TableSource>("TableSource")
             .method<"numberOfSectionsInTableView:", &TableSource::sections>()
             .method<"tableView:numberOfRowsInSection:", &TableSource::rows>()
             .method<"tableView:cellForRowAtIndexPath:", &TableSource::cell>()
@@ -46,53 +46,52 @@ class TableSource : public bridge::Bound<TableSource, bridge::NSObject> {
 
   int cellsMade = 0;
   int countsAsked = 0;
-  bridge::Owned<bridge::UITableViewCell> onlyCell;
+  Owned<UITableViewCell> onlyCell;
 
  private:
-  NSInteger sections(bridge::UITableView) const { return sectionCount; }
-  NSInteger rows(bridge::UITableView, NSInteger) {
+  NSInteger sections(UITableView) const { return sectionCount; }
+  NSInteger rows(UITableView, NSInteger) {
     ++countsAsked;
     return rowCount;
   }
-  bridge::Object header(bridge::UITableView, NSInteger) const { return titleOf(headerTitle); }
-  bridge::Object footer(bridge::UITableView, NSInteger) const { return titleOf(footerTitle); }
-  static bridge::Object titleOf(const std::string& title) {
-    return title.empty() ? bridge::NSString() : bridge::NSString::make(title);
+  Object header(UITableView, NSInteger) const { return titleOf(headerTitle); }
+  Object footer(UITableView, NSInteger) const { return titleOf(footerTitle); }
+  static Object titleOf(const std::string& title) {
+    return title.empty() ? NSString() : NSString::make(title);
   }
 
-  bridge::Object cell(bridge::UITableView table, bridge::NSIndexPath path) {
+  Object cell(UITableView table, NSIndexPath path) {
     if (reloadsMeanwhile) {
-      bridge::send<void, "reloadData">(table);
-      bridge::send<NSInteger, "numberOfSections">(table);
+      send<void, "reloadData">(table);
+      send<NSInteger, "numberOfSections">(table);
     }
     if (answer == Answer::nothing) return {};
-    if (answer == Answer::text) return bridge::NSString::make("no cell");
+    if (answer == Answer::text) return NSString::make("no cell");
     if (answer == Answer::always) {
       if (!onlyCell) onlyCell = makeCell();
       return onlyCell;
     }
-    bridge::UITableViewCell made = table.dequeueCell(bridge::NSString::make("row"));
+    UITableViewCell made = table.dequeueCell(NSString::make("row"));
     if (wastesCells) made = {};
     if (!made) made = makeCell().autorelease();
-    made.textLabel().setText(bridge::NSString::make(textOf(*itemPathOf(path))));
+    made.textLabel().setText(NSString::make(textOf(*itemPathOf(path))));
     return made;
   }
 
-  bridge::Owned<bridge::UITableViewCell> makeCell() {
+  Owned<UITableViewCell> makeCell() {
     ++cellsMade;
-    const auto identifier = usesIdentifier ? bridge::NSString::make("row") : bridge::NSString();
-    return bridge::UITableViewCell::make(static_cast<bridge::UITableViewCell::Style>(cellStyle),
-                                         identifier);
+    const auto identifier = usesIdentifier ? NSString::make("row") : NSString();
+    return UITableViewCell::make(static_cast<UITableViewCell::Style>(cellStyle), identifier);
   }
 };
 
 // Notes selections and menu questions, and what is done then.
-class TableWatcher : public bridge::Bound<TableWatcher, bridge::NSObject> {
+class TableWatcher : public Bound<TableWatcher, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<TableWatcher>("TableWatcher")
+        ClassBuilder<TableWatcher>("TableWatcher")
             .method<"tableView:willSelectRowAtIndexPath:", &TableWatcher::willSelect>()
             .method<"tableView:didSelectRowAtIndexPath:", &TableWatcher::didSelect>()
             .method<"tableView:didDeselectRowAtIndexPath:", &TableWatcher::didDeselect>()
@@ -110,28 +109,26 @@ class TableWatcher : public bridge::Bound<TableWatcher, bridge::NSObject> {
   bool showsMenu = true;
   std::string allowedActions = "copy:";
   bool reloadsOnSelection = false;
-  bridge::Object sender;
+  Object sender;
 
  private:
-  static std::string text(bridge::NSIndexPath path) { return textOf(*itemPathOf(path)); }
-  bridge::Object willSelect(bridge::UITableView, bridge::NSIndexPath path) const {
-    return allowsSelection ? path : bridge::NSIndexPath();
+  static std::string text(NSIndexPath path) { return textOf(*itemPathOf(path)); }
+  Object willSelect(UITableView, NSIndexPath path) const {
+    return allowsSelection ? path : NSIndexPath();
   }
-  void didSelect(bridge::UITableView table, bridge::NSIndexPath path) {
+  void didSelect(UITableView table, NSIndexPath path) {
     events.push_back("select " + text(path));
-    if (reloadsOnSelection) bridge::send<void, "reloadData">(table);
+    if (reloadsOnSelection) send<void, "reloadData">(table);
   }
-  void didDeselect(bridge::UITableView, bridge::NSIndexPath path) {
-    events.push_back("deselect " + text(path));
-  }
-  bool shouldShowMenu(bridge::UITableView, bridge::NSIndexPath path) {
+  void didDeselect(UITableView, NSIndexPath path) { events.push_back("deselect " + text(path)); }
+  bool shouldShowMenu(UITableView, NSIndexPath path) {
     events.push_back("menu " + text(path));
     return showsMenu;
   }
-  bool canPerform(bridge::UITableView, SEL action, bridge::NSIndexPath, bridge::Object) const {
+  bool canPerform(UITableView, SEL action, NSIndexPath, Object) const {
     return allowedActions.find(sel_getName(action)) != std::string::npos;
   }
-  void perform(bridge::UITableView, SEL action, bridge::NSIndexPath path, bridge::Object from) {
+  void perform(UITableView, SEL action, NSIndexPath path, Object from) {
     events.push_back(sel_getName(action) + (" " + text(path)));
     sender = from;
   }

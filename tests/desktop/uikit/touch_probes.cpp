@@ -7,7 +7,7 @@
 namespace desktop::uikit {
 
 Class ProbeView::classObject() {
-  static const Class made = bridge::ClassBuilder<ProbeView>("ProbeView")
+  static const Class made = ClassBuilder<ProbeView>("ProbeView")
                                 .method<"touchesBegan:withEvent:", &ProbeView::began>()
                                 .method<"touchesMoved:withEvent:", &ProbeView::moved>()
                                 .method<"touchesEnded:withEvent:", &ProbeView::ended>()
@@ -16,21 +16,21 @@ Class ProbeView::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::UIView> ProbeView::make(CGRect frame) {
-  return bridge::Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:">(
-      bridge::send<id, "alloc">(classObject()), frame));
+Owned<UIView> ProbeView::make(CGRect frame) {
+  return Owned<UIView>::adopt(
+      send<UIView, "initWithFrame:">(send<id, "alloc">(classObject()), frame));
 }
 
-void ProbeView::note(const char* what, bridge::NSSet set) {
+void ProbeView::note(const char* what, NSSet set) {
   touches.emplace_back(what);
-  const bridge::UITouch touch(set.anyObject().get());
+  const UITouch touch(set.anyObject().get());
   last = touch.locationIn(self());
-  taps = bridge::send<NSInteger, "tapCount">(touch);
+  taps = send<NSInteger, "tapCount">(touch);
 }
 
 Class Probe::classObject() {
   static const Class made =
-      bridge::ClassBuilder<Probe>("Probe")
+      ClassBuilder<Probe>("Probe")
           .method<"gesture:", &Probe::gesture>()
           .method<"act", &Probe::act>()
           .method<"act:", &Probe::actFor>()
@@ -50,19 +50,18 @@ Class Probe::classObject() {
   return made;
 }
 
-bridge::Owned<bridge::NSObject> Probe::make() {
+Owned<NSObject> Probe::make() {
   registerUIKit();
-  return bridge::Owned<bridge::NSObject>::adopt(
-      bridge::send<bridge::NSObject, "new">(classObject()));
+  return Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
 }
 
-void Probe::gesture(bridge::UIGestureRecognizer recognizer) {
+void Probe::gesture(UIGestureRecognizer recognizer) {
   constexpr const char* names[] = {"possible", "began", "changed", "ended", "cancelled", "failed"};
   told.emplace_back(names[recognizer.state()]);
-  const auto view = bridge::send<bridge::UIView, "view">(recognizer);
+  const auto view = send<UIView, "view">(recognizer);
   location = recognizer.locationIn(view);
-  if (bridge::isKindOf(recognizer, UIPanGestureRecognizer::classObject()))
-    translation = handles::UIPanGestureRecognizer(recognizer.get()).translationIn(view);
+  if (isKindOf(recognizer, UIPanGestureRecognizerState::classObject()))
+    translation = UIPanGestureRecognizer(recognizer.get()).translationIn(view);
   if (onAction) onAction();
 }
 
@@ -71,21 +70,21 @@ void Probe::act() {
   if (onAction) onAction();
 }
 
-void Probe::actFor(bridge::NSObject sender) {
+void Probe::actFor(NSObject sender) {
   told.emplace_back(sender ? "act:" : "act: without a sender");
   if (onAction) onAction();
 }
 
-void Probe::actForEvent(bridge::NSObject sender, bridge::UIEvent event) {
+void Probe::actForEvent(NSObject sender, UIEvent event) {
   told.emplace_back(sender && event ? "act:event:" : "act:event: without an event");
   if (onAction) onAction();
 }
 
-void Probe::willEndDragging(bridge::UIView, CGPoint, CGPoint* target) {
+void Probe::willEndDragging(UIView, CGPoint, CGPoint* target) {
   if (onEnd) onEnd(target);
 }
 
-void Probe::didEndDragging(bridge::UIView, bool willDecelerate) {
+void Probe::didEndDragging(UIView, bool willDecelerate) {
   scrolling.emplace_back(willDecelerate ? "did end dragging, goes on" : "did end dragging");
 }
 
@@ -107,7 +106,7 @@ void TouchTest::drag(CGPoint from, CGPoint to, Seconds time, Seconds rest) {
   touches().up(to);
 }
 
-bridge::Owned<bridge::UIView> TouchTest::probeIn(bridge::UIView parent, CGRect frame) {
+Owned<UIView> TouchTest::probeIn(UIView parent, CGRect frame) {
   auto view = ProbeView::make(frame);
   parent.addSubview(view);
   return view;

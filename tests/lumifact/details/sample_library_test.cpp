@@ -19,7 +19,7 @@ namespace {
 using bridge::NSString;
 using bridge::send;
 using bridge::UIViewController;
-using desktop::faces::PHAsset;
+using desktop::faces::PHAssetState;
 using desktop::library::ItemPointer;
 using desktop::library::PhotoLibrary;
 using foundation::DeviceRoot;
@@ -52,7 +52,7 @@ class SampleLibraryTest : public OneUpTest {
   UIViewController ask(const ItemPointer& item, int viewType) {
     settings.viewType = viewType;
     host::oneUpAnswers().asset =
-        bridge::Owned<bridge::Object>::retain(PHAsset::make(*_library, item));
+        bridge::Owned<bridge::Object>::retain(PHAssetState::make(*_library, item));
     host::viewDetails(controller, {});
     settle();
     return send<UIViewController, "topViewController">(presented());
@@ -91,8 +91,8 @@ std::string sharedBy(UIViewController page) {
   send<void, "shareButtonTouched:">(page, bridge::Object());
   settle();
   const auto sheet = send<UIViewController, "presentedViewController">(page);
-  const std::string text = desktop::uikit::UIActivityViewController::of(sheet).text();
-  desktop::uikit::UIActivityViewController::of(sheet).cancel();
+  const std::string text = desktop::uikit::UIActivityViewControllerState::of(sheet).text();
+  desktop::uikit::UIActivityViewControllerState::of(sheet).cancel();
   settle();
   return text;
 }

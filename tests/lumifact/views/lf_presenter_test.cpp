@@ -88,7 +88,7 @@ TEST_F(PresenterTest, IsSetInCourierWithAHangingIndent) {
 
 TEST_F(PresenterTest, HasABorderColourAndNoBorder) {
   show(report);
-  const auto& style = desktop::uikit::CALayer::of(textView().layer()).style();
+  const auto& style = desktop::uikit::CALayerState::of(textView().layer()).style();
   EXPECT_EQ(style.borderWidth, 0.0);
   EXPECT_TRUE(style.borderColor);
 }
@@ -141,7 +141,7 @@ TEST_F(PresenterTest, TheToggleFollowsWhatTheUserSelects) {
   EXPECT_EQ((send<NSRange, "selectedRange">(textView())), (NSRange{0, 3}));
   EXPECT_EQ(toggle(), "Select All");
   ASSERT_TRUE(labelWith(window(), "Select All"));
-  auto& menu = desktop::uikit::UIMenuController::shared();
+  auto& menu = desktop::uikit::UIMenuControllerState::shared();
   const auto titles = menu.titles();
   const auto place = std::ranges::find(titles, "Select All");
   ASSERT_NE(place, titles.end());
@@ -206,7 +206,7 @@ TEST_F(PresenterTest, MakesAnImageOfOneColour) {
       send<bridge::UIImage, "LFImageWithColor:">(page, bridge::UIColor::greenColor());
   ASSERT_TRUE(image);
   EXPECT_EQ((send<CGSize, "size">(image)), (CGSize{1, 1}));
-  const auto bitmap = desktop::uikit::UIImage::bitmapOf(image);
+  const auto bitmap = desktop::uikit::UIImageState::bitmapOf(image);
   ASSERT_TRUE(bitmap);
   EXPECT_EQ(bitmap->pixels, std::vector<std::uint32_t>{0xFF00FF00});
 }
@@ -215,7 +215,7 @@ TEST_F(PresenterTest, AReportOfTenMegabytesScrollsToItsEnd) {
   std::string lines;
   while (lines.size() < 10'000'000) lines += "  DateTimeOriginal = 2018:09:30 14:03:11\n";
   show(lines);
-  const desktop::uikit::handles::UIScrollView view(textView().get());
+  const bridge::UIScrollView view(textView().get());
   EXPECT_GT(view.contentSize().height, 100'000);
   view.setContentOffset({0, view.contentSize().height - 667});
   settle();

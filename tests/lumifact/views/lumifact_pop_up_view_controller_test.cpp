@@ -24,7 +24,7 @@ using bridge::UITextView;
 using bridge::UIView;
 using desktop::uikit::animator;
 using desktop::uikit::application;
-using desktop::uikit::CALayer;
+using desktop::uikit::CALayerState;
 using desktop::uikit::Color;
 using desktop::uikit::touches;
 
@@ -51,8 +51,12 @@ class PopUpTest : public desktop::uikit::ApplicationTest {
   static UIView overlay() { return viewOf(window(), LumifactPopUpViewController::classObject()); }
   static UITextView boxOf(UIView view) { return send<UITextView, "textView">(view); }
   static bool touchDown(UIView view) { return send<bool, "touchDown">(view); }
-  static desktop::uikit::UIView& look(UIView view) { return desktop::uikit::UIView::of(view); }
-  static const CALayer::Style& style(UIView view) { return CALayer::of(view.layer()).style(); }
+  static desktop::uikit::UIViewState& look(UIView view) {
+    return desktop::uikit::UIViewState::of(view);
+  }
+  static const CALayerState::Style& style(UIView view) {
+    return CALayerState::of(view.layer()).style();
+  }
 
   static void expectCentred(UIView view) {
     const CGSize size = view.bounds().size;

@@ -167,9 +167,9 @@ TEST_F(TablePageTest, ALongPressOnARowOffersCopyAlone) {
   show(objects(photo), objects(record));
   for (const NSInteger row : {0, 5, 6}) {
     longPress(cellAt(table(), row));
-    EXPECT_EQ(desktop::uikit::UIMenuController::shared().titles(),
+    EXPECT_EQ(desktop::uikit::UIMenuControllerState::shared().titles(),
               std::vector<std::string>{"Copy"});
-    desktop::uikit::UIMenuController::shared().hide();
+    desktop::uikit::UIMenuControllerState::shared().hide();
     settle();
   }
 }
@@ -189,12 +189,12 @@ TEST_F(TablePageTest, CopySharesTheRowAsText) {
         Case{5, "{Exif} = {\n    FNumber = \"1.8\";\n}"}, Case{6, "Bytes = <616263>"},
         Case{7, "When = 2018-09-30 12:03:20 +0000"}, Case{8, "Width = 3"}}) {
     longPress(cellAt(table(), row));
-    const CGRect menu = desktop::uikit::UIMenuController::shared().menuFrame();
+    const CGRect menu = desktop::uikit::UIMenuControllerState::shared().menuFrame();
     tap(labelWith(window(), "Copy"));
     ASSERT_TRUE(sheet()) << expected;
     EXPECT_EQ(sharedText(), expected);
     const auto popover = sheet().popoverPresentationController();
-    const auto& place = desktop::uikit::UIPopoverPresentationController::of(popover);
+    const auto& place = desktop::uikit::UIPopoverPresentationControllerState::of(popover);
     EXPECT_EQ(place.sourceView(), topPage().view());
     EXPECT_EQ(place.sourceRect(), menu);
     closeSheet();
@@ -221,7 +221,7 @@ TEST_F(TablePageTest, ShareHandsOutTheWholeDataWithoutTheSummary) {
   ASSERT_TRUE(sheet());
   EXPECT_EQ(sharedText(), model::description(photo));
   const auto popover = sheet().popoverPresentationController();
-  EXPECT_EQ(desktop::uikit::UIPopoverPresentationController::of(popover).barButtonItem(),
+  EXPECT_EQ(desktop::uikit::UIPopoverPresentationControllerState::of(popover).barButtonItem(),
             rightItems().at(0));
 }
 

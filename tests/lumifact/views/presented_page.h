@@ -42,8 +42,8 @@ class PresentedPageTest : public desktop::uikit::ApplicationTest {
   bridge::NSArray leftItems() const {
     return bridge::send<bridge::NSArray, "leftBarButtonItems">(topPage().navigationItem());
   }
-  static const desktop::uikit::UIBarButtonItem& look(bridge::Object item) {
-    return desktop::uikit::UIBarButtonItem::of(item);
+  static const desktop::uikit::UIBarButtonItemState& look(bridge::Object item) {
+    return desktop::uikit::UIBarButtonItemState::of(item);
   }
   static std::string titleOf(bridge::Object item) { return look(item).title().utf8(); }
   void press(bridge::Object item) const {
@@ -59,10 +59,10 @@ class PresentedPageTest : public desktop::uikit::ApplicationTest {
         bridge::send<bridge::UIViewController, "presentedViewController">(topPage()));
   }
   std::string sharedText() const {
-    return desktop::uikit::UIActivityViewController::of(sheet()).text();
+    return desktop::uikit::UIActivityViewControllerState::of(sheet()).text();
   }
   void closeSheet() {
-    desktop::uikit::UIActivityViewController::of(sheet()).cancel();
+    desktop::uikit::UIActivityViewControllerState::of(sheet()).cancel();
     settle();
   }
 

@@ -43,7 +43,7 @@ UIView labelWith(UIView root, std::string_view text) {
 
 CGPoint middleOf(UIView view) {
   const CGSize size = view.bounds().size;
-  return desktop::uikit::apply(desktop::uikit::UIView::of(view).toScreen(),
+  return desktop::uikit::apply(desktop::uikit::UIViewState::of(view).toScreen(),
                                CGPoint{size.width / 2, size.height / 2});
 }
 

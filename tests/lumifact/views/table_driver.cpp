@@ -17,13 +17,13 @@ UITableView tableOf(bridge::UIViewController page) {
 std::vector<UITableViewCell> cellsOf(UITableView table) {
   std::vector<UITableViewCell> cells;
   if (!table) return cells;
-  for (const auto& [path, cell] : desktop::uikit::UITableView::of(table).cells())
+  for (const auto& [path, cell] : desktop::uikit::UITableViewState::of(table).cells())
     cells.push_back(cell);
   return cells;
 }
 
 UITableViewCell cellAt(UITableView table, NSInteger row) {
-  const auto& cells = desktop::uikit::UITableView::of(table).cells();
+  const auto& cells = desktop::uikit::UITableViewState::of(table).cells();
   const auto found = cells.find({0, row});
   return found == cells.end() ? UITableViewCell() : found->second.get();
 }

@@ -6,8 +6,8 @@
 #include <map>
 #include <random>
 
+#include "bridge/uikit.h"
 #include "desktop/uikit/application/application.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/lists/ui_table_view.h"
 #include "lumifact/views/lumifact_view_controller.h"
 #include "model/description.h"
@@ -138,7 +138,7 @@ class TableWalkTest : public PresentedPageTest {
   UITableView table() const { return tableOf(topPage()); }
 
   void scrollTo(CGFloat offset) {
-    const desktop::uikit::handles::UIScrollView view(table().get());
+    const bridge::UIScrollView view(table().get());
     view.setContentOffset({0, offset});
     application().prepareFrame();
   }
@@ -147,7 +147,7 @@ class TableWalkTest : public PresentedPageTest {
   std::vector<std::string> readRows() {
     const bridge::AutoreleasePool pool;
     std::map<CGFloat, std::string> lines;
-    const desktop::uikit::handles::UIScrollView view(table().get());
+    const bridge::UIScrollView view(table().get());
     for (CGFloat offset = 0; offset < view.contentSize().height; offset += 400) {
       scrollTo(offset);
       for (const auto cell : cellsOf(table()))
@@ -172,7 +172,7 @@ class TableWalkTest : public PresentedPageTest {
     const bridge::AutoreleasePool pool;
     --_taps;
     const auto before = topPage();
-    const CGRect rect = desktop::uikit::UITableView::of(table()).rectForRow(pathOf(index));
+    const CGRect rect = desktop::uikit::UITableViewState::of(table()).rectForRow(pathOf(index));
     scrollTo(rect.origin.y - 300);  // clear of the bar
     tap(cellAt(table(), index));
     ASSERT_NE(topPage(), before) << row.line;

@@ -8,7 +8,7 @@ namespace desktop::uikit {
 namespace {
 
 // What supplementary views wait under; no identifier holds the mark between its parts.
-std::string supplementaryKey(bridge::NSString kind, bridge::NSString identifier) {
+std::string supplementaryKey(NSString kind, NSString identifier) {
   return kind.utf8() + '\0' + identifier.utf8();
 }
 
@@ -19,56 +19,55 @@ void CollectionCells::show(const CollectionElement& element, const View& view) {
   _pool.shown(view);
 }
 
-void CollectionCells::putAway(bridge::UIView view) {
-  _pool.put(UICollectionReusableView::of(view).poolKey(), View::retain(view));
+void CollectionCells::putAway(UIView view) {
+  _pool.put(UICollectionReusableViewState::of(view).poolKey(), View::retain(view));
 }
 
-handles::UICollectionViewCell CollectionCells::cellAt(ItemPath path) const {
-  return handles::UICollectionViewCell(viewOf({{}, path}).get());
+UICollectionViewCell CollectionCells::cellAt(ItemPath path) const {
+  return UICollectionViewCell(viewOf({{}, path}).get());
 }
 
-std::optional<ItemPath> CollectionCells::pathOf(bridge::UIView cell) const {
+std::optional<ItemPath> CollectionCells::pathOf(UIView cell) const {
   const auto element = _shown.keyOf(cell);
   return element && element->isItem() ? std::optional(element->path) : std::nullopt;
 }
 
-bridge::NSArray CollectionCells::ofKind(const std::string& kind) const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray CollectionCells::ofKind(const std::string& kind) const {
+  const auto all = makeNew<NSMutableArray>();
   for (const auto& [element, view] : _shown.all())
     if (element.kind == kind) all->add(view.get());
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
-bridge::NSArray CollectionCells::indexPaths() const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray CollectionCells::indexPaths() const {
+  const auto all = makeNew<NSMutableArray>();
   for (const auto& [element, view] : _shown.all())
     if (element.isItem()) all->add(indexPathOf(element.path));
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
-void CollectionCells::registerCellClass(bridge::NSString identifier, Class aClass) {
+void CollectionCells::registerCellClass(NSString identifier, Class aClass) {
   _pool.registerClass(identifier.utf8(), aClass);
 }
 
-void CollectionCells::registerClass(bridge::NSString kind, bridge::NSString identifier,
-                                    Class aClass) {
+void CollectionCells::registerClass(NSString kind, NSString identifier, Class aClass) {
   _pool.registerClass(supplementaryKey(kind, identifier), aClass);
 }
 
-bridge::UIView CollectionCells::dequeueCell(bridge::NSString identifier, CGRect frame) {
+UIView CollectionCells::dequeueCell(NSString identifier, CGRect frame) {
   const std::string key = identifier.utf8();
   return _pool.dequeue(key, [&](Class registered) {
-    return UICollectionReusableView::make(
-        registered ? registered : UICollectionViewCell::classObject(), identifier, key, frame);
+    return UICollectionReusableViewState::make(
+        registered ? registered : UICollectionViewCellState::classObject(), identifier, key, frame);
   });
 }
 
-bridge::UIView CollectionCells::dequeue(bridge::NSString kind, bridge::NSString identifier,
-                                        CGRect frame) {
+UIView CollectionCells::dequeue(NSString kind, NSString identifier, CGRect frame) {
   const std::string key = supplementaryKey(kind, identifier);
   return _pool.dequeue(key, [&](Class registered) {
-    return UICollectionReusableView::make(
-        registered ? registered : UICollectionReusableView::classObject(), identifier, key, frame);
+    return UICollectionReusableViewState::make(
+        registered ? registered : UICollectionReusableViewState::classObject(), identifier, key,
+        frame);
   });
 }
 

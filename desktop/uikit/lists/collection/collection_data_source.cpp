@@ -28,21 +28,20 @@ ItemCounts CollectionDataSource::counts() const {
   return ItemCounts(std::move(counts));
 }
 
-bridge::Owned<bridge::UIView> CollectionDataSource::view(const CollectionElement& element) const {
+Owned<UIView> CollectionDataSource::view(const CollectionElement& element) const {
   if (element.isItem()) return cell(element.path);
   const auto answer =
-      asked<bridge::Object, "collectionView:viewForSupplementaryElementOfKind:atIndexPath:">(
-          _source, _collection, bridge::NSString::make(element.kind), indexPathOf(element.path));
-  return bridge::Owned<bridge::UIView>::retain(
-      bridge::as<handles::UICollectionReusableView>(answer.value_or(bridge::Object())));
+      asked<Object, "collectionView:viewForSupplementaryElementOfKind:atIndexPath:">(
+          _source, _collection, NSString::make(element.kind), indexPathOf(element.path));
+  return Owned<UIView>::retain(as<UICollectionReusableView>(answer.value_or(Object())));
 }
 
-bridge::Owned<bridge::UIView> CollectionDataSource::cell(ItemPath path) const {
-  const auto answer = asked<bridge::Object, "collectionView:cellForItemAtIndexPath:">(
-      _source, _collection, indexPathOf(path));
-  const auto cell = bridge::as<handles::UICollectionViewCell>(answer.value_or(bridge::Object()));
-  if (cell) return bridge::Owned<bridge::UIView>::retain(cell);
-  return UICollectionReusableView::make(UICollectionViewCell::classObject(), {}, {}, {});
+Owned<UIView> CollectionDataSource::cell(ItemPath path) const {
+  const auto answer = asked<Object, "collectionView:cellForItemAtIndexPath:">(_source, _collection,
+                                                                              indexPathOf(path));
+  const auto cell = as<UICollectionViewCell>(answer.value_or(Object()));
+  if (cell) return Owned<UIView>::retain(cell);
+  return UICollectionReusableViewState::make(UICollectionViewCellState::classObject(), {}, {}, {});
 }
 
 }  // namespace desktop::uikit

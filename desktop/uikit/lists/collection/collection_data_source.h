@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/uikit/ui_lists.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/collection/collection_element.h"
 #include "desktop/uikit/lists/collection/item_counts.h"
 
@@ -12,20 +13,20 @@ namespace desktop::uikit {
 class CollectionDataSource {
  public:
   // Borrowed, as the source is.
-  explicit CollectionDataSource(bridge::UIView collection) : _collection(collection) {}
+  explicit CollectionDataSource(UIView collection) : _collection(collection) {}
 
-  bridge::NSObject object() const { return _source; }
-  void setObject(bridge::NSObject source) { _source = source; }
+  NSObject object() const { return _source; }
+  void setObject(NSObject source) { _source = source; }
 
   ItemCounts counts() const;
   // An empty cell for an item for which the source has none; of another element it may be nil.
-  bridge::Owned<bridge::UIView> view(const CollectionElement& element) const;
+  Owned<UIView> view(const CollectionElement& element) const;
 
  private:
-  bridge::Owned<bridge::UIView> cell(ItemPath path) const;
+  Owned<UIView> cell(ItemPath path) const;
 
-  bridge::UIView _collection;
-  bridge::NSObject _source;
+  UIView _collection;
+  NSObject _source;
 };
 
 }  // namespace desktop::uikit

@@ -6,16 +6,16 @@
 
 namespace desktop::uikit {
 
-bridge::NSObject CollectionDelegate::delegate() const {
-  return UIScrollView::of(_collection).delegate();
+NSObject CollectionDelegate::delegate() const {
+  return UIScrollViewState::of(_collection).delegate();
 }
 
-void CollectionDelegate::willDisplay(bridge::UIView cell, ItemPath path) const {
+void CollectionDelegate::willDisplay(UIView cell, ItemPath path) const {
   told<"collectionView:willDisplayCell:forItemAtIndexPath:">(delegate(), _collection, cell,
                                                              indexPathOf(path));
 }
 
-void CollectionDelegate::didEndDisplaying(bridge::UIView cell, ItemPath path) const {
+void CollectionDelegate::didEndDisplaying(UIView cell, ItemPath path) const {
   told<"collectionView:didEndDisplayingCell:forItemAtIndexPath:">(delegate(), _collection, cell,
                                                                   indexPathOf(path));
 }

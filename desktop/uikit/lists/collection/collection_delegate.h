@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/uikit/ui_lists.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/index_path.h"
 
 namespace desktop::uikit {
@@ -11,10 +12,10 @@ namespace desktop::uikit {
 class CollectionDelegate {
  public:
   // Borrowed. The delegate is that of the scroll view that a collection is.
-  explicit CollectionDelegate(bridge::UIView collection) : _collection(collection) {}
+  explicit CollectionDelegate(UIView collection) : _collection(collection) {}
 
-  void willDisplay(bridge::UIView cell, ItemPath path) const;
-  void didEndDisplaying(bridge::UIView cell, ItemPath path) const;
+  void willDisplay(UIView cell, ItemPath path) const;
+  void didEndDisplaying(UIView cell, ItemPath path) const;
 
   // Allowed where it does not say.
   bool shouldHighlight(ItemPath path) const;
@@ -26,9 +27,9 @@ class CollectionDelegate {
   void didDeselect(ItemPath path) const;
 
  private:
-  bridge::NSObject delegate() const;
+  NSObject delegate() const;
 
-  bridge::UIView _collection;
+  UIView _collection;
 };
 
 }  // namespace desktop::uikit

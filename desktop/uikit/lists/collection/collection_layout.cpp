@@ -20,24 +20,24 @@ CGSize sane(CGSize size) {
 
 }  // namespace
 
-void CollectionLayout::replace(bridge::UICollectionViewLayout layout,
-                               bridge::UICollectionView collection,
+void CollectionLayout::replace(UICollectionViewLayout layout, UICollectionView collection,
                                std::function<void()> becameInvalid) {
   letGo();
-  _object = bridge::Owned<bridge::UICollectionViewLayout>::retain(layout);
-  if (layout) UICollectionViewLayout::of(layout).belongTo(collection, std::move(becameInvalid));
+  _object = Owned<UICollectionViewLayout>::retain(layout);
+  if (layout)
+    UICollectionViewLayoutState::of(layout).belongTo(collection, std::move(becameInvalid));
 }
 
 void CollectionLayout::letGo() {
-  if (_object) UICollectionViewLayout::of(_object.get()).belongTo({}, {});
+  if (_object) UICollectionViewLayoutState::of(_object.get()).belongTo({}, {});
 }
 
 std::optional<CGSize> CollectionLayout::prepare() {
   CGSize size;
   const bool isNew = _inquiry.renew([&] {
-    const bridge::AutoreleasePool pool;
-    bridge::send<void, "prepareLayout">(_object);
-    size = sane(bridge::send<CGSize, "collectionViewContentSize">(_object));
+    const AutoreleasePool pool;
+    send<void, "prepareLayout">(_object);
+    size = sane(send<CGSize, "collectionViewContentSize">(_object));
   });
   return isNew ? std::optional(size) : std::nullopt;
 }
@@ -46,31 +46,28 @@ void CollectionLayout::followBounds(CGRect bounds) {
   const CGRect before = std::exchange(_bounds, bounds);
   if (before == bounds) return;
   if (before.size != bounds.size ||
-      bridge::send<bool, "shouldInvalidateLayoutForBoundsChange:">(_object, bounds))
-    bridge::send<void, "invalidateLayout">(_object);
+      send<bool, "shouldInvalidateLayoutForBoundsChange:">(_object, bounds))
+    send<void, "invalidateLayout">(_object);
 }
 
-CollectionLayout::Attributes CollectionLayout::item(bridge::NSIndexPath path) const {
-  return bridge::as<Attributes>(
-      bridge::send<bridge::Object, "layoutAttributesForItemAtIndexPath:">(_object, path));
+CollectionLayout::Attributes CollectionLayout::item(NSIndexPath path) const {
+  return as<Attributes>(send<Object, "layoutAttributesForItemAtIndexPath:">(_object, path));
 }
 
-CollectionLayout::Attributes CollectionLayout::supplementary(bridge::NSString kind,
-                                                             bridge::NSIndexPath path) const {
-  return bridge::as<Attributes>(
-      bridge::send<bridge::Object, "layoutAttributesForSupplementaryViewOfKind:atIndexPath:">(
-          _object, kind, path));
+CollectionLayout::Attributes CollectionLayout::supplementary(NSString kind,
+                                                             NSIndexPath path) const {
+  return as<Attributes>(
+      send<Object, "layoutAttributesForSupplementaryViewOfKind:atIndexPath:">(_object, kind, path));
 }
 
 CollectionLayout::Elements CollectionLayout::elementsIn(CGRect rect, const Has& has) const {
   Elements elements;
-  const auto all = bridge::as<bridge::NSArray>(
-      bridge::send<bridge::Object, "layoutAttributesForElementsInRect:">(_object, rect));
+  const auto all = as<NSArray>(send<Object, "layoutAttributesForElementsInRect:">(_object, rect));
   const std::size_t count = std::min<std::size_t>(all.count(), maximalElementsInSight);
   for (std::size_t index = 0; index < count; ++index) {
-    const auto attributes = bridge::as<Attributes>(all.at(index));
+    const auto attributes = as<Attributes>(all.at(index));
     if (!attributes) continue;
-    const auto& state = UICollectionViewLayoutAttributes::of(attributes);
+    const auto& state = UICollectionViewLayoutAttributesState::of(attributes);
     const bool isThere = state.kind().empty() ? has(state.path()) : state.path().section >= 0;
     if (isThere && intersects(state.frame(), rect))
       elements[{state.kind(), state.path()}] = attributes;
@@ -80,8 +77,8 @@ CollectionLayout::Elements CollectionLayout::elementsIn(CGRect rect, const Has& 
 
 std::optional<ItemPath> CollectionLayout::itemAt(CGPoint point, const Has& has) const {
   for (const auto& [element, attributes] : elementsIn({point, {1, 1}}, has)) {
-    const auto& state = UICollectionViewLayoutAttributes::of(attributes);
-    if (element.isItem() && !state.isHidden() && bridge::contains(state.frame(), point))
+    const auto& state = UICollectionViewLayoutAttributesState::of(attributes);
+    if (element.isItem() && !state.isHidden() && contains(state.frame(), point))
       return element.path;
   }
   return {};

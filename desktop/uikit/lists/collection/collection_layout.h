@@ -8,7 +8,8 @@
 #include <map>
 #include <optional>
 
-#include "desktop/uikit/handles.h"
+#include "bridge/uikit.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/collection/collection_element.h"
 #include "desktop/uikit/lists/inquiry.h"
 
@@ -16,7 +17,7 @@ namespace desktop::uikit {
 
 class CollectionLayout {
  public:
-  using Attributes = handles::UICollectionViewLayoutAttributes;
+  using Attributes = UICollectionViewLayoutAttributes;
   // Attributes are borrowed from the current pool.
   using Elements = std::map<CollectionElement, Attributes>;
   using Has = std::function<bool(ItemPath)>;
@@ -26,10 +27,10 @@ class CollectionLayout {
   CollectionLayout(const CollectionLayout&) = delete;
   CollectionLayout& operator=(const CollectionLayout&) = delete;
 
-  bridge::UICollectionViewLayout object() const { return _object; }
+  UICollectionViewLayout object() const { return _object; }
   // Another one takes over, whose layout belongs to the collection, which hears when it becomes
   // invalid; nil takes none.
-  void replace(bridge::UICollectionViewLayout layout, bridge::UICollectionView collection,
+  void replace(UICollectionViewLayout layout, UICollectionView collection,
                std::function<void()> becameInvalid);
 
   // What it said no longer holds.
@@ -42,8 +43,8 @@ class CollectionLayout {
   void followBounds(CGRect bounds);
 
   // REQUIRES for all below: it is prepared. Nil where it has none.
-  Attributes item(bridge::NSIndexPath path) const;
-  Attributes supplementary(bridge::NSString kind, bridge::NSIndexPath path) const;
+  Attributes item(NSIndexPath path) const;
+  Attributes supplementary(NSString kind, NSIndexPath path) const;
   // What it shows in a rectangle, less items that there are not.
   Elements elementsIn(CGRect rect, const Has& has) const;
   std::optional<ItemPath> itemAt(CGPoint point, const Has& has) const;
@@ -51,7 +52,7 @@ class CollectionLayout {
  private:
   void letGo();
 
-  bridge::Owned<bridge::UICollectionViewLayout> _object;
+  Owned<UICollectionViewLayout> _object;
   Inquiry _inquiry;
   CGRect _bounds;
 };

@@ -10,8 +10,8 @@
 namespace desktop::uikit {
 namespace {
 
-void apply(const UICollectionViewLayoutAttributes& attributes, bridge::UIView view) {
-  UIView& state = UIView::of(view);
+void apply(const UICollectionViewLayoutAttributesState& attributes, UIView view) {
+  UIViewState& state = UIViewState::of(view);
   const CGRect frame = attributes.frame();
   if (attributes.transform() == CGAffineTransform{} && state.transform() == CGAffineTransform{}) {
     if (state.frame() != frame) view.setFrame(frame);
@@ -22,24 +22,23 @@ void apply(const UICollectionViewLayoutAttributes& attributes, bridge::UIView vi
   }
   state.setAlpha(attributes.alpha());
   state.setHidden(attributes.isHidden());
-  UICollectionReusableView::of(view).setZIndex(attributes.zIndex());
+  UICollectionReusableViewState::of(view).setZIndex(attributes.zIndex());
 }
 
 }  // namespace
 
-void placeElement(bridge::UIView view, handles::UICollectionViewLayoutAttributes attributes) {
-  apply(UICollectionViewLayoutAttributes::of(attributes), view);
-  handles::UICollectionReusableView(view.get()).applyLayoutAttributes(attributes);
+void placeElement(UIView view, UICollectionViewLayoutAttributes attributes) {
+  apply(UICollectionViewLayoutAttributesState::of(attributes), view);
+  UICollectionReusableView(view.get()).applyLayoutAttributes(attributes);
 }
 
-void insertElement(UIView& collection, bridge::UIView view, NSInteger zIndex,
-                   bridge::UIView background) {
+void insertElement(UIViewState& collection, UIView view, NSInteger zIndex, UIView background) {
   const auto& siblings = collection.subviews();
   const auto last =
       std::ranges::find_if(siblings.rbegin(), siblings.rend(), [&](const auto& other) {
         if (other.get() == background) return true;
-        return bridge::isKindOf(other, UICollectionReusableView::classObject()) &&
-               UICollectionReusableView::of(other.get()).zIndex() <= zIndex;
+        return isKindOf(other, UICollectionReusableViewState::classObject()) &&
+               UICollectionReusableViewState::of(other.get()).zIndex() <= zIndex;
       });
   collection.insertSubview(view, static_cast<std::size_t>(siblings.rend() - last));
 }

@@ -25,13 +25,13 @@ std::vector<MenuCommand> RowMenu::commands(const std::function<bool(SEL)>& can,
 }
 
 void RowMenu::show(std::vector<MenuCommand> commands, CGRect target) {
-  UIMenuController& menu = UIMenuController::shared();
+  UIMenuControllerState& menu = UIMenuControllerState::shared();
   menu.show(std::move(commands), target, [this] { _isOnShow = false; });
   _isOnShow = menu.isVisible();
 }
 
 void RowMenu::hide() {
-  if (_isOnShow) UIMenuController::shared().hide();
+  if (_isOnShow) UIMenuControllerState::shared().hide();
 }
 
 }  // namespace desktop::uikit

@@ -7,6 +7,7 @@
 
 #include "bridge/geometry.h"
 #include "bridge/runtime.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 
 namespace desktop::uikit {

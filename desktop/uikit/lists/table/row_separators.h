@@ -4,6 +4,7 @@
 #pragma once
 
 #include "bridge/geometry.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/graphics/color.h"
 
 namespace desktop::uikit {

@@ -33,8 +33,8 @@ std::map<TitlePlace, Band> titlesIn(const TableGeometry& geometry, Band sight, C
 }
 
 void SectionTitles::follow(const std::map<TitlePlace, CGRect>& wanted, Inquiry::Pass pass,
-                           bridge::UIView table, const Make& make) {
-  using View = bridge::Owned<bridge::UIView>;
+                           UIView table, const Make& make) {
+  using View = Owned<UIView>;
   _shown.follow(
       wanted, pass, [](TitlePlace, const View& view) { view->removeFromSuperview(); },
       [](const View& view, CGRect frame) { view->setFrame(frame); },

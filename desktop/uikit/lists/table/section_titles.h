@@ -8,6 +8,7 @@
 #include <map>
 
 #include "bridge/uikit/ui_lists.h"
+#include "desktop/platform.h"
 #include "desktop/uikit/lists/table/table_geometry.h"
 #include "desktop/uikit/lists/ui_table_view_header_footer_view.h"
 #include "desktop/uikit/lists/views_in_sight.h"
@@ -35,15 +36,15 @@ std::map<TitlePlace, Band> titlesIn(const TableGeometry& geometry, Band sight, C
 class SectionTitles {
  public:
   // Nil where the place has no title.
-  using Make = std::function<bridge::UIView(TitlePlace place)>;
+  using Make = std::function<UIView(TitlePlace place)>;
 
   // Shows the titles of these places in these frames in the table, and no others.
-  void follow(const std::map<TitlePlace, CGRect>& wanted, Inquiry::Pass pass, bridge::UIView table,
+  void follow(const std::map<TitlePlace, CGRect>& wanted, Inquiry::Pass pass, UIView table,
               const Make& make);
   void removeAll();
 
  private:
-  ViewsInSight<TitlePlace, bridge::Owned<bridge::UIView>> _shown;
+  ViewsInSight<TitlePlace, Owned<UIView>> _shown;
 };
 
 }  // namespace desktop::uikit

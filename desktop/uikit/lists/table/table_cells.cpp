@@ -12,43 +12,42 @@ void TableCells::show(ItemPath path, const Cell& cell) {
   _pool.shown(cell);
 }
 
-void TableCells::putAway(bridge::UITableViewCell cell) {
-  _pool.put(UITableViewCell::of(cell.get()).reuseIdentifier().utf8(),
-            bridge::Owned<bridge::UIView>::retain(cell));
+void TableCells::putAway(UITableViewCell cell) {
+  _pool.put(UITableViewCellState::of(cell.get()).reuseIdentifier().utf8(),
+            Owned<UIView>::retain(cell));
 }
 
-void TableCells::insert(bridge::UITableViewCell cell, UIView& table) {
-  if (UIView::of(cell.get()).superview() == table.self()) return;
+void TableCells::insert(UITableViewCell cell, UIViewState& table) {
+  if (UIViewState::of(cell.get()).superview() == table.self()) return;
   const auto& siblings = table.subviews();
   const auto last = std::ranges::find_if(siblings.rbegin(), siblings.rend(), [](const auto& other) {
-    return bridge::isKindOf(other, UITableViewCell::classObject());
+    return isKindOf(other, UITableViewCellState::classObject());
   });
   table.insertSubview(cell, static_cast<std::size_t>(siblings.rend() - last));
 }
 
-bridge::NSArray TableCells::all() const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray TableCells::all() const {
+  const auto all = makeNew<NSMutableArray>();
   for (const auto& [path, cell] : _shown.all()) all->add(cell.get());
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
-bridge::NSArray TableCells::indexPaths() const {
-  const auto all = bridge::makeNew<bridge::NSMutableArray>();
+NSArray TableCells::indexPaths() const {
+  const auto all = makeNew<NSMutableArray>();
   for (const auto& [path, cell] : _shown.all()) all->add(indexPathOf(path));
-  return bridge::Owned<bridge::NSArray>::retain(all.get()).autorelease();
+  return Owned<NSArray>::retain(all.get()).autorelease();
 }
 
-void TableCells::registerClass(bridge::NSString identifier, Class aClass) {
+void TableCells::registerClass(NSString identifier, Class aClass) {
   _pool.registerClass(identifier.utf8(), aClass);
 }
 
-bridge::UITableViewCell TableCells::dequeue(bridge::NSString identifier) {
-  const bridge::UIView cell = _pool.dequeue(identifier.utf8(), [&](Class registered) {
-    return registered ? bridge::Owned<bridge::UIView>::retain(
-                            UITableViewCell::make(registered, identifier))
-                      : bridge::Owned<bridge::UIView>();
+UITableViewCell TableCells::dequeue(NSString identifier) {
+  const UIView cell = _pool.dequeue(identifier.utf8(), [&](Class registered) {
+    return registered ? Owned<UIView>::retain(UITableViewCellState::make(registered, identifier))
+                      : Owned<UIView>();
   });
-  return bridge::UITableViewCell(cell.get());
+  return UITableViewCell(cell.get());
 }
 
 }  // namespace desktop::uikit

@@ -12,30 +12,30 @@ namespace desktop::uikit {
 
 class TableCells {
  public:
-  using Cell = bridge::Owned<bridge::UITableViewCell>;
+  using Cell = Owned<UITableViewCell>;
   using Shown = ViewsInSight<ItemPath, Cell>;
 
   // The row shows from now on with this cell, and no other does.
   void show(ItemPath path, const Cell& cell);
   // The cell shows nothing any longer, and waits.
-  void putAway(bridge::UITableViewCell cell);
+  void putAway(UITableViewCell cell);
   Shown& shown() { return _shown; }
   const Shown& shown() const { return _shown; }
   // Takes what shows nothing out of the table.
-  void settle(bridge::UIView table) { _pool.settle(table); }
+  void settle(UIView table) { _pool.settle(table); }
 
   // Adds a cell to the table where it is not there yet: above all other cells, below titles.
-  static void insert(bridge::UITableViewCell cell, UIView& table);
+  static void insert(UITableViewCell cell, UIViewState& table);
 
   // Nil where the row is out of sight.
-  bridge::UITableViewCell at(ItemPath path) const { return _shown.find(path); }
+  UITableViewCell at(ItemPath path) const { return _shown.find(path); }
   // From top to bottom; autoreleased.
-  bridge::NSArray all() const;
-  bridge::NSArray indexPaths() const;
+  NSArray all() const;
+  NSArray indexPaths() const;
 
-  void registerClass(bridge::NSString identifier, Class aClass);
+  void registerClass(NSString identifier, Class aClass);
   // One that waits, or a new one where a class is registered, or nil.
-  bridge::UITableViewCell dequeue(bridge::NSString identifier);
+  UITableViewCell dequeue(NSString identifier);
 
  private:
   Shown _shown;

@@ -24,20 +24,20 @@ NSInteger TableDataSource::rows(NSInteger section, NSInteger most) const {
   return std::clamp(told.value_or(0), 0L, most);
 }
 
-bridge::NSString TableDataSource::title(TitlePlace place) const {
-  const auto title = place.isHeader() ? asked<bridge::Object, "tableView:titleForHeaderInSection:">(
-                                            _source, _table, place.section)
-                                      : asked<bridge::Object, "tableView:titleForFooterInSection:">(
-                                            _source, _table, place.section);
-  return bridge::as<bridge::NSString>(title.value_or(bridge::Object()));
+NSString TableDataSource::title(TitlePlace place) const {
+  const auto title =
+      place.isHeader()
+          ? asked<Object, "tableView:titleForHeaderInSection:">(_source, _table, place.section)
+          : asked<Object, "tableView:titleForFooterInSection:">(_source, _table, place.section);
+  return as<NSString>(title.value_or(Object()));
 }
 
-bridge::Owned<bridge::UITableViewCell> TableDataSource::cell(ItemPath path) const {
+Owned<UITableViewCell> TableDataSource::cell(ItemPath path) const {
   const auto answer =
-      asked<bridge::Object, "tableView:cellForRowAtIndexPath:">(_source, _table, indexPathOf(path));
-  const auto cell = bridge::as<bridge::UITableViewCell>(answer.value_or(bridge::Object()));
-  if (cell) return bridge::Owned<bridge::UITableViewCell>::retain(cell);
-  return UITableViewCell::make(UITableViewCell::classObject(), {});
+      asked<Object, "tableView:cellForRowAtIndexPath:">(_source, _table, indexPathOf(path));
+  const auto cell = as<UITableViewCell>(answer.value_or(Object()));
+  if (cell) return Owned<UITableViewCell>::retain(cell);
+  return UITableViewCellState::make(UITableViewCellState::classObject(), {});
 }
 
 }  // namespace desktop::uikit

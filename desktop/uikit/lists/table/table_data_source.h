@@ -11,22 +11,22 @@ namespace desktop::uikit {
 class TableDataSource {
  public:
   // Borrowed, as the source is.
-  explicit TableDataSource(bridge::UIView table) : _table(table) {}
+  explicit TableDataSource(UIView table) : _table(table) {}
 
-  bridge::NSObject object() const { return _source; }
-  void setObject(bridge::NSObject source) { _source = source; }
+  NSObject object() const { return _source; }
+  void setObject(NSObject source) { _source = source; }
 
   NSInteger sections() const;
   // No more than the table has room for.
   NSInteger rows(NSInteger section, NSInteger most) const;
   // Nil where there is none.
-  bridge::NSString title(TitlePlace place) const;
+  NSString title(TitlePlace place) const;
   // An empty cell for a row for which the source has none.
-  bridge::Owned<bridge::UITableViewCell> cell(ItemPath path) const;
+  Owned<UITableViewCell> cell(ItemPath path) const;
 
  private:
-  bridge::UIView _table;
-  bridge::NSObject _source;
+  UIView _table;
+  NSObject _source;
 };
 
 }  // namespace desktop::uikit

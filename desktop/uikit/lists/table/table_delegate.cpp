@@ -7,17 +7,16 @@
 
 namespace desktop::uikit {
 
-bridge::NSObject TableDelegate::delegate() const {
-  return UIScrollView::of(_table).delegate();
+NSObject TableDelegate::delegate() const {
+  return UIScrollViewState::of(_table).delegate();
 }
 
 bool TableDelegate::hasRowHeights() const {
-  return bridge::respondsTo<"tableView:heightForRowAtIndexPath:">(delegate());
+  return respondsTo<"tableView:heightForRowAtIndexPath:">(delegate());
 }
 
 CGFloat TableDelegate::rowHeight(ItemPath path) const {
-  return bridge::send<CGFloat, "tableView:heightForRowAtIndexPath:">(delegate(), _table,
-                                                                     indexPathOf(path));
+  return send<CGFloat, "tableView:heightForRowAtIndexPath:">(delegate(), _table, indexPathOf(path));
 }
 
 std::optional<CGFloat> TableDelegate::titleHeight(TitlePlace place) const {
@@ -27,19 +26,19 @@ std::optional<CGFloat> TableDelegate::titleHeight(TitlePlace place) const {
                                 delegate(), _table, place.section);
 }
 
-bridge::UIView TableDelegate::titleView(TitlePlace place) const {
-  const auto view = place.isHeader() ? asked<bridge::Object, "tableView:viewForHeaderInSection:">(
-                                           delegate(), _table, place.section)
-                                     : asked<bridge::Object, "tableView:viewForFooterInSection:">(
-                                           delegate(), _table, place.section);
-  return bridge::as<bridge::UIView>(view.value_or(bridge::Object()));
+UIView TableDelegate::titleView(TitlePlace place) const {
+  const auto view =
+      place.isHeader()
+          ? asked<Object, "tableView:viewForHeaderInSection:">(delegate(), _table, place.section)
+          : asked<Object, "tableView:viewForFooterInSection:">(delegate(), _table, place.section);
+  return as<UIView>(view.value_or(Object()));
 }
 
-void TableDelegate::willDisplay(bridge::UITableViewCell cell, ItemPath path) const {
+void TableDelegate::willDisplay(UITableViewCell cell, ItemPath path) const {
   told<"tableView:willDisplayCell:forRowAtIndexPath:">(delegate(), _table, cell, indexPathOf(path));
 }
 
-void TableDelegate::didEndDisplaying(bridge::UITableViewCell cell, ItemPath path) const {
+void TableDelegate::didEndDisplaying(UITableViewCell cell, ItemPath path) const {
   told<"tableView:didEndDisplayingCell:forRowAtIndexPath:">(delegate(), _table, cell,
                                                             indexPathOf(path));
 }
@@ -51,8 +50,8 @@ bool TableDelegate::shouldHighlight(ItemPath path) const {
 }
 
 std::optional<ItemPath> TableDelegate::willSelect(ItemPath path) const {
-  const auto instead = asked<bridge::Object, "tableView:willSelectRowAtIndexPath:">(
-      delegate(), _table, indexPathOf(path));
+  const auto instead =
+      asked<Object, "tableView:willSelectRowAtIndexPath:">(delegate(), _table, indexPathOf(path));
   return instead ? itemPathOf(*instead) : path;
 }
 
@@ -73,13 +72,13 @@ bool TableDelegate::shouldShowMenu(ItemPath path) const {
 bool TableDelegate::canPerform(SEL action, ItemPath path) const {
   return asked<bool, "tableView:canPerformAction:forRowAtIndexPath:withSender:">(
              delegate(), _table, action, indexPathOf(path),
-             UIMenuController::sharedMenuController())
+             UIMenuControllerState::sharedMenuController())
       .value_or(false);
 }
 
 void TableDelegate::perform(SEL action, ItemPath path) const {
   told<"tableView:performAction:forRowAtIndexPath:withSender:">(
-      delegate(), _table, action, indexPathOf(path), UIMenuController::sharedMenuController());
+      delegate(), _table, action, indexPathOf(path), UIMenuControllerState::sharedMenuController());
 }
 
 }  // namespace desktop::uikit

@@ -11,7 +11,7 @@ namespace desktop::uikit {
 class TableDelegate {
  public:
   // Borrowed. The delegate is that of the scroll view that a table is.
-  explicit TableDelegate(bridge::UIView table) : _table(table) {}
+  explicit TableDelegate(UIView table) : _table(table) {}
 
   // Whether rows have heights of their own.
   bool hasRowHeights() const;
@@ -19,10 +19,10 @@ class TableDelegate {
   CGFloat rowHeight(ItemPath path) const;
   // None, and nil, where it does not say.
   std::optional<CGFloat> titleHeight(TitlePlace place) const;
-  bridge::UIView titleView(TitlePlace place) const;
+  UIView titleView(TitlePlace place) const;
 
-  void willDisplay(bridge::UITableViewCell cell, ItemPath path) const;
-  void didEndDisplaying(bridge::UITableViewCell cell, ItemPath path) const;
+  void willDisplay(UITableViewCell cell, ItemPath path) const;
+  void didEndDisplaying(UITableViewCell cell, ItemPath path) const;
 
   // Allowed where it does not say.
   bool shouldHighlight(ItemPath path) const;
@@ -37,9 +37,9 @@ class TableDelegate {
   void perform(SEL action, ItemPath path) const;
 
  private:
-  bridge::NSObject delegate() const;
+  NSObject delegate() const;
 
-  bridge::UIView _table;
+  UIView _table;
 };
 
 }  // namespace desktop::uikit

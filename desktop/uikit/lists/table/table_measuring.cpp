@@ -28,7 +28,7 @@ CGFloat headerHeight(const TableMeasuring& table, NSInteger section) {
   const TitlePlace place = {section, Place::header};
   const auto told = decided(table.delegate.titleHeight(place), table.isGrouped);
   if (told) return *told;
-  const bridge::NSString title = table.source.title(place);
+  const NSString title = table.source.title(place);
   const bool isFirst = table.isGrouped && section == 0 && !table.hasHeaderView;
   if (title.length() > 0)
     return UITableViewHeaderFooterView::heightOf(title, Place::header, table.isGrouped, 0) +
@@ -42,7 +42,7 @@ CGFloat footerHeight(const TableMeasuring& table, NSInteger section) {
   const TitlePlace place = {section, Place::footer};
   const auto told = decided(table.delegate.titleHeight(place), table.isGrouped);
   if (told) return *told;
-  const bridge::NSString title = table.source.title(place);
+  const NSString title = table.source.title(place);
   if (title.length() > 0)
     return UITableViewHeaderFooterView::heightOf(title, Place::footer, table.isGrouped,
                                                  table.width);
@@ -51,13 +51,13 @@ CGFloat footerHeight(const TableMeasuring& table, NSInteger section) {
 }
 
 CGFloat ownRowHeight(const TableMeasuring& table, ItemPath path, CGFloat standard) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   const CGFloat height = table.delegate.rowHeight(path);
   return height < 0 ? standard : height;
 }
 
 TableSection measured(const TableMeasuring& table, NSInteger section, NSInteger rowsLeft) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   TableSection made;
   made.headerHeight = headerHeight(table, section);
   made.footerHeight = footerHeight(table, section);
@@ -74,7 +74,7 @@ TableSection measured(const TableMeasuring& table, NSInteger section, NSInteger 
 }  // namespace
 
 std::vector<TableSection> TableMeasuring::sections() const {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   const NSInteger count = source.sections();
   std::vector<TableSection> sections;
   NSInteger rowsLeft = maximalRows;

@@ -6,12 +6,11 @@
 
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
+#include "desktop/platform.h"
 #include "foundation/property_lists/property_list.h"
 
 namespace desktop::faces {
 namespace {
-
-using namespace bridge;
 
 constexpr const char* samplePath = "/var/mobile/Library/Preferences/sample.plist";
 constexpr double moment = 1538316191;  // 2018-09-30 14:03:11 UTC

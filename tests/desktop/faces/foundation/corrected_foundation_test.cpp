@@ -10,13 +10,12 @@
 #include "bridge/convert.h"
 #include "bridge/foundation.h"
 #include "desktop/faces/foundation/foundation_runtime.h"
+#include "desktop/platform.h"
 #include "foundation/property_lists/property_list.h"
 #include "tests/desktop/faces/foundation/answers.h"
 
 namespace desktop::faces {
 namespace {
-
-using bridge::NSString;
 
 // The process's Foundation, corrected, over a device root of its own.
 class CorrectedFoundation {
@@ -42,15 +41,15 @@ class CorrectedFoundationTest : public testing::Test {
   static NSString onPhone(const char* name) {
     return NSString::make(std::string("/var/mobile/") + name);
   }
-  static bridge::Owned<bridge::NSMutableDictionary> read(const char* name) {
-    return bridge::NSMutableDictionary::withContentsOfFile(onPhone(name));
+  static Owned<NSMutableDictionary> read(const char* name) {
+    return NSMutableDictionary::withContentsOfFile(onPhone(name));
   }
   static void write(const char* name, const std::string& content) {
     std::ofstream(onDisk(name), std::ios::binary) << content;
   }
 
   static inline CorrectedFoundation* foundation = nullptr;
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
 };
 
 TEST_F(CorrectedFoundationTest, AnswersAsThePhoneDoes) {
@@ -59,37 +58,36 @@ TEST_F(CorrectedFoundationTest, AnswersAsThePhoneDoes) {
 }
 
 TEST_F(CorrectedFoundationTest, LeavesOtherStylesAndBundlesToFoundation) {
-  using bridge::NSDateFormatter;
-  const auto date = bridge::NSDate::withTimeIntervalSince1970(0);
+  const auto date = NSDate::withTimeIntervalSince1970(0);
   EXPECT_TRUE(NSDateFormatter::localizedString(date, NSDateFormatter::shortStyle,
                                                NSDateFormatter::noStyle));
   constexpr NSInteger memoryStyle = 1;
-  EXPECT_TRUE((bridge::send<NSString, "stringFromByteCount:countStyle:">(
-      bridge::NSByteCountFormatter::classObject(), 2048LL, memoryStyle)));
-  const auto other = bridge::send<bridge::NSBundle, "bundleForClass:">(
-      bridge::NSBundle::classObject(), bridge::NSString::classObject());
+  EXPECT_TRUE((send<NSString, "stringFromByteCount:countStyle:">(
+      NSByteCountFormatter::classObject(), 2048LL, memoryStyle)));
+  const auto other =
+      send<NSBundle, "bundleForClass:">(NSBundle::classObject(), NSString::classObject());
   EXPECT_NE(other.bundleIdentifier().utf8(), "com.example.host");
 }
 
 TEST_F(CorrectedFoundationTest, LinksThatAreNoneStayNone) {
   for (const char* text : {"not a link", "a b://?c", "a://?b\"c"})
-    EXPECT_FALSE(bridge::NSURL::withString(NSString::make(text))) << text;
-  EXPECT_FALSE(bridge::NSURL::withString(NSString()));
-  const auto web = bridge::NSURL::withString(NSString::make("http://example.com/?q=1&ll=1,2"));
+    EXPECT_FALSE(NSURL::withString(NSString::make(text))) << text;
+  EXPECT_FALSE(NSURL::withString(NSString()));
+  const auto web = NSURL::withString(NSString::make("http://example.com/?q=1&ll=1,2"));
   EXPECT_EQ(web.absoluteString().utf8(), "http://example.com/?q=1&ll=1,2");
 }
 
 TEST_F(CorrectedFoundationTest, LinksOfOtherSchemesTellTheirParts) {
-  const auto link = bridge::NSURL::withString(NSString::make("scheme://?a=b#c"));
-  EXPECT_EQ((bridge::send<NSString, "scheme">(link).utf8()), "scheme");
-  EXPECT_EQ((bridge::send<NSString, "query">(link).utf8()), "a=b");
-  EXPECT_EQ((bridge::send<NSString, "resourceSpecifier">(link).utf8()), "//?a=b#c");
+  const auto link = NSURL::withString(NSString::make("scheme://?a=b#c"));
+  EXPECT_EQ((send<NSString, "scheme">(link).utf8()), "scheme");
+  EXPECT_EQ((send<NSString, "query">(link).utf8()), "a=b");
+  EXPECT_EQ((send<NSString, "resourceSpecifier">(link).utf8()), "//?a=b#c");
   EXPECT_EQ(link.path().utf8(), "");
-  EXPECT_FALSE((bridge::send<bool, "isFileURL">(link)));
+  EXPECT_FALSE((send<bool, "isFileURL">(link)));
   EXPECT_EQ(link.description().utf8(), "scheme://?a=b#c");
-  const auto same = bridge::NSURL::withString(NSString::make("scheme://?a=b#c"));
+  const auto same = NSURL::withString(NSString::make("scheme://?a=b#c"));
   EXPECT_TRUE(link.isEqual(same));
-  EXPECT_FALSE(link.isEqual(bridge::NSURL()));
+  EXPECT_FALSE(link.isEqual(NSURL()));
   EXPECT_FALSE(link.isEqual(NSString::make("scheme://?a=b#c")));
 }
 
@@ -99,9 +97,9 @@ TEST_F(CorrectedFoundationTest, PropertyListsReadAlikeInBothFormats) {
        {foundation::PropertyListFormat::binary, foundation::PropertyListFormat::xml}) {
     write("both.plist", *foundation::serializePropertyList(content, format));
     const auto list = read("both.plist");
-    EXPECT_EQ(bridge::toValue(list), model::Value(content));
+    EXPECT_EQ(toValue(list), model::Value(content));
     list->set(NSString::make("changed"), NSString::make("d"));
-    EXPECT_EQ(bridge::as<NSString>(list->at(NSString::make("d"))).utf8(), "changed");
+    EXPECT_EQ(as<NSString>(list->at(NSString::make("d"))).utf8(), "changed");
   }
 }
 
@@ -124,21 +122,20 @@ TEST_F(CorrectedFoundationTest, WhatIsNoPropertyListIsNilInSilence) {
        {"missing.plist", "empty.plist", "text.plist", "truncated.plist", "array.plist",
         "nested.plist", "folder.plist", "loop.plist", "pipe.plist", "huge.plist"})
     EXPECT_FALSE(read(name)) << name;
-  EXPECT_FALSE(bridge::NSMutableDictionary::withContentsOfFile(NSString()));
+  EXPECT_FALSE(NSMutableDictionary::withContentsOfFile(NSString()));
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(CorrectedFoundationTest, ArraysAreReadFromFilesToo) {
   write("list.plist", *foundation::serializePropertyList(model::Array{1, "two"},
                                                          foundation::PropertyListFormat::xml));
-  const auto array = bridge::Owned<bridge::NSArray>::adopt(
-      bridge::send<bridge::NSArray, "initWithContentsOfFile:">(
-          bridge::send<id, "alloc">(bridge::NSArray::classObject()), onPhone("list.plist")));
-  EXPECT_EQ(bridge::toValue(array), model::Value(model::Array{1, "two"}));
+  const auto array = Owned<NSArray>::adopt(send<NSArray, "initWithContentsOfFile:">(
+      send<id, "alloc">(NSArray::classObject()), onPhone("list.plist")));
+  EXPECT_EQ(toValue(array), model::Value(model::Array{1, "two"}));
 }
 
 TEST_F(CorrectedFoundationTest, FilesOutsideThePhonesFoldersAreWhereTheyAre) {
-  const auto manager = bridge::NSFileManager::defaultManager();
+  const auto manager = NSFileManager::defaultManager();
   EXPECT_TRUE(manager.fileExists(NSString::make(foundation->root)));
   EXPECT_FALSE(manager.fileExists(NSString::make("/var/mobiles")));
   EXPECT_TRUE(manager.fileExists(NSString::make("/var/mobile")));
@@ -146,7 +143,7 @@ TEST_F(CorrectedFoundationTest, FilesOutsideThePhonesFoldersAreWhereTheyAre) {
 }
 
 TEST_F(CorrectedFoundationTest, AttributesAreOfALinkItselfAndOfSparseFilesWhole) {
-  const auto manager = bridge::NSFileManager::defaultManager();
+  const auto manager = NSFileManager::defaultManager();
   write("sparse.mov", "");
   std::filesystem::resize_file(onDisk("sparse.mov"), 3'000'000'000);
   std::filesystem::create_symlink("sparse.mov", onDisk("link.mov"));

@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "bridge/foundation.h"
+#include "desktop/platform.h"
 #include "tests/desktop/faces/foundation/answers.h"
 
 namespace desktop::faces {
@@ -14,11 +15,10 @@ namespace {
 
 TEST(StockFoundation, NeedsEachCorrection) {
   setenv("TZ", "Europe/Berlin", 1);
-  const bridge::AutoreleasePool pool;
-  const Class zones = bridge::classNamed<"NSTimeZone">();
-  const auto berlin =
-      bridge::send<id, "timeZoneWithName:">(zones, bridge::NSString::make("Europe/Berlin"));
-  bridge::send<void, "setDefaultTimeZone:">(zones, berlin);
+  const AutoreleasePool pool;
+  const Class zones = classNamed<"NSTimeZone">();
+  const auto berlin = send<id, "timeZoneWithName:">(zones, NSString::make("Europe/Berlin"));
+  send<void, "setDefaultTimeZone:">(zones, berlin);
   for (const Answer& answer : answers())
     EXPECT_NE(answer.ask(), answer.expected) << answer.question;
 }

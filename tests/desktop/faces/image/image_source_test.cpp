@@ -9,6 +9,7 @@
 #include "bridge/convert.h"
 #include "bridge/imageio.h"
 #include "desktop/faces/foundation/foundation_runtime.h"
+#include "desktop/platform.h"
 #include "io/byte_source.h"
 #include "tests/support/sample_photo.h"
 #include "tests/support/temporary_folder.h"
@@ -16,21 +17,18 @@
 namespace desktop::faces {
 namespace {
 
-using bridge::NSString;
-using bridge::NSURL;
-
 class ImageSourceTest : public testing::Test {
  protected:
   ImageSourceTest() {
     correctFoundation({.root = foundation::DeviceRoot(_folder.path()), .bundleIdentifier = {}});
   }
 
-  static bridge::ImageSource open(const std::string& link) {
-    return bridge::openImageSource(NSURL::withString(NSString::make(link)));
+  static ImageSource open(const std::string& link) {
+    return openImageSource(NSURL::withString(NSString::make(link)));
   }
 
   support::TemporaryFolder _folder;
-  const bridge::AutoreleasePool _pool;
+  const AutoreleasePool _pool;
 };
 
 TEST_F(ImageSourceTest, givesThePropertiesOfAnImageOfThePhone) {
@@ -42,15 +40,15 @@ TEST_F(ImageSourceTest, givesThePropertiesOfAnImageOfThePhone) {
                                               .city = "Paris"}));
   const auto source = open("file:///var/mobile/Media/DCIM/a%20b.JPG");
   ASSERT_TRUE(source);
-  const auto properties = bridge::copyImageProperties(source);
+  const auto properties = copyImageProperties(source);
   const auto expected = media::image::copyProperties(**io::FileSource::open(path));
   ASSERT_TRUE(expected && *expected);
-  EXPECT_EQ(bridge::toValue(properties), model::Value(**expected));
+  EXPECT_EQ(toValue(properties), model::Value(**expected));
 }
 
 TEST_F(ImageSourceTest, anImageMayLieAnywhereUnderAnyName) {
   _folder.write("\xFF?#.jpg", media::facts::sampleJpeg({}));
-  EXPECT_TRUE(bridge::copyImageProperties(open("file://" + _folder.path() + "/%FF%3F%23.jpg")));
+  EXPECT_TRUE(copyImageProperties(open("file://" + _folder.path() + "/%FF%3F%23.jpg")));
 }
 
 TEST_F(ImageSourceTest, anyFileOpensButOnlyImagesHaveProperties) {
@@ -58,7 +56,7 @@ TEST_F(ImageSourceTest, anyFileOpensButOnlyImagesHaveProperties) {
     _folder.write("file", bytes);
     const auto source = open("file://" + _folder.path() + "/file");
     ASSERT_TRUE(source) << bytes;
-    EXPECT_FALSE(bridge::copyImageProperties(source)) << bytes;
+    EXPECT_FALSE(copyImageProperties(source)) << bytes;
   }
 }
 
@@ -74,19 +72,19 @@ TEST_F(ImageSourceTest, whatIsNoFileGivesNoSource) {
   EXPECT_FALSE(open("file://" + _folder.path()));
   EXPECT_FALSE(open("http://example.com/a.jpg"));
   EXPECT_FALSE(open("file:///var/mobile/none.jpg"));
-  EXPECT_FALSE(bridge::openImageSource(NSURL()));
+  EXPECT_FALSE(openImageSource(NSURL()));
   EXPECT_EQ(CGImageSourceCreateWithURL(nullptr, nullptr), nullptr);
   EXPECT_EQ(CGImageSourceCopyPropertiesAtIndex(nullptr, 0, nullptr), nullptr);
 }
 
 TEST_F(ImageSourceTest, aReleasedSourceIsGone) {
   _folder.write("a.jpg", media::facts::sampleJpeg({}));
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
     const auto source = open("file://" + _folder.path() + "/a.jpg");
-    EXPECT_EQ(bridge::liveBoundObjects(), before + 1);
+    EXPECT_EQ(liveBoundObjects(), before + 1);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "bridge/convert_media.h"
 #include "desktop/faces/foundation/foundation_runtime.h"
 #include "desktop/faces/movie/avfoundation_runtime.h"
+#include "desktop/platform.h"
 #include "io/byte_source.h"
 #include "media/movie/media_source.h"
 #include "tests/support/movie_builder.h"
@@ -14,10 +15,6 @@
 
 namespace desktop::faces {
 namespace {
-
-using bridge::AVURLAsset;
-using bridge::NSString;
-using bridge::NSURL;
 
 class AVURLAssetTest : public testing::Test {
  protected:
@@ -31,7 +28,7 @@ class AVURLAssetTest : public testing::Test {
   }
 
   support::TemporaryFolder _folder;
-  const bridge::AutoreleasePool _pool;
+  const AutoreleasePool _pool;
 };
 
 TEST_F(AVURLAssetTest, tellsAllThatThePlainReaderTells) {
@@ -42,11 +39,11 @@ TEST_F(AVURLAssetTest, tellsAllThatThePlainReaderTells) {
   model::MediaAsset expected = **read;
   ASSERT_GE(expected.tracks.size(), 2U);
   const AVURLAsset asset = open("file:///var/mobile/a.mov");
-  EXPECT_EQ(CMTimeGetSeconds(bridge::send<CMTime, "duration">(asset)), expected.duration);
+  EXPECT_EQ(CMTimeGetSeconds(send<CMTime, "duration">(asset)), expected.duration);
   // These are not asked for through tracks and metadata.
   expected.duration = 0;
   expected.creationDate.reset();
-  EXPECT_EQ(bridge::toMediaAsset(asset), expected);
+  EXPECT_EQ(toMediaAsset(asset), expected);
 }
 
 TEST_F(AVURLAssetTest, whatIsNoVideoHasNoTracks) {
@@ -63,14 +60,14 @@ TEST_F(AVURLAssetTest, whatIsNoVideoHasNoTracks) {
 }
 
 TEST_F(AVURLAssetTest, allItsObjectsGoWithIt) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     _folder.write("a.mov", media::movie::phoneMovie());
     EXPECT_GT(open("file://" + _folder.path() + "/a.mov").tracks().count(), 0U);
-    EXPECT_GT(bridge::liveBoundObjects(), before);
+    EXPECT_GT(liveBoundObjects(), before);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -26,16 +26,16 @@ class PHAssetTest : public testing::Test {
   }
 
   // Of the only file of the library.
-  bridge::PHAsset asset(const std::string& folder = folderOfPhone) {
+  PHAsset asset(const std::string& folder = folderOfPhone) {
     _library = *library::PhotoLibrary::open(folder, _root);
     _library->waitAndDeliver();
-    return PHAsset::make(*_library, _library->items().at(0));
+    return PHAssetState::make(*_library, _library->items().at(0));
   }
 
   library::LibraryFolder _folder;
   foundation::DeviceRoot _root;
   std::unique_ptr<library::PhotoLibrary> _library;
-  const bridge::AutoreleasePool _pool;
+  const AutoreleasePool _pool;
 };
 
 TEST_F(PHAssetTest, tellsTheFactsOfAPhoto) {
@@ -50,18 +50,17 @@ TEST_F(PHAssetTest, tellsTheFactsOfAPhoto) {
                                               .city = "Paris",
                                               .country = "France"}));
   library::setFileDate(path, 5000);
-  const bridge::PHAsset photo = asset();
+  const PHAsset photo = asset();
   EXPECT_EQ(photo.uuid().utf8(), library::itemUuid(path));
   EXPECT_EQ(photo.uniformTypeIdentifier().utf8(), "public.jpeg");
   EXPECT_FALSE(photo.isVideo());
-  EXPECT_EQ((bridge::send<long, "mediaType">(photo)), 1);
+  EXPECT_EQ((send<long, "mediaType">(photo)), 1);
   EXPECT_EQ(photo.pixelWidth(), 300U);
   EXPECT_EQ(photo.pixelHeight(), 400U);
   EXPECT_EQ(photo.duration(), 0);
   EXPECT_EQ(photo.exifOrientation(), 6);
   EXPECT_EQ(photo.creationDate().timeIntervalSince1970(), 1538308991);
-  EXPECT_EQ((bridge::send<bridge::NSDate, "modificationDate">(photo)).timeIntervalSince1970(),
-            5000);
+  EXPECT_EQ((send<NSDate, "modificationDate">(photo)).timeIntervalSince1970(), 5000);
   EXPECT_NEAR(photo.location().coordinate().latitude, 48.8577, 1e-6);
   EXPECT_NEAR(photo.location().coordinate().longitude, -2.295, 1e-6);
   EXPECT_EQ(photo.localizedGeoDescription().utf8(), "Paris, France");
@@ -69,7 +68,7 @@ TEST_F(PHAssetTest, tellsTheFactsOfAPhoto) {
 
 TEST_F(PHAssetTest, linksAreThoseOfThePhone) {
   _folder.photo(folderOfPhone.substr(1) + "/IMG 1.JPG");
-  const bridge::PHAsset photo = asset();
+  const PHAsset photo = asset();
   const std::string data = "file:///var/mobile/Media/PhotoData/";
   EXPECT_EQ(photo.mainFileURL().absoluteString().utf8(),
             "file://" + folderOfPhone + "/IMG%201.JPG");
@@ -80,14 +79,14 @@ TEST_F(PHAssetTest, linksAreThoseOfThePhone) {
             data + "Thumbnails/DCIM/100APPLE/IMG%201large.JPG");
   EXPECT_EQ(photo.fileURLForMediumPreview().absoluteString().utf8(),
             data + "Metadata/DCIM/100APPLE/IMG%201medium.JPG");
-  EXPECT_TRUE(bridge::NSFileManager::defaultManager().fileExists(photo.mainFileURL().path()));
+  EXPECT_TRUE(NSFileManager::defaultManager().fileExists(photo.mainFileURL().path()));
 }
 
 TEST_F(PHAssetTest, tellsTheFactsOfAVideo) {
   _folder.write("library/a.mov", media::movie::phoneMovie());
-  const bridge::PHAsset video = asset(_folder.file("library"));
+  const PHAsset video = asset(_folder.file("library"));
   EXPECT_TRUE(video.isVideo());
-  EXPECT_EQ((bridge::send<long, "mediaType">(video)), 2);
+  EXPECT_EQ((send<long, "mediaType">(video)), 2);
   EXPECT_EQ(video.uniformTypeIdentifier().utf8(), "com.apple.quicktime-movie");
   const auto& facts = _library->facts(*_library->items()[0]);
   ASSERT_TRUE(facts);
@@ -100,7 +99,7 @@ TEST_F(PHAssetTest, tellsTheFactsOfAVideo) {
 
 TEST_F(PHAssetTest, aBrokenFileTellsWhatItsNameDoes) {
   const std::string path = _folder.broken("library/a.mov", 1234);
-  const bridge::PHAsset broken = asset(_folder.file("library"));
+  const PHAsset broken = asset(_folder.file("library"));
   EXPECT_TRUE(broken.isVideo());
   EXPECT_EQ(broken.uniformTypeIdentifier().utf8(), "com.apple.quicktime-movie");
   EXPECT_EQ(broken.pixelWidth(), 0U);
@@ -113,19 +112,19 @@ TEST_F(PHAssetTest, aBrokenFileTellsWhatItsNameDoes) {
 
 TEST_F(PHAssetTest, aPhotoWithoutAPlaceHasNone) {
   _folder.photo("library/a.jpg");
-  const bridge::PHAsset photo = asset(_folder.file("library"));
+  const PHAsset photo = asset(_folder.file("library"));
   EXPECT_FALSE(photo.location());
   EXPECT_FALSE(photo.localizedGeoDescription());
 }
 
 TEST_F(PHAssetTest, aNameThatIsNoTextHasALinkToItsBytes) {
   const std::string path = _folder.photo("library/\xFF.jpg", 1234);
-  const bridge::PHAsset photo = asset(_folder.file("library"));
+  const PHAsset photo = asset(_folder.file("library"));
   EXPECT_EQ(photo.mainFileURL().absoluteString().utf8(),
             "file://" + _folder.file("library/%FF.jpg"));
   EXPECT_EQ(photo.mainFileURL().path().utf8(), _folder.file("library/\uFFFD.jpg"));
   EXPECT_EQ(photo.pixelWidth(), 40U);
-  const auto files = bridge::NSFileManager::defaultManager();
+  const auto files = NSFileManager::defaultManager();
   EXPECT_TRUE(files.fileExists(photo.mainFileURL().path()));
   const auto attributes = files.attributesOfItem(photo.mainFileURL().path());
   EXPECT_EQ(attributes.fileSize(), std::filesystem::file_size(path));
@@ -135,26 +134,25 @@ TEST_F(PHAssetTest, aNameThatIsNoTextHasALinkToItsBytes) {
 TEST_F(PHAssetTest, assetsOfTheSameFileAreEqual) {
   const std::string path = _folder.photo("library/a.jpg", 1);
   _folder.photo("library/b.jpg", 2);
-  const bridge::PHAsset first = asset(_folder.file("library"));
-  const bridge::PHAsset other = PHAsset::make(*_library, _library->items()[1]);
+  const PHAsset first = asset(_folder.file("library"));
+  const PHAsset other = PHAssetState::make(*_library, _library->items()[1]);
   std::filesystem::resize_file(path, 10);
   library::setFileDate(path, 3);
   _library->waitAndDeliver();
-  const bridge::PHAsset changed = PHAsset::make(*_library, _library->items()[1]);
-  EXPECT_NE(PHAsset::itemOf(first), PHAsset::itemOf(changed));
+  const PHAsset changed = PHAssetState::make(*_library, _library->items()[1]);
+  EXPECT_NE(PHAssetState::itemOf(first), PHAssetState::itemOf(changed));
   EXPECT_TRUE(first.isEqual(changed));
-  EXPECT_EQ((bridge::send<unsigned long, "hash">(first)),
-            (bridge::send<unsigned long, "hash">(changed)));
+  EXPECT_EQ((send<unsigned long, "hash">(first)), (send<unsigned long, "hash">(changed)));
   EXPECT_FALSE(first.isEqual(other));
-  EXPECT_FALSE(first.isEqual(bridge::NSString::make("no asset")));
-  EXPECT_FALSE(first.isEqual(bridge::Object()));
-  EXPECT_EQ(PHAsset::itemOf(bridge::NSString::make("no asset")), nullptr);
-  EXPECT_EQ(PHAsset::itemOf(bridge::Object()), nullptr);
+  EXPECT_FALSE(first.isEqual(NSString::make("no asset")));
+  EXPECT_FALSE(first.isEqual(Object()));
+  EXPECT_EQ(PHAssetState::itemOf(NSString::make("no asset")), nullptr);
+  EXPECT_EQ(PHAssetState::itemOf(Object()), nullptr);
 }
 
 TEST_F(PHAssetTest, anAssetMayOutliveItsLibrary) {
   _folder.photo("library/a.jpg");
-  const bridge::PHAsset photo = asset(_folder.file("library"));
+  const PHAsset photo = asset(_folder.file("library"));
   EXPECT_EQ(photo.pixelWidth(), 40U);
   _library.reset();
   EXPECT_EQ(photo.pixelWidth(), 0U);
@@ -163,13 +161,13 @@ TEST_F(PHAssetTest, anAssetMayOutliveItsLibrary) {
 
 TEST_F(PHAssetTest, objectsGoWhenNobodyKeepsThem) {
   _folder.write("library/a.jpg", media::facts::sampleJpeg({.location = model::Location{1, 2}}));
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     EXPECT_TRUE(asset(_folder.file("library")).location());
-    EXPECT_GT(bridge::liveBoundObjects(), before);
+    EXPECT_GT(liveBoundObjects(), before);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -9,29 +9,27 @@ namespace desktop::faces {
 namespace {
 
 TEST(PUAssetReferenceTest, keepsWhatItRefersTo) {
-  const bridge::AutoreleasePool pool;
-  bridge::Owned<bridge::PUAssetReference> reference;
+  const AutoreleasePool pool;
+  Owned<PUAssetReference> reference;
   {
-    const bridge::AutoreleasePool inner;
-    const auto asset = bridge::makeNew<bridge::NSMutableArray>();
-    reference = bridge::Owned<bridge::PUAssetReference>::retain(
-        PUAssetReference::make(asset, bridge::NSIndexPath()));
+    const AutoreleasePool inner;
+    const auto asset = makeNew<NSMutableArray>();
+    reference = Owned<PUAssetReference>::retain(PUAssetReferenceState::make(asset, NSIndexPath()));
   }
   ASSERT_TRUE(reference->asset());
-  EXPECT_TRUE(bridge::as<bridge::NSArray>(reference->asset()));
-  EXPECT_FALSE((bridge::send<bridge::NSIndexPath, "indexPath">(reference)));
+  EXPECT_TRUE(as<NSArray>(reference->asset()));
+  EXPECT_FALSE((send<NSIndexPath, "indexPath">(reference)));
 }
 
 TEST(PUAssetReferenceTest, mayReferToNothing) {
-  const bridge::AutoreleasePool pool;
-  EXPECT_FALSE(PUAssetReference::make({}, {}).asset());
+  const AutoreleasePool pool;
+  EXPECT_FALSE(PUAssetReferenceState::make({}, {}).asset());
 }
 
 TEST(CLLocationTest, isMadeFromDegrees) {
-  const bridge::AutoreleasePool pool;
-  const auto made = bridge::Owned<bridge::CLLocation>::adopt(
-      bridge::send<bridge::CLLocation, "initWithLatitude:longitude:">(
-          bridge::send<id, "alloc">(CLLocation::classObject()), 1.5, -2.5));
+  const AutoreleasePool pool;
+  const auto made = Owned<CLLocation>::adopt(send<CLLocation, "initWithLatitude:longitude:">(
+      send<id, "alloc">(CLLocationState::classObject()), 1.5, -2.5));
   EXPECT_EQ(made->coordinate().latitude, 1.5);
   EXPECT_EQ(made->coordinate().longitude, -2.5);
 }

@@ -14,10 +14,6 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSArray;
-using bridge::NSString;
-using bridge::Owned;
-using bridge::UIBarButtonItem;
 using testing::ElementsAre;
 
 // Letters are 0.6 of the font's size wide; labels are as wide as pixels allow.
@@ -25,22 +21,21 @@ class UINavigationBarTest : public ControllerTest {
  protected:
   UINavigationBarTest()
       : a(ProbeController::make("Title")),
-        stack(bridge::UINavigationController::withRoot(a)),
+        stack(UINavigationController::withRoot(a)),
         item(a->navigationItem()) {
-    showRoot(Owned<bridge::UIViewController>::retain(stack.get()));
+    showRoot(Owned<UIViewController>::retain(stack.get()));
   }
 
   Owned<UIBarButtonItem> titled(const char* title, UIBarButtonItem::Style style) const {
-    return UIBarButtonItem::withTitle(NSString::make(title), style, a.get(),
-                                      bridge::selector<"press:">());
+    return UIBarButtonItem::withTitle(NSString::make(title), style, a.get(), selector<"press:">());
   }
   Owned<UIBarButtonItem> system(NSInteger number) const {
     return UIBarButtonItem::withSystemItem(static_cast<UIBarButtonItem::SystemItem>(number),
-                                           a.get(), bridge::selector<"press:">());
+                                           a.get(), selector<"press:">());
   }
   NavigationBarContentView& content() const {
     return NavigationBarContentView::of(
-        UINavigationBar::of(stack->navigationBar().get()).contentView().get());
+        UINavigationBarState::of(stack->navigationBar().get()).contentView().get());
   }
   // Frames of what stands at the right, from the right-most on.
   std::vector<std::vector<double>> rightFrames() const {
@@ -51,15 +46,15 @@ class UINavigationBarTest : public ControllerTest {
     return frames;
   }
 
-  const Owned<bridge::UIViewController> a;
-  const Owned<bridge::UINavigationController> stack;
-  const bridge::UINavigationItem item;
+  const Owned<UIViewController> a;
+  const Owned<UINavigationController> stack;
+  const UINavigationItem item;
 };
 
 TEST_F(UINavigationBarTest, TheTitleStandsInTheMiddle) {
   application().prepareFrame();
   EXPECT_THAT(numbers(content().label().frame()), ElementsAre(162, 0, 51, 44));
-  EXPECT_EQ(UILabel::of(content().label().get()).shownFontSize(), 17);
+  EXPECT_EQ(UILabelState::of(content().label().get()).shownFontSize(), 17);
 }
 
 TEST_F(UINavigationBarTest, TheFirstRightItemIsTheRightmost) {
@@ -109,8 +104,8 @@ TEST_F(UINavigationBarTest, PressingAnItemSendsItsActionWithTheItem) {
 
 TEST_F(UINavigationBarTest, AnActionWithoutATargetGoesToTheFirstThatAnswers) {
   const auto select = UIBarButtonItem::withTitle(NSString::make("Select"), UIBarButtonItem::plain,
-                                                 {}, bridge::selector<"press:">());
-  const auto bar = bridge::makeView<handles::UIToolbar>({{0, 300}, {375, 44}});
+                                                 {}, selector<"press:">());
+  const auto bar = bridge::makeView<UIToolbar>({{0, 300}, {375, 44}});
   bar->setItems(NSArray::of(select.get()));
   a->view().addSubview(bar);
   tap("Select");
@@ -119,11 +114,11 @@ TEST_F(UINavigationBarTest, AnActionWithoutATargetGoesToTheFirstThatAnswers) {
 
 TEST_F(UINavigationBarTest, ADisabledItemDoesNothing) {
   const auto select = titled("Select", UIBarButtonItem::plain);
-  bridge::send<void, "setEnabled:">(select.get(), false);
+  send<void, "setEnabled:">(select.get(), false);
   item.setRightBarButtonItems(NSArray::of(select.get()));
   tap("Select");
   EXPECT_TRUE(takeCalls().empty());
-  bridge::send<void, "setEnabled:">(select.get(), true);
+  send<void, "setEnabled:">(select.get(), true);
   tap("Select");
   EXPECT_THAT(takeCalls(), ElementsAre("Title pressed"));
 }
@@ -140,8 +135,8 @@ TEST_F(UINavigationBarTest, ChangesOfAnItemShowAtOnce) {
 }
 
 TEST_F(UINavigationBarTest, ACustomViewStandsAsItIs) {
-  const auto info = bridge::makeView<bridge::UIControl>({{0, 0}, {22, 22}});
-  info->addTarget(a.get(), bridge::selector<"press:">(), bridge::touchUpInside);
+  const auto info = bridge::makeView<UIControl>({{0, 0}, {22, 22}});
+  info->addTarget(a.get(), selector<"press:">(), touchUpInside);
   const auto custom = UIBarButtonItem::withCustomView(info);
   item.setRightBarButtonItems(NSArray::of(system(UIBarButtonItem::action).get(), custom.get()));
   EXPECT_THAT(rightFrames(),
@@ -167,16 +162,16 @@ TEST_F(UINavigationBarTest, TheBackButtonIsNamedAfterTheScreenBelowAsFarAsThereI
     SCOPED_TRACE(each.title);
     item.setTitle(NSString::make(each.below));
     const auto b = ProbeController::make(each.title);
-    stack->push(b, bridge::UIViewController::immediately);
+    stack->push(b, UIViewController::immediately);
     application().prepareFrame();
     EXPECT_EQ(BarButtonView::of(content().backButton().get()).name(), each.shown);
-    bridge::send<bridge::UIViewController, "popViewControllerAnimated:">(stack.get(), false);
+    send<UIViewController, "popViewControllerAnimated:">(stack.get(), false);
   }
 }
 
 TEST_F(UINavigationBarTest, LeftItemsTakeThePlaceOfTheBackButton) {
   const auto b = ProbeController::make("B");
-  stack->push(b, bridge::UIViewController::immediately);
+  stack->push(b, UIViewController::immediately);
   EXPECT_TRUE(content().backButton());
   b->navigationItem().setLeftBarButtonItems(
       NSArray::of(titled("Dismiss", UIBarButtonItem::plain).get()));
@@ -185,11 +180,10 @@ TEST_F(UINavigationBarTest, LeftItemsTakeThePlaceOfTheBackButton) {
 
 TEST_F(UINavigationBarTest, TitlesAreSetByMessageOnBothOfTheirViews) {
   item.setTitle(NSString::make("Other"));
-  const auto& bar = UINavigationBar::of(stack->navigationBar().get());
-  for (const bridge::UIView view : {bar.contentView(), bar.largeTitleView()}) {
-    EXPECT_EQ((bridge::send<NSString, "title">(view)).utf8(), "Other");
-    const auto label =
-        bridge::as<bridge::UILabel>(bridge::send<bridge::Object, "lastObject">(view.subviews()));
+  const auto& bar = UINavigationBarState::of(stack->navigationBar().get());
+  for (const UIView view : {bar.contentView(), bar.largeTitleView()}) {
+    EXPECT_EQ((send<NSString, "title">(view)).utf8(), "Other");
+    const auto label = as<UILabel>(send<Object, "lastObject">(view.subviews()));
     EXPECT_EQ(label.text().utf8(), "Other");
   }
 }
@@ -200,7 +194,7 @@ TEST_F(UINavigationBarTest, AShrinkingTitleFitsBetweenTheButtons) {
   label.setMinimumFontSize(4);
   item.setTitle(NSString::make("12 Items Selected (123.4 MB) and a good deal more"));
   application().prepareFrame();
-  const auto lines = UILabel::of(label.get()).lines();
+  const auto lines = UILabelState::of(label.get()).lines();
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_EQ(lines[0].text.size(), 49u);
   EXPECT_LT(lines[0].face.size, 17);
@@ -211,11 +205,11 @@ TEST_F(UINavigationBarTest, StyleAndTintAreWhatWasSet) {
   EXPECT_EQ(bar.barStyle(), 0);
   bar.setBarStyle(1);
   EXPECT_EQ(bar.barStyle(), 1);
-  EXPECT_EQ(UILabel::of(content().label().get()).textColor(), colors::white);
+  EXPECT_EQ(UILabelState::of(content().label().get()).textColor(), colors::white);
   item.setRightBarButtonItems(NSArray::of(titled("Select", UIBarButtonItem::plain).get()));
-  bar.setTintColor(bridge::UIColor::greenColor());
-  EXPECT_EQ(UILabel::of(viewWithText("Select").get()).textColor(),
-            UIColor::valueOf(bridge::UIColor::greenColor()));
+  bar.setTintColor(UIColor::greenColor());
+  EXPECT_EQ(UILabelState::of(viewWithText("Select").get()).textColor(),
+            UIColorState::valueOf(UIColor::greenColor()));
 }
 
 }  // namespace

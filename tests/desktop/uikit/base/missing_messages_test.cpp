@@ -13,18 +13,17 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::send;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 using MissingMessagesTest = ControllerTest;
 
 TEST_F(MissingMessagesTest, AnswerZeroOfEveryKind) {
-  const auto view = bridge::makeView<bridge::UIView>({{1, 2}, {3, 4}});
+  const auto view = bridge::makeView<UIView>({{1, 2}, {3, 4}});
   EXPECT_EQ((send<NSInteger, "missingInteger">(view.get())), 0);
   EXPECT_EQ((send<double, "missingReal">(view.get())), 0);
   EXPECT_FALSE((send<bool, "missingFlag">(view.get())));
-  EXPECT_FALSE((send<bridge::Object, "missingObject:">(view.get(), CGFloat{7})));
+  EXPECT_FALSE((send<Object, "missingObject:">(view.get(), CGFloat{7})));
   EXPECT_EQ((send<CGPoint, "missingPoint">(view.get())), CGPoint{});
   EXPECT_EQ((send<CGRect, "missingRect:">(view.get(), CGRect{{1, 2}, {3, 4}})), CGRect{});
   EXPECT_EQ((send<CGAffineTransform, "missingTransform">(view.get())).a, 1);
@@ -35,8 +34,8 @@ TEST_F(MissingMessagesTest, AnswerZeroOfEveryKind) {
 TEST_F(MissingMessagesTest, AreLoggedOnceWithClassAndSelector) {
   const auto a = ProbeController::make("A");
   for (int time = 0; time < 3; ++time) send<void, "setMissing:">(a.get(), NSInteger{1});
-  send<bridge::Object, "missingColor">(bridge::UIColor::classObject());
-  send<void, "missing">(bridge::UIScreen::mainScreen());
+  send<Object, "missingColor">(UIColor::classObject());
+  send<void, "missing">(UIScreen::mainScreen());
   EXPECT_THAT(platformLog(),
               ElementsAre("Missing: -[ProbeController setMissing:]",
                           "Missing: +[UIColor missingColor]", "Missing: -[UIScreen missing]"));
@@ -46,29 +45,28 @@ TEST_F(MissingMessagesTest, AreLoggedOnceWithClassAndSelector) {
 TEST_F(MissingMessagesTest, StandOnceBesideTheDebugLog) {
   const auto before = runtime::setDebugLogSink(
       [](const runtime::DebugLogLine& line) { platformLog().push_back(line.text); });
-  send<void, "missing">(bridge::UIScreen::mainScreen());
-  bridge::logDebug("Extension", 7, "an extension's line");
+  send<void, "missing">(UIScreen::mainScreen());
+  logDebug("Extension", 7, "an extension's line");
   runtime::setDebugLogSink(before);
   EXPECT_THAT(platformLog(), ElementsAre("Missing: -[UIScreen missing]", "an extension's line"));
 }
 
 TEST_F(MissingMessagesTest, WhatIsMissingIsNotSaidToBeThere) {
-  const auto view = bridge::makeView<bridge::UIView>({});
-  EXPECT_FALSE((bridge::respondsTo<"missingRect:">(view.get())));
-  EXPECT_FALSE((bridge::respondsTo<"missingRect:">(view.get())));
-  EXPECT_TRUE((bridge::respondsTo<"frame">(view.get())));
+  const auto view = bridge::makeView<UIView>({});
+  EXPECT_FALSE((respondsTo<"missingRect:">(view.get())));
+  EXPECT_FALSE((respondsTo<"missingRect:">(view.get())));
+  EXPECT_TRUE((respondsTo<"frame">(view.get())));
   EXPECT_THAT(platformLog(), IsEmpty());
 }
 
 TEST_F(MissingMessagesTest, ASuperclassThatAnswersNothingIsLoggedToo) {
   const auto a = ProbeController::make("A");
-  bridge::superSend<void, "press:">(a.get(), bridge::UIViewController::classObject(),
-                                    bridge::Object());
+  superSend<void, "press:">(a.get(), UIViewController::classObject(), Object());
   EXPECT_THAT(platformLog(), ElementsAre("Missing: to super: press:"));
 }
 
 TEST_F(MissingMessagesTest, OtherObjectsStillRaise) {
-  const auto text = bridge::NSString::make("text");
+  const auto text = NSString::make("text");
   EXPECT_ANY_THROW((send<void, "missing">(text)));
   EXPECT_ANY_THROW((send<CGRect, "missingRect">(text)));
   EXPECT_THAT(platformLog(), IsEmpty());

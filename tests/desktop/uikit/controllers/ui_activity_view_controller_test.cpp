@@ -11,12 +11,9 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSArray;
-using bridge::NSString;
-using bridge::Owned;
 using testing::ElementsAre;
 using testing::IsEmpty;
-constexpr auto animated = bridge::UIViewController::animated;
+constexpr auto animated = UIViewController::animated;
 
 class UIActivityViewControllerTest : public ControllerTest {
  protected:
@@ -25,18 +22,17 @@ class UIActivityViewControllerTest : public ControllerTest {
     outside().saveText = [this](const std::string& text) { saved.push_back(text); };
   }
 
-  Owned<bridge::UIActivityViewController> share(NSArray items) const {
-    auto sheet = bridge::UIActivityViewController::withItems(items);
+  Owned<UIActivityViewController> share(NSArray items) const {
+    auto sheet = UIActivityViewController::withItems(items);
     a->present(sheet, animated, {});
     wait(0.5);
     return sheet;
   }
   bool isPresenting() const {
-    return static_cast<bool>(
-        bridge::send<bridge::UIViewController, "presentedViewController">(a.get()));
+    return static_cast<bool>(send<UIViewController, "presentedViewController">(a.get()));
   }
 
-  const Owned<bridge::UIViewController> a;
+  const Owned<UIViewController> a;
   std::vector<std::string> copied;
   std::vector<std::string> saved;
 };
@@ -83,9 +79,9 @@ TEST_F(UIActivityViewControllerTest, TellsItsHandlerHowItEnded) {
     SCOPED_TRACE(each.press);
     std::vector<std::pair<std::string, bool>> told;
     const auto sheet = share(NSArray::of(NSString::make("text")));
-    bridge::send<void, "setCompletionWithItemsHandler:">(
-        sheet.get(), bridge::Block<void(NSString, bool, NSArray, bridge::NSObject)>(
-                         [&told](NSString type, bool completed, NSArray, bridge::NSObject) {
+    send<void, "setCompletionWithItemsHandler:">(
+        sheet.get(), Block<void(NSString, bool, NSArray, NSObject)>(
+                         [&told](NSString type, bool completed, NSArray, NSObject) {
                            told.emplace_back(type.utf8(), completed);
                          }));
     tap(each.press);
@@ -95,7 +91,7 @@ TEST_F(UIActivityViewControllerTest, TellsItsHandlerHowItEnded) {
 }
 
 TEST_F(UIActivityViewControllerTest, ExcludedActivitiesAreNotOffered) {
-  const auto sheet = bridge::UIActivityViewController::withItems(NSArray::of(NSString::make("t")));
+  const auto sheet = UIActivityViewController::withItems(NSArray::of(NSString::make("t")));
   sheet->setExcludedActivityTypes(
       NSArray::of(NSString::make("com.apple.UIKit.activity.CopyToPasteboard")));
   a->present(sheet, animated, {});
@@ -120,28 +116,28 @@ TEST_F(UIActivityViewControllerTest, NoItemsAreAnEmptyText) {
 }
 
 TEST_F(UIActivityViewControllerTest, KeepsWhereAPopoverWouldPoint) {
-  const auto sheet = bridge::UIActivityViewController::withItems(NSArray::of(NSString::make("t")));
+  const auto sheet = UIActivityViewController::withItems(NSArray::of(NSString::make("t")));
   const auto popover = sheet->popoverPresentationController();
   ASSERT_TRUE(popover);
   popover.setSourceView(a->view());
   popover.setSourceRect({{1, 2}, {3, 4}});
   const auto& kept =
-      UIPopoverPresentationController::of(sheet->popoverPresentationController().get());
+      UIPopoverPresentationControllerState::of(sheet->popoverPresentationController().get());
   EXPECT_EQ(kept.sourceView(), a->view());
   EXPECT_EQ(kept.sourceRect(), (CGRect{{1, 2}, {3, 4}}));
 }
 
 TEST_F(UIActivityViewControllerTest, NothingIsLeftOfIt) {
   const auto run = [&] {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     share(NSArray::of(NSString::make("text")));
     tap("Copy");
     wait(0.5);
   };
   run();
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   run();
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -12,41 +12,37 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::Block;
-using bridge::NSString;
-using bridge::Owned;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using How = bridge::UIViewController::Animated;
-constexpr How animated = bridge::UIViewController::animated;
-constexpr How atOnce = bridge::UIViewController::immediately;
+using How = UIViewController::Animated;
+constexpr How animated = UIViewController::animated;
+constexpr How atOnce = UIViewController::immediately;
 
 class UIAlertControllerTest : public ControllerTest {
  protected:
   UIAlertControllerTest() : a(showRoot(ProbeController::make("A"))) {}
 
-  Owned<bridge::UIAlertController> alert(const char* title, const char* message,
-                                         NSInteger style = UIAlertController::alert) const {
-    return Owned<bridge::UIAlertController>::retain(bridge::UIAlertController::make(
+  Owned<UIAlertController> alert(const char* title, const char* message,
+                                 NSInteger style = UIAlertControllerState::alert) const {
+    return Owned<UIAlertController>::retain(UIAlertController::make(
         title ? NSString::make(title) : NSString(), message ? NSString::make(message) : NSString(),
-        static_cast<bridge::UIAlertController::Style>(style)));
+        static_cast<UIAlertController::Style>(style)));
   }
-  static bridge::UIAlertAction action(const char* title, NSInteger style = 0) {
-    return bridge::UIAlertAction::make(
-        NSString::make(title), static_cast<bridge::UIAlertAction::Style>(style),
-        Block<void(bridge::UIAlertAction)>([title](bridge::UIAlertAction) {
-          ProbeController::calls.push_back(std::string("chose ") + title);
-        }));
+  static UIAlertAction action(const char* title, NSInteger style = 0) {
+    return UIAlertAction::make(NSString::make(title), static_cast<UIAlertAction::Style>(style),
+                               Block<void(UIAlertAction)>([title](UIAlertAction) {
+                                 ProbeController::calls.push_back(std::string("chose ") + title);
+                               }));
   }
-  static std::vector<double> box(const Owned<bridge::UIAlertController>& alert) {
+  static std::vector<double> box(const Owned<UIAlertController>& alert) {
     application().prepareFrame();
     return onScreen(AlertView::of(alert->view().get()).box());
   }
-  bridge::UIViewController presented() const {
-    return bridge::send<bridge::UIViewController, "presentedViewController">(a.get());
+  UIViewController presented() const {
+    return send<UIViewController, "presentedViewController">(a.get());
   }
 
-  const Owned<bridge::UIViewController> a;
+  const Owned<UIViewController> a;
 };
 
 TEST_F(UIAlertControllerTest, TellsThePresenterNothing) {
@@ -55,7 +51,7 @@ TEST_F(UIAlertControllerTest, TellsThePresenterNothing) {
   a->present(shown, animated, {});
   wait(0.3);
   EXPECT_THAT(takeCalls(), IsEmpty());
-  EXPECT_TRUE(UIView::of(a->view().get()).window());
+  EXPECT_TRUE(UIViewState::of(a->view().get()).window());
   EXPECT_TRUE(isShown("Erorr:"));
   EXPECT_TRUE(isShown("Could not find it"));
 }
@@ -76,11 +72,9 @@ TEST_F(UIAlertControllerTest, AnActionIsCalledWhenTheAlertHasGone) {
 TEST_F(UIAlertControllerTest, AHandlerCanShowTheNextAlert) {
   const auto first = alert("First", nullptr);
   const auto second = alert("Second", nullptr);
-  first->addAction(
-      bridge::UIAlertAction::make(NSString::make("Next"), bridge::UIAlertAction::normal,
-                                  Block<void(bridge::UIAlertAction)>([&](bridge::UIAlertAction) {
-                                    a->present(second, animated, {});
-                                  })));
+  first->addAction(UIAlertAction::make(
+      NSString::make("Next"), UIAlertAction::normal,
+      Block<void(UIAlertAction)>([&](UIAlertAction) { a->present(second, animated, {}); })));
   a->present(first, atOnce, {});
   tap("Next");
   wait(0.6);
@@ -145,8 +139,8 @@ TEST_F(UIAlertControllerTest, ALongMessageScrollsAndLeavesTheButtonsInReach) {
 }
 
 TEST_F(UIAlertControllerTest, NothingBelowOrBesideItTakesTouches) {
-  const auto button = bridge::makeView<bridge::UIControl>({{0, 0}, {375, 667}});
-  button->addTarget(a.get(), bridge::selector<"press:">(), bridge::touchUpInside);
+  const auto button = bridge::makeView<UIControl>({{0, 0}, {375, 667}});
+  button->addTarget(a.get(), selector<"press:">(), touchUpInside);
   a->view().addSubview(button);
   const auto shown = alert("Title", nullptr);
   shown->addAction(action("Ok", 1));
@@ -162,17 +156,17 @@ TEST_F(UIAlertControllerTest, ComesSmallerAndClearer) {
   shown->addAction(action("Ok"));
   a->present(shown, animated, {});
   const auto box = AlertView::of(shown->view().get()).box();
-  EXPECT_EQ(UIView::of(box.get()).shown().alpha, 0);
-  EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().transform.a, 1.2);
+  EXPECT_EQ(UIViewState::of(box.get()).shown().alpha, 0);
+  EXPECT_DOUBLE_EQ(UIViewState::of(box.get()).shown().transform.a, 1.2);
   scheduler().advanceTo(scheduler().now() + 0.125);
-  EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().alpha, 0.5);
-  EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().transform.a, 1.1);
+  EXPECT_DOUBLE_EQ(UIViewState::of(box.get()).shown().alpha, 0.5);
+  EXPECT_DOUBLE_EQ(UIViewState::of(box.get()).shown().transform.a, 1.1);
   wait(0.2);
-  EXPECT_EQ(UIView::of(box.get()).shown().alpha, 1);
+  EXPECT_EQ(UIViewState::of(box.get()).shown().alpha, 1);
 }
 
 TEST_F(UIAlertControllerTest, ASheetStandsAtTheBottomAndIsCancelledBesideIt) {
-  const auto sheet = alert("Title", nullptr, UIAlertController::actionSheet);
+  const auto sheet = alert("Title", nullptr, UIAlertControllerState::actionSheet);
   sheet->addAction(action("Delete", 2));
   sheet->addAction(action("Cancel", 1));
   a->present(sheet, animated, {});
@@ -196,7 +190,7 @@ TEST_F(UIAlertControllerTest, AnAlertWithoutAnythingIsShownAndDismissed) {
 
 TEST_F(UIAlertControllerTest, NothingIsLeftOfIt) {
   const auto run = [&] {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     const auto shown = alert("Title", "Message");
     shown->addAction(action("Ok"));
     a->present(shown, animated, {});
@@ -205,9 +199,9 @@ TEST_F(UIAlertControllerTest, NothingIsLeftOfIt) {
     wait(0.3);
   };
   run();
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   run();
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -14,36 +14,34 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSArray;
-using bridge::Owned;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using How = bridge::UIViewController::Animated;
-constexpr How animated = bridge::UIViewController::animated;
-constexpr How atOnce = bridge::UIViewController::immediately;
+using How = UIViewController::Animated;
+constexpr How animated = UIViewController::animated;
+constexpr How atOnce = UIViewController::immediately;
 
 class UINavigationControllerTest : public ControllerTest {
  protected:
-  using Stack = Owned<bridge::UINavigationController>;
+  using Stack = Owned<UINavigationController>;
 
   // A stack of one screen, shown in the window.
-  static Stack showStack(const Owned<bridge::UIViewController>& root) {
-    auto stack = bridge::UINavigationController::withRoot(root);
-    showRoot(Owned<bridge::UIViewController>::retain(stack.get()));
+  static Stack showStack(const Owned<UIViewController>& root) {
+    auto stack = UINavigationController::withRoot(root);
+    showRoot(Owned<UIViewController>::retain(stack.get()));
     return stack;
   }
-  static bridge::UIViewController top(const Stack& stack) {
-    return UINavigationController::of(stack.get()).top();
+  static UIViewController top(const Stack& stack) {
+    return UINavigationControllerState::of(stack.get()).top();
   }
   static std::size_t depth(const Stack& stack) {
-    return UINavigationController::of(stack.get()).stack().size();
+    return UINavigationControllerState::of(stack.get()).stack().size();
   }
 };
 
 TEST_F(UINavigationControllerTest, PresentingAStackTellsItsTopToo) {
   const auto a = showRoot(ProbeController::make("A"));
-  const auto stack = bridge::UINavigationController::withRoot(ProbeController::make("B"));
+  const auto stack = UINavigationController::withRoot(ProbeController::make("B"));
   a->present(stack, animated, {});
   EXPECT_THAT(takeCalls(), ElementsAre("A willDisappear", "B didLoad", "B willAppear"));
   wait(0.5);
@@ -59,7 +57,7 @@ TEST_F(UINavigationControllerTest, PushingTellsBothInThePlatformsOrder) {
   EXPECT_EQ(top(stack), b.get());
   wait(0.4);
   EXPECT_THAT(takeCalls(), ElementsAre("A didDisappear", "B didAppear"));
-  EXPECT_FALSE(UIView::of(a->view().get()).window());
+  EXPECT_FALSE(UIViewState::of(a->view().get()).window());
 }
 
 TEST_F(UINavigationControllerTest, TheBackButtonPops) {
@@ -124,14 +122,13 @@ TEST_F(UINavigationControllerTest, PoppingToTheRootSkipsWhatLiesBetween) {
   stack->push(b, atOnce);
   stack->push(ProbeController::make("C"), atOnce);
   takeCalls();
-  const auto popped = bridge::send<NSArray, "popToRootViewControllerAnimated:">(stack.get(), true);
+  const auto popped = send<NSArray, "popToRootViewControllerAnimated:">(stack.get(), true);
   EXPECT_EQ(popped.count(), 2u);
   wait(0.4);
   EXPECT_THAT(takeCalls(),
               ElementsAre("C willDisappear", "A willAppear", "C didDisappear", "A didAppear"));
   EXPECT_FALSE(b->navigationController());
-  EXPECT_FALSE(
-      (bridge::send<bridge::UIViewController, "popViewControllerAnimated:">(stack.get(), true)));
+  EXPECT_FALSE((send<UIViewController, "popViewControllerAnimated:">(stack.get(), true)));
 }
 
 TEST_F(UINavigationControllerTest, TheWholeStackCanBeReplaced) {
@@ -139,63 +136,62 @@ TEST_F(UINavigationControllerTest, TheWholeStackCanBeReplaced) {
   const auto stack = showStack(a);
   const auto b = ProbeController::make("B");
   const auto c = ProbeController::make("C");
-  bridge::send<void, "setViewControllers:animated:">(stack.get(), NSArray::of(b.get(), c.get()),
-                                                     false);
+  send<void, "setViewControllers:animated:">(stack.get(), NSArray::of(b.get(), c.get()), false);
   EXPECT_EQ(top(stack), c.get());
   EXPECT_FALSE(a->navigationController());
   EXPECT_EQ(b->navigationController(), stack.get());
-  bridge::send<void, "setViewControllers:animated:">(stack.get(), NSArray::of(b.get()), true);
+  send<void, "setViewControllers:animated:">(stack.get(), NSArray::of(b.get()), true);
   wait(0.4);
   EXPECT_EQ(top(stack), b.get());
-  EXPECT_EQ(UIView::of(b->view().get()).window(), window());
+  EXPECT_EQ(UIViewState::of(b->view().get()).window(), window());
 }
 
 TEST_F(UINavigationControllerTest, ScrollViewsKeepTheirContentOutOfTheBars) {
   const auto a = ProbeController::make("A");
-  const auto list = bridge::makeView<handles::UIScrollView>({{0, 0}, {375, 667}});
+  const auto list = bridge::makeView<UIScrollView>({{0, 0}, {375, 667}});
   list->setContentSize({375, 2000});
   a->view().addSubview(list);
   const auto stack = showStack(a);
-  EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), (EdgeInsets{.top = 64}));
+  EXPECT_EQ(UIScrollViewState::of(list.get()).adjustedContentInset(), (EdgeInsets{.top = 64}));
   EXPECT_EQ(list->contentOffset(), (CGPoint{0, -64}));
-  bridge::send<void, "setToolbarHidden:">(stack.get(), false);
-  bridge::send<void, "setNavigationBarHidden:">(stack.get(), true);
+  send<void, "setToolbarHidden:">(stack.get(), false);
+  send<void, "setNavigationBarHidden:">(stack.get(), true);
   application().prepareFrame();
-  EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), (EdgeInsets{.bottom = 44}));
+  EXPECT_EQ(UIScrollViewState::of(list.get()).adjustedContentInset(), (EdgeInsets{.bottom = 44}));
 }
 
 TEST_F(UINavigationControllerTest, AScrollViewThatComesLaterIsKeptOutToo) {
   const auto a = ProbeController::make("A");
   showStack(a);
-  const auto list = bridge::makeView<handles::UIScrollView>({{0, 0}, {375, 667}});
+  const auto list = bridge::makeView<UIScrollView>({{0, 0}, {375, 667}});
   a->view().addSubview(list);
   application().prepareFrame();
-  EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), (EdgeInsets{.top = 64}));
-  bridge::send<void, "setContentInsetAdjustmentBehavior:">(list.get(), NSInteger{2});
-  EXPECT_EQ(UIScrollView::of(list.get()).adjustedContentInset(), EdgeInsets{});
+  EXPECT_EQ(UIScrollViewState::of(list.get()).adjustedContentInset(), (EdgeInsets{.top = 64}));
+  send<void, "setContentInsetAdjustmentBehavior:">(list.get(), NSInteger{2});
+  EXPECT_EQ(UIScrollViewState::of(list.get()).adjustedContentInset(), EdgeInsets{});
 }
 
 TEST_F(UINavigationControllerTest, ALargeTitleMakesRoomBelowTheRowOfButtons) {
   const auto a = ProbeController::make("Albums");
-  const auto stack = bridge::UINavigationController::withRoot(a);
-  bridge::send<void, "setPrefersLargeTitles:">(stack->navigationBar(), true);
-  showRoot(Owned<bridge::UIViewController>::retain(stack.get()));
+  const auto stack = UINavigationController::withRoot(a);
+  send<void, "setPrefersLargeTitles:">(stack->navigationBar(), true);
+  showRoot(Owned<UIViewController>::retain(stack.get()));
   EXPECT_THAT(onScreen(stack->navigationBar()), ElementsAre(0, 20, 375, 96));
-  EXPECT_EQ(UIViewController::of(a.get()).safeArea().top, 116);
+  EXPECT_EQ(UIViewControllerState::of(a.get()).safeArea().top, 116);
   const auto b = ProbeController::make("B");
-  bridge::send<void, "setLargeTitleDisplayMode:">(b->navigationItem(), NSInteger{2});
+  send<void, "setLargeTitleDisplayMode:">(b->navigationItem(), NSInteger{2});
   stack->push(b, animated);
   wait(0.4);
   EXPECT_THAT(onScreen(stack->navigationBar()), ElementsAre(0, 20, 375, 44));
-  EXPECT_EQ(UIViewController::of(b.get()).safeArea().top, 64);
+  EXPECT_EQ(UIViewControllerState::of(b.get()).safeArea().top, 64);
 }
 
 TEST_F(UINavigationControllerTest, TheBarSlidesAwayAndComesBack) {
   const auto stack = showStack(ProbeController::make("A"));
-  bridge::send<void, "setNavigationBarHidden:animated:">(stack.get(), true, true);
+  send<void, "setNavigationBarHidden:animated:">(stack.get(), true, true);
   wait(0.3);
   EXPECT_FALSE(isShown("A"));
-  bridge::send<void, "setNavigationBarHidden:animated:">(stack.get(), false, true);
+  send<void, "setNavigationBarHidden:animated:">(stack.get(), false, true);
   wait(0.3);
   EXPECT_TRUE(isShown("A"));
   EXPECT_THAT(onScreen(stack->navigationBar()), ElementsAre(0, 20, 375, 44));
@@ -203,12 +199,11 @@ TEST_F(UINavigationControllerTest, TheBarSlidesAwayAndComesBack) {
 
 TEST_F(UINavigationControllerTest, TheToolbarShowsTheItemsOfTheTop) {
   const auto a = ProbeController::make("A");
-  const auto item = bridge::UIBarButtonItem::withTitle(bridge::NSString::make("Share it"),
-                                                       bridge::UIBarButtonItem::plain, a.get(),
-                                                       bridge::selector<"press:">());
+  const auto item = UIBarButtonItem::withTitle(NSString::make("Share it"), UIBarButtonItem::plain,
+                                               a.get(), selector<"press:">());
   const auto stack = showStack(a);
-  bridge::send<void, "setToolbarHidden:">(stack.get(), false);
-  bridge::send<void, "setToolbarItems:animated:">(a.get(), NSArray::of(item.get()), false);
+  send<void, "setToolbarHidden:">(stack.get(), false);
+  send<void, "setToolbarItems:animated:">(a.get(), NSArray::of(item.get()), false);
   tap("Share it");
   EXPECT_THAT(takeCalls(), ElementsAre("A pressed"));
   EXPECT_EQ(ProbeController::of(a.get()).sender, item.get());
@@ -216,9 +211,9 @@ TEST_F(UINavigationControllerTest, TheToolbarShowsTheItemsOfTheTop) {
 
 TEST_F(UINavigationControllerTest, AStackThatWasNeverShownTellsNobody) {
   const auto a = ProbeController::make("A");
-  const auto stack = bridge::UINavigationController::withRoot(a);
+  const auto stack = UINavigationController::withRoot(a);
   stack->push(ProbeController::make("B"), animated);
-  bridge::send<bridge::UIViewController, "popViewControllerAnimated:">(stack.get(), true);
+  send<UIViewController, "popViewControllerAnimated:">(stack.get(), true);
   EXPECT_THAT(takeCalls(), IsEmpty());
   EXPECT_EQ(top(stack), a.get());
 }
@@ -226,16 +221,16 @@ TEST_F(UINavigationControllerTest, AStackThatWasNeverShownTellsNobody) {
 TEST_F(UINavigationControllerTest, ScreensGoWhenTheyArePopped) {
   const auto stack = showStack(ProbeController::make("A"));
   const auto settle = [&] {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     stack->push(ProbeController::make("B"), animated);
     wait(0.4);
     tap("A");
     wait(0.4);
   };
   settle();
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   settle();
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

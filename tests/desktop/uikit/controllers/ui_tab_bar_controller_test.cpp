@@ -13,40 +13,38 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSArray;
-using bridge::Owned;
 using testing::ElementsAre;
 using testing::IsEmpty;
-constexpr auto animated = bridge::UIViewController::animated;
+constexpr auto animated = UIViewController::animated;
 
 class UITabBarControllerTest : public ControllerTest {
  protected:
   UITabBarControllerTest()
       : a(ProbeController::make("A")),
         b(ProbeController::make("B")),
-        stack(bridge::UINavigationController::withRoot(b)),
-        tabs(bridge::makeNew<handles::UITabBarController>()) {
-    bridge::send<void, "setTitle:">(stack.get(), bridge::NSString::make("Stack"));
+        stack(UINavigationController::withRoot(b)),
+        tabs(makeNew<UITabBarController>()) {
+    send<void, "setTitle:">(stack.get(), NSString::make("Stack"));
     tabs->setViewControllers(NSArray::of(a.get(), stack.get()));
-    showRoot(Owned<bridge::UIViewController>::retain(tabs.get()));
+    showRoot(Owned<UIViewController>::retain(tabs.get()));
   }
 
-  bridge::UIView bar() const { return UITabBarController::of(tabs.get()).tabBar(); }
+  UIView bar() const { return UITabBarControllerState::of(tabs.get()).tabBar(); }
   void tapTab(std::size_t index) const {
     application().prepareFrame();
     tap({375.0 * (static_cast<double>(index) + 0.5) / 2, 640});
   }
 
-  const Owned<bridge::UIViewController> a;
-  const Owned<bridge::UIViewController> b;
-  const Owned<bridge::UINavigationController> stack;
-  const Owned<handles::UITabBarController> tabs;
+  const Owned<UIViewController> a;
+  const Owned<UIViewController> b;
+  const Owned<UINavigationController> stack;
+  const Owned<UITabBarController> tabs;
 };
 
 TEST_F(UITabBarControllerTest, ShowsTheFirstScreenAboveTheBar) {
   EXPECT_EQ(tabs->selectedViewController(), a.get());
   EXPECT_THAT(onScreen(bar()), ElementsAre(0, 618, 375, 49));
-  EXPECT_EQ(UIViewController::of(a.get()).safeArea(), (EdgeInsets{.bottom = 49}));
+  EXPECT_EQ(UIViewControllerState::of(a.get()).safeArea(), (EdgeInsets{.bottom = 49}));
   EXPECT_TRUE(isShown("A"));
   EXPECT_TRUE(isShown("Stack"));
 }
@@ -56,7 +54,7 @@ TEST_F(UITabBarControllerTest, PressingATabChangesTheScreen) {
   EXPECT_THAT(takeCalls(), ElementsAre("A willDisappear", "B didLoad", "B willAppear",
                                        "A didDisappear", "B didAppear"));
   EXPECT_EQ(tabs->selectedViewController(), stack.get());
-  EXPECT_EQ(UIViewController::of(b.get()).safeArea(), (EdgeInsets{.top = 64, .bottom = 49}));
+  EXPECT_EQ(UIViewControllerState::of(b.get()).safeArea(), (EdgeInsets{.top = 64, .bottom = 49}));
   tapTab(0);
   EXPECT_THAT(takeCalls(),
               ElementsAre("B willDisappear", "A willAppear", "B didDisappear", "A didAppear"));
@@ -64,11 +62,11 @@ TEST_F(UITabBarControllerTest, PressingATabChangesTheScreen) {
 
 TEST_F(UITabBarControllerTest, PressingTheTabOfAStackAgainLeadsToItsRoot) {
   tapTab(1);
-  stack->push(ProbeController::make("C"), bridge::UIViewController::immediately);
+  stack->push(ProbeController::make("C"), UIViewController::immediately);
   takeCalls();
   tapTab(1);
   wait(0.4);
-  EXPECT_EQ(UINavigationController::of(stack.get()).top(), b.get());
+  EXPECT_EQ(UINavigationControllerState::of(stack.get()).top(), b.get());
   EXPECT_THAT(takeCalls(),
               ElementsAre("C willDisappear", "B willAppear", "C didDisappear", "B didAppear"));
 }
@@ -76,18 +74,18 @@ TEST_F(UITabBarControllerTest, PressingTheTabOfAStackAgainLeadsToItsRoot) {
 TEST_F(UITabBarControllerTest, AScreenThatHidesTheBarSlidesItAwayUntilItIsPopped) {
   tapTab(1);
   const auto c = ProbeController::make("C");
-  bridge::send<void, "setHidesBottomBarWhenPushed:">(c.get(), true);
+  send<void, "setHidesBottomBarWhenPushed:">(c.get(), true);
   stack->push(c, animated);
   wait(0.4);
   EXPECT_THAT(onScreen(bar()), ElementsAre(0, 667, 375, 49));
-  EXPECT_EQ(UIViewController::of(c.get()).safeArea(), (EdgeInsets{.top = 64}));
+  EXPECT_EQ(UIViewControllerState::of(c.get()).safeArea(), (EdgeInsets{.top = 64}));
   stack->push(ProbeController::make("D"), animated);
   wait(0.4);
   EXPECT_THAT(onScreen(bar()), ElementsAre(0, 667, 375, 49));
-  bridge::send<NSArray, "popToRootViewControllerAnimated:">(stack.get(), true);
+  send<NSArray, "popToRootViewControllerAnimated:">(stack.get(), true);
   wait(0.4);
   EXPECT_THAT(onScreen(bar()), ElementsAre(0, 618, 375, 49));
-  EXPECT_EQ(UIViewController::of(b.get()).safeArea(), (EdgeInsets{.top = 64, .bottom = 49}));
+  EXPECT_EQ(UIViewControllerState::of(b.get()).safeArea(), (EdgeInsets{.top = 64, .bottom = 49}));
 }
 
 TEST_F(UITabBarControllerTest, PresentingFromWithinCoversTheTabsToo) {
@@ -97,12 +95,12 @@ TEST_F(UITabBarControllerTest, PresentingFromWithinCoversTheTabsToo) {
   wait(0.5);
   EXPECT_THAT(takeCalls(), ElementsAre("C didLoad", "B willDisappear", "C willAppear",
                                        "C didAppear", "B didDisappear"));
-  EXPECT_FALSE(UIView::of(bar().get()).window());
+  EXPECT_FALSE(UIViewState::of(bar().get()).window());
 }
 
 TEST_F(UITabBarControllerTest, OnlyItsOwnScreensCanBeSelected) {
   tabs->setSelectedIndex(7);
-  bridge::send<void, "setSelectedViewController:">(tabs.get(), ProbeController::make("C").get());
+  send<void, "setSelectedViewController:">(tabs.get(), ProbeController::make("C").get());
   EXPECT_EQ(tabs->selectedViewController(), a.get());
   EXPECT_THAT(takeCalls(), IsEmpty());
   tabs->setSelectedIndex(1);
@@ -114,33 +112,33 @@ TEST_F(UITabBarControllerTest, ScreensCanBeReplacedAndTakenAway) {
   tabs->setViewControllers(NSArray::of(c.get()));
   wait(0.1);
   EXPECT_EQ(tabs->selectedViewController(), c.get());
-  EXPECT_TRUE(UIView::of(c->view().get()).window());
-  EXPECT_FALSE(UIView::of(a->view().get()).window());
+  EXPECT_TRUE(UIViewState::of(c->view().get()).window());
+  EXPECT_FALSE(UIViewState::of(a->view().get()).window());
   tabs->setViewControllers({});
   wait(0.1);
   EXPECT_FALSE(tabs->selectedViewController());
-  EXPECT_FALSE(UIView::of(c->view().get()).window());
+  EXPECT_FALSE(UIViewState::of(c->view().get()).window());
 }
 
 TEST_F(UITabBarControllerTest, ItemsFollowTheTitlesOfTheirScreens) {
-  bridge::send<void, "setTitle:">(a.get(), bridge::NSString::make("Photos"));
+  send<void, "setTitle:">(a.get(), NSString::make("Photos"));
   EXPECT_TRUE(isShown("Photos"));
-  const auto item = bridge::send<bridge::NSObject, "tabBarItem">(a.get());
+  const auto item = send<NSObject, "tabBarItem">(a.get());
   EXPECT_EQ(UITabBarItem::of(item.get()).title().utf8(), "Photos");
 }
 
 TEST_F(UITabBarControllerTest, NothingIsLeftOfTheTabs) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
-    const auto other = bridge::makeNew<handles::UITabBarController>();
+    const AutoreleasePool pool;
+    const auto other = makeNew<UITabBarController>();
     other->setViewControllers(
         NSArray::of(ProbeController::make("C").get(),
-                    bridge::UINavigationController::withRoot(ProbeController::make("D")).get()));
+                    UINavigationController::withRoot(ProbeController::make("D")).get()));
     other->view();
     other->setSelectedIndex(1);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -13,25 +13,23 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::Block;
-using bridge::Owned;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using How = bridge::UIViewController::Animated;
-constexpr How animated = bridge::UIViewController::animated;
-constexpr How atOnce = bridge::UIViewController::immediately;
+using How = UIViewController::Animated;
+constexpr How animated = UIViewController::animated;
+constexpr How atOnce = UIViewController::immediately;
 
 class UIViewControllerTest : public ControllerTest {
  protected:
-  static bridge::UIViewController presentedBy(const Owned<bridge::UIViewController>& controller) {
-    return bridge::send<bridge::UIViewController, "presentedViewController">(controller.get());
+  static UIViewController presentedBy(const Owned<UIViewController>& controller) {
+    return send<UIViewController, "presentedViewController">(controller.get());
   }
 };
 
 TEST_F(UIViewControllerTest, LoadsItsViewWhenItIsFirstAskedForIt) {
   const auto a = ProbeController::make("A");
-  EXPECT_FALSE((bridge::send<bool, "isViewLoaded">(a.get())));
+  EXPECT_FALSE((send<bool, "isViewLoaded">(a.get())));
   EXPECT_THAT(takeCalls(), IsEmpty());
   EXPECT_EQ(a->view().frame(), (CGRect{{0, 0}, {375, 667}}));
   EXPECT_THAT(takeCalls(), ElementsAre("A didLoad"));
@@ -62,15 +60,15 @@ TEST_F(UIViewControllerTest, PresentingTellsBothInThePlatformsOrder) {
   EXPECT_THAT(takeCalls(), IsEmpty());
   wait(0.1);
   EXPECT_THAT(takeCalls(), ElementsAre("B didAppear", "A didDisappear", "completed"));
-  EXPECT_FALSE(UIView::of(a->view().get()).window());
+  EXPECT_FALSE(UIViewState::of(a->view().get()).window());
 
   b->dismiss(animated, Block<void()>([] { ProbeController::calls.push_back("completed"); }));
   EXPECT_THAT(takeCalls(), ElementsAre("B willDisappear", "A willAppear"));
   wait(0.45);
   EXPECT_THAT(takeCalls(), ElementsAre("A didAppear", "B didDisappear", "completed"));
   EXPECT_FALSE(presentedBy(a));
-  EXPECT_TRUE(UIView::of(a->view().get()).window());
-  EXPECT_FALSE(UIView::of(b->view().get()).window());
+  EXPECT_TRUE(UIViewState::of(a->view().get()).window());
+  EXPECT_FALSE(UIViewState::of(b->view().get()).window());
 }
 
 TEST_F(UIViewControllerTest, WithoutAnimationAllIsDoneAtOnce) {
@@ -97,8 +95,8 @@ TEST_F(UIViewControllerTest, APresentedViewSlidesUpFromBelowTheScreen) {
 
 TEST_F(UIViewControllerTest, TouchesGoNowhereWhileOneTakesThePlaceOfTheOther) {
   const auto a = showRoot(ProbeController::make("A"));
-  const auto button = bridge::makeView<bridge::UIControl>({{0, 0}, {375, 667}});
-  button->addTarget(a.get(), bridge::selector<"press:">(), bridge::touchUpInside);
+  const auto button = bridge::makeView<UIControl>({{0, 0}, {375, 667}});
+  button->addTarget(a.get(), selector<"press:">(), touchUpInside);
   a->view().addSubview(button);
   tap({100, 100});
   EXPECT_THAT(takeCalls(), ElementsAre("A pressed"));
@@ -124,7 +122,7 @@ TEST_F(UIViewControllerTest, APresentationDuringAnotherIsRefusedAndLogged) {
   EXPECT_THAT(platformLog()[1], HasSubstr("already presenting"));
   wait(0.5);
   EXPECT_FALSE(completed);
-  EXPECT_FALSE((bridge::send<bool, "isViewLoaded">(c.get())));
+  EXPECT_FALSE((send<bool, "isViewLoaded">(c.get())));
 }
 
 TEST_F(UIViewControllerTest, WhatIsNotInTheWindowOrIsShownAlreadyPresentsNothing) {
@@ -178,15 +176,15 @@ TEST_F(UIViewControllerTest, APresenterDismissesEverythingAboveIt) {
   EXPECT_THAT(takeCalls(),
               ElementsAre("C willDisappear", "A willAppear", "A didAppear", "C didDisappear"));
   EXPECT_FALSE(presentedBy(a));
-  EXPECT_EQ(UIView::of(window()).subviews().size(), 1u);
+  EXPECT_EQ(UIViewState::of(window()).subviews().size(), 1u);
 }
 
 TEST_F(UIViewControllerTest, ControllersGoWhenTheyAreDismissed) {
   const auto a = showRoot(ProbeController::make("A"));
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
-    const auto navigation = bridge::UINavigationController::withRoot(ProbeController::make("B"));
+    const AutoreleasePool pool;
+    const auto navigation = UINavigationController::withRoot(ProbeController::make("B"));
     a->present(navigation, animated, {});
     wait(0.5);
     navigation->push(ProbeController::make("C"), animated);
@@ -194,32 +192,32 @@ TEST_F(UIViewControllerTest, ControllersGoWhenTheyAreDismissed) {
     navigation->dismiss(animated, {});
     wait(0.5);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 TEST_F(UIViewControllerTest, NothingIsLeftOfAnApplicationThatGoesInTheMiddle) {
   showRoot(ProbeController::make("warm"));
   resetApplication();
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
-    const auto made = bridge::makeView<handles::UIWindow>(rectOfSize(screen().size));
+    const AutoreleasePool pool;
+    const auto made = bridge::makeView<UIWindow>(rectOfSize(screen().size));
     made->makeKeyAndVisible();
     const auto a = showRoot(ProbeController::make("A"));
     a->present(ProbeController::make("B"), animated, Block<void()>([a] { a->view(); }));
     wait(0.1);
     resetApplication();
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 TEST_F(UIViewControllerTest, AChildInsideASubviewHearsOfItsParentsComingAndGoing) {
   const auto a = ProbeController::make("A");
   const auto b = ProbeController::make("B");
-  bridge::send<void, "addChildViewController:">(a.get(), b.get());
+  send<void, "addChildViewController:">(a.get(), b.get());
   a->view().addSubview(b->view());
   showRoot(a);
-  EXPECT_EQ((bridge::send<bridge::UIViewController, "parentViewController">(b.get())), a.get());
+  EXPECT_EQ((send<UIViewController, "parentViewController">(b.get())), a.get());
   a->present(ProbeController::make("C"), atOnce, {});
   EXPECT_THAT(takeCalls(),
               ElementsAre("C didLoad", "A willDisappear", "B willDisappear", "C willAppear",
@@ -230,8 +228,8 @@ TEST_F(UIViewControllerTest, AViewsCommandsGoOnToItsControllerAndItsPresenter) {
   const auto a = showRoot(ProbeController::make("A"));
   const auto b = ProbeController::make("B");
   a->present(b, atOnce, {});
-  const auto next = [](bridge::UIResponder responder) {
-    return bridge::send<bridge::UIResponder, "nextResponder">(responder);
+  const auto next = [](UIResponder responder) {
+    return send<UIResponder, "nextResponder">(responder);
   };
   EXPECT_EQ(next(b->view()), b.get());
   EXPECT_EQ(next(b.get()), a.get());
@@ -240,13 +238,12 @@ TEST_F(UIViewControllerTest, AViewsCommandsGoOnToItsControllerAndItsPresenter) {
 TEST_F(UIViewControllerTest, AScreenOfAStackDismissesWhatItShowsAndThenTheStack) {
   const auto a = showRoot(ProbeController::make("A"));
   const auto b = ProbeController::make("B");
-  const auto stack = bridge::UINavigationController::withRoot(b);
+  const auto stack = UINavigationController::withRoot(b);
   a->present(stack, atOnce, {});
-  const auto alert = bridge::UIAlertController::make(bridge::NSString::make("Title"), {},
-                                                     bridge::UIAlertController::alert);
+  const auto alert = UIAlertController::make(NSString::make("Title"), {}, UIAlertController::alert);
   b->present(alert, atOnce, {});
   EXPECT_EQ(presentedBy(b), alert);
-  EXPECT_EQ((bridge::send<bridge::UIViewController, "presentingViewController">(b.get())), a.get());
+  EXPECT_EQ((send<UIViewController, "presentingViewController">(b.get())), a.get());
   b->dismiss(animated, {});
   wait(0.5);
   EXPECT_FALSE(presentedBy(b));
@@ -254,18 +251,17 @@ TEST_F(UIViewControllerTest, AScreenOfAStackDismissesWhatItShowsAndThenTheStack)
   b->dismiss(animated, {});
   wait(0.5);
   EXPECT_FALSE(presentedBy(a));
-  EXPECT_TRUE(UIView::of(a->view().get()).window());
+  EXPECT_TRUE(UIViewState::of(a->view().get()).window());
 }
 
 TEST_F(UIViewControllerTest, ADoneButtonOnTheBarDismisses) {
   const auto a = showRoot(ProbeController::make("A"));
   const auto b = ProbeController::make("B");
   ProbeController::of(b.get()).onPress = [&b] { b->dismiss(animated, {}); };
-  const auto done = bridge::UIBarButtonItem::withTitle(bridge::NSString::make("Dismiss"),
-                                                       bridge::UIBarButtonItem::done, b.get(),
-                                                       bridge::selector<"press:">());
-  b->navigationItem().setLeftBarButtonItems(bridge::NSArray::of(done.get()));
-  a->present(bridge::UINavigationController::withRoot(b), animated, {});
+  const auto done = UIBarButtonItem::withTitle(NSString::make("Dismiss"), UIBarButtonItem::done,
+                                               b.get(), selector<"press:">());
+  b->navigationItem().setLeftBarButtonItems(NSArray::of(done.get()));
+  a->present(UINavigationController::withRoot(b), animated, {});
   wait(0.5);
   takeCalls();
   tap("Dismiss");
@@ -290,9 +286,9 @@ TEST_F(UIViewControllerTest, EveryScreenFillsAWindowThatTurns) {
 
 TEST_F(UIViewControllerTest, ATitleReachesTheItemsMadeOfIt) {
   const auto a = ProbeController::make("A");
-  EXPECT_EQ((bridge::send<bridge::NSString, "title">(a->navigationItem())).utf8(), "A");
-  bridge::send<void, "setTitle:">(a.get(), bridge::NSString::make("Next"));
-  EXPECT_EQ((bridge::send<bridge::NSString, "title">(a->navigationItem())).utf8(), "Next");
+  EXPECT_EQ((send<NSString, "title">(a->navigationItem())).utf8(), "A");
+  send<void, "setTitle:">(a.get(), NSString::make("Next"));
+  EXPECT_EQ((send<NSString, "title">(a->navigationItem())).utf8(), "Next");
 }
 
 }  // namespace

@@ -13,29 +13,26 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSString;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-bridge::UIImage square(int side) {
+UIImage square(int side) {
   Bitmap bitmap{side, side, {}};
   bitmap.pixels.resize(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
-  return UIImage::make(std::make_shared<const Bitmap>(std::move(bitmap)), 1);
+  return UIImageState::make(std::make_shared<const Bitmap>(std::move(bitmap)), 1);
 }
 
 class UIButtonTest : public TouchTest {
  protected:
-  static UIButton& of(bridge::UIButton button) { return UIButton::of(button.get()); }
-  static CGSize fitting(bridge::UIButton button) {
-    return bridge::send<CGSize, "sizeThatFits:">(button, CGSize{});
+  static UIButtonState& of(UIButton button) { return UIButtonState::of(button.get()); }
+  static CGSize fitting(UIButton button) { return send<CGSize, "sizeThatFits:">(button, CGSize{}); }
+  static void set(UIButton button, UIImage image, NSUInteger state) {
+    send<void, "setImage:forState:">(button, image, state);
   }
-  static void set(bridge::UIButton button, bridge::UIImage image, NSUInteger state) {
-    bridge::send<void, "setImage:forState:">(button, image, state);
-  }
-  static Color colorOf(bridge::UIButton button) { return of(button).currentTitleColor(); }
+  static Color colorOf(UIButton button) { return of(button).currentTitleColor(); }
 
-  bridge::UIButton plain = UIButton::withType(UIButton::custom);
-  bridge::UIButton info = bridge::UIButton::withType(bridge::UIButton::infoLight);
+  UIButton plain = UIButtonState::withType(UIButtonState::custom);
+  UIButton info = UIButton::withType(UIButton::infoLight);
 };
 
 TEST_F(UIButtonTest, InfoLightIsTwentyTwoPointsInTheTintColor) {
@@ -47,7 +44,7 @@ TEST_F(UIButtonTest, InfoLightIsTwentyTwoPointsInTheTintColor) {
   of(info).drawContent(&canvas);
   ASSERT_FALSE(canvas.strokes.empty());
   for (const Color& color : canvas.strokes) EXPECT_EQ(color, colors::tint);
-  bridge::send<void, "setTintColor:">(info, bridge::UIColor::whiteColor());
+  send<void, "setTintColor:">(info, UIColor::whiteColor());
   RecordingCanvas tinted;
   of(info).drawContent(&tinted);
   EXPECT_EQ(tinted.strokes.at(0), colors::white);
@@ -57,23 +54,23 @@ TEST_F(UIButtonTest, TypesWithASymbolDrawIt) {
   const struct {
     NSInteger type;
     bool hasSymbol;
-  } cases[] = {{UIButton::custom, false},
-               {UIButton::system, false},
-               {UIButton::infoDark, true},
-               {UIButton::detailDisclosure, true},
-               {UIButton::contactAdd, true},
+  } cases[] = {{UIButtonState::custom, false},
+               {UIButtonState::system, false},
+               {UIButtonState::infoDark, true},
+               {UIButtonState::detailDisclosure, true},
+               {UIButtonState::contactAdd, true},
                {99, false},
                {-1, false}};
   for (const auto& [type, hasSymbol] : cases) {
     RecordingCanvas canvas;
-    of(UIButton::withType(type)).drawContent(&canvas);
+    of(UIButtonState::withType(type)).drawContent(&canvas);
     EXPECT_EQ(!canvas.strokes.empty(), hasSymbol) << type;
   }
 }
 
 TEST_F(UIButtonTest, ATitleForOneStateIsShownInThatStateOnly) {
-  plain.setTitle(NSString::make("normal"), bridge::stateNormal);
-  plain.setTitle(NSString::make("pressed"), bridge::stateHighlighted);
+  plain.setTitle(NSString::make("normal"), stateNormal);
+  plain.setTitle(NSString::make("pressed"), stateHighlighted);
   plain.setFrame({{100, 100}, {80, 40}});
   window().addSubview(plain);
   EXPECT_EQ(of(plain).currentTitle().utf8(), "normal");
@@ -81,14 +78,14 @@ TEST_F(UIButtonTest, ATitleForOneStateIsShownInThatStateOnly) {
   EXPECT_EQ(of(plain).currentTitle().utf8(), "pressed");
   touches().up({120, 120});
   EXPECT_EQ(of(plain).currentTitle().utf8(), "normal");
-  bridge::send<void, "setSelected:">(plain, true);
+  send<void, "setSelected:">(plain, true);
   EXPECT_EQ(of(plain).currentTitle().utf8(), "normal");
-  plain.setTitle({}, bridge::stateNormal);
+  plain.setTitle({}, stateNormal);
   EXPECT_FALSE(of(plain).currentTitle());
 }
 
 TEST_F(UIButtonTest, TheLabelShowsTheTitle) {
-  plain.setTitle(NSString::make("title"), bridge::stateNormal);
+  plain.setTitle(NSString::make("title"), stateNormal);
   EXPECT_EQ(plain.titleLabel().text().utf8(), "title");
   EXPECT_EQ(plain.titleLabel(), plain.titleLabel());
   EXPECT_EQ(plain.subviews().count(), 1u);
@@ -96,59 +93,58 @@ TEST_F(UIButtonTest, TheLabelShowsTheTitle) {
 
 TEST_F(UIButtonTest, TitleColorsGoByState) {
   EXPECT_EQ(colorOf(plain), colors::white);
-  EXPECT_EQ(colorOf(UIButton::withType(UIButton::system)), colors::tint);
-  plain.setTitleColor(bridge::UIColor::blackColor(), bridge::stateNormal);
+  EXPECT_EQ(colorOf(UIButtonState::withType(UIButtonState::system)), colors::tint);
+  plain.setTitleColor(UIColor::blackColor(), stateNormal);
   EXPECT_EQ(colorOf(plain), colors::black);
-  plain.setTitleColor(bridge::UIColor::greenColor(), bridge::stateHighlighted);
-  bridge::send<void, "setHighlighted:">(plain, true);
+  plain.setTitleColor(UIColor::greenColor(), stateHighlighted);
+  send<void, "setHighlighted:">(plain, true);
   EXPECT_EQ(colorOf(plain), (Color{0, 1, 0, 1}));
-  bridge::send<void, "setHighlighted:">(plain, false);
+  send<void, "setHighlighted:">(plain, false);
   EXPECT_EQ(colorOf(plain), colors::black);
 }
 
 TEST_F(UIButtonTest, IsAsLargeAsItsImage) {
-  set(plain, square(30), bridge::stateNormal);
+  set(plain, square(30), stateNormal);
   EXPECT_EQ(fitting(plain), (CGSize{30, 30}));
   plain.setFrame({{0, 0}, {50, 40}});
-  bridge::send<void, "layoutIfNeeded">(plain);
+  send<void, "layoutIfNeeded">(plain);
   EXPECT_EQ(of(plain).imageView().frame(), (CGRect{{10, 5}, {30, 30}}));
 }
 
 TEST_F(UIButtonTest, HasRoomAroundItsTitle) {
-  plain.setTitle(NSString::make("a title"), bridge::stateNormal);
-  const CGSize title =
-      bridge::send<CGSize, "sizeThatFits:">(plain.titleLabel(), CGSize{1000, 1000});
+  plain.setTitle(NSString::make("a title"), stateNormal);
+  const CGSize title = send<CGSize, "sizeThatFits:">(plain.titleLabel(), CGSize{1000, 1000});
   const CGSize size = fitting(plain);
   EXPECT_GE(size.width, title.width);
   EXPECT_GE(size.height, title.height + 12);
   plain.sizeToFit();
-  bridge::send<void, "layoutIfNeeded">(plain);
+  send<void, "layoutIfNeeded">(plain);
   const CGRect frame = plain.titleLabel().frame();
   EXPECT_GE(frame.origin.x, 0);
   EXPECT_LE(right(frame), size.width);
 }
 
 TEST_F(UIButtonTest, AnImageIsDimmedUnderTheFinger) {
-  set(plain, square(30), bridge::stateNormal);
+  set(plain, square(30), stateNormal);
   plain.setFrame({{100, 100}, {30, 30}});
   window().addSubview(plain);
-  const auto alpha = [&] { return UIView::of(of(plain).imageView().get()).alpha(); };
+  const auto alpha = [&] { return UIViewState::of(of(plain).imageView().get()).alpha(); };
   touches().down({110, 110});
   EXPECT_EQ(alpha(), 0.5);
   touches().up({110, 110});
   EXPECT_EQ(alpha(), 1);
-  bridge::send<void, "setAdjustsImageWhenHighlighted:">(plain, false);
+  send<void, "setAdjustsImageWhenHighlighted:">(plain, false);
   touches().down({110, 110});
   EXPECT_EQ(alpha(), 1);
 }
 
 TEST_F(UIButtonTest, ABackgroundImageFillsIt) {
-  bridge::send<void, "setBackgroundImage:forState:">(plain, square(1), NSUInteger{1});
+  send<void, "setBackgroundImage:forState:">(plain, square(1), NSUInteger{1});
   plain.setFrame({{0, 0}, {60, 20}});
   RecordingCanvas canvas;
   of(plain).drawContent(&canvas);
   EXPECT_THAT(canvas.images, IsEmpty());
-  bridge::send<void, "setHighlighted:">(plain, true);
+  send<void, "setHighlighted:">(plain, true);
   of(plain).drawContent(&canvas);
   EXPECT_THAT(canvas.images, ElementsAre(CGRect{{0, 0}, {60, 20}}));
 }
@@ -156,22 +152,22 @@ TEST_F(UIButtonTest, ABackgroundImageFillsIt) {
 TEST_F(UIButtonTest, TellsItsTargetsOfATap) {
   info.setFrame({{100, 100}, {22, 22}});
   window().addSubview(info);
-  info.addTarget(probe, bridge::selector<"act:">(), bridge::touchUpInside);
+  info.addTarget(probe, selector<"act:">(), touchUpInside);
   tap({110, 110});
   EXPECT_THAT(Probe::of(probe.get()).told, ElementsAre("act:"));
 }
 
 TEST_F(UIButtonTest, LeavesNothingBehind) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool inner;
-    const auto button = UIButton::withType(UIButton::system);
-    button.setTitle(NSString::make("title"), bridge::stateNormal);
-    set(button, square(3), bridge::stateNormal);
-    button.setTitleColor(bridge::UIColor::blackColor(), bridge::stateHighlighted);
-    EXPECT_GT(bridge::liveBoundObjects(), before);
+    const AutoreleasePool inner;
+    const auto button = UIButtonState::withType(UIButtonState::system);
+    button.setTitle(NSString::make("title"), stateNormal);
+    set(button, square(3), stateNormal);
+    button.setTitleColor(UIColor::blackColor(), stateHighlighted);
+    EXPECT_GT(liveBoundObjects(), before);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::selector;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -16,18 +15,17 @@ class UIControlTest : public TouchTest {
  protected:
   UIControlTest() { window().addSubview(control); }
 
-  void add(SEL action, NSUInteger events = UIControl::touchUpInside) {
+  void add(SEL action, NSUInteger events = UIControlState::touchUpInside) {
     state().addTarget(probe, action, events);
   }
-  UIControl& state() { return UIControl::of(control.get()); }
+  UIControlState& state() { return UIControlState::of(control.get()); }
 
-  bridge::Owned<bridge::UIControl> control =
-      bridge::makeView<bridge::UIControl>({{100, 100}, {50, 20}});
+  Owned<UIControl> control = bridge::makeView<UIControl>({{100, 100}, {50, 20}});
   CGPoint inside{110, 110};
 };
 
 TEST_F(UIControlTest, ActsWhenTheFingerIsLiftedInside) {
-  control->addTarget(probe, selector<"act:">(), bridge::touchUpInside);
+  control->addTarget(probe, selector<"act:">(), touchUpInside);
   touches().down(inside);
   EXPECT_THAT(of(probe).told, IsEmpty());
   touches().up(inside);
@@ -35,8 +33,8 @@ TEST_F(UIControlTest, ActsWhenTheFingerIsLiftedInside) {
 }
 
 TEST_F(UIControlTest, ATargetAddedTwiceActsOnce) {
-  control->addTarget(probe, selector<"act:">(), bridge::touchUpInside);
-  control->addTarget(probe, selector<"act:">(), bridge::touchUpInside);
+  control->addTarget(probe, selector<"act:">(), touchUpInside);
+  control->addTarget(probe, selector<"act:">(), touchUpInside);
   tap(inside);
   EXPECT_THAT(of(probe).told, ElementsAre("act:"));
 }
@@ -58,7 +56,7 @@ TEST_F(UIControlTest, AFingerMayLeaveBySeventyPoints) {
                {{110, 100 - 69}, true},
                {{110, 100 - 71}, false}};
   add(selector<"act">());
-  add(selector<"act:">(), UIControl::touchUpOutside);
+  add(selector<"act:">(), UIControlState::touchUpOutside);
   for (const auto& [end, acts] : cases) {
     of(probe).told.clear();
     touches().down(inside);
@@ -70,9 +68,9 @@ TEST_F(UIControlTest, AFingerMayLeaveBySeventyPoints) {
 }
 
 TEST_F(UIControlTest, TellsOfEveryStepOfAFinger) {
-  add(selector<"act">(), UIControl::touchDown | UIControl::touchDragExit);
-  add(selector<"act:">(), UIControl::touchDragInside | UIControl::touchDragEnter);
-  add(selector<"act:event:">(), UIControl::touchDragOutside | UIControl::touchCancel);
+  add(selector<"act">(), UIControlState::touchDown | UIControlState::touchDragExit);
+  add(selector<"act:">(), UIControlState::touchDragInside | UIControlState::touchDragEnter);
+  add(selector<"act:event:">(), UIControlState::touchDragOutside | UIControlState::touchCancel);
   touches().down(inside);
   touches().move({115, 115});
   touches().move({300, 115});
@@ -90,21 +88,21 @@ TEST_F(UIControlTest, TellsOfEveryStepOfAFinger) {
 
 TEST_F(UIControlTest, IsHighlightedUnderTheFinger) {
   touches().down(inside);
-  EXPECT_EQ(state().state(), UIControl::highlighted);
+  EXPECT_EQ(state().state(), UIControlState::highlighted);
   EXPECT_TRUE(state().isTracking());
   touches().up(inside);
-  EXPECT_EQ(state().state(), UIControl::normal);
+  EXPECT_EQ(state().state(), UIControlState::normal);
   EXPECT_FALSE(state().isTracking());
 }
 
 TEST_F(UIControlTest, DoesNothingWhileDisabled) {
   add(selector<"act">());
-  bridge::send<void, "setEnabled:">(control.get(), false);
+  send<void, "setEnabled:">(control.get(), false);
   tap(inside);
-  EXPECT_EQ(state().state(), UIControl::disabled);
-  bridge::send<void, "setEnabled:">(control.get(), true);
+  EXPECT_EQ(state().state(), UIControlState::disabled);
+  send<void, "setEnabled:">(control.get(), true);
   touches().down(inside);
-  bridge::send<void, "setEnabled:">(control.get(), false);
+  send<void, "setEnabled:">(control.get(), false);
   touches().up(inside);
   EXPECT_THAT(of(probe).told, IsEmpty());
 }
@@ -113,37 +111,37 @@ TEST_F(UIControlTest, TargetsAreTakenAwayByWhatTheyShare) {
   const auto other = Probe::make();
   const auto setUp = [&] {
     state().removeTarget({}, nullptr, ~NSUInteger{0});
-    add(selector<"act">(), UIControl::touchUpInside | UIControl::touchDown);
+    add(selector<"act">(), UIControlState::touchUpInside | UIControlState::touchDown);
     add(selector<"act:">());
-    state().addTarget(other, selector<"act:">(), UIControl::touchUpInside);
+    state().addTarget(other, selector<"act:">(), UIControlState::touchUpInside);
   };
   setUp();
-  state().removeTarget(probe, selector<"act">(), UIControl::touchDown);
+  state().removeTarget(probe, selector<"act">(), UIControlState::touchDown);
   EXPECT_EQ(state().targets().size(), 3u);
-  state().removeTarget(probe, nullptr, UIControl::touchUpInside);
+  state().removeTarget(probe, nullptr, UIControlState::touchUpInside);
   EXPECT_EQ(state().targets().size(), 1u);
   setUp();
-  state().removeTarget({}, selector<"act:">(), UIControl::touchUpInside);
+  state().removeTarget({}, selector<"act:">(), UIControlState::touchUpInside);
   EXPECT_EQ(state().targets().size(), 1u);
 }
 
 TEST_F(UIControlTest, AnswersWhoIsTold) {
   add(selector<"act:">());
-  add(selector<"act">(), UIControl::touchDown);
-  const auto names = bridge::send<bridge::NSArray, "actionsForTarget:forControlEvent:">(
-      control.get(), probe.get(), NSUInteger{UIControl::touchUpInside});
+  add(selector<"act">(), UIControlState::touchDown);
+  const auto names = send<NSArray, "actionsForTarget:forControlEvent:">(
+      control.get(), probe.get(), NSUInteger{UIControlState::touchUpInside});
   ASSERT_EQ(names.count(), 1u);
-  EXPECT_EQ(bridge::NSString(names.at(0).get()).utf8(), "act:");
-  EXPECT_EQ((bridge::send<NSUInteger, "allControlEvents">(control.get())),
-            NSUInteger{UIControl::touchUpInside | UIControl::touchDown});
-  const auto targets = bridge::send<bridge::NSSet, "allTargets">(control.get());
+  EXPECT_EQ(NSString(names.at(0).get()).utf8(), "act:");
+  EXPECT_EQ((send<NSUInteger, "allControlEvents">(control.get())),
+            NSUInteger{UIControlState::touchUpInside | UIControlState::touchDown});
+  const auto targets = send<NSSet, "allTargets">(control.get());
   EXPECT_EQ(targets.anyObject(), probe.get());
 }
 
 TEST_F(UIControlTest, AnActionMayTakeTheControlAway) {
   const auto other = Probe::make();
   add(selector<"act">());
-  state().addTarget(other, selector<"act">(), UIControl::touchUpInside);
+  state().addTarget(other, selector<"act">(), UIControlState::touchUpInside);
   of(probe).onAction = [&] {
     control->removeFromSuperview();
     control.reset();
@@ -153,7 +151,7 @@ TEST_F(UIControlTest, AnActionMayTakeTheControlAway) {
 }
 
 TEST_F(UIControlTest, NobodyIsToldOnceItIsOffScreen) {
-  add(selector<"act">(), UIControl::touchUpInside | UIControl::touchUpOutside);
+  add(selector<"act">(), UIControlState::touchUpInside | UIControlState::touchUpOutside);
   touches().down(inside);
   control->removeFromSuperview();
   probe.reset();
@@ -163,7 +161,7 @@ TEST_F(UIControlTest, NobodyIsToldOnceItIsOffScreen) {
 
 TEST_F(UIControlTest, KeepsATapFromTheViewsAroundIt) {
   const auto around = Probe::make();
-  const auto recognizer = recognize<handles::UITapGestureRecognizer>(window(), around);
+  const auto recognizer = recognize<UITapGestureRecognizer>(window(), around);
   add(selector<"act">());
   tap(inside);
   EXPECT_THAT(of(around).told, IsEmpty());
@@ -173,9 +171,9 @@ TEST_F(UIControlTest, KeepsATapFromTheViewsAroundIt) {
 }
 
 TEST_F(UIControlTest, SendsActionsWithoutATouch) {
-  add(selector<"act:event:">(), UIControl::valueChanged);
-  bridge::send<void, "sendActionsForControlEvents:">(control.get(),
-                                                     NSUInteger{UIControl::valueChanged});
+  add(selector<"act:event:">(), UIControlState::valueChanged);
+  send<void, "sendActionsForControlEvents:">(control.get(),
+                                             NSUInteger{UIControlState::valueChanged});
   EXPECT_THAT(of(probe).told, ElementsAre("act:event: without an event"));
 }
 

@@ -16,16 +16,13 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSString;
-using bridge::send;
-
 // Counts what a text view tells its delegate.
-class SelectionListener : public bridge::Bound<SelectionListener, bridge::NSObject> {
+class SelectionListener : public Bound<SelectionListener, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<SelectionListener>("SelectionListener")
+        ClassBuilder<SelectionListener>("SelectionListener")
             .method<"textViewDidChangeSelection:", &SelectionListener::selectionChanged>()
             .build();
     return made;
@@ -33,17 +30,16 @@ class SelectionListener : public bridge::Bound<SelectionListener, bridge::NSObje
   int changes = 0;
 
  private:
-  void selectionChanged(bridge::NSObject) { ++changes; }
+  void selectionChanged(NSObject) { ++changes; }
 };
 
 // At 10 points a letter is 6 points wide and a line of Courier is 10 high.
 class UITextViewTest : public ApplicationTest {
  protected:
   UITextViewTest() {
-    listener = bridge::Owned<bridge::NSObject>::adopt(
-        send<bridge::NSObject, "new">(SelectionListener::classObject()));
-    view = bridge::makeView<bridge::UITextView>({{0, 0}, {130, 200}});
-    view->setFont(bridge::UIFont::named(NSString::make("Courier"), 10));
+    listener = Owned<NSObject>::adopt(send<NSObject, "new">(SelectionListener::classObject()));
+    view = bridge::makeView<UITextView>({{0, 0}, {130, 200}});
+    view->setFont(UIFont::named(NSString::make("Courier"), 10));
     view->setEditable(false);
     view->setDelegate(listener);
     window().addSubview(view);
@@ -54,7 +50,7 @@ class UITextViewTest : public ApplicationTest {
     application().prepareFrame();
   }
   int changes() const { return SelectionListener::of(listener.get()).changes; }
-  UITextView& state() const { return UITextView::of(view.get()); }
+  UITextViewState& state() const { return UITextViewState::of(view.get()); }
   NSRange selectedRange() const { return send<NSRange, "selectedRange">(view); }
   std::string selectedText() const {
     return send<NSString, "textInRange:">(view, view->selectedTextRange()).utf8();
@@ -62,7 +58,7 @@ class UITextViewTest : public ApplicationTest {
   // The middle of a unit on the screen.
   CGPoint pointOf(std::size_t index) const {
     const CGRect caret = state().caretAt(index);
-    const CGPoint scrolled = UIScrollView::of(view.get()).contentOffset();
+    const CGPoint scrolled = UIScrollViewState::of(view.get()).contentOffset();
     return {caret.origin.x + 3 - scrolled.x, caret.origin.y + 5 - scrolled.y};
   }
   // Where a caret in front of a unit stands on the screen.
@@ -80,12 +76,12 @@ class UITextViewTest : public ApplicationTest {
     application().advance(0.5);
   }
 
-  bridge::Owned<bridge::NSObject> listener;
-  bridge::Owned<bridge::UITextView> view;
+  Owned<NSObject> listener;
+  Owned<UITextView> view;
 };
 
 TEST_F(UITextViewTest, StartsEmptyAndEditable) {
-  const auto fresh = bridge::makeView<bridge::UITextView>({{0, 0}, {100, 100}});
+  const auto fresh = bridge::makeView<UITextView>({{0, 0}, {100, 100}});
   EXPECT_EQ(fresh->text().utf8(), "");
   EXPECT_TRUE((send<bool, "isEditable">(fresh)));
   EXPECT_TRUE((send<bool, "isSelectable">(fresh)));
@@ -121,21 +117,21 @@ TEST_F(UITextViewTest, WrappedTextKeepsItsLinesWhenFitted) {
 }
 
 TEST_F(UITextViewTest, AttributedTextBringsFontAndIndents) {
-  const auto style = bridge::makeNew<bridge::NSMutableParagraphStyle>();
+  const auto style = makeNew<NSMutableParagraphStyle>();
   style->setHeadIndent(12);
   style->setParagraphSpacing(1.5);
-  const auto text = bridge::NSMutableAttributedString::withString(
-      NSString::make("aaaa bbbb cccc dddd eeee\nffff"));
-  const auto font = bridge::UIFont::named(NSString::make("Courier"), 10);
-  text->addAttribute(bridge::fontAttributeName(), font, {0, text->length()});
-  text->addAttribute(bridge::paragraphStyleAttributeName(), style, {0, text->length()});
+  const auto text =
+      NSMutableAttributedString::withString(NSString::make("aaaa bbbb cccc dddd eeee\nffff"));
+  const auto font = UIFont::named(NSString::make("Courier"), 10);
+  text->addAttribute(fontAttributeName(), font, {0, text->length()});
+  text->addAttribute(paragraphStyleAttributeName(), style, {0, text->length()});
   view->setAttributedText(text);
   const auto lines = state().layout().lines(0, 100);
   ASSERT_EQ(lines.size(), 3u);
   EXPECT_EQ(lines[1].frame.origin, (CGPoint{12, 10}));
   EXPECT_EQ(lines[2].frame.origin, (CGPoint{0, 21.5}));
   EXPECT_EQ(view->contentSize().height, 48);
-  const auto back = send<bridge::NSAttributedString, "attributedText">(view);
+  const auto back = send<NSAttributedString, "attributedText">(view);
   EXPECT_TRUE((send<bool, "isEqualToAttributedString:">(back, text)));
 }
 
@@ -178,18 +174,16 @@ TEST_F(UITextViewTest, ASelectionIsCutToTheText) {
 TEST_F(UITextViewTest, PositionsAreCountedWithinTheText) {
   show(u"some text");
   const auto start = view->beginningOfDocument();
-  const auto end = send<bridge::UITextPosition, "endOfDocument">(view);
+  const auto end = send<UITextPosition, "endOfDocument">(view);
   EXPECT_EQ(view->offset(start, end), 9);
   EXPECT_EQ(view->offset(end, start), -9);
   const auto fifth =
-      send<bridge::UITextPosition, "positionFromPosition:offset:">(view, start, NSInteger{5});
-  const auto range =
-      send<bridge::UITextRange, "textRangeFromPosition:toPosition:">(view, end, fifth);
+      send<UITextPosition, "positionFromPosition:offset:">(view, start, NSInteger{5});
+  const auto range = send<UITextRange, "textRangeFromPosition:toPosition:">(view, end, fifth);
   view->setSelectedTextRange(range);
   EXPECT_EQ(selectedRange(), (NSRange{5, 4}));
   for (const NSInteger offset : {NSInteger{10}, NSInteger{-1}, NSNotFound, -NSNotFound - 1})
-    EXPECT_FALSE(
-        (send<bridge::UITextPosition, "positionFromPosition:offset:">(view, start, offset)))
+    EXPECT_FALSE((send<UITextPosition, "positionFromPosition:offset:">(view, start, offset)))
         << offset;
 }
 
@@ -206,11 +200,12 @@ TEST_F(UITextViewTest, ALongPressSelectsAWordAndShowsTheMenu) {
   longPress(pointOf(6));
   EXPECT_EQ(selectedText(), "words");
   EXPECT_EQ(changes(), 1);
-  EXPECT_EQ(UIResponder::firstResponder(), view.get());
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_EQ(UIResponderState::firstResponder(), view.get());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
   touches().up(pointOf(6));
   application().advance(0.5);
-  EXPECT_EQ(UIMenuController::shared().titles(), (std::vector<std::string>{"Copy", "Select All"}));
+  EXPECT_EQ(UIMenuControllerState::shared().titles(),
+            (std::vector<std::string>{"Copy", "Select All"}));
 }
 
 TEST_F(UITextViewTest, ALongPressThatIsDraggedSelectsMore) {
@@ -230,11 +225,11 @@ TEST_F(UITextViewTest, TheMenuCopiesAndSelectsAll) {
   longPress(pointOf(6));
   touches().up(pointOf(6));
   application().advance(0.5);
-  UIMenuController::shared().run(1);
+  UIMenuControllerState::shared().run(1);
   application().advance(0.5);
   EXPECT_EQ(selectedRange(), (NSRange{0, 13}));
-  EXPECT_EQ(UIMenuController::shared().titles(), std::vector<std::string>{"Copy"});
-  UIMenuController::shared().run(0);
+  EXPECT_EQ(UIMenuControllerState::shared().titles(), std::vector<std::string>{"Copy"});
+  UIMenuControllerState::shared().run(0);
   EXPECT_EQ(copied, std::vector<std::string>{"some words \xF0\x9F\x93\xB7"});
   EXPECT_TRUE(state().hasSelectedText());
 }
@@ -245,7 +240,7 @@ TEST_F(UITextViewTest, ATapClearsTheSelection) {
   application().prepareFrame();
   tap({100, 150});
   EXPECT_FALSE(view->selectedTextRange());
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
   EXPECT_EQ(changes(), 2);
 }
 
@@ -260,7 +255,7 @@ TEST_F(UITextViewTest, TheEndsOfASelectionCanBeDragged) {
   touches().up(pointBefore(13));
   EXPECT_EQ(selectedText(), "words in");
   application().advance(0.5);
-  EXPECT_TRUE(UIMenuController::shared().isVisible());
+  EXPECT_TRUE(UIMenuControllerState::shared().isVisible());
 }
 
 TEST_F(UITextViewTest, APressOnTheEndOfAWordSelectsThatWord) {
@@ -283,17 +278,17 @@ TEST_F(UITextViewTest, WhatIsNotSelectableStaysUnselected) {
 
 TEST_F(UITextViewTest, CommandsArePossibleWhereTheyMakeSense) {
   const auto can = [&](SEL action) {
-    return send<bool, "canPerformAction:withSender:">(view, action, bridge::Object());
+    return send<bool, "canPerformAction:withSender:">(view, action, Object());
   };
   show(u"");
-  EXPECT_FALSE(can(bridge::selector<"selectAll:">()));
+  EXPECT_FALSE(can(selector<"selectAll:">()));
   show(u"text");
-  EXPECT_TRUE(can(bridge::selector<"selectAll:">()));
-  EXPECT_FALSE(can(bridge::selector<"copy:">()));
-  EXPECT_FALSE(can(bridge::selector<"paste:">()));
+  EXPECT_TRUE(can(selector<"selectAll:">()));
+  EXPECT_FALSE(can(selector<"copy:">()));
+  EXPECT_FALSE(can(selector<"paste:">()));
   view->selectAll({});
-  EXPECT_FALSE(can(bridge::selector<"selectAll:">()));
-  EXPECT_TRUE(can(bridge::selector<"copy:">()));
+  EXPECT_FALSE(can(selector<"selectAll:">()));
+  EXPECT_TRUE(can(selector<"copy:">()));
 }
 
 TEST_F(UITextViewTest, AnythingIsShownInSomeWay) {
@@ -326,23 +321,23 @@ TEST_F(UITextViewTest, AViewWithoutRoomShowsNoText) {
 }
 
 TEST_F(UITextViewTest, LeavesNothingBehind) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool inner;
-    const auto other = bridge::makeView<bridge::UITextView>({{0, 0}, {100, 100}});
+    const AutoreleasePool inner;
+    const auto other = bridge::makeView<UITextView>({{0, 0}, {100, 100}});
     window().addSubview(other);
     send<void, "setText:">(other, NSString::make("some text"));
     application().prepareFrame();
     longPress({10, 12});
     touches().up({10, 12});
     application().advance(0.5);
-    bridge::send<void, "setMenuVisible:animated:">(UIMenuController::sharedMenuController(), false,
-                                                   false);
+    send<void, "setMenuVisible:animated:">(UIMenuControllerState::sharedMenuController(), false,
+                                           false);
     application().advance(1);
     other->removeFromSuperview();
   }
   application().advance(1);
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

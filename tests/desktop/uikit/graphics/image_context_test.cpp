@@ -25,24 +25,24 @@ class ImageContextTest : public testing::Test {
 
   static void fill(CGRect rect, Color color) {
     const CGContextRef context = UIGraphicsGetCurrentContext();
-    CGContextSetFillColorWithColor(context, UIColor::make(color).cgColor());
+    CGContextSetFillColorWithColor(context, UIColorState::make(color).cgColor());
     CGContextFillRect(context, rect);
   }
   static SharedBitmap picture() {
-    return UIImage::bitmapOf(bridge::Object(UIGraphicsGetImageFromCurrentImageContext()));
+    return UIImageState::bitmapOf(Object(UIGraphicsGetImageFromCurrentImageContext()));
   }
 
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
 };
 
 TEST_F(ImageContextTest, FillsOnePixelWithAColor) {
   UIGraphicsBeginImageContext({1, 1});
   fill({{0, 0}, {1, 1}}, {1, 0, 0, 1});
-  const bridge::UIImage image(UIGraphicsGetImageFromCurrentImageContext());
+  const UIImage image(UIGraphicsGetImageFromCurrentImageContext());
   UIGraphicsEndImageContext();
-  EXPECT_EQ((bridge::send<CGSize, "size">(image)), (CGSize{1, 1}));
-  EXPECT_EQ((bridge::send<CGFloat, "scale">(image)), 1);
-  EXPECT_EQ(UIImage::bitmapOf(image)->pixels, std::vector<std::uint32_t>{red});
+  EXPECT_EQ((send<CGSize, "size">(image)), (CGSize{1, 1}));
+  EXPECT_EQ((send<CGFloat, "scale">(image)), 1);
+  EXPECT_EQ(UIImageState::bitmapOf(image)->pixels, std::vector<std::uint32_t>{red});
   EXPECT_EQ(UIGraphicsGetCurrentContext(), nullptr);
 }
 

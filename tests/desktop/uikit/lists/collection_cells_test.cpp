@@ -11,7 +11,7 @@ namespace {
 
 class CollectionCellsTest : public ApplicationTest {
  protected:
-  static bridge::NSString text(const char* text) { return bridge::NSString::make(text); }
+  static NSString text(const char* text) { return NSString::make(text); }
   CollectionCells::View cell() {
     return CollectionCells::View::retain(cells.dequeueCell(text("cell"), {}));
   }
@@ -38,12 +38,12 @@ TEST_F(CollectionCellsTest, ACellKnowsItsItemAndAHeaderNone) {
 TEST_F(CollectionCellsTest, NewOnesAreOfTheRegisteredClassWhereTheyWillStand) {
   const CGRect frame = {{10, 20}, {30, 40}};
   EXPECT_TRUE(
-      bridge::isKindOf(cells.dequeueCell(text("x"), frame), UICollectionViewCell::classObject()));
-  EXPECT_FALSE(bridge::isKindOf(cells.dequeue(text("top"), text("x"), frame),
-                                UICollectionViewCell::classObject()));
-  cells.registerClass(text("top"), text("x"), UICollectionViewCell::classObject());
-  const bridge::UIView made = cells.dequeue(text("top"), text("x"), frame);
-  EXPECT_TRUE(bridge::isKindOf(made, UICollectionViewCell::classObject()));
+      isKindOf(cells.dequeueCell(text("x"), frame), UICollectionViewCellState::classObject()));
+  EXPECT_FALSE(isKindOf(cells.dequeue(text("top"), text("x"), frame),
+                        UICollectionViewCellState::classObject()));
+  cells.registerClass(text("top"), text("x"), UICollectionViewCellState::classObject());
+  const UIView made = cells.dequeue(text("top"), text("x"), frame);
+  EXPECT_TRUE(isKindOf(made, UICollectionViewCellState::classObject()));
   EXPECT_EQ(made.frame(), frame);
 }
 

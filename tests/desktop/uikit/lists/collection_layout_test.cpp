@@ -17,12 +17,12 @@ using testing::ElementsAre;
 using testing::Key;
 
 // Shows two items side by side and a header across them; does what a test wants while it prepares.
-class PairLayout : public bridge::Bound<PairLayout, bridge::UICollectionViewLayout> {
+class PairLayout : public Bound<PairLayout, UICollectionViewLayout> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<PairLayout>("PairLayout")
+        ClassBuilder<PairLayout>("PairLayout")
             .method<"prepareLayout", &PairLayout::prepare>()
             .method<"collectionViewContentSize", &PairLayout::contentSize>()
             .method<"layoutAttributesForElementsInRect:", &PairLayout::elements>()
@@ -40,12 +40,11 @@ class PairLayout : public bridge::Bound<PairLayout, bridge::UICollectionViewLayo
     meanwhile();
   }
   CGSize contentSize() const { return size; }
-  bridge::Object elements(CGRect) const {
-    return bridge::NSArray::of(
-        UICollectionViewLayoutAttributes::forSupplementary(bridge::NSString::make("header"), {0, 0},
-                                                           {{0, 0}, {100, 20}}),
-        UICollectionViewLayoutAttributes::forItem({0, 1}, {{50, 0}, {50, 50}}),
-        UICollectionViewLayoutAttributes::forItem({0, 0}, {{0, 0}, {50, 50}}));
+  Object elements(CGRect) const {
+    return NSArray::of(UICollectionViewLayoutAttributesState::forSupplementary(
+                           NSString::make("header"), {0, 0}, {{0, 0}, {100, 20}}),
+                       UICollectionViewLayoutAttributesState::forItem({0, 1}, {{50, 0}, {50, 50}}),
+                       UICollectionViewLayoutAttributesState::forItem({0, 0}, {{0, 0}, {50, 50}}));
   }
 };
 
@@ -61,10 +60,8 @@ class CollectionLayoutTest : public ApplicationTest {
   PairLayout& pair() { return PairLayout::of(object.get()); }
 
   int invalidated = 0;
-  const bridge::Owned<bridge::UICollectionViewLayout> object =
-      bridge::Owned<bridge::UICollectionViewLayout>::adopt(
-          bridge::send<bridge::UICollectionViewLayout, "init">(
-              bridge::send<id, "alloc">(PairLayout::classObject())));
+  const Owned<UICollectionViewLayout> object = Owned<UICollectionViewLayout>::adopt(
+      send<UICollectionViewLayout, "init">(send<id, "alloc">(PairLayout::classObject())));
   CollectionLayout layout;
   const CollectionLayout::Has hasAll = [](ItemPath) { return true; };
 };

@@ -12,34 +12,34 @@ class IndexPathTest : public testing::Test {
  protected:
   IndexPathTest() { registerUIKit(); }
 
-  static bridge::NSIndexPath made(const std::vector<NSUInteger>& indexes) {
-    return bridge::send<bridge::NSIndexPath, "indexPathWithIndexes:length:">(
-        bridge::NSIndexPath::classObject(), indexes.data(), NSUInteger{indexes.size()});
+  static NSIndexPath made(const std::vector<NSUInteger>& indexes) {
+    return send<NSIndexPath, "indexPathWithIndexes:length:">(
+        NSIndexPath::classObject(), indexes.data(), NSUInteger{indexes.size()});
   }
 
  private:
-  const bridge::AutoreleasePool _pool;
+  const AutoreleasePool _pool;
 };
 
 TEST_F(IndexPathTest, ARowOfASectionIsReadBack) {
-  const auto path = bridge::send<bridge::NSIndexPath, "indexPathForRow:inSection:">(
-      bridge::NSIndexPath::classObject(), NSInteger{7}, NSInteger{3});
+  const auto path = send<NSIndexPath, "indexPathForRow:inSection:">(NSIndexPath::classObject(),
+                                                                    NSInteger{7}, NSInteger{3});
   EXPECT_EQ(path.section(), 3);
   EXPECT_EQ(path.row(), 7);
-  EXPECT_EQ((bridge::send<NSInteger, "item">(path)), 7);
+  EXPECT_EQ((send<NSInteger, "item">(path)), 7);
   EXPECT_EQ(itemPathOf(path), (ItemPath{3, 7}));
 }
 
 TEST_F(IndexPathTest, ItemsAndRowsAreTheSame) {
-  const auto item = bridge::send<bridge::NSIndexPath, "indexPathForItem:inSection:">(
-      bridge::NSIndexPath::classObject(), NSInteger{7}, NSInteger{3});
+  const auto item = send<NSIndexPath, "indexPathForItem:inSection:">(NSIndexPath::classObject(),
+                                                                     NSInteger{7}, NSInteger{3});
   EXPECT_TRUE(item.isEqual(indexPathOf({3, 7})));
   EXPECT_FALSE(item.isEqual(indexPathOf({7, 3})));
 }
 
 TEST_F(IndexPathTest, PathsAreOrderedBySectionThenRow) {
   const auto compared = [](ItemPath left, ItemPath right) {
-    return bridge::send<NSInteger, "compare:">(indexPathOf(left), indexPathOf(right));
+    return send<NSInteger, "compare:">(indexPathOf(left), indexPathOf(right));
   };
   EXPECT_EQ(compared({0, 5}, {1, 0}), -1);
   EXPECT_EQ(compared({1, 0}, {0, 5}), 1);
@@ -49,7 +49,7 @@ TEST_F(IndexPathTest, PathsAreOrderedBySectionThenRow) {
 
 TEST_F(IndexPathTest, WhatIsNoRowHasNone) {
   EXPECT_FALSE(itemPathOf({}));
-  EXPECT_FALSE(itemPathOf(bridge::NSString::make("1.2")));
+  EXPECT_FALSE(itemPathOf(NSString::make("1.2")));
   EXPECT_FALSE(itemPathOf(made({4})));
   EXPECT_EQ(made({4}).section(), 4);
   EXPECT_EQ(made({4}).row(), NSNotFound);
@@ -57,8 +57,8 @@ TEST_F(IndexPathTest, WhatIsNoRowHasNone) {
 }
 
 TEST_F(IndexPathTest, NegativeIndicesBelongToNoRow) {
-  const auto path = bridge::send<bridge::NSIndexPath, "indexPathForRow:inSection:">(
-      bridge::NSIndexPath::classObject(), NSInteger{-1}, NSInteger{0});
+  const auto path = send<NSIndexPath, "indexPathForRow:inSection:">(NSIndexPath::classObject(),
+                                                                    NSInteger{-1}, NSInteger{0});
   EXPECT_EQ(path.row(), NSNotFound);
 }
 

@@ -10,29 +10,29 @@
 namespace desktop::uikit {
 namespace {
 
-using View = bridge::Owned<bridge::UIView>;
+using View = Owned<UIView>;
 
 View makeReusable(Class aClass) {
-  return View::adopt(bridge::send<bridge::UIView, "init">(bridge::send<id, "alloc">(aClass)));
+  return View::adopt(send<UIView, "init">(send<id, "alloc">(aClass)));
 }
 
 class ReusePoolTest : public ApplicationTest {
  protected:
-  bridge::UIView dequeue(const std::string& identifier) {
+  UIView dequeue(const std::string& identifier) {
     return pool.dequeue(identifier, [this](Class registered) {
       asked = registered;
-      return makeReusable(UICollectionReusableView::classObject());
+      return makeReusable(UICollectionReusableViewState::classObject());
     });
   }
 
   ReusePool pool;
   Class asked = nullptr;
-  const View view = makeReusable(UICollectionViewCell::classObject());
+  const View view = makeReusable(UICollectionViewCellState::classObject());
 };
 
 TEST_F(ReusePoolTest, WhatWaitsIsPreparedAndUsedOnce) {
-  UICollectionViewCell& cell = UICollectionViewCell::of(view.get());
-  bridge::send<void, "setSelected:">(view, true);
+  UICollectionViewCellState& cell = UICollectionViewCellState::of(view.get());
+  send<void, "setSelected:">(view, true);
   pool.put("cell", view);
   EXPECT_TRUE(cell.isSelected());
   EXPECT_NE(dequeue("other"), view.get());
@@ -49,18 +49,18 @@ TEST_F(ReusePoolTest, WithoutAnIdentifierNothingIsUsedAgain) {
 TEST_F(ReusePoolTest, NewOnesAreMadeOfTheRegisteredClass) {
   dequeue("cell");
   EXPECT_EQ(asked, Class());
-  pool.registerClass("cell", UICollectionViewCell::classObject());
+  pool.registerClass("cell", UICollectionViewCellState::classObject());
   dequeue("cell");
-  EXPECT_EQ(asked, UICollectionViewCell::classObject());
+  EXPECT_EQ(asked, UICollectionViewCellState::classObject());
   pool.registerClass("cell", nullptr);
   dequeue("cell");
   EXPECT_EQ(asked, Class());
 }
 
 TEST_F(ReusePoolTest, WhatShowsNothingInTheEndLeavesTheList) {
-  const View other = makeReusable(UICollectionReusableView::classObject());
-  const View elsewhere = makeReusable(UICollectionReusableView::classObject());
-  const View list = bridge::makeView<bridge::UIView>({});
+  const View other = makeReusable(UICollectionReusableViewState::classObject());
+  const View elsewhere = makeReusable(UICollectionReusableViewState::classObject());
+  const View list = bridge::makeView<UIView>({});
   list->addSubview(view);
   list->addSubview(other);
   window().addSubview(elsewhere);

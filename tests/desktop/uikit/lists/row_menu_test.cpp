@@ -20,7 +20,7 @@ class RowMenuTest : public ApplicationTest {
         [=](SEL action) { return allowed.find(sel_getName(action)) != std::string::npos; },
         [this](SEL action) { performed.emplace_back(sel_getName(action)); });
   }
-  static UIMenuController& menu() { return UIMenuController::shared(); }
+  static UIMenuControllerState& menu() { return UIMenuControllerState::shared(); }
 
   std::vector<std::string> performed;
 };

@@ -44,15 +44,15 @@ TEST(TitlesIn, APlainHeaderStaysInSightAsLongAsItsSection) {
 class SectionTitlesTest : public ApplicationTest {
  protected:
   void follow(const std::map<TitlePlace, CGRect>& wanted) {
-    titles.follow(wanted, Inquiry::Pass(inquiry), table, [this](TitlePlace) -> bridge::UIView {
+    titles.follow(wanted, Inquiry::Pass(inquiry), table, [this](TitlePlace) -> UIView {
       ++made;
       if (changesMeanwhile) inquiry.outdate();
       if (hasNone) return {};
-      return UITableViewHeaderFooterView::make(bridge::NSString::make("Title"), header, false);
+      return UITableViewHeaderFooterView::make(NSString::make("Title"), header, false);
     });
   }
 
-  const bridge::Owned<bridge::UIView> table = bridge::makeView<bridge::UIView>({});
+  const Owned<UIView> table = bridge::makeView<UIView>({});
   Inquiry inquiry;
   SectionTitles titles;
   int made = 0;
@@ -63,7 +63,7 @@ class SectionTitlesTest : public ApplicationTest {
 TEST_F(SectionTitlesTest, StayWhileTheyAreInSight) {
   follow({{{0, header}, {{0, 0}, {100, 20}}}, {{0, footer}, {{0, 90}, {100, 10}}}});
   ASSERT_EQ(table->subviews().count(), 2u);
-  const bridge::UIView first = bridge::as<bridge::UIView>(table->subviews().at(0));
+  const UIView first = as<UIView>(table->subviews().at(0));
   follow({{{0, header}, {{0, 5}, {100, 20}}}});
   EXPECT_EQ(made, 2);
   ASSERT_EQ(table->subviews().count(), 1u);

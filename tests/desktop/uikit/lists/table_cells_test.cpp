@@ -11,9 +11,9 @@ namespace {
 
 class TableCellsTest : public ApplicationTest {
  protected:
-  static bridge::NSString row() { return bridge::NSString::make("row"); }
+  static NSString row() { return NSString::make("row"); }
   static TableCells::Cell cell() {
-    return UITableViewCell::make(UITableViewCell::classObject(), row());
+    return UITableViewCellState::make(UITableViewCellState::classObject(), row());
   }
 
   TableCells cells;
@@ -33,10 +33,10 @@ TEST_F(TableCellsTest, AreKnownByTheirRows) {
 
 TEST_F(TableCellsTest, ComeFromTheRegisteredClassOrTheSource) {
   EXPECT_FALSE(cells.dequeue(row()));
-  cells.registerClass(row(), UITableViewCell::classObject());
-  const bridge::UITableViewCell made = cells.dequeue(row());
+  cells.registerClass(row(), UITableViewCellState::classObject());
+  const UITableViewCell made = cells.dequeue(row());
   EXPECT_TRUE(made);
-  EXPECT_EQ(UITableViewCell::of(made.get()).reuseIdentifier().utf8(), "row");
+  EXPECT_EQ(UITableViewCellState::of(made.get()).reuseIdentifier().utf8(), "row");
 }
 
 TEST_F(TableCellsTest, WhatWasPutAwayIsUsedAgain) {
@@ -47,14 +47,14 @@ TEST_F(TableCellsTest, WhatWasPutAwayIsUsedAgain) {
 }
 
 TEST_F(TableCellsTest, LieAboveOtherCellsAndBelowTitles) {
-  const auto table = bridge::makeView<bridge::UIView>({});
-  const auto title = bridge::makeView<bridge::UIView>({});
+  const auto table = bridge::makeView<UIView>({});
+  const auto title = bridge::makeView<UIView>({});
   const auto lower = cell();
   const auto upper = cell();
   table->addSubview(lower);
   table->addSubview(title);
-  TableCells::insert(upper, UIView::of(table.get()));
-  TableCells::insert(lower, UIView::of(table.get()));
+  TableCells::insert(upper, UIViewState::of(table.get()));
+  TableCells::insert(lower, UIViewState::of(table.get()));
   ASSERT_EQ(table->subviews().count(), 3u);
   EXPECT_EQ(table->subviews().at(0), lower.get());
   EXPECT_EQ(table->subviews().at(1), upper.get());

@@ -15,12 +15,12 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // Answers heights of rows and titles.
-class HeightDelegate : public bridge::Bound<HeightDelegate, bridge::NSObject> {
+class HeightDelegate : public Bound<HeightDelegate, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<HeightDelegate>("HeightDelegate")
+        ClassBuilder<HeightDelegate>("HeightDelegate")
             .method<"tableView:heightForRowAtIndexPath:", &HeightDelegate::row>()
             .method<"tableView:heightForHeaderInSection:", &HeightDelegate::header>()
             .build();
@@ -29,16 +29,15 @@ class HeightDelegate : public bridge::Bound<HeightDelegate, bridge::NSObject> {
   CGFloat headerHeight = 0;
 
  private:
-  CGFloat row(bridge::UIView, bridge::NSIndexPath path) const {
+  CGFloat row(UIView, NSIndexPath path) const {
     return path.row() == 0 ? -1 : static_cast<CGFloat>(10 * path.row());
   }
-  CGFloat header(bridge::UIView, NSInteger) const { return headerHeight; }
+  CGFloat header(UIView, NSInteger) const { return headerHeight; }
 };
 
 template <typename T>
-bridge::Owned<bridge::NSObject> make() {
-  return bridge::Owned<bridge::NSObject>::adopt(
-      bridge::send<bridge::NSObject, "init">(bridge::send<id, "alloc">(T::classObject())));
+Owned<NSObject> make() {
+  return Owned<NSObject>::adopt(send<NSObject, "init">(send<id, "alloc">(T::classObject())));
 }
 
 // Measures without a table: any scroll view has a delegate.
@@ -62,8 +61,8 @@ class TableMeasuringTest : public ApplicationTest {
     return all;
   }
 
-  const bridge::Owned<handles::UIScrollView> view = bridge::makeView<handles::UIScrollView>({});
-  const bridge::Owned<bridge::NSObject> sourceObject = make<TableSource>();
+  const Owned<UIScrollView> view = bridge::makeView<UIScrollView>({});
+  const Owned<NSObject> sourceObject = make<TableSource>();
   TableDataSource source{view};
   const TableDelegate delegate{view};
   TableHeights heights;
@@ -86,7 +85,7 @@ TEST_F(TableMeasuringTest, RowsHaveTheHeightThatIsSetOrThePlatforms) {
 
 TEST_F(TableMeasuringTest, TheDelegateGivesRowsHeightsOfTheirOwn) {
   const auto heightDelegate = make<HeightDelegate>();
-  bridge::send<void, "setDelegate:">(view, heightDelegate);
+  send<void, "setDelegate:">(view, heightDelegate);
   answers().rowCount = 3;
   EXPECT_THAT(measure(false).at(0).ownRowHeights, ElementsAre(44, 10, 20));
 }
@@ -106,7 +105,7 @@ TEST_F(TableMeasuringTest, AGroupStandsApartFromTheOneAbove) {
 
 TEST_F(TableMeasuringTest, TheDelegatesHeaderHeightCountsMost) {
   const auto heightDelegate = make<HeightDelegate>();
-  bridge::send<void, "setDelegate:">(view, heightDelegate);
+  send<void, "setDelegate:">(view, heightDelegate);
   answers().headerTitle = "Title";
   EXPECT_THAT(headers(false), ElementsAre(0));
   EXPECT_THAT(headers(true), ElementsAre(38 + 35 - 18));

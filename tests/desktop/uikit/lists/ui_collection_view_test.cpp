@@ -19,9 +19,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 template <typename T>
-bridge::Owned<bridge::NSObject> make() {
-  return bridge::Owned<bridge::NSObject>::adopt(
-      bridge::send<bridge::NSObject, "init">(bridge::send<id, "alloc">(T::classObject())));
+Owned<NSObject> make() {
+  return Owned<NSObject>::adopt(send<NSObject, "init">(send<id, "alloc">(T::classObject())));
 }
 
 class UICollectionViewTest : public ApplicationTest {
@@ -34,14 +33,14 @@ class UICollectionViewTest : public ApplicationTest {
 
   void show() {
     close();
-    _view = bridge::Owned<bridge::UICollectionView>::adopt(
-        bridge::send<bridge::UICollectionView, "initWithFrame:collectionViewLayout:">(
-            bridge::send<id, "alloc">(bridge::UICollectionView::classObject()),
-            rectOfSize(screen().size), _layout));
-    bridge::send<void, "setDataSource:">(_view, _source);
-    bridge::send<void, "setDelegate:">(_view, _source);
-    bridge::send<void, "registerClass:forCellWithReuseIdentifier:">(_view, TestCell::classObject(),
-                                                                    bridge::NSString::make("cell"));
+    _view = Owned<UICollectionView>::adopt(
+        send<UICollectionView, "initWithFrame:collectionViewLayout:">(
+            send<id, "alloc">(UICollectionView::classObject()), rectOfSize(screen().size),
+            _layout));
+    send<void, "setDataSource:">(_view, _source);
+    send<void, "setDelegate:">(_view, _source);
+    send<void, "registerClass:forCellWithReuseIdentifier:">(_view, TestCell::classObject(),
+                                                            NSString::make("cell"));
     window().addSubview(_view);
     application().prepareFrame();
   }
@@ -51,11 +50,11 @@ class UICollectionViewTest : public ApplicationTest {
     _view.reset();
   }
 
-  UICollectionView& view() { return UICollectionView::of(_view.get()); }
-  UIScrollView& scroll() { return UIScrollView::of(_view.get()); }
+  UICollectionViewState& view() { return UICollectionViewState::of(_view.get()); }
+  UIScrollViewState& scroll() { return UIScrollViewState::of(_view.get()); }
 
   void scrollTo(CGFloat y) {
-    handles::UIScrollView(_view.get().get()).setContentOffset({0, y});
+    UIScrollView(_view.get().get()).setContentOffset({0, y});
     application().prepareFrame();
   }
 
@@ -63,28 +62,28 @@ class UICollectionViewTest : public ApplicationTest {
   std::vector<NSInteger> tags() {
     std::vector<NSInteger> all;
     for (const auto& [element, shown] : view().views())
-      if (element.kind.empty()) all.push_back(UIView::of(shown.get()).tag());
+      if (element.kind.empty()) all.push_back(UIViewState::of(shown.get()).tag());
     return all;
   }
 
-  UICollectionViewCell& cell(NSInteger item) {
-    return UICollectionViewCell::of(view().cellForItem(indexPathOf({0, item})));
+  UICollectionViewCellState& cell(NSInteger item) {
+    return UICollectionViewCellState::of(view().cellForItem(indexPathOf({0, item})));
   }
 
   void tap(NSInteger item) {
     const CGPoint point =
-        apply(UIView::of(_view.get()).toScreen(), middle(layout().frameOf({0, item})));
+        apply(UIViewState::of(_view.get()).toScreen(), middle(layout().frameOf({0, item})));
     touches().down(point);
     application().advance(0.2);
     touches().up(point);
     application().advance(0.02);
   }
 
-  void allowMultipleSelection() { bridge::send<void, "setAllowsMultipleSelection:">(_view, true); }
+  void allowMultipleSelection() { send<void, "setAllowsMultipleSelection:">(_view, true); }
 
-  bridge::Owned<bridge::NSObject> _source;
-  bridge::Owned<bridge::NSObject> _layout;
-  bridge::Owned<bridge::UICollectionView> _view;
+  Owned<NSObject> _source;
+  Owned<NSObject> _layout;
+  Owned<UICollectionView> _view;
 };
 
 TEST_F(UICollectionViewTest, ExactlyTheItemsInSightHaveCells) {
@@ -163,11 +162,11 @@ TEST_F(UICollectionViewTest, ALayoutThatLiesShowsWhatThereIs) {
 TEST_F(UICollectionViewTest, WithoutALayoutThereIsNothing) {
   source().itemCount = 10;
   show();
-  bridge::send<void, "setCollectionViewLayout:">(_view, bridge::UICollectionViewLayout());
+  send<void, "setCollectionViewLayout:">(_view, UICollectionViewLayout());
   application().prepareFrame();
   EXPECT_THAT(tags(), IsEmpty());
   EXPECT_FALSE(view().indexPathForItemAt({10, 10}));
-  bridge::send<void, "setCollectionViewLayout:animated:">(_view, _layout, true);
+  send<void, "setCollectionViewLayout:animated:">(_view, _layout, true);
   application().prepareFrame();
   EXPECT_EQ(tags().size(), 10u);
 }
@@ -208,11 +207,10 @@ TEST_F(UICollectionViewTest, ACellKnowsItsItem) {
   EXPECT_FALSE(view().indexPathForCell({}));
   EXPECT_FALSE(view().cellForItem(indexPathOf({0, 10})));
   const auto attributes =
-      bridge::send<handles::UICollectionViewLayoutAttributes,
-                   "layoutAttributesForItemAtIndexPath:">(_view, indexPathOf({0, 7}));
+      send<UICollectionViewLayoutAttributes, "layoutAttributesForItemAtIndexPath:">(
+          _view, indexPathOf({0, 7}));
   EXPECT_EQ(attributes.frame(), cell(7).self().frame());
-  EXPECT_FALSE(
-      (bridge::send<id, "layoutAttributesForItemAtIndexPath:">(_view, indexPathOf({0, 10}))));
+  EXPECT_FALSE((send<id, "layoutAttributesForItemAtIndexPath:">(_view, indexPathOf({0, 10}))));
 }
 
 TEST_F(UICollectionViewTest, HeadersStandAboveTheirItems) {
@@ -220,18 +218,16 @@ TEST_F(UICollectionViewTest, HeadersStandAboveTheirItems) {
   source().itemCount = 8;
   layout().headerHeight = 40;
   show();
-  const auto kind = bridge::NSString::make("UICollectionElementKindSectionHeader");
-  const auto header = bridge::send<bridge::UIView, "supplementaryViewForElementKind:atIndexPath:">(
+  const auto kind = NSString::make("UICollectionElementKindSectionHeader");
+  const auto header = send<UIView, "supplementaryViewForElementKind:atIndexPath:">(
       _view, kind, indexPathOf({1, 0}));
   EXPECT_EQ(header.frame(), (CGRect{{0, 228}, {375, 40}}));
-  EXPECT_EQ(
-      (bridge::send<bridge::NSArray, "visibleSupplementaryViewsOfKind:">(_view, kind).count()), 3u);
+  EXPECT_EQ((send<NSArray, "visibleSupplementaryViewsOfKind:">(_view, kind).count()), 3u);
   EXPECT_EQ(_view->subviews().count(), 27u);
-  EXPECT_TRUE(bridge::isKindOf(_view->subviews().at(0), TestCell::classObject()));
-  EXPECT_FALSE(bridge::isKindOf(_view->subviews().at(26), TestCell::classObject()));
+  EXPECT_TRUE(isKindOf(_view->subviews().at(0), TestCell::classObject()));
+  EXPECT_FALSE(isKindOf(_view->subviews().at(26), TestCell::classObject()));
   scrollTo(300);
-  EXPECT_EQ(
-      (bridge::send<bridge::NSArray, "visibleSupplementaryViewsOfKind:">(_view, kind).count()), 1u);
+  EXPECT_EQ((send<NSArray, "visibleSupplementaryViewsOfKind:">(_view, kind).count()), 1u);
 }
 
 TEST_F(UICollectionViewTest, AnInvalidLayoutIsPreparedAgain) {
@@ -241,7 +237,7 @@ TEST_F(UICollectionViewTest, AnInvalidLayoutIsPreparedAgain) {
   layout().side = 187;
   application().prepareFrame();
   EXPECT_EQ(tags().size(), 32u);  // nobody has said so yet
-  bridge::UICollectionViewLayout(_layout.get().get()).invalidateLayout();
+  UICollectionViewLayout(_layout.get().get()).invalidateLayout();
   application().prepareFrame();
   EXPECT_EQ(tags().size(), 8u);
   EXPECT_EQ(cell(1).self().frame(), (CGRect{{188, 0}, {187, 187}}));
@@ -287,9 +283,9 @@ TEST_F(UICollectionViewTest, SeveralItemsCanBeSelected) {
   for (const NSInteger item : {3, 5, 3, 6}) tap(item);
   EXPECT_THAT(source().events,
               ElementsAre("select 0.3", "select 0.5", "deselect 0.3", "select 0.6"));
-  const auto paths = bridge::send<bridge::NSArray, "indexPathsForSelectedItems">(_view);
+  const auto paths = send<NSArray, "indexPathsForSelectedItems">(_view);
   EXPECT_EQ(paths.count(), 2u);
-  bridge::send<void, "setAllowsMultipleSelection:">(_view, false);
+  send<void, "setAllowsMultipleSelection:">(_view, false);
   EXPECT_THAT(view().selectedItems(), IsEmpty());
   EXPECT_FALSE(cell(5).isSelected());
 }
@@ -300,7 +296,7 @@ TEST_F(UICollectionViewTest, TheDelegateCanRefuse) {
   show();
   tap(3);
   EXPECT_THAT(source().events, IsEmpty());
-  bridge::send<void, "setAllowsSelection:">(_view, false);
+  send<void, "setAllowsSelection:">(_view, false);
   source().allowsChanges = true;
   tap(3);
   EXPECT_THAT(source().events, IsEmpty());
@@ -340,12 +336,12 @@ TEST_F(UICollectionViewTest, AQuickFlickToAnotherItemSelectsNeither) {
 TEST_F(UICollectionViewTest, SelectionByCodeTellsNobody) {
   source().itemCount = 1000;
   show();
-  bridge::send<void, "selectItemAtIndexPath:animated:scrollPosition:">(
-      _view, indexPathOf({0, 400}), false, NSUInteger{UICollectionView::centeredVertically});
+  send<void, "selectItemAtIndexPath:animated:scrollPosition:">(
+      _view, indexPathOf({0, 400}), false, NSUInteger{UICollectionViewState::centeredVertically});
   application().prepareFrame();
   EXPECT_TRUE(cell(400).isSelected());
   EXPECT_EQ(scroll().contentOffset().y, 9400 - (667 - 93) / 2.0);
-  bridge::send<void, "deselectItemAtIndexPath:animated:">(_view, indexPathOf({0, 400}), false);
+  send<void, "deselectItemAtIndexPath:animated:">(_view, indexPathOf({0, 400}), false);
   EXPECT_FALSE(cell(400).isSelected());
   EXPECT_THAT(source().events, IsEmpty());
 }
@@ -356,7 +352,7 @@ TEST_F(UICollectionViewTest, ASelectedItemIsStillSelectedWhenItComesBack) {
   tap(3);
   scrollTo(5000);
   for (const auto& [element, shown] : view().views())
-    EXPECT_FALSE(UICollectionViewCell::of(shown.get()).isSelected()) << element.path.item;
+    EXPECT_FALSE(UICollectionViewCellState::of(shown.get()).isSelected()) << element.path.item;
   scrollTo(0);
   EXPECT_TRUE(cell(3).isSelected());
 }
@@ -368,14 +364,14 @@ TEST_F(UICollectionViewTest, ItemsComeAndGoWhileScrolled) {
   scrollTo(94 * 100);
   for (const NSInteger item : {405, 408, 410}) tap(item);
   source().itemCount = 998;
-  bridge::send<void, "deleteItemsAtIndexPaths:">(
-      _view, bridge::NSArray::of(indexPathOf({0, 2}), indexPathOf({0, 408})));
+  send<void, "deleteItemsAtIndexPaths:">(_view,
+                                         NSArray::of(indexPathOf({0, 2}), indexPathOf({0, 408})));
   application().prepareFrame();
   EXPECT_THAT(view().selectedItems(), ElementsAre(ItemPath{0, 404}, ItemPath{0, 408}));
   EXPECT_EQ(tags().front(), 400);
   EXPECT_TRUE(cell(404).isSelected());
   source().itemCount = 999;
-  bridge::send<void, "insertItemsAtIndexPaths:">(_view, bridge::NSArray::of(indexPathOf({0, 0})));
+  send<void, "insertItemsAtIndexPaths:">(_view, NSArray::of(indexPathOf({0, 0})));
   EXPECT_EQ(view().numberOfItems(0), 999);
   EXPECT_THAT(view().selectedItems(), ElementsAre(ItemPath{0, 405}, ItemPath{0, 409}));
   source().itemCount = 10;
@@ -390,13 +386,13 @@ TEST_F(UICollectionViewTest, UpdatesInABatchAreCountedOnce) {
   source().itemCount = 10;
   show();
   bool isDone = false;
-  bridge::send<void, "performBatchUpdates:completion:">(
-      _view, bridge::Block<void()>([this] {
+  send<void, "performBatchUpdates:completion:">(
+      _view, Block<void()>([this] {
         source().itemCount = 12;
-        bridge::send<void, "insertItemsAtIndexPaths:">(
-            _view, bridge::NSArray::of(indexPathOf({0, 10}), indexPathOf({0, 11})));
+        send<void, "insertItemsAtIndexPaths:">(
+            _view, NSArray::of(indexPathOf({0, 10}), indexPathOf({0, 11})));
       }),
-      bridge::Block<void(bool)>([&isDone](bool finished) { isDone = finished; }));
+      Block<void(bool)>([&isDone](bool finished) { isDone = finished; }));
   application().prepareFrame();
   EXPECT_TRUE(isDone);
   EXPECT_EQ(tags().size(), 12u);
@@ -410,19 +406,19 @@ TEST_F(UICollectionViewTest, ScrollingToAnItemShowsItWhereItWasAsked) {
     CGFloat offset;
   };
   for (const auto& [position, expected] :
-       {Item{UICollectionView::top, 9400}, Item{UICollectionView::bottom, 9493 - 667},
-        Item{UICollectionView::none, 9493 - 667}}) {
+       {Item{UICollectionViewState::top, 9400}, Item{UICollectionViewState::bottom, 9493 - 667},
+        Item{UICollectionViewState::none, 9493 - 667}}) {
     scrollTo(0);
-    bridge::send<void, "scrollToItemAtIndexPath:atScrollPosition:animated:">(
-        _view, indexPathOf({0, 401}), position, false);
+    send<void, "scrollToItemAtIndexPath:atScrollPosition:animated:">(_view, indexPathOf({0, 401}),
+                                                                     position, false);
     EXPECT_EQ(scroll().contentOffset(), (CGPoint{0, expected})) << position;
   }
 }
 
 TEST_F(UICollectionViewTest, NothingStaysBehind) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     source().itemCount = 1000;
     layout().headerHeight = 30;
     show();
@@ -435,15 +431,15 @@ TEST_F(UICollectionViewTest, NothingStaysBehind) {
     close();
     application().advance(1);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 TEST_F(UICollectionViewTest, ALayoutMayOutliveItsView) {
   source().itemCount = 10;
   show();
   close();
-  EXPECT_FALSE((bridge::send<id, "collectionView">(_layout)));
-  bridge::UICollectionViewLayout(_layout.get().get()).invalidateLayout();
+  EXPECT_FALSE((send<id, "collectionView">(_layout)));
+  UICollectionViewLayout(_layout.get().get()).invalidateLayout();
 }
 
 }  // namespace

@@ -13,26 +13,24 @@ namespace {
 
 class UITableViewCellTest : public ApplicationTest {
  protected:
-  bridge::UITableViewCell show(NSInteger style) {
-    _cell = bridge::UITableViewCell::make(static_cast<bridge::UITableViewCell::Style>(style),
-                                          bridge::NSString::make("cell"));
+  UITableViewCell show(NSInteger style) {
+    _cell =
+        UITableViewCell::make(static_cast<UITableViewCell::Style>(style), NSString::make("cell"));
     _cell->setFrame({{0, 100}, {375, 44}});
-    UITableViewCell::of(_cell.get()).setSeparators({.below = true, .insetBelow = 16});
+    UITableViewCellState::of(_cell.get()).setSeparators({.below = true, .insetBelow = 16});
     window().addSubview(_cell);
     return _cell;
   }
 
-  UITableViewCell& cell() { return UITableViewCell::of(_cell.get()); }
-  static bridge::NSString text(std::size_t letters) {
-    return bridge::NSString::make(std::string(letters, 'm'));
-  }
+  UITableViewCellState& cell() { return UITableViewCellState::of(_cell.get()); }
+  static NSString text(std::size_t letters) { return NSString::make(std::string(letters, 'm')); }
   static CGFloat widthOf(std::size_t letters) { return static_cast<CGFloat>(letters) * 17 * 0.6; }
 
-  bridge::Owned<bridge::UITableViewCell> _cell;
+  Owned<UITableViewCell> _cell;
 };
 
 TEST_F(UITableViewCellTest, TitleAndDetailStandAtTheEdges) {
-  show(UITableViewCell::value1);
+  show(UITableViewCellState::value1);
   _cell->textLabel().setText(text(5));
   _cell->detailTextLabel().setText(text(4));
   application().prepareFrame();
@@ -45,8 +43,8 @@ TEST_F(UITableViewCellTest, TitleAndDetailStandAtTheEdges) {
 }
 
 TEST_F(UITableViewCellTest, ADisclosureIndicatorTakesRoom) {
-  show(UITableViewCell::value1);
-  _cell->setAccessoryType(bridge::UITableViewCell::disclosureIndicator);
+  show(UITableViewCellState::value1);
+  _cell->setAccessoryType(UITableViewCell::disclosureIndicator);
   _cell->detailTextLabel().setText(text(4));
   application().prepareFrame();
   EXPECT_EQ(cell().contentView().frame().size.width, 341);
@@ -63,7 +61,7 @@ TEST_F(UITableViewCellTest, LongTextsShareTheirRoom) {
   for (const auto& [title, detail, width] :
        {Case{100, 100, room / 2}, Case{5, 100, widthOf(5)}, Case{100, 5, room - widthOf(5)},
         Case{5, 10'000'000, widthOf(5)}}) {
-    show(UITableViewCell::value1);
+    show(UITableViewCellState::value1);
     _cell->textLabel().setText(text(title));
     _cell->detailTextLabel().setText(text(detail));
     application().prepareFrame();
@@ -77,7 +75,7 @@ TEST_F(UITableViewCellTest, LongTextsShareTheirRoom) {
 }
 
 TEST_F(UITableViewCellTest, ASubtitleStandsBelowItsTitle) {
-  show(UITableViewCell::subtitle);
+  show(UITableViewCellState::subtitle);
   _cell->textLabel().setText(text(3));
   _cell->detailTextLabel().setText(text(3));
   application().prepareFrame();
@@ -90,38 +88,38 @@ TEST_F(UITableViewCellTest, ASubtitleStandsBelowItsTitle) {
 }
 
 TEST_F(UITableViewCellTest, OnlySomeStylesHaveADetail) {
-  EXPECT_FALSE(show(UITableViewCell::plain).detailTextLabel());
+  EXPECT_FALSE(show(UITableViewCellState::plain).detailTextLabel());
   for (const NSInteger style :
-       {UITableViewCell::value1, UITableViewCell::value2, UITableViewCell::subtitle})
+       {UITableViewCellState::value1, UITableViewCellState::value2, UITableViewCellState::subtitle})
     EXPECT_TRUE(show(style).detailTextLabel()) << style;
 }
 
 TEST_F(UITableViewCellTest, APictureMovesTheText) {
-  show(UITableViewCell::plain);
+  show(UITableViewCellState::plain);
   auto bitmap = std::make_shared<Bitmap>();
   bitmap->width = bitmap->height = 60;
   bitmap->pixels.resize(60 * 60);
   _cell->textLabel().setText(text(3));
-  bridge::send<void, "setImage:">(cell().imageView(), UIImage::make(bitmap, 2));
+  send<void, "setImage:">(cell().imageView(), UIImageState::make(bitmap, 2));
   application().prepareFrame();
   EXPECT_EQ(cell().imageView().frame().size, (CGSize{30, 30}));
   EXPECT_EQ(_cell->textLabel().frame().origin.x, 16 + 30 + 16);
 }
 
 TEST_F(UITableViewCellTest, AnAccessoryViewStandsAtTheRight) {
-  show(UITableViewCell::plain);
-  const auto first = bridge::makeView<bridge::UIView>({{0, 0}, {20, 10}});
-  const auto second = bridge::makeView<bridge::UIView>({{0, 0}, {50, 10}});
+  show(UITableViewCellState::plain);
+  const auto first = bridge::makeView<UIView>({{0, 0}, {20, 10}});
+  const auto second = bridge::makeView<UIView>({{0, 0}, {50, 10}});
   cell().setAccessoryView(first);
   cell().setAccessoryView(second);
   application().prepareFrame();
-  EXPECT_FALSE(UIView::of(first.get()).superview());
+  EXPECT_FALSE(UIViewState::of(first.get()).superview());
   EXPECT_EQ(second->frame(), (CGRect{{375 - 16 - 50, 17}, {50, 10}}));
   EXPECT_EQ(cell().contentView().frame().size.width, 375 - 16 - 50 - 10);
 }
 
 TEST_F(UITableViewCellTest, TextThatChangesIsLaidOutAgain) {
-  show(UITableViewCell::value1);
+  show(UITableViewCellState::value1);
   _cell->textLabel().setText(text(2));
   application().prepareFrame();
   const CGFloat before = _cell->textLabel().frame().size.width;
@@ -131,19 +129,19 @@ TEST_F(UITableViewCellTest, TextThatChangesIsLaidOutAgain) {
 }
 
 TEST_F(UITableViewCellTest, ReuseBeginsUnselected) {
-  show(UITableViewCell::plain);
-  bridge::send<void, "setSelected:">(_cell, true);
-  bridge::send<void, "setHighlighted:">(_cell, true);
+  show(UITableViewCellState::plain);
+  send<void, "setSelected:">(_cell, true);
+  send<void, "setHighlighted:">(_cell, true);
   EXPECT_TRUE(cell().looksSelected());
-  bridge::send<void, "prepareForReuse">(_cell);
+  send<void, "prepareForReuse">(_cell);
   EXPECT_FALSE(cell().looksSelected());
 }
 
 TEST_F(UITableViewCellTest, FramesWithoutRoomAreLaidOut) {
-  show(UITableViewCell::value1);
+  show(UITableViewCellState::value1);
   _cell->textLabel().setText(text(20));
   _cell->detailTextLabel().setText(text(20));
-  _cell->setAccessoryType(bridge::UITableViewCell::disclosureIndicator);
+  _cell->setAccessoryType(UITableViewCell::disclosureIndicator);
   for (const CGSize size : {CGSize{0, 0}, CGSize{20, 44}, CGSize{375, 1}}) {
     _cell->setFrame({{0, 0}, size});
     application().prepareFrame();

@@ -21,12 +21,12 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // A delegate that gives rows heights of their own.
-class RowHeights : public bridge::Bound<RowHeights, bridge::NSObject> {
+class RowHeights : public Bound<RowHeights, NSObject> {
  public:
   using Bound::Bound;
   static Class classObject() {
     static const Class made =
-        bridge::ClassBuilder<RowHeights>("RowHeights")
+        ClassBuilder<RowHeights>("RowHeights")
             .method<"tableView:heightForRowAtIndexPath:", &RowHeights::height>()
             .build();
     return made;
@@ -34,15 +34,14 @@ class RowHeights : public bridge::Bound<RowHeights, bridge::NSObject> {
   std::vector<CGFloat> heights;  // repeated
 
  private:
-  CGFloat height(bridge::UITableView, bridge::NSIndexPath path) const {
+  CGFloat height(UITableView, NSIndexPath path) const {
     return heights[static_cast<std::size_t>(path.row()) % heights.size()];
   }
 };
 
 template <typename T>
-bridge::Owned<bridge::NSObject> make() {
-  return bridge::Owned<bridge::NSObject>::adopt(
-      bridge::send<bridge::NSObject, "init">(bridge::send<id, "alloc">(T::classObject())));
+Owned<NSObject> make() {
+  return Owned<NSObject>::adopt(send<NSObject, "init">(send<id, "alloc">(T::classObject())));
 }
 
 class UITableViewTest : public ApplicationTest {
@@ -58,24 +57,22 @@ class UITableViewTest : public ApplicationTest {
   TableWatcher& watcher() { return TableWatcher::of(_watcher.get()); }
 
   // A table that fills the screen, below the window.
-  bridge::UITableView show(NSInteger style = UITableView::plain) {
-    _table = bridge::Owned<bridge::UITableView>::adopt(
-        bridge::send<bridge::UITableView, "initWithFrame:style:">(
-            bridge::send<id, "alloc">(bridge::UITableView::classObject()),
-            rectOfSize(screen().size), style));
-    bridge::send<void, "setDataSource:">(_table, _source);
-    bridge::send<void, "setDelegate:">(_table, _watcher);
+  UITableView show(NSInteger style = UITableViewState::plain) {
+    _table = Owned<UITableView>::adopt(send<UITableView, "initWithFrame:style:">(
+        send<id, "alloc">(UITableView::classObject()), rectOfSize(screen().size), style));
+    send<void, "setDataSource:">(_table, _source);
+    send<void, "setDelegate:">(_table, _watcher);
     window().addSubview(_table);
     application().prepareFrame();
     return _table;
   }
 
-  UITableView& table() { return UITableView::of(_table.get()); }
-  UIScrollView& scroll() { return UIScrollView::of(_table.get()); }
-  bridge::UITableView object() { return _table; }
+  UITableViewState& table() { return UITableViewState::of(_table.get()); }
+  UIScrollViewState& scroll() { return UIScrollViewState::of(_table.get()); }
+  UITableView object() { return _table; }
 
   void scrollTo(CGFloat y) {
-    handles::UIScrollView(_table.get().get()).setContentOffset({0, y});
+    UIScrollView(_table.get().get()).setContentOffset({0, y});
     application().prepareFrame();
   }
 
@@ -85,12 +82,12 @@ class UITableViewTest : public ApplicationTest {
     return all;
   }
 
-  UITableViewCell& cell(ItemPath path) {
-    return UITableViewCell::of(table().cellForRow(indexPathOf(path)));
+  UITableViewCellState& cell(ItemPath path) {
+    return UITableViewCellState::of(table().cellForRow(indexPathOf(path)));
   }
 
   CGPoint middleOf(ItemPath path) {
-    return apply(UIView::of(_table.get()).toScreen(),
+    return apply(UIViewState::of(_table.get()).toScreen(),
                  middle(table().rectForRow(indexPathOf(path))));
   }
 
@@ -106,9 +103,9 @@ class UITableViewTest : public ApplicationTest {
     application().advance(time);
   }
 
-  bridge::Owned<bridge::NSObject> _source;
-  bridge::Owned<bridge::NSObject> _watcher;
-  bridge::Owned<bridge::UITableView> _table;
+  Owned<NSObject> _source;
+  Owned<NSObject> _watcher;
+  Owned<UITableView> _table;
 };
 
 TEST_F(UITableViewTest, ExactlyTheRowsInSightHaveCells) {
@@ -139,10 +136,10 @@ TEST_F(UITableViewTest, CellsWithoutIdentifierAreMadeAnew) {
   source().usesIdentifier = false;
   source().rowCount = 100;
   show();
-  const long alive = UITableViewCell::liveObjects();
+  const long alive = UITableViewCellState::liveObjects();
   scrollTo(44 * 50);
   EXPECT_EQ(source().cellsMade, 32);
-  EXPECT_EQ(UITableViewCell::liveObjects(), alive);
+  EXPECT_EQ(UITableViewCellState::liveObjects(), alive);
 }
 
 TEST_F(UITableViewTest, CellsThatTheSourceDoesNotShowGo) {
@@ -156,12 +153,12 @@ TEST_F(UITableViewTest, CellsThatTheSourceDoesNotShowGo) {
 TEST_F(UITableViewTest, ARegisteredClassMakesCells) {
   source().answer = TableSource::Answer::nothing;
   show();
-  const auto identifier = bridge::NSString::make("registered");
+  const auto identifier = NSString::make("registered");
   EXPECT_FALSE(object().dequeueCell(identifier));
-  bridge::send<void, "registerClass:forCellReuseIdentifier:">(
-      object(), UITableViewCell::classObject(), identifier);
+  send<void, "registerClass:forCellReuseIdentifier:">(object(), UITableViewCellState::classObject(),
+                                                      identifier);
   const auto made = object().dequeueCell(identifier);
-  EXPECT_TRUE(UITableViewCell::of(made).reuseIdentifier().isEqualToString(identifier));
+  EXPECT_TRUE(UITableViewCellState::of(made).reuseIdentifier().isEqualToString(identifier));
 }
 
 TEST_F(UITableViewTest, RowsLieBelowEachOther) {
@@ -191,27 +188,26 @@ TEST_F(UITableViewTest, APointIsInTheRowAroundIt) {
 
 TEST_F(UITableViewTest, AGroupedTableLeavesAGapUnlessItHasAHeader) {
   source().rowCount = 2;
-  show(UITableView::grouped);
+  show(UITableViewState::grouped);
   EXPECT_EQ(table().rectForRow(indexPathOf({0, 0})).origin.y, 35);
-  const auto header =
-      bridge::makeView<bridge::UIView>({{0, 0}, {0, std::numeric_limits<double>::min()}});
+  const auto header = bridge::makeView<UIView>({{0, 0}, {0, std::numeric_limits<double>::min()}});
   object().setTableHeaderView(header);
   application().prepareFrame();
   EXPECT_LT(table().rectForRow(indexPathOf({0, 0})).origin.y, 20);
-  EXPECT_EQ(UIView::of(object()).backgroundColor(), colors::groupedBackground);
+  EXPECT_EQ(UIViewState::of(object()).backgroundColor(), colors::groupedBackground);
 }
 
 TEST_F(UITableViewTest, HeadersAndFootersStandAroundTheirRows) {
   source().rowCount = 2;
   source().headerTitle = "Head";
   source().footerTitle = "Foot";
-  show(UITableView::grouped);
+  show(UITableViewState::grouped);
   const CGRect first = table().rectForRow(indexPathOf({0, 0}));
   EXPECT_EQ(first.origin.y, 55);
   ASSERT_EQ(object().subviews().count(), 4u);
   std::vector<std::string> titles;
-  for (const auto& view : UIView::of(object()).subviews())
-    if (bridge::isKindOf(view, UITableViewHeaderFooterView::classObject()))
+  for (const auto& view : UIViewState::of(object()).subviews())
+    if (isKindOf(view, UITableViewHeaderFooterView::classObject()))
       titles.push_back(UITableViewHeaderFooterView::of(view.get()).textLabel().text().utf8());
   EXPECT_THAT(titles, ElementsAre("HEAD", "Foot"));
 }
@@ -224,8 +220,8 @@ TEST_F(UITableViewTest, APlainHeaderStaysInSightWithItsSection) {
   scrollTo(300);
   const auto header = [this] {
     CGRect least = {{0, std::numeric_limits<double>::max()}, {}};
-    for (const auto& view : UIView::of(object()).subviews())
-      if (bridge::isKindOf(view, UITableViewHeaderFooterView::classObject()) &&
+    for (const auto& view : UIViewState::of(object()).subviews())
+      if (isKindOf(view, UITableViewHeaderFooterView::classObject()) &&
           view->frame().origin.y < least.origin.y)
         least = view->frame();
     return least;
@@ -241,7 +237,7 @@ TEST_F(UITableViewTest, RowsCanHaveHeightsOfTheirOwn) {
   const auto heights = make<RowHeights>();
   RowHeights::of(heights.get()).heights = {10, 0, 90, -1, NAN};
   show();
-  bridge::send<void, "setDelegate:">(object(), heights);
+  send<void, "setDelegate:">(object(), heights);
   application().prepareFrame();
   EXPECT_EQ(table().rectForRow(indexPathOf({0, 2})), (CGRect{{0, 10}, {375, 90}}));
   EXPECT_EQ(table().rectForRow(indexPathOf({0, 3})).size.height, 44);  // negative: the standard one
@@ -250,7 +246,7 @@ TEST_F(UITableViewTest, RowsCanHaveHeightsOfTheirOwn) {
   EXPECT_EQ(itemPathOf(table().indexPathForRowAt({10, 10})), (ItemPath{0, 2}));
   scrollTo(144 * 150);
   EXPECT_EQ(texts().front(), "0.750");
-  bridge::send<void, "setDelegate:">(object(), bridge::NSObject());
+  send<void, "setDelegate:">(object(), NSObject());
 }
 
 TEST_F(UITableViewTest, WithoutRowsThereIsNothing) {
@@ -347,11 +343,11 @@ TEST_F(UITableViewTest, ASourceThatAlwaysReloadsDoesNotHang) {
 TEST_F(UITableViewTest, LowRowsDoNotFillTheMemory) {
   source().rowCount = 1'000'000;
   show();
-  bridge::send<void, "setRowHeight:">(object(), 1e-9);
+  send<void, "setRowHeight:">(object(), 1e-9);
   application().prepareFrame();
   EXPECT_LE(table().cells().size(), TableGeometry::maximalRowsInSight);
   for (const CGFloat height : {double{NAN}, double{INFINITY}, -double{INFINITY}, 1e308}) {
-    bridge::send<void, "setRowHeight:">(object(), height);
+    send<void, "setRowHeight:">(object(), height);
     application().prepareFrame();
     EXPECT_LE(table().cells().size(), 16u) << height;
   }
@@ -392,7 +388,7 @@ TEST_F(UITableViewTest, TheDelegateCanRefuseASelection) {
   tap(middleOf({0, 3}));
   EXPECT_FALSE(table().selectedRow());
   EXPECT_THAT(watcher().events, IsEmpty());
-  bridge::send<void, "setAllowsSelection:">(object(), false);
+  send<void, "setAllowsSelection:">(object(), false);
   hold(middleOf({0, 3}), 0.2);
   EXPECT_FALSE(cell({0, 3}).isHighlighted());
 }
@@ -412,7 +408,7 @@ TEST_F(UITableViewTest, AFingerThatScrollsSelectsNothing) {
   touches().up({from.x, from.y - 200});
   application().advance(3);
   EXPECT_THAT(watcher().events, IsEmpty());
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
 }
 
 TEST_F(UITableViewTest, AFingerThatMovesAwaySelectsNothing) {
@@ -434,7 +430,7 @@ TEST_F(UITableViewTest, AFingerThatMovesAwaySelectsNothing) {
 TEST_F(UITableViewTest, ARowOfNoSelectionStyleIsSelectedUnseen) {
   source().rowCount = 10;
   show();
-  cell({0, 2}).setSelectionStyle(UITableViewCell::noSelection);
+  cell({0, 2}).setSelectionStyle(UITableViewCellState::noSelection);
   tap(middleOf({0, 2}));
   EXPECT_THAT(watcher().events, ElementsAre("select 0.2"));
   EXPECT_TRUE(cell({0, 2}).isSelected());
@@ -444,16 +440,16 @@ TEST_F(UITableViewTest, ARowOfNoSelectionStyleIsSelectedUnseen) {
 TEST_F(UITableViewTest, SelectionByCodeTellsNobody) {
   source().rowCount = 100;
   show();
-  bridge::send<void, "selectRowAtIndexPath:animated:scrollPosition:">(
-      object(), indexPathOf({0, 50}), false, NSInteger{UITableView::middle});
+  send<void, "selectRowAtIndexPath:animated:scrollPosition:">(object(), indexPathOf({0, 50}), false,
+                                                              NSInteger{UITableViewState::middle});
   application().prepareFrame();
   EXPECT_TRUE(cell({0, 50}).isSelected());
   EXPECT_EQ(scroll().contentOffset().y, 50 * 44 - (667 - 44) / 2.0);
-  const auto selected = bridge::send<bridge::NSIndexPath, "indexPathForSelectedRow">(object());
+  const auto selected = send<NSIndexPath, "indexPathForSelectedRow">(object());
   EXPECT_EQ(itemPathOf(selected), (ItemPath{0, 50}));
-  object().deselectRow(selected, bridge::UIViewController::animated);
+  object().deselectRow(selected, UIViewController::animated);
   EXPECT_FALSE(cell({0, 50}).isSelected());
-  EXPECT_FALSE((bridge::send<bridge::NSIndexPath, "indexPathForSelectedRow">(object())));
+  EXPECT_FALSE((send<NSIndexPath, "indexPathForSelectedRow">(object())));
   EXPECT_THAT(watcher().events, IsEmpty());
 }
 
@@ -463,7 +459,7 @@ TEST_F(UITableViewTest, ASelectedRowIsStillSelectedWhenItComesBack) {
   tap(middleOf({0, 2}));
   scrollTo(44 * 50);
   for (const auto& [path, shown] : table().cells())
-    EXPECT_FALSE(UITableViewCell::of(shown.get()).isSelected()) << textOf(path);
+    EXPECT_FALSE(UITableViewCellState::of(shown.get()).isSelected()) << textOf(path);
   scrollTo(0);
   EXPECT_TRUE(cell({0, 2}).isSelected());
 }
@@ -481,15 +477,15 @@ TEST_F(UITableViewTest, ALongPressShowsTheEditMenu) {
   source().rowCount = 10;
   show();
   hold(middleOf({0, 3}), 0.45);
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
   application().advance(0.1);
-  EXPECT_TRUE(UIMenuController::shared().isVisible());
-  EXPECT_THAT(UIMenuController::shared().titles(), ElementsAre("Copy"));
+  EXPECT_TRUE(UIMenuControllerState::shared().isVisible());
+  EXPECT_THAT(UIMenuControllerState::shared().titles(), ElementsAre("Copy"));
   touches().up(middleOf({0, 3}));
-  UIMenuController::shared().run(0);
+  UIMenuControllerState::shared().run(0);
   EXPECT_THAT(watcher().events, ElementsAre("menu 0.3", "copy: 0.3"));
-  EXPECT_EQ(watcher().sender, UIMenuController::sharedMenuController());
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_EQ(watcher().sender, UIMenuControllerState::sharedMenuController());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
 }
 
 TEST_F(UITableViewTest, TheMenuHasTheCommandsThatTheDelegateKnows) {
@@ -497,9 +493,9 @@ TEST_F(UITableViewTest, TheMenuHasTheCommandsThatTheDelegateKnows) {
   watcher().allowedActions = "paste: cut: copy:";
   show();
   hold(middleOf({0, 1}), 0.6);
-  EXPECT_THAT(UIMenuController::shared().titles(), ElementsAre("Cut", "Copy", "Paste"));
+  EXPECT_THAT(UIMenuControllerState::shared().titles(), ElementsAre("Cut", "Copy", "Paste"));
   _table->removeFromSuperview();
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
 }
 
 TEST_F(UITableViewTest, WithoutAMenuALongPressEndsAsATap) {
@@ -507,7 +503,7 @@ TEST_F(UITableViewTest, WithoutAMenuALongPressEndsAsATap) {
   watcher().showsMenu = false;
   show();
   hold(middleOf({0, 3}), 1);
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
   touches().up(middleOf({0, 3}));
   EXPECT_THAT(watcher().events, ElementsAre("menu 0.3", "select 0.3"));
 }
@@ -516,11 +512,11 @@ TEST_F(UITableViewTest, ATableThatGoesTakesItsMenuAlong) {
   source().rowCount = 10;
   show();
   hold(middleOf({0, 3}), 0.6);
-  ASSERT_TRUE(UIMenuController::shared().isVisible());
+  ASSERT_TRUE(UIMenuControllerState::shared().isVisible());
   _table->removeFromSuperview();
   _table.reset();
   application().advance(1);
-  EXPECT_FALSE(UIMenuController::shared().isVisible());
+  EXPECT_FALSE(UIMenuControllerState::shared().isVisible());
 }
 
 TEST_F(UITableViewTest, ScrollingToARowShowsItWhereItWasAsked) {
@@ -532,38 +528,38 @@ TEST_F(UITableViewTest, ScrollingToARowShowsItWhereItWasAsked) {
     CGFloat offset;
   };
   for (const auto& [position, from, expected] :
-       {Row{UITableView::top, 0, 2200}, Row{UITableView::bottom, 0, 2244 - 667},
-        Row{UITableView::none, 0, 2244 - 667}, Row{UITableView::none, 2000, 2000},
-        Row{UITableView::none, 3000, 2200}}) {
+       {Row{UITableViewState::top, 0, 2200}, Row{UITableViewState::bottom, 0, 2244 - 667},
+        Row{UITableViewState::none, 0, 2244 - 667}, Row{UITableViewState::none, 2000, 2000},
+        Row{UITableViewState::none, 3000, 2200}}) {
     scrollTo(from);
-    bridge::send<void, "scrollToRowAtIndexPath:atScrollPosition:animated:">(
-        object(), indexPathOf({0, 50}), position, false);
+    send<void, "scrollToRowAtIndexPath:atScrollPosition:animated:">(object(), indexPathOf({0, 50}),
+                                                                    position, false);
     EXPECT_EQ(scroll().contentOffset().y, expected) << position << " from " << from;
   }
-  bridge::send<void, "scrollToRowAtIndexPath:atScrollPosition:animated:">(
-      object(), indexPathOf({0, 100}), NSInteger{UITableView::top}, false);
+  send<void, "scrollToRowAtIndexPath:atScrollPosition:animated:">(
+      object(), indexPathOf({0, 100}), NSInteger{UITableViewState::top}, false);
   EXPECT_EQ(scroll().contentOffset().y, 2200);
 }
 
 TEST_F(UITableViewTest, GroupedRowsHaveHairlinesAroundAndBetween) {
   source().rowCount = 3;
-  show(UITableView::grouped);
+  show(UITableViewState::grouped);
   EXPECT_TRUE(cell({0, 0}).separators().above);
   EXPECT_EQ(cell({0, 0}).separators().insetBelow, 16);
   EXPECT_FALSE(cell({0, 1}).separators().above);
   EXPECT_EQ(cell({0, 2}).separators().insetBelow, 0);
-  bridge::send<void, "setSeparatorStyle:">(object(), NSInteger{UITableView::noSeparators});
+  send<void, "setSeparatorStyle:">(object(), NSInteger{UITableViewState::noSeparators});
   EXPECT_FALSE(cell({0, 1}).separators().below);
 }
 
 TEST_F(UITableViewTest, NothingStaysBehind) {
   touches().abandon();
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     source().rowCount = 1000;
     source().headerTitle = "Head";
-    show(UITableView::grouped);
+    show(UITableViewState::grouped);
     for (CGFloat y = 0; y < 5000; y += 300) scrollTo(y);
     tap(middleOf({0, 105}));
     hold(middleOf({0, 106}), 0.6);
@@ -574,7 +570,7 @@ TEST_F(UITableViewTest, NothingStaysBehind) {
     _table.reset();
     application().advance(1);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

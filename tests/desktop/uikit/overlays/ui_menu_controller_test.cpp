@@ -14,47 +14,46 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::Owned;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 // Takes commands: copy:, and says so.
-class CommandView : public bridge::Bound<CommandView, bridge::UIView> {
+class CommandView : public Bound<CommandView, UIView> {
  public:
   using Bound::Bound;
   static Class classObject() {
-    static const Class made = bridge::ClassBuilder<CommandView>("CommandView")
+    static const Class made = ClassBuilder<CommandView>("CommandView")
                                   .method<"canBecomeFirstResponder", &CommandView::yes>()
                                   .method<"copy:", &CommandView::copy>()
                                   .build();
     return made;
   }
-  bridge::Object copied;
+  Object copied;
 
  private:
   bool yes() const { return true; }
-  void copy(bridge::Object sender) { copied = sender; }
+  void copy(Object sender) { copied = sender; }
 };
 
 class UIMenuControllerTest : public ControllerTest {
  protected:
   UIMenuControllerTest() : a(showRoot(ProbeController::make("A"))) {}
 
-  static UIMenuController& menu() { return UIMenuController::shared(); }
+  static UIMenuControllerState& menu() { return UIMenuControllerState::shared(); }
   void show(CGRect target) {
     menu().show({{"Copy", [this] { chosen.push_back("Copy"); }},
                  {"Select All", [this] { chosen.push_back("Select All"); }}},
                 target, [this] { ++hidden; });
   }
 
-  const Owned<bridge::UIViewController> a;
+  const Owned<UIViewController> a;
   std::vector<std::string> chosen;
   int hidden = 0;
 };
 
 TEST_F(UIMenuControllerTest, ACommandHidesTheMenuAndRuns) {
   show({{100, 300}, {50, 20}});
-  EXPECT_TRUE((bridge::send<bool, "isMenuVisible">(UIMenuController::sharedMenuController())));
+  EXPECT_TRUE((send<bool, "isMenuVisible">(UIMenuControllerState::sharedMenuController())));
   EXPECT_THAT(menu().titles(), ElementsAre("Copy", "Select All"));
   tap("Select All");
   EXPECT_THAT(chosen, ElementsAre("Select All"));
@@ -65,8 +64,8 @@ TEST_F(UIMenuControllerTest, ACommandHidesTheMenuAndRuns) {
 }
 
 TEST_F(UIMenuControllerTest, ATouchBesideItHidesItAndGoesOn) {
-  const auto button = bridge::makeView<bridge::UIControl>({{0, 0}, {375, 100}});
-  button->addTarget(a.get(), bridge::selector<"press:">(), bridge::touchUpInside);
+  const auto button = bridge::makeView<UIControl>({{0, 0}, {375, 100}});
+  button->addTarget(a.get(), selector<"press:">(), touchUpInside);
   a->view().addSubview(button);
   show({{100, 300}, {50, 20}});
   tap({20, 50});
@@ -92,7 +91,7 @@ TEST_F(UIMenuControllerTest, StandsAboveOrBelowItsTargetInsideTheScreen) {
   for (const Case& each : cases) {
     show(each.target);
     EXPECT_THAT(numbers(menu().menuFrame()), testing::ElementsAreArray(numbers(each.frame)));
-    EXPECT_EQ(bridge::UIMenuController(UIMenuController::sharedMenuController()).menuFrame(),
+    EXPECT_EQ(UIMenuController(UIMenuControllerState::sharedMenuController()).menuFrame(),
               menu().menuFrame());
   }
   EXPECT_EQ(hidden, 4);
@@ -116,13 +115,13 @@ TEST_F(UIMenuControllerTest, TheFrameIsKeptForWhoeverAsksAfterwards) {
 }
 
 TEST_F(UIMenuControllerTest, ShowsWhatTheFirstResponderCanDo) {
-  const auto view = Owned<bridge::UIView>::adopt(bridge::send<bridge::UIView, "initWithFrame:">(
-      bridge::send<id, "alloc">(CommandView::classObject()), CGRect{{0, 200}, {100, 20}}));
+  const auto view = Owned<UIView>::adopt(send<UIView, "initWithFrame:">(
+      send<id, "alloc">(CommandView::classObject()), CGRect{{0, 200}, {100, 20}}));
   a->view().addSubview(view);
-  bridge::send<bool, "becomeFirstResponder">(view.get());
-  const auto shared = UIMenuController::sharedMenuController();
-  bridge::send<void, "setTargetRect:inView:">(shared, CGRect{{0, 0}, {100, 20}}, view.get());
-  bridge::send<void, "setMenuVisible:animated:">(shared, true, true);
+  send<bool, "becomeFirstResponder">(view.get());
+  const auto shared = UIMenuControllerState::sharedMenuController();
+  send<void, "setTargetRect:inView:">(shared, CGRect{{0, 0}, {100, 20}}, view.get());
+  send<void, "setMenuVisible:animated:">(shared, true, true);
   EXPECT_THAT(menu().titles(), ElementsAre("Copy"));
   EXPECT_EQ(menu().menuFrame().origin.y, 155);
   tap("Copy");
@@ -132,26 +131,25 @@ TEST_F(UIMenuControllerTest, ShowsWhatTheFirstResponderCanDo) {
 TEST_F(UIMenuControllerTest, ThereIsNoMenuWithoutCommands) {
   menu().show({}, {{100, 300}, {50, 20}});
   EXPECT_FALSE(menu().isVisible());
-  bridge::send<void, "setMenuVisible:animated:">(UIMenuController::sharedMenuController(), true,
-                                                 true);
+  send<void, "setMenuVisible:animated:">(UIMenuControllerState::sharedMenuController(), true, true);
   EXPECT_FALSE(menu().isVisible());
 }
 
 TEST_F(UIMenuControllerTest, GoesWhenAnotherScreenComes) {
   show({{100, 300}, {50, 20}});
-  a->present(ProbeController::make("B"), bridge::UIViewController::animated, {});
+  a->present(ProbeController::make("B"), UIViewController::animated, {});
   EXPECT_FALSE(menu().isVisible());
   EXPECT_EQ(hidden, 1);
 }
 
 TEST_F(UIMenuControllerTest, NothingIsLeftOfItEvenWhereTheApplicationGoes) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     show({{100, 300}, {50, 20}});
     tap("Copy");
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
   show({{100, 300}, {50, 20}});
   resetApplication();
   EXPECT_FALSE(menu().isVisible());

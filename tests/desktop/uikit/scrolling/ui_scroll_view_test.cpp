@@ -20,20 +20,17 @@ class UIScrollViewTest : public TouchTest {
   UIScrollViewTest() {
     window().addSubview(view);
     view->setContentSize({300, 2000});
-    bridge::send<void, "setDelegate:">(view.get(), probe.get());
+    send<void, "setDelegate:">(view.get(), probe.get());
   }
-  ~UIScrollViewTest() override {
-    bridge::send<void, "setDelegate:">(view.get(), bridge::NSObject());
-  }
+  ~UIScrollViewTest() override { send<void, "setDelegate:">(view.get(), NSObject()); }
 
-  UIScrollView& state() { return UIScrollView::of(view.get()); }
+  UIScrollViewState& state() { return UIScrollViewState::of(view.get()); }
   CGPoint offset() { return view->contentOffset(); }
   void set(const char* name, bool value) {
-    bridge::dispatch<void>(view.get().get(), sel_registerName(name), BOOL{value});
+    dispatch<void>(view.get().get(), sel_registerName(name), BOOL{value});
   }
 
-  bridge::Owned<handles::UIScrollView> view =
-      bridge::makeView<handles::UIScrollView>({{0, 0}, {300, 500}});
+  Owned<UIScrollView> view = bridge::makeView<UIScrollView>({{0, 0}, {300, 500}});
 };
 
 TEST_F(UIScrollViewTest, FollowsTheFingerAfterTenPoints) {
@@ -208,7 +205,7 @@ TEST_F(UIScrollViewTest, MovesToAnOffsetInTime) {
 }
 
 TEST_F(UIScrollViewTest, AWheelMovesTheInnermostViewThatCanMove) {
-  const auto inner = bridge::makeView<handles::UIScrollView>({{0, 0}, {300, 300}});
+  const auto inner = bridge::makeView<UIScrollView>({{0, 0}, {300, 300}});
   inner->setContentSize({300, 400});
   view->addSubview(inner);
   touches().scroll({100, 100}, {0, 70});
@@ -227,7 +224,7 @@ TEST_F(UIScrollViewTest, AWheelMovesTheInnermostViewThatCanMove) {
 }
 
 TEST_F(UIScrollViewTest, TheInnerViewIsDraggedAlongItsWay) {
-  const auto pager = bridge::makeView<handles::UIScrollView>({{0, 0}, {300, 500}});
+  const auto pager = bridge::makeView<UIScrollView>({{0, 0}, {300, 500}});
   window().addSubview(pager);
   pager->addSubview(view);
   pager->setContentSize({900, 500});
@@ -240,10 +237,10 @@ TEST_F(UIScrollViewTest, TheInnerViewIsDraggedAlongItsWay) {
 }
 
 TEST_F(UIScrollViewTest, ButtonsInItWork) {
-  const auto button = bridge::makeView<bridge::UIControl>({{0, 0}, {200, 200}});
+  const auto button = bridge::makeView<UIControl>({{0, 0}, {200, 200}});
   view->addSubview(button);
   const auto target = Probe::make();
-  button->addTarget(target.get(), bridge::selector<"act">(), bridge::touchUpInside);
+  button->addTarget(target.get(), selector<"act">(), touchUpInside);
   tap({100, 100});
   tap({100, 100}, 0.3);
   EXPECT_THAT(of(target).told, ElementsAre("act", "act"));
@@ -286,10 +283,10 @@ TEST_F(UIScrollViewTest, StaysWhereItIsOnceItIsOffScreen) {
 
 TEST_F(UIScrollViewTest, MayGoWhileItMoves) {
   drag({100, 450}, {100, 350}, 0.1);
-  const long before = UIScrollView::liveObjects();
+  const long before = UIScrollViewState::liveObjects();
   view->removeFromSuperview();
   view.reset();
-  EXPECT_EQ(UIScrollView::liveObjects(), before - 1);
+  EXPECT_EQ(UIScrollViewState::liveObjects(), before - 1);
   wait(1);
 }
 

@@ -11,15 +11,12 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSString;
-using bridge::send;
-
 class AttributedTextTest : public ApplicationTest {
  protected:
   static constexpr FontFace standard{.size = 12};
 
-  static bridge::Owned<bridge::NSMutableAttributedString> text(const char* utf8) {
-    return bridge::NSMutableAttributedString::withString(NSString::make(utf8));
+  static Owned<NSMutableAttributedString> text(const char* utf8) {
+    return NSMutableAttributedString::withString(NSString::make(utf8));
   }
 };
 
@@ -40,12 +37,12 @@ TEST_F(AttributedTextTest, NothingIsEmptyText) {
 
 TEST_F(AttributedTextTest, RunsHoldFontStyleAndColor) {
   const auto made = text("one two");
-  const auto style = bridge::makeNew<bridge::NSMutableParagraphStyle>();
+  const auto style = makeNew<NSMutableParagraphStyle>();
   style->setHeadIndent(22);
   style->setParagraphSpacing(1.5);
-  made->addAttribute(bridge::paragraphStyleAttributeName(), style, {0, 7});
-  made->addAttribute(bridge::fontAttributeName(), bridge::UIFont::systemFont(13), {0, 7});
-  made->addAttribute(NSString::make("NSColor"), bridge::UIColor::greenColor(), {4, 3});
+  made->addAttribute(paragraphStyleAttributeName(), style, {0, 7});
+  made->addAttribute(fontAttributeName(), UIFont::systemFont(13), {0, 7});
+  made->addAttribute(NSString::make("NSColor"), UIColor::greenColor(), {4, 3});
   const AttributedText read = AttributedText::of(made.get(), standard);
   ASSERT_EQ(read.runs.size(), 2u);
   EXPECT_EQ(read.runs[0].face, FontFace{.size = 13});
@@ -67,23 +64,22 @@ TEST_F(AttributedTextTest, AttributesOfOtherKindsAreIgnored) {
 }
 
 TEST_F(AttributedTextTest, ParagraphStylesAreCopiedAsTheyAre) {
-  const auto style = bridge::makeNew<bridge::NSMutableParagraphStyle>();
+  const auto style = makeNew<NSMutableParagraphStyle>();
   EXPECT_EQ((send<NSInteger, "alignment">(style)), 4);
   EXPECT_EQ((send<CGFloat, "paragraphSpacing">(style)), 0);
   style->setParagraphSpacingBefore(3);
   style->setFirstLineHeadIndent(NAN);
   send<void, "setAlignment:">(style, NSInteger{1});
   send<void, "setAlignment:">(style, NSInteger{77});
-  const auto copy = bridge::Owned<bridge::NSObject>::adopt(send<bridge::NSObject, "copy">(style));
+  const auto copy = Owned<NSObject>::adopt(send<NSObject, "copy">(style));
   style->setParagraphSpacingBefore(9);
   EXPECT_EQ((send<CGFloat, "paragraphSpacingBefore">(copy)), 3);
   EXPECT_EQ((send<CGFloat, "firstLineHeadIndent">(copy)), 0);
   EXPECT_EQ((send<NSInteger, "alignment">(copy)), 1);
   EXPECT_FALSE(copy->isEqual(style));
-  const auto again =
-      bridge::Owned<bridge::NSObject>::adopt(send<bridge::NSObject, "mutableCopy">(copy));
+  const auto again = Owned<NSObject>::adopt(send<NSObject, "mutableCopy">(copy));
   EXPECT_TRUE(copy->isEqual(again));
-  EXPECT_TRUE(bridge::isKindOf(again, NSMutableParagraphStyle::classObject()));
+  EXPECT_TRUE(isKindOf(again, NSMutableParagraphStyleState::classObject()));
 }
 
 }  // namespace

@@ -10,31 +10,29 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSString;
-
 class StringDrawingTest : public testing::Test {
  protected:
   StringDrawingTest() { registerUIKit(); }
 
-  static CGSize sizeOf(const char* text, bridge::Object font) {
-    const auto attributes = bridge::makeNew<bridge::NSMutableDictionary>();
+  static CGSize sizeOf(const char* text, Object font) {
+    const auto attributes = makeNew<NSMutableDictionary>();
     attributes->set(font, NSString(NSFontAttributeName));
-    return bridge::sizeWithAttributes(NSString::make(text), attributes.get());
+    return sizeWithAttributes(NSString::make(text), attributes.get());
   }
 
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
 };
 
 TEST_F(StringDrawingTest, ALineIsAsHighAsItsFont) {
-  const auto font = bridge::UIFont::systemFont(12);
+  const auto font = UIFont::systemFont(12);
   const CGSize size = sizeOf("0000x0000, mgj", font);
-  EXPECT_DOUBLE_EQ(size.height, (bridge::send<CGFloat, "lineHeight">(font)));
+  EXPECT_DOUBLE_EQ(size.height, (send<CGFloat, "lineHeight">(font)));
   EXPECT_NEAR(size.height, 14.52, 0.01);
   EXPECT_NEAR(size.width, 14 * 7.2, 0.01);
 }
 
 TEST_F(StringDrawingTest, LinesStandBelowEachOther) {
-  const auto font = bridge::UIFont::systemFont(10);
+  const auto font = UIFont::systemFont(10);
   const CGSize one = sizeOf("longest", font);
   const CGSize three = sizeOf("a\nlongest\n", font);
   EXPECT_DOUBLE_EQ(three.width, one.width);
@@ -43,22 +41,22 @@ TEST_F(StringDrawingTest, LinesStandBelowEachOther) {
 
 TEST_F(StringDrawingTest, LoneSurrogatesAreMeasuredToo) {
   const auto half = stringOf(u"\U0001F4F7z").substringFrom(1);
-  EXPECT_NEAR(bridge::sizeWithAttributes(half, {}).width, 2 * 7.2, 0.01);
+  EXPECT_NEAR(sizeWithAttributes(half, {}).width, 2 * 7.2, 0.01);
 }
 
 TEST_F(StringDrawingTest, TheAttributeNameHasThePlatformsValue) {
-  EXPECT_TRUE(NSString(NSFontAttributeName).isEqualToString(bridge::fontAttributeName()));
+  EXPECT_TRUE(NSString(NSFontAttributeName).isEqualToString(fontAttributeName()));
 }
 
 TEST_F(StringDrawingTest, EveryKindOfStringCanBeMeasured) {
-  const auto font = bridge::UIFont::systemFont(12);
+  const auto font = UIFont::systemFont(12);
   EXPECT_GT(sizeOf("\xE5\x86\x99\xE7\x9C\x9F", font).width, 0);
   EXPECT_EQ(sizeOf("", font).width, 0);
 }
 
 TEST_F(StringDrawingTest, WithoutAFontTextIsTwelvePointsHigh) {
-  const CGSize expected = sizeOf("text", bridge::UIFont::systemFont(12));
-  EXPECT_EQ(bridge::sizeWithAttributes(NSString::make("text"), {}), expected);
+  const CGSize expected = sizeOf("text", UIFont::systemFont(12));
+  EXPECT_EQ(sizeWithAttributes(NSString::make("text"), {}), expected);
   EXPECT_EQ(sizeOf("text", NSString::make("no font")), expected);
 }
 

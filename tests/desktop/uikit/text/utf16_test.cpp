@@ -8,10 +8,8 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSString;
-
 TEST(Utf16, StringsComeBackAsTheyWere) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   for (const std::u16string text : {u"", u"plain", u"\x5199\x771F", u"\U0001F4F7!"}) {
     EXPECT_EQ(utf16Of(stringOf(text)), text);
     EXPECT_EQ(stringOf(text).length(), text.size());
@@ -20,12 +18,12 @@ TEST(Utf16, StringsComeBackAsTheyWere) {
 }
 
 TEST(Utf16, HalvesOfCharactersAreRead) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   EXPECT_EQ(utf16Of(stringOf(u"\U0001F4F7").substringFrom(1)), u"\xDCF7");
 }
 
 TEST(Utf16, LoneSurrogatesAreReplaced) {
-  const bridge::AutoreleasePool pool;
+  const AutoreleasePool pool;
   EXPECT_EQ(withoutLoneSurrogates(u"a\xD800z\xDC00"), u"a\xFFFDz\xFFFD");
   EXPECT_EQ(withoutLoneSurrogates(u"\xD800\xD83D\xDCF7\xD800"), u"\xFFFD\xD83D\xDCF7\xFFFD");
   EXPECT_EQ(utf16Of(stringOf(u"a\xD800")), u"a\xFFFD");

@@ -11,15 +11,12 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::UILongPressGestureRecognizer;
-using handles::UIPanGestureRecognizer;
-using handles::UITapGestureRecognizer;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 class TouchDispatcherTest : public TouchTest {
  protected:
-  bridge::Owned<bridge::UIView> box = probeIn(window(), {{100, 100}, {100, 100}});
+  Owned<UIView> box = probeIn(window(), {{100, 100}, {100, 100}});
 };
 
 TEST_F(TouchDispatcherTest, ATouchGoesToTheViewBelowIt) {
@@ -39,7 +36,7 @@ TEST_F(TouchDispatcherTest, ATouchBesideTheViewIsNotIts) {
 }
 
 TEST_F(TouchDispatcherTest, AFrontWindowTakesTheTouch) {
-  const auto front = bridge::makeView<handles::UIWindow>({{0, 0}, {150, 150}});
+  const auto front = bridge::makeView<UIWindow>({{0, 0}, {150, 150}});
   front->makeKeyAndVisible();
   tap({120, 120});
   EXPECT_THAT(of(box).touches, IsEmpty());
@@ -77,7 +74,7 @@ TEST_F(TouchDispatcherTest, ARecogniserTakesTheTouchFromTheView) {
 
 TEST_F(TouchDispatcherTest, ARecogniserCanLeaveTheTouchToTheView) {
   const auto recognizer = recognize<UITapGestureRecognizer>(box, probe);
-  bridge::send<void, "setCancelsTouchesInView:">(recognizer.get(), false);
+  send<void, "setCancelsTouchesInView:">(recognizer.get(), false);
   tap({120, 120});
   EXPECT_THAT(of(box).touches, ElementsAre("began", "ended"));
   EXPECT_THAT(of(probe).told, ElementsAre("ended"));
@@ -195,11 +192,11 @@ TEST_F(TouchDispatcherTest, AGestureEndsWhenItIsTurnedOffOrTakenAway) {
   const auto press = recognize<UILongPressGestureRecognizer>(box, probe);
   touches().down({120, 120});
   wait(0.6);
-  bridge::send<void, "setEnabled:">(press.get(), false);
+  send<void, "setEnabled:">(press.get(), false);
   EXPECT_THAT(of(probe).told, ElementsAre("began", "cancelled"));
   touches().up({120, 120});
   tap({120, 120}, 0.6);
-  bridge::send<void, "setEnabled:">(press.get(), true);
+  send<void, "setEnabled:">(press.get(), true);
   touches().down({120, 120});
   wait(0.6);
   box->removeGestureRecognizer(press);
@@ -218,20 +215,20 @@ TEST_F(TouchDispatcherTest, AnActionMayTakeItsViewAway) {
 }
 
 TEST_F(TouchDispatcherTest, LeavesNothingBehind) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     const auto inner = probeIn(box, {{0, 0}, {50, 50}});
     recognize<UITapGestureRecognizer>(inner, probe);
     recognize<UILongPressGestureRecognizer>(inner, probe);
     recognize<UIPanGestureRecognizer>(inner, probe);
-    EXPECT_GT(bridge::liveBoundObjects(), before);
+    EXPECT_GT(liveBoundObjects(), before);
     tap({120, 120});
     tap({120, 120}, 1);
     drag({120, 120}, {180, 180}, 0.2);
     inner->removeFromSuperview();
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 TEST_F(TouchDispatcherTest, TapsInARowAreCounted) {

@@ -21,17 +21,15 @@ constexpr int stepsASequence = 40;
 class TouchSequencesTest : public TouchTest {
  protected:
   TouchSequencesTest() {
-    UIScrollView::of(scroller.get()).setContentSize({900, 3'000});
-    bridge::send<void, "setDelegate:">(scroller.get(), probe.get());
+    UIScrollViewState::of(scroller.get()).setContentSize({900, 3'000});
+    send<void, "setDelegate:">(scroller.get(), probe.get());
     of(probe).onAction = [this] {
       if (below(8) == 0) removeAny();
       if (below(20) == 0) touches().cancel();
     };
     window().addSubview(scroller);
   }
-  ~TouchSequencesTest() override {
-    bridge::send<void, "setDelegate:">(scroller.get(), bridge::NSObject());
-  }
+  ~TouchSequencesTest() override { send<void, "setDelegate:">(scroller.get(), NSObject()); }
 
   int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
   CGPoint anywhere() { return {below(420) - 20.0, below(700) - 20.0}; }
@@ -42,10 +40,10 @@ class TouchSequencesTest : public TouchTest {
   }
 
   // Any view of the tree below the window, or the window.
-  bridge::UIView anyView() {
-    bridge::UIView view = window();
+  UIView anyView() {
+    UIView view = window();
     for (int depth = below(5); depth > 0; --depth) {
-      const auto& subviews = UIView::of(view.get()).subviews();
+      const auto& subviews = UIViewState::of(view.get()).subviews();
       if (subviews.empty()) break;
       view = subviews[random() % subviews.size()];
     }
@@ -53,23 +51,23 @@ class TouchSequencesTest : public TouchTest {
   }
 
   void removeAny() {
-    const bridge::UIView view = anyView();
+    const UIView view = anyView();
     if (view != window()) view.removeFromSuperview();
-    if (!UIView::of(scroller.get()).superview()) window().addSubview(scroller);
+    if (!UIViewState::of(scroller.get()).superview()) window().addSubview(scroller);
   }
 
   void addView() {
     const CGRect frame{anywhere(), {below(300) + 1.0, below(300) + 1.0}};
     switch (below(3)) {
       case 0: {
-        const auto control = bridge::makeView<bridge::UIControl>(frame);
-        UIControl::of(control.get()).addTarget(probe, bridge::selector<"act:event:">(), 0xfff);
+        const auto control = bridge::makeView<UIControl>(frame);
+        UIControlState::of(control.get()).addTarget(probe, selector<"act:event:">(), 0xfff);
         return anyView().addSubview(control);
       }
       case 1: {
-        const auto inner = bridge::makeView<handles::UIScrollView>(frame);
+        const auto inner = bridge::makeView<UIScrollView>(frame);
         inner->setContentSize({below(1'000) + 0.0, below(1'000) + 0.0});
-        bridge::send<void, "setPagingEnabled:">(inner.get(), below(2) == 0);
+        send<void, "setPagingEnabled:">(inner.get(), below(2) == 0);
         return anyView().addSubview(inner);
       }
       default:
@@ -78,37 +76,37 @@ class TouchSequencesTest : public TouchTest {
   }
 
   void addRecognizer() {
-    const bridge::UIView view = anyView();
-    const auto others = UIView::of(view.get()).gestureRecognizers();
-    bridge::Owned<bridge::UIGestureRecognizer> made;
+    const UIView view = anyView();
+    const auto others = UIViewState::of(view.get()).gestureRecognizers();
+    Owned<UIGestureRecognizer> made;
     switch (below(3)) {
       case 0: {
-        const auto tapping = recognize<handles::UITapGestureRecognizer>(view, probe);
+        const auto tapping = recognize<UITapGestureRecognizer>(view, probe);
         tapping->setNumberOfTapsRequired(static_cast<NSUInteger>(1 + below(2)));
         made = made.retain(tapping);
         break;
       }
       case 1:
-        made = made.retain(recognize<bridge::UILongPressGestureRecognizer>(view, probe));
+        made = made.retain(recognize<UILongPressGestureRecognizer>(view, probe));
         break;
       default:
-        made = made.retain(recognize<handles::UIPanGestureRecognizer>(view, probe));
+        made = made.retain(recognize<UIPanGestureRecognizer>(view, probe));
     }
     made->setDelaysTouchesBegan(below(3) == 0);
     if (below(3) == 0) made->setDelegate(probe);
     if (!others.empty() && below(2) == 0)
-      bridge::send<void, "requireGestureRecognizerToFail:">(made.get(),
-                                                            others[random() % others.size()].get());
+      send<void, "requireGestureRecognizerToFail:">(made.get(),
+                                                    others[random() % others.size()].get());
   }
 
   void changeRecognizer() {
-    const bridge::UIView view = anyView();
-    const auto recognizers = UIView::of(view.get()).gestureRecognizers();
+    const UIView view = anyView();
+    const auto recognizers = UIViewState::of(view.get()).gestureRecognizers();
     if (recognizers.empty()) return;
     const auto& any = recognizers[random() % recognizers.size()];
     if (below(2) == 0)
-      bridge::send<void, "setEnabled:">(any.get(), below(3) != 0);
-    else if (!bridge::isKindOf(view, UIScrollView::classObject()))
+      send<void, "setEnabled:">(any.get(), below(3) != 0);
+    else if (!isKindOf(view, UIScrollViewState::classObject()))
       view.removeGestureRecognizer(any);
   }
 
@@ -140,8 +138,7 @@ class TouchSequencesTest : public TouchTest {
 
   CGPoint last;
   std::mt19937 random;
-  bridge::Owned<handles::UIScrollView> scroller =
-      bridge::makeView<handles::UIScrollView>({{20, 20}, {300, 600}});
+  Owned<UIScrollView> scroller = bridge::makeView<UIScrollView>({{20, 20}, {300, 600}});
 };
 
 TEST_F(TouchSequencesTest, EndWell) {
@@ -151,10 +148,10 @@ TEST_F(TouchSequencesTest, EndWell) {
       given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
   std::printf("seed %u\n", seed);
   random.seed(seed);
-  bridge::UIApplication::sharedApplication();  // once made, it stays
-  const long before = bridge::liveBoundObjects();
+  UIApplication::sharedApplication();  // once made, it stays
+  const long before = liveBoundObjects();
   for (std::size_t sequence = 0; sequence < sequences; ++sequence) {
-    const bridge::AutoreleasePool pool;
+    const AutoreleasePool pool;
     of(probe).letsTogether = below(2) == 0;
     of(probe).letsReceive = below(8) != 0;
     of(probe).letsBegin = below(8) != 0;
@@ -162,20 +159,20 @@ TEST_F(TouchSequencesTest, EndWell) {
     for (int count = 0; count < 5; ++count) addRecognizer();
     for (int count = 0; count < stepsASequence; ++count) step();
     touches().cancel();
-    while (!UIView::of(scroller.get()).subviews().empty())
-      UIView::of(scroller.get()).subviews().back()->removeFromSuperview();
-    while (!UIView::of(window().get()).subviews().empty())
-      UIView::of(window().get()).subviews().back()->removeFromSuperview();
-    const auto recognizers = UIView::of(window().get()).gestureRecognizers();
+    while (!UIViewState::of(scroller.get()).subviews().empty())
+      UIViewState::of(scroller.get()).subviews().back()->removeFromSuperview();
+    while (!UIViewState::of(window().get()).subviews().empty())
+      UIViewState::of(window().get()).subviews().back()->removeFromSuperview();
+    const auto recognizers = UIViewState::of(window().get()).gestureRecognizers();
     for (const auto& recognizer : recognizers) window().removeGestureRecognizer(recognizer);
-    const auto ofScroller = UIView::of(scroller.get()).gestureRecognizers();
+    const auto ofScroller = UIViewState::of(scroller.get()).gestureRecognizers();
     for (std::size_t index = 1; index < ofScroller.size(); ++index)
       scroller->removeGestureRecognizer(ofScroller[index]);
     window().addSubview(scroller);
     wait(1);
     ASSERT_FALSE(touches().isDown()) << "seed " << seed << ", sequence " << sequence;
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before) << "seed " << seed;
+  EXPECT_EQ(liveBoundObjects(), before) << "seed " << seed;
   // They did what fingers do.
   EXPECT_GT(of(probe).told.size(), sequences) << "seed " << seed;
   EXPECT_GT(of(probe).scrolling.size(), sequences / 2) << "seed " << seed;

@@ -10,38 +10,35 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::UILongPressGestureRecognizer;
-using handles::UIPanGestureRecognizer;
-using handles::UITapGestureRecognizer;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 class UIGestureRecognizerTest : public TouchTest {
  protected:
-  static void require(bridge::UIGestureRecognizer recognizer, bridge::UIGestureRecognizer other) {
-    bridge::send<void, "requireGestureRecognizerToFail:">(recognizer, other);
+  static void require(UIGestureRecognizer recognizer, UIGestureRecognizer other) {
+    send<void, "requireGestureRecognizerToFail:">(recognizer, other);
   }
 
-  bridge::Owned<bridge::UIView> box = probeIn(window(), {{100, 100}, {100, 100}});
+  Owned<UIView> box = probeIn(window(), {{100, 100}, {100, 100}});
   CGPoint inside{120, 120};
 };
 
 TEST_F(UIGestureRecognizerTest, OthersReadItsTargetsByName) {
-  const SEL action = bridge::selector<"gesture:">();
+  const SEL action = selector<"gesture:">();
   const auto press = UILongPressGestureRecognizer::make(probe, action);
-  const auto targets = bridge::as<bridge::NSArray>(bridge::objectField(press, "_targets"));
+  const auto targets = as<NSArray>(objectField(press, "_targets"));
   ASSERT_EQ(targets.count(), 1u);
-  EXPECT_EQ(bridge::objectField(targets.at(0), "_target"), probe.get());
-  EXPECT_TRUE(bridge::sameSelector(bridge::selectorField(targets.at(0), "_action"), action));
+  EXPECT_EQ(objectField(targets.at(0), "_target"), probe.get());
+  EXPECT_TRUE(sameSelector(selectorField(targets.at(0), "_action"), action));
 }
 
 TEST_F(UIGestureRecognizerTest, ATargetIsThereOnce) {
-  const SEL action = bridge::selector<"gesture:">();
+  const SEL action = selector<"gesture:">();
   const auto press = UILongPressGestureRecognizer::make(probe, action);
-  UIGestureRecognizer& state = UIGestureRecognizer::of(press.get());
+  UIGestureRecognizerState& state = UIGestureRecognizerState::of(press.get());
   state.addTarget(probe, action);
   EXPECT_EQ(state.actions().size(), 1u);
-  state.addTarget(probe, bridge::selector<"act">());
+  state.addTarget(probe, selector<"act">());
   state.addTarget({}, action);
   state.addTarget(probe, nullptr);
   EXPECT_EQ(state.actions().size(), 2u);
@@ -49,14 +46,14 @@ TEST_F(UIGestureRecognizerTest, ATargetIsThereOnce) {
 
 TEST_F(UIGestureRecognizerTest, NilTakesAwayAnyTarget) {
   const auto other = Probe::make();
-  const SEL action = bridge::selector<"gesture:">();
+  const SEL action = selector<"gesture:">();
   const auto press = UILongPressGestureRecognizer::make(probe, action);
-  UIGestureRecognizer& state = UIGestureRecognizer::of(press.get());
-  const auto remove = [&](bridge::NSObject target, SEL removed) {
-    bridge::send<void, "removeTarget:action:">(press.get(), target, removed);
+  UIGestureRecognizerState& state = UIGestureRecognizerState::of(press.get());
+  const auto remove = [&](NSObject target, SEL removed) {
+    send<void, "removeTarget:action:">(press.get(), target, removed);
   };
   state.addTarget(other, action);
-  remove(other, bridge::selector<"act">());
+  remove(other, selector<"act">());
   EXPECT_EQ(state.actions().size(), 2u);
   remove(other, nullptr);
   EXPECT_EQ(state.actions().size(), 1u);
@@ -68,25 +65,25 @@ TEST_F(UIGestureRecognizerTest, NilTakesAwayAnyTarget) {
 TEST_F(UIGestureRecognizerTest, BelongsToOneView) {
   const auto other = probeIn(window(), {});
   const auto press = recognize<UILongPressGestureRecognizer>(box, probe);
-  EXPECT_EQ((bridge::send<bridge::UIView, "view">(press.get())), box.get());
+  EXPECT_EQ((send<UIView, "view">(press.get())), box.get());
   other->addGestureRecognizer(press);
-  EXPECT_EQ((bridge::send<bridge::UIView, "view">(press.get())), other.get());
+  EXPECT_EQ((send<UIView, "view">(press.get())), other.get());
   EXPECT_EQ(box->gestureRecognizers().count(), 0u);
   other->removeGestureRecognizer(press);
-  EXPECT_FALSE((bridge::send<bridge::UIView, "view">(press.get())));
+  EXPECT_FALSE((send<UIView, "view">(press.get())));
 }
 
 TEST_F(UIGestureRecognizerTest, OutlivesItsView) {
   auto view = ProbeView::make({});
   const auto press = recognize<UILongPressGestureRecognizer>(view, probe);
   view.reset();
-  EXPECT_FALSE((bridge::send<bridge::UIView, "view">(press.get())));
+  EXPECT_FALSE((send<UIView, "view">(press.get())));
   EXPECT_EQ(press->locationIn({}), CGPoint{});
 }
 
 TEST_F(UIGestureRecognizerTest, ActionsTakeNoArgumentsOrTheRecogniser) {
   const auto tapping = recognize<UITapGestureRecognizer>(box, probe);
-  UIGestureRecognizer::of(tapping.get()).addTarget(probe, bridge::selector<"act">());
+  UIGestureRecognizerState::of(tapping.get()).addTarget(probe, selector<"act">());
   tap(inside);
   EXPECT_THAT(of(probe).told, ElementsAre("ended", "act"));
   EXPECT_EQ(of(probe).location, (CGPoint{20, 20}));
@@ -95,9 +92,9 @@ TEST_F(UIGestureRecognizerTest, ActionsTakeNoArgumentsOrTheRecogniser) {
 TEST_F(UIGestureRecognizerTest, ATargetTakenAwayByAnActionIsNotTold) {
   const auto other = Probe::make();
   const auto tapping = recognize<UITapGestureRecognizer>(box, probe);
-  UIGestureRecognizer::of(tapping.get()).addTarget(other, bridge::selector<"gesture:">());
+  UIGestureRecognizerState::of(tapping.get()).addTarget(other, selector<"gesture:">());
   of(probe).onAction = [&] {
-    bridge::send<void, "removeTarget:action:">(tapping.get(), other.get(), SEL{});
+    send<void, "removeTarget:action:">(tapping.get(), other.get(), SEL{});
   };
   tap(inside);
   EXPECT_THAT(of(probe).told, ElementsAre("ended"));
@@ -109,10 +106,10 @@ TEST_F(UIGestureRecognizerTest, IsPossibleAgainAfterTheTouch) {
   touches().down(inside);
   wait(0.6);
   EXPECT_EQ(press->state(), UILongPressGestureRecognizer::began);
-  EXPECT_EQ((bridge::send<NSUInteger, "numberOfTouches">(press.get())), 1u);
+  EXPECT_EQ((send<NSUInteger, "numberOfTouches">(press.get())), 1u);
   touches().up(inside);
   EXPECT_EQ(press->state(), UILongPressGestureRecognizer::possible);
-  EXPECT_EQ((bridge::send<NSUInteger, "numberOfTouches">(press.get())), 0u);
+  EXPECT_EQ((send<NSUInteger, "numberOfTouches">(press.get())), 0u);
 }
 
 TEST_F(UIGestureRecognizerTest, ALongPressBeginsAtHalfASecond) {
@@ -253,7 +250,7 @@ TEST_F(UIGestureRecognizerTest, ThePansWayCanBeCountedAnew) {
   const auto pan = recognize<UIPanGestureRecognizer>(box, probe);
   touches().down(inside);
   touches().move({inside.x, inside.y + 50});
-  bridge::send<void, "setTranslation:inView:">(pan.get(), CGPoint{3, 4}, box.get());
+  send<void, "setTranslation:inView:">(pan.get(), CGPoint{3, 4}, box.get());
   EXPECT_EQ(pan->translationIn(box), (CGPoint{3, 4}));
   touches().move({inside.x + 1, inside.y + 51});
   EXPECT_EQ(pan->translationIn(box), (CGPoint{4, 5}));
@@ -272,7 +269,7 @@ TEST_F(UIGestureRecognizerTest, APanHasTheVelocityOfTheLastMoment) {
 
 TEST_F(UIGestureRecognizerTest, TransformsApplyToWaysAndPlaces) {
   const auto pan = recognize<UIPanGestureRecognizer>(box, probe);
-  box->setTransform(bridge::scaling(2, 2));
+  box->setTransform(scaling(2, 2));
   touches().down({150, 150});
   touches().move({150, 180});
   EXPECT_EQ(of(probe).translation, (CGPoint{0, 10}));
@@ -280,22 +277,21 @@ TEST_F(UIGestureRecognizerTest, TransformsApplyToWaysAndPlaces) {
 }
 
 TEST_F(UIGestureRecognizerTest, AClassBelowDecidesByItself) {
-  struct Eager : public bridge::Bound<Eager, bridge::UIGestureRecognizer> {
+  struct Eager : public Bound<Eager, UIGestureRecognizer> {
     using Bound::Bound;
-    void began(bridge::NSSet, bridge::UIEvent) {
-      bridge::send<void, "setState:">(self(), NSInteger{bridge::UIGestureRecognizer::began});
+    void began(NSSet, UIEvent) {
+      send<void, "setState:">(self(), NSInteger{UIGestureRecognizer::began});
     }
     static Class classObject() {
-      static const Class made = bridge::ClassBuilder<Eager>("EagerRecognizer")
+      static const Class made = ClassBuilder<Eager>("EagerRecognizer")
                                     .method<"touchesBegan:withEvent:", &Eager::began>()
                                     .build();
       return made;
     }
   };
-  const auto eager = bridge::Owned<bridge::UIGestureRecognizer>::adopt(
-      bridge::send<bridge::UIGestureRecognizer, "initWithTarget:action:">(
-          bridge::send<id, "alloc">(Eager::classObject()), probe.get(),
-          bridge::selector<"gesture:">()));
+  const auto eager =
+      Owned<UIGestureRecognizer>::adopt(send<UIGestureRecognizer, "initWithTarget:action:">(
+          send<id, "alloc">(Eager::classObject()), probe.get(), selector<"gesture:">()));
   box->addGestureRecognizer(eager);
   touches().down(inside);
   touches().up(inside);

@@ -14,26 +14,25 @@
 namespace desktop::uikit {
 namespace {
 
-bridge::UIImage picture(int width, int height, CGFloat scale = 1) {
+UIImage picture(int width, int height, CGFloat scale = 1) {
   Bitmap bitmap{width, height, {}};
   bitmap.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-  return UIImage::make(std::make_shared<const Bitmap>(std::move(bitmap)), scale);
+  return UIImageState::make(std::make_shared<const Bitmap>(std::move(bitmap)), scale);
 }
 
 class UIImageViewTest : public ApplicationTest {
  protected:
   UIImageViewTest() { window().addSubview(view); }
 
-  bridge::Owned<handles::UIImageView> view =
-      bridge::makeView<handles::UIImageView>({{10, 10}, {100, 50}});
+  Owned<UIImageView> view = bridge::makeView<UIImageView>({{10, 10}, {100, 50}});
 };
 
 TEST_F(UIImageViewTest, AnImagesSizeIsInPoints) {
-  EXPECT_EQ((bridge::send<CGSize, "size">(picture(30, 20, 2))), (CGSize{15, 10}));
+  EXPECT_EQ((send<CGSize, "size">(picture(30, 20, 2))), (CGSize{15, 10}));
   for (const CGFloat scale : {0.0, -1.0, static_cast<double>(NAN)})
-    EXPECT_EQ((bridge::send<CGSize, "size">(picture(30, 20, scale))), (CGSize{30, 20})) << scale;
-  EXPECT_EQ((bridge::send<CGSize, "size">(UIImage::make(nullptr, 1))), CGSize{});
-  EXPECT_EQ(UIImage::bitmapOf(bridge::NSString::make("no image")), nullptr);
+    EXPECT_EQ((send<CGSize, "size">(picture(30, 20, scale))), (CGSize{30, 20})) << scale;
+  EXPECT_EQ((send<CGSize, "size">(UIImageState::make(nullptr, 1))), CGSize{});
+  EXPECT_EQ(UIImageState::bitmapOf(NSString::make("no image")), nullptr);
 }
 
 TEST_F(UIImageViewTest, ContentModesPlaceTheImage) {
@@ -46,9 +45,9 @@ TEST_F(UIImageViewTest, ContentModesPlaceTheImage) {
                {ContentMode::center, {{40, 15}, {20, 20}}}};
   view->setImage(picture(20, 20));
   for (const auto& [mode, rect] : cases) {
-    bridge::send<void, "setContentMode:">(view.get(), static_cast<NSInteger>(mode));
+    send<void, "setContentMode:">(view.get(), static_cast<NSInteger>(mode));
     RecordingCanvas canvas;
-    UIImageView::of(view.get()).drawContent(&canvas);
+    UIImageViewState::of(view.get()).drawContent(&canvas);
     ASSERT_EQ(canvas.images.size(), 1u);
     EXPECT_EQ(canvas.images[0], rect) << static_cast<int>(mode);
   }
@@ -56,19 +55,18 @@ TEST_F(UIImageViewTest, ContentModesPlaceTheImage) {
 
 TEST_F(UIImageViewTest, NothingIsDrawnWithoutAnImageOrRoom) {
   RecordingCanvas canvas;
-  UIImageView::of(view.get()).drawContent(&canvas);
+  UIImageViewState::of(view.get()).drawContent(&canvas);
   view->setImage(picture(0, 5));
-  UIImageView::of(view.get()).drawContent(&canvas);
+  UIImageViewState::of(view.get()).drawContent(&canvas);
   view->setImage(picture(5, 5));
   view->setFrame({});
-  UIImageView::of(view.get()).drawContent(&canvas);
+  UIImageViewState::of(view.get()).drawContent(&canvas);
   EXPECT_TRUE(canvas.images.empty());
 }
 
 TEST_F(UIImageViewTest, IsAsLargeAsItsImage) {
-  const auto made = bridge::Owned<handles::UIImageView>::adopt(
-      bridge::send<handles::UIImageView, "initWithImage:">(
-          bridge::send<id, "alloc">(UIImageView::classObject()), picture(30, 20)));
+  const auto made = Owned<UIImageView>::adopt(send<UIImageView, "initWithImage:">(
+      send<id, "alloc">(UIImageViewState::classObject()), picture(30, 20)));
   EXPECT_EQ(made->frame(), (CGRect{{0, 0}, {30, 20}}));
   made->setImage(picture(60, 20, 2));
   made->sizeToFit();
@@ -86,7 +84,7 @@ TEST_F(UIImageViewTest, AnotherImageIsPainted) {
 }
 
 TEST_F(UIImageViewTest, TakesNoTouches) {
-  EXPECT_FALSE(UIView::of(view.get()).isUserInteractionEnabled());
+  EXPECT_FALSE(UIViewState::of(view.get()).isUserInteractionEnabled());
 }
 
 }  // namespace

@@ -12,39 +12,36 @@
 namespace desktop::uikit {
 namespace {
 
-using bridge::NSString;
-using bridge::send;
-
 // In Courier of 10 points a letter is 6 points wide and a line 10 high.
 class UILabelTest : public ApplicationTest {
  protected:
   UILabelTest() {
-    label = bridge::makeView<bridge::UILabel>({{0, 0}, {60, 20}});
-    label->setFont(bridge::UIFont::named(NSString::make("Courier"), 10));
+    label = bridge::makeView<UILabel>({{0, 0}, {60, 20}});
+    label->setFont(UIFont::named(NSString::make("Courier"), 10));
     window().addSubview(label);
   }
 
   void show(std::u16string_view text) const { label->setText(stringOf(text)); }
   std::vector<std::u16string> texts() const {
     std::vector<std::u16string> all;
-    for (const LabelLine& line : UILabel::of(label.get()).lines()) all.push_back(line.text);
+    for (const LabelLine& line : UILabelState::of(label.get()).lines()) all.push_back(line.text);
     return all;
   }
-  LabelLine line() const { return UILabel::of(label.get()).lines().at(0); }
+  LabelLine line() const { return UILabelState::of(label.get()).lines().at(0); }
   void breakBy(LineBreakMode mode) const {
     send<void, "setLineBreakMode:">(label, static_cast<NSInteger>(mode));
   }
   CGSize fitting(CGSize size) const { return send<CGSize, "sizeThatFits:">(label, size); }
 
   using Texts = std::vector<std::u16string>;
-  bridge::Owned<bridge::UILabel> label;
+  Owned<UILabel> label;
 };
 
 TEST_F(UILabelTest, HasThePlatformsDefaults) {
-  const auto fresh = bridge::makeView<bridge::UILabel>({});
+  const auto fresh = bridge::makeView<UILabel>({});
   EXPECT_FALSE(fresh->text());
-  EXPECT_EQ((send<CGFloat, "pointSize">(send<bridge::UIFont, "font">(fresh))), 17);
-  EXPECT_EQ(UIColor::valueOf(send<bridge::UIColor, "textColor">(fresh)), colors::black);
+  EXPECT_EQ((send<CGFloat, "pointSize">(send<UIFont, "font">(fresh))), 17);
+  EXPECT_EQ(UIColorState::valueOf(send<UIColor, "textColor">(fresh)), colors::black);
   EXPECT_EQ((send<NSInteger, "textAlignment">(fresh)), 4);
   EXPECT_EQ((send<NSInteger, "lineBreakMode">(fresh)), 4);
   EXPECT_EQ((send<NSInteger, "numberOfLines">(fresh)), 1);
@@ -55,7 +52,7 @@ TEST_F(UILabelTest, ALineStandsInTheMiddleOfTheHeight) {
   show(u"text");
   EXPECT_EQ(texts(), Texts{u"text"});
   EXPECT_EQ(line().baseline, (CGPoint{0, 5 + 7.54}));
-  label->setTextAlignment(bridge::alignCenter);
+  label->setTextAlignment(alignCenter);
   EXPECT_EQ(line().baseline.x, 18);
   send<void, "setTextAlignment:">(label, NSInteger{2});
   EXPECT_EQ(line().baseline.x, 36);
@@ -122,7 +119,7 @@ TEST_F(UILabelTest, FitsAroundItsText) {
   EXPECT_EQ(fitting({0, 0}), (CGSize{156, 10}));
   label->setNumberOfLines(2);
   EXPECT_EQ(fitting({60, 5}), (CGSize{60, 20}));
-  label->setFont(bridge::UIFont::systemFont(12));
+  label->setFont(UIFont::systemFont(12));
   label->setNumberOfLines(1);
   EXPECT_EQ(fitting({0, 0}).height, 15);  // 14.52 in whole pixels of a half point
   label->setText({});
@@ -153,17 +150,17 @@ TEST_F(UILabelTest, ShrinksNoFurtherThanItsLimit) {
 
 TEST_F(UILabelTest, HasItsOwnColorWhileHighlighted) {
   show(u"text");
-  label->setTextColor(bridge::UIColor::greenColor());
-  send<void, "setHighlightedTextColor:">(label, bridge::UIColor::whiteColor());
+  label->setTextColor(UIColor::greenColor());
+  send<void, "setHighlightedTextColor:">(label, UIColor::whiteColor());
   EXPECT_EQ(line().color, (Color{0, 1, 0, 1}));
   send<void, "setHighlighted:">(label, true);
   EXPECT_EQ(line().color, colors::white);
 }
 
 TEST_F(UILabelTest, AttributedTextBringsItsOwnLook) {
-  const auto text = bridge::NSMutableAttributedString::withString(NSString::make("text"));
-  text->addAttribute(bridge::fontAttributeName(), bridge::UIFont::systemFont(13), {0, 4});
-  text->addAttribute(NSString::make("NSColor"), bridge::UIColor::grayColor(), {0, 4});
+  const auto text = NSMutableAttributedString::withString(NSString::make("text"));
+  text->addAttribute(fontAttributeName(), UIFont::systemFont(13), {0, 4});
+  text->addAttribute(NSString::make("NSColor"), UIColor::grayColor(), {0, 4});
   send<void, "setAttributedText:">(label, text.get());
   EXPECT_EQ(label->text().utf8(), "text");
   EXPECT_EQ(line().face, FontFace{.size = 13});
@@ -194,21 +191,21 @@ TEST_F(UILabelTest, AnythingIsShownInSomeWay) {
         EXPECT_TRUE(std::isfinite(fitting({width, width}).height));
       }
   label->setFont({});
-  EXPECT_EQ((send<CGFloat, "pointSize">(send<bridge::UIFont, "font">(label))), 17);
-  send<void, "setAttributedText:">(label, bridge::NSAttributedString());
+  EXPECT_EQ((send<CGFloat, "pointSize">(send<UIFont, "font">(label))), 17);
+  send<void, "setAttributedText:">(label, NSAttributedString());
   EXPECT_TRUE(texts().empty());
 }
 
 TEST_F(UILabelTest, LeavesNothingBehind) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool inner;
-    const auto other = bridge::makeView<bridge::UILabel>({{0, 0}, {60, 20}});
+    const AutoreleasePool inner;
+    const auto other = bridge::makeView<UILabel>({{0, 0}, {60, 20}});
     other->setText(NSString::make("text"));
-    other->setTextColor(bridge::UIColor::whiteColor());
+    other->setTextColor(UIColor::whiteColor());
     application().prepareFrame();
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 
 #include "bridge/uikit.h"
 #include "desktop/uikit/base/scheduler.h"
-#include "desktop/uikit/handles.h"
 #include "desktop/uikit/views/animator.h"
 #include "tests/desktop/uikit/application_test.h"
 
@@ -16,21 +15,19 @@ namespace {
 
 class UIViewTest : public ApplicationTest {
  protected:
-  static bridge::Owned<bridge::UIView> view(CGRect frame) {
-    return bridge::makeView<bridge::UIView>(frame);
-  }
+  static Owned<UIView> view(CGRect frame) { return bridge::makeView<UIView>(frame); }
 };
 
 TEST_F(UIViewTest, AFrameIsItsBoundsAroundItsCenter) {
   const auto box = view({{10, 20}, {30, 40}});
   EXPECT_EQ(box->frame(), (CGRect{{10, 20}, {30, 40}}));
   EXPECT_EQ(box->bounds(), (CGRect{{0, 0}, {30, 40}}));
-  EXPECT_EQ(UIView::of(box.get()).center(), (CGPoint{25, 40}));
+  EXPECT_EQ(UIViewState::of(box.get()).center(), (CGPoint{25, 40}));
 }
 
 TEST_F(UIViewTest, AScaledViewsFrameIsTheRectangleAroundIt) {
   const auto box = view({{10, 20}, {30, 40}});
-  box->setTransform(bridge::scaling(2, 2));
+  box->setTransform(scaling(2, 2));
   EXPECT_EQ(box->frame(), (CGRect{{-5, 0}, {60, 80}}));
   EXPECT_EQ(box->bounds(), (CGRect{{0, 0}, {30, 40}}));
 }
@@ -45,7 +42,7 @@ TEST_F(UIViewTest, AFrameThatIsNotFiniteIsEmpty) {
 TEST_F(UIViewTest, FlexibleSizeFollowsTheSuperview) {
   const auto outer = view({{0, 0}, {100, 200}});
   const auto inner = view({{10, 20}, {80, 160}});
-  inner->setAutoresizingMask(bridge::flexibleWidth | bridge::flexibleHeight);
+  inner->setAutoresizingMask(flexibleWidth | flexibleHeight);
   outer->addSubview(inner);
   outer->setFrame({{0, 0}, {150, 180}});
   EXPECT_EQ(inner->frame(), (CGRect{{10, 20}, {130, 140}}));
@@ -62,30 +59,30 @@ TEST_F(UIViewTest, AViewCannotContainItself) {
 }
 
 TEST_F(UIViewTest, ViewsGoWithTheirLastOwner) {
-  const long before = bridge::liveBoundObjects();
+  const long before = liveBoundObjects();
   {
-    const bridge::AutoreleasePool inner;
+    const AutoreleasePool inner;
     const auto outer = view({});
     for (int count = 0; count < 3; ++count) outer->addSubview(view({}));
-    EXPECT_GT(bridge::liveBoundObjects(), before);
+    EXPECT_GT(liveBoundObjects(), before);
   }
-  EXPECT_EQ(bridge::liveBoundObjects(), before);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 TEST_F(UIViewTest, AnimationsShowWhatIsOnTheWay) {
   const auto box = view({{0, 0}, {10, 10}});
   window().addSubview(box);
   bool finished = false;
-  bridge::UIView::animate(0.25, bridge::Block<void()>([&box] { box->setAlpha(0); }),
-                          bridge::Block<void(bool)>([&finished](bool whole) { finished = whole; }));
-  EXPECT_EQ(UIView::of(box.get()).alpha(), 0);
+  UIView::animate(0.25, Block<void()>([&box] { box->setAlpha(0); }),
+                  Block<void(bool)>([&finished](bool whole) { finished = whole; }));
+  EXPECT_EQ(UIViewState::of(box.get()).alpha(), 0);
   scheduler().advanceTo(scheduler().now() + 0.125);
-  EXPECT_DOUBLE_EQ(UIView::of(box.get()).shown().alpha, 0.5);
+  EXPECT_DOUBLE_EQ(UIViewState::of(box.get()).shown().alpha, 0.5);
   application().advance(0.1);
   EXPECT_FALSE(finished);
   application().advance(0.05);
   EXPECT_TRUE(finished);
-  EXPECT_EQ(UIView::of(box.get()).shown().alpha, 0);
+  EXPECT_EQ(UIViewState::of(box.get()).shown().alpha, 0);
 }
 
 TEST_F(UIViewTest, WhatLeavesTheWindowIsNoLongerAnimated) {
@@ -93,11 +90,11 @@ TEST_F(UIViewTest, WhatLeavesTheWindowIsNoLongerAnimated) {
   window().addSubview(box);
   int completions = 0;
   bool finished = true;
-  bridge::UIView::animate(1, bridge::Block<void()>([&box] { box->setAlpha(0); }),
-                          bridge::Block<void(bool)>([&](bool whole) {
-                            finished = whole;
-                            ++completions;
-                          }));
+  UIView::animate(1, Block<void()>([&box] { box->setAlpha(0); }),
+                  Block<void(bool)>([&](bool whole) {
+                    finished = whole;
+                    ++completions;
+                  }));
   box->removeFromSuperview();
   EXPECT_EQ(completions, 1);
   EXPECT_FALSE(finished);
