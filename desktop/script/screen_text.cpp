@@ -31,7 +31,7 @@ class Collector {
  private:
   void collect(UIView view, CGRect place) {
     if (!respondsTo<"text">(view)) return;
-    const NSString text = send<NSString, "text">(view);
+    const NSString text = UILabel(view.get()).text();
     if (text && text.length() > 0) _found.push_back({text.utf8(), place});
   }
 

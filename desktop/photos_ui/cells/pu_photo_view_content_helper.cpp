@@ -67,8 +67,7 @@ PUPhotoViewContentHelperState::~PUPhotoViewContentHelperState() {
 }
 
 Owned<PUPhotoViewContentHelper> PUPhotoViewContentHelperState::make(UIView contentView) {
-  auto made =
-      Owned<PUPhotoViewContentHelper>::adopt(send<PUPhotoViewContentHelper, "new">(classObject()));
+  auto made = makeNew<PUPhotoViewContentHelper>(classObject());
   PUPhotoViewContentHelperState& helper = of(made.get());
   helper._contentView = contentView;
   helper._imageView = bridge::makeView<UIImageView>({});
@@ -160,8 +159,7 @@ void PUPhotoViewContentHelperState::showBadge() {
   if (!isVideo && !badge) return;
   if (!isVideo) return setExtra(badgeField, {});
   if (!badge) {
-    const auto made =
-        Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(VideoBadge::classObject())));
+    const auto made = makeNew<UIView>(VideoBadge::classObject());
     setExtra(badgeField, made);
     badge = made;
   }
@@ -174,8 +172,7 @@ void PUPhotoViewContentHelperState::showBanner() {
     if (objectField(self(), bannerField)) setExtra(bannerField, {});
     return;
   }
-  const auto made =
-      Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(TextBannerView::classObject())));
+  const auto made = makeNew<UIView>(TextBannerView::classObject());
   TextBannerView::of(made.get()).setText(NSString::make(text));
   setExtra(bannerField, made);
 }
@@ -198,8 +195,8 @@ void PUPhotoViewContentHelperState::layoutSubviewsOfContentView() {
   const UIView badge(objectField(self(), badgeField).get());
   badge.setFrame({{0, room.height - VideoBadge::height}, {room.width, VideoBadge::height}});
   const UIView banner(objectField(self(), bannerField).get());
-  const CGSize size = send<CGSize, "sizeThatFits:">(banner, room);
-  send<void, "setHidden:">(banner, room.width < leastBannerRoom);
+  const CGSize size = banner.sizeThatFits(room);
+  banner.setHidden(room.width < leastBannerRoom);
   banner.setFrame({{bannerMargin, room.height - size.height - bannerMargin}, size});
 }
 

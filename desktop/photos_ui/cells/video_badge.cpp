@@ -57,7 +57,7 @@ Class VideoBadge::classObject() {
 
 UIView VideoBadge::initWithFrame(CGRect frame) {
   if (!super<UIView, "initWithFrame:">(frame)) return {};
-  send<void, "setUserInteractionEnabled:">(self(), false);
+  self().setUserInteractionEnabled(false);
   _label = makeLabel({.size = fontSize}, uikit::colors::white);
   self().addSubview(_label);
   return self();
@@ -71,10 +71,10 @@ void VideoBadge::setDuration(double seconds) {
 void VideoBadge::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize room = self().bounds().size;
-  const CGFloat width = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{}).width;
+  const CGFloat width = _label->sizeThatFits(CGSize{}).width;
   _label->setFrame({{room.width - edge - width, 0}, {width, room.height}});
   const bool isCramped = width + cameraWidth + 3 * edge > room.width;
-  send<void, "setHidden:">(_label.get(), isCramped);
+  _label->setHidden(isCramped);
 }
 
 void VideoBadge::drawContent(uikit::Canvas* canvas) const {

@@ -33,10 +33,10 @@ enum Tab : NSUInteger { photosTab, albumsTab };
 Owned<UINavigationController> makeTab(NSArray controllers, const char* title,
                                       uikit::UITabBarItem::SystemPicture picture) {
   auto made = makeNew<UINavigationController>();
-  send<void, "setPrefersLargeTitles:">(made->navigationBar(), true);
-  send<void, "setViewControllers:">(made.get(), controllers);
+  made->navigationBar().setPrefersLargeTitles(true);
+  made->setControllers(controllers);
   const auto item = uikit::UITabBarItem::make(NSString::make(title), {}, picture);
-  send<void, "setTabBarItem:">(made.get(), item);
+  made->setTabBarItem(item);
   return made;
 }
 
@@ -57,7 +57,7 @@ UIViewController top() {
 
 UIViewController presented() {
   const auto root = tabs();
-  return send<UIViewController, "presentedViewController">(root);
+  return root.presentedViewController();
 }
 
 bool isOneUp(UIViewController controller) {
@@ -78,7 +78,7 @@ void dismissAll() {
 }
 
 void popTo(UIViewController controller) {
-  send<NSArray, "popToViewController:animated:">(navigation(), controller, false);
+  navigation().popTo(controller, false);
 }
 
 void showTab(Tab tab) {
@@ -179,7 +179,7 @@ Outcome openPhotos() {
 Outcome openAlbums() {
   if (!tabs()) return model::Error{"nothing is on show"};
   showTab(albumsTab);
-  send<NSArray, "popToRootViewControllerAnimated:">(navigation(), false);
+  navigation().popToRoot(false);
   prepare();
   return std::nullopt;
 }
@@ -230,20 +230,19 @@ Outcome goBack() {
   if (!tabs()) return model::Error{"nothing is on show"};
   if (presented()) {
     UIViewController last = tabs();
-    while (const auto next = send<UIViewController, "presentedViewController">(last)) last = next;
+    while (const auto next = last.presentedViewController()) last = next;
     // A page that was reached from the presented one leads back to it.
     if (isKindOf(last, UINavigationController::classObject()) &&
-        send<UIViewController, "popViewControllerAnimated:">(last, true))
+        UINavigationController(last.get()).pop(true))
       return std::nullopt;
     last.dismiss(UIViewController::animated, {});
     return std::nullopt;
   }
-  if (send<bool, "isEditing">(top())) {
-    send<void, "setEditing:animated:">(top(), false, true);
+  if (top().isEditing()) {
+    top().setEditing(false, true);
     return std::nullopt;
   }
-  if (!send<UIViewController, "popViewControllerAnimated:">(navigation(), true))
-    return model::Error{"there is no way back from here"};
+  if (!navigation().pop(true)) return model::Error{"there is no way back from here"};
   return std::nullopt;
 }
 
@@ -259,7 +258,7 @@ Outcome selectItem(long index) {
   const auto place = placeOfItem(index);
   if (!place) return place.error();
   const UIViewController grid = top();
-  if (!send<bool, "isEditing">(grid)) send<void, "setEditing:animated:">(grid, true, false);
+  if (!grid.isEditing()) grid.setEditing(true, false);
   prepare();
   touches().down(*place);
   touches().up(*place);

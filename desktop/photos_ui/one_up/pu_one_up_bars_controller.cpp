@@ -2,6 +2,7 @@
 #include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/photos_ui/base/own_messages.h"
 #include "desktop/platform.h"
 #include "foundation/calendar_text.h"
 #include "foundation/local_time.h"
@@ -26,7 +27,7 @@ Class PUOneUpBarsController::classObject() {
 }
 
 Owned<NSObject> PUOneUpBarsController::make(UIViewController oneUp, const BrowsedItems& items) {
-  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
+  auto made = makeNew<NSObject>(classObject());
   of(made.get())._oneUp = oneUp;
   of(made.get())._items = &items;
   of(made.get()).makeToolbarItems();
@@ -36,11 +37,11 @@ Owned<NSObject> PUOneUpBarsController::make(UIViewController oneUp, const Browse
 void PUOneUpBarsController::makeToolbarItems() {
   const auto share =
       UIBarButtonItem::withSystemItem(UIBarButtonItem::action, self(), selector<"shareTouched:">());
-  send<void, "setToolbarItems:">(_oneUp, NSArray::of(share.get()));
+  _oneUp.setToolbarItems(NSArray::of(share.get()));
 }
 
 void PUOneUpBarsController::update() const {
-  send<void, "updateBars">(self());
+  photos_ui::updateBars(self());
 }
 
 void PUOneUpBarsController::updateBars() {
