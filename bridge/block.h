@@ -3,7 +3,6 @@
 // C++ callables as the platform's blocks, and the platform's blocks as C++ callables.
 #pragma once
 
-#include <memory>
 #include <new>
 #include <utility>
 
@@ -79,11 +78,11 @@ class Block<R(Arguments...)> {
     }
     // The bytes are there already; the callable is made anew over its own.
     static void copy(void* target, const void* source) {
-      std::construct_at(&static_cast<Literal*>(target)->callable,
-                        static_cast<const Literal*>(source)->callable);
+      ::new (&static_cast<Literal*>(target)->callable)
+          Callable(static_cast<const Literal*>(source)->callable);
     }
     static void dispose(const void* block) {
-      std::destroy_at(&const_cast<Literal*>(static_cast<const Literal*>(block))->callable);
+      const_cast<Literal*>(static_cast<const Literal*>(block))->callable.~Callable();
     }
   };
 

@@ -3,7 +3,6 @@
 // Text as a template argument: selectors, class names and type encodings.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -15,7 +14,9 @@ struct FixedString {
   char text[N]{};
 
   constexpr FixedString() = default;
-  constexpr FixedString(const char (&literal)[N]) { std::copy_n(literal, N, text); }
+  constexpr FixedString(const char (&literal)[N]) {
+    std::char_traits<char>::copy(text, literal, N);
+  }
 
   constexpr std::string_view view() const { return {text, N - 1}; }
 };
@@ -24,8 +25,8 @@ template <std::size_t N, std::size_t M>
 constexpr FixedString<N + M - 1> operator+(const FixedString<N>& left,
                                            const FixedString<M>& right) {
   FixedString<N + M - 1> joined;
-  std::copy_n(left.text, N - 1, joined.text);
-  std::copy_n(right.text, M, joined.text + N - 1);
+  std::char_traits<char>::copy(joined.text, left.text, N - 1);
+  std::char_traits<char>::copy(joined.text + N - 1, right.text, M);
   return joined;
 }
 
@@ -38,7 +39,9 @@ constexpr FixedString<2> fixedString(char character) {
 
 // How many arguments a selector takes: one for each colon.
 constexpr std::size_t argumentCount(std::string_view selector) {
-  return static_cast<std::size_t>(std::ranges::count(selector, ':'));
+  std::size_t count = 0;
+  for (const char character : selector) count += character == ':' ? 1 : 0;
+  return count;
 }
 
 }  // namespace bridge
