@@ -5,8 +5,8 @@ add_library(room_flags INTERFACE)
 target_compile_features(room_flags INTERFACE cxx_std_20)
 target_compile_options(room_flags INTERFACE
     -Wall -Wextra -Wconversion -Wshadow -Werror -fvisibility=hidden
-    # At -O3 GCC 12 sees overlaps in string concatenation and uninitialised variants where there
-    # are none (GCC bugs 105329 and 105562); the other builds keep both warnings.
+    # Where it optimises, GCC 12 sees overlaps in string concatenation and uninitialised variants
+    # where there are none (GCC bugs 105329 and 105562); the other builds keep both warnings.
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict;-Wno-maybe-uninitialized>)
 
 # room_rule(NAME [SOURCES a.cpp ...] [FOLDERS folder ...] [MAY_INCLUDE path ...])
@@ -46,12 +46,13 @@ function(room_join_sources target alone)
 endfunction()
 
 # room_library(NAME alias::name SOURCES a.cpp ... [ALONE b.cpp ...] [FOLDERS folder ...]
-#              [MAY_INCLUDE path ...] [DEPENDS lib ...] [PRIVATE_DEPENDS lib ...])
+#              [MAY_INCLUDE path ...] [HEADERS name] [DEPENDS lib ...] [PRIVATE_DEPENDS lib ...])
 # A static library whose headers are included by their path from the repository's root. All of them
-# are listed in the global property ROOM_LIBRARIES. FOLDERS and MAY_INCLUDE are those of room_rule.
+# are listed in the global property ROOM_LIBRARIES. FOLDERS and MAY_INCLUDE are those of room_rule,
+# HEADERS are a room_headers.
 function(room_library name alias)
   cmake_parse_arguments(
-    ROOM "" "" "SOURCES;ALONE;FOLDERS;MAY_INCLUDE;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+    ROOM "" "HEADERS" "SOURCES;ALONE;FOLDERS;MAY_INCLUDE;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
   room_rule(${name} SOURCES ${ROOM_SOURCES} ${ROOM_ALONE} FOLDERS ${ROOM_FOLDERS}
             MAY_INCLUDE ${ROOM_MAY_INCLUDE})
   add_library(${name} STATIC ${ROOM_SOURCES} ${ROOM_ALONE})
@@ -62,6 +63,9 @@ function(room_library name alias)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PUBLIC ${ROOM_DEPENDS} PRIVATE $<BUILD_INTERFACE:room_flags> ${ROOM_PRIVATE_DEPENDS})
+  if(ROOM_HEADERS)
+    target_precompile_headers(${name} REUSE_FROM ${ROOM_HEADERS})
+  endif()
 endfunction()
 
 # Where modules lie, below the root of the build tree and of the installed one.
@@ -86,43 +90,79 @@ function(room_module name)
   install(TARGETS ${name} LIBRARY DESTINATION ${ROOM_MODULE_DIR})
 endfunction()
 
+# Headers that take longer to read than most of what includes them are compiled once for all targets
+# that are compiled alike. A compiler cache has no use for that, and makes up for it.
+if(CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
+
+# room_headers(NAME FLAGS lib HEADERS header ... DEPENDS lib ...)
+# Headers for targets with those flags: target_precompile_headers(TARGET REUSE_FROM NAME).
+function(room_headers name)
+  cmake_parse_arguments(ROOM "" "FLAGS" "HEADERS;DEPENDS" ${ARGN})
+  file(CONFIGURE OUTPUT ${name}.cpp CONTENT "// Holds no code.\n")
+  add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ${ROOM_FLAGS} ${ROOM_DEPENDS})
+  target_precompile_headers(${name} PRIVATE ${ROOM_HEADERS})
+endfunction()
+
 # How every test is compiled. The assertions themselves need no optimisation, and without it they
-# compile twice as fast; some libraries want position-independent code of whoever uses them, and a
-# precompiled header serves one kind of code only.
+# compile twice as fast; some libraries want position-independent code of whoever uses them, and
+# precompiled headers serve one kind of code only.
 add_library(room_test_flags INTERFACE)
 target_link_libraries(room_test_flags INTERFACE room_flags)
 target_compile_options(room_test_flags INTERFACE -O0 -fPIC)
 
-# GoogleTest's headers take longer to read than most tests. A compiler cache has no use for
-# precompiled headers, and makes up for them.
-if(CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
-endif()
-function(add_room_test_headers)
-  file(CONFIGURE OUTPUT room_test_headers.cpp CONTENT "// Holds no code.\n")
-  add_library(room_test_headers OBJECT ${CMAKE_CURRENT_BINARY_DIR}/room_test_headers.cpp)
-  target_link_libraries(room_test_headers PRIVATE room_test_flags GTest::gmock GTest::gtest_main)
-  target_precompile_headers(room_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+# room_test_support(NAME SOURCES a.cpp ... [HEADERS name] [DEPENDS lib ...])
+# What the tests of several programs work with: compiled once. HEADERS are a room_headers. Each
+# source stays apart, so that a program takes in what it needs.
+function(room_test_support name)
+  cmake_parse_arguments(ROOM "" "HEADERS" "SOURCES;DEPENDS" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ROOM_DEPENDS} PRIVATE room_test_flags)
+  if(ROOM_HEADERS)
+    target_precompile_headers(${name} REUSE_FROM ${ROOM_HEADERS})
+  endif()
 endfunction()
 
-# room_test(NAME SOURCES a_test.cpp ... [ALONE b_test.cpp ...] DEPENDS lib ... [LABELS l ...])
-# One GoogleTest program; every TEST in it becomes a ctest test of its own. Under the sanitizers a
+# room_test(NAME_test SOURCES a_test.cpp ... [ALONE b_test.cpp ...] [HEADERS name] DEPENDS lib ...
+#           [LABELS l ...] [FIXTURES f ...])
+# One GoogleTest program; each suite in it becomes a ctest test, NAME.Suite. Under the sanitizers a
 # program is one test, as its start and its search for leaks take longer than most tests.
 function(room_test name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;ALONE;DEPENDS;LABELS" ${ARGN})
+  cmake_parse_arguments(ROOM "" "HEADERS" "SOURCES;ALONE;DEPENDS;LABELS;FIXTURES" ${ARGN})
   add_executable(${name} ${ROOM_SOURCES} ${ROOM_ALONE})
   room_join_sources(${name} "${ROOM_ALONE}" ${ROOM_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
-  if(NOT TARGET room_test_headers)
-    add_room_test_headers()
-  endif()
   target_link_libraries(${name} PRIVATE
     room_test_flags ${ROOM_DEPENDS} GTest::gmock GTest::gtest_main)
-  target_precompile_headers(${name} REUSE_FROM room_test_headers)
+  if(NOT ROOM_HEADERS)
+    set(ROOM_HEADERS room_test_headers)
+  endif()
+  target_precompile_headers(${name} REUSE_FROM ${ROOM_HEADERS})
   if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ROOM_LABELS}")
+    set_tests_properties(${name} PROPERTIES
+      TIMEOUT 600 LABELS "${ROOM_LABELS}" FIXTURES_REQUIRED "${ROOM_FIXTURES}")
   else()
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS "${ROOM_LABELS}")
+    room_test_suites(${name} "${ROOM_LABELS}" "${ROOM_FIXTURES}")
   endif()
+endfunction()
+
+# Finds the suites when the program was linked. Until then a test stands for them that fails.
+function(room_test_suites name labels fixtures)
+  set(list ${CMAKE_CURRENT_BINARY_DIR}/${name}.cmake)
+  if(NOT EXISTS ${list})
+    file(WRITE ${list} "add_test(${name}_IS_NOT_BUILT ${name}_IS_NOT_BUILT)\n")
+  endif()
+  set(script ${PROJECT_SOURCE_DIR}/cmake/test_suites.cmake)
+  add_custom_command(TARGET ${name} POST_BUILD VERBATIM COMMAND ${CMAKE_COMMAND}
+    -D NAME=${name} -D PROGRAM=$<TARGET_FILE:${name}> -D LIST=${list}
+    -D "LABELS=${labels}" -D "FIXTURES=${fixtures}" -P ${script})
+  set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${script})
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${list})
 endfunction()

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// Thumbnails through real worker processes, of which this program is one too; names of files tell
-// the decoder what to do.
+// Thumbnails through real worker processes, which make up their pictures.
 #include <gmock/gmock.h>
-
-#include <string_view>
 
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/navigation/navigation.h"
-#include "desktop/pictures/workers/serve_decoder.h"
+#include "desktop/pictures/picture_loader.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/lists/ui_collection_view.h"
 #include "tests/desktop/photos_ui/library_screen.h"
@@ -18,17 +15,6 @@ namespace desktop::photos_ui {
 namespace {
 
 using State = PUPhotoViewContentHelperState::State;
-
-constexpr char decoderArgument[] = "--decode-pictures";
-
-// A picture twice as wide as high that covers what was asked for.
-model::Result<pictures::Picture> decode(const std::string& path, const pictures::Request& request) {
-  if (path.find("broken") != std::string::npos) return model::Error{"cut short"};
-  const int height = request.maxHeight;
-  return pictures::Picture{
-      2 * height, height,
-      std::vector<std::uint32_t>(static_cast<std::size_t>(2 * height * height), 0xff336699)};
-}
 
 class ThumbnailTest : public LibraryScreenTest {
  protected:
@@ -54,7 +40,7 @@ class ThumbnailTest : public LibraryScreenTest {
   pictures::PictureLoader& loader() { return _pictures; }
 
  private:
-  pictures::PictureLoader _pictures{{.command = {"/proc/self/exe", decoderArgument}}};
+  pictures::PictureLoader _pictures{{.command = {"/proc/self/exe", "--make-pictures"}}};
 };
 
 TEST_F(ThumbnailTest, FillsTheCellUnscaledAndInItsMiddle) {
@@ -121,11 +107,3 @@ TEST_F(ThumbnailTest, ShowsAChangedFileAnew) {
 
 }  // namespace
 }  // namespace desktop::photos_ui
-
-int main(int argc, char** argv) {
-  using namespace desktop;
-  if (argc > 1 && std::string_view(argv[1]) == photos_ui::decoderArgument)
-    return pictures::serveDecoder(pictures::decoderSocket, photos_ui::decode);
-  testing::InitGoogleMock(&argc, argv);
-  return RUN_ALL_TESTS();
-}
