@@ -17,7 +17,7 @@ constexpr CGFloat countHeight = 17;
 std::string countOf(const library::Album& album) {
   std::string count = std::to_string(album.items.size());
   for (std::size_t digits = 3; digits < count.size(); digits += 4)
-    count.insert(count.size() - digits, ",");
+    count.insert(count.size() - digits, 1, ',');
   return count;
 }
 

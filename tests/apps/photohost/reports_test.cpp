@@ -57,12 +57,10 @@ std::string reportOf(const std::string& path) {
   return report["header"].get<std::string>() + report["text"].get<std::string>();
 }
 
-class WholeRoad : public testing::TestWithParam<std::string> {};
-
-TEST_P(WholeRoad, TheTextOnScreenIsTheToolsReport) {
+void compareTexts(const std::string& folder) {
   Host host;
-  host.library(GetParam());
-  const int items = itemsIn(GetParam());
+  host.library(folder);
+  const int items = itemsIn(folder);
   host.run(scriptFor(items, 1));
   for (int item = 0; item < items; ++item) {
     const Json page = host.dumped(std::to_string(item));
@@ -72,6 +70,10 @@ TEST_P(WholeRoad, TheTextOnScreenIsTheToolsReport) {
   }
 }
 
+TEST(WholeRoad, TheTextOnScreenIsTheToolsReport) {
+  for (const std::string& folder : albums()) compareTexts(folder);
+}
+
 // What a row shows of a value: nothing of containers.
 std::string shownValue(const Json& value) {
   if (value.is_string()) return value;
@@ -79,10 +81,10 @@ std::string shownValue(const Json& value) {
   return "";
 }
 
-TEST_P(WholeRoad, TheTableOnScreenIsTheToolsTable) {
+void compareTables(const std::string& folder) {
   Host host;
-  host.library(GetParam()).size(375, 4'000);
-  const int items = itemsIn(GetParam());
+  host.library(folder).size(375, 4'000);
+  const int items = itemsIn(folder);
   host.run(scriptFor(items, 2));
   for (int item = 0; item < items; ++item) {
     const Json page = host.dumped(std::to_string(item));
@@ -111,8 +113,9 @@ TEST_P(WholeRoad, TheTableOnScreenIsTheToolsTable) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Samples, WholeRoad, testing::ValuesIn(albums()),
-                         [](const auto& folder) { return std::to_string(folder.index); });
+TEST(WholeRoad, TheTableOnScreenIsTheToolsTable) {
+  for (const std::string& folder : albums()) compareTables(folder);
+}
 
 }  // namespace
 }  // namespace photohost
