@@ -22,7 +22,6 @@
 namespace desktop::photos_ui {
 namespace {
 
-using uikit::UIScrollViewState;
 using uikit::UIViewState;
 
 constexpr CGFloat doubleTapZoom = 2.5;

@@ -13,8 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::Contains;
-using testing::HasSubstr;
-using testing::Not;
 
 constexpr char domain[] = "preference net.korvu.lumifact ";
 constexpr char changed[] = "notify net.korvu.lumifact/preferences\n";

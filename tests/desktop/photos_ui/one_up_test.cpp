@@ -14,9 +14,7 @@ namespace desktop::photos_ui {
 namespace {
 
 using testing::Contains;
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 using uikit::application;
 

@@ -12,7 +12,6 @@ using bridge::NSDictionary;
 using bridge::NSMutableDictionary;
 using bridge::NSString;
 using bridge::Object;
-using bridge::Owned;
 using bridge::send;
 using model::Dictionary;
 

@@ -8,7 +8,6 @@ namespace {
 
 using bridge::NSArray;
 using bridge::Object;
-using bridge::Owned;
 using bridge::selector;
 using bridge::send;
 using bridge::UIBarButtonItem;

@@ -16,7 +16,6 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSString;
 using bridge::send;
 using bridge::UIViewController;
 using desktop::faces::PHAssetState;

@@ -12,8 +12,6 @@
 namespace lumifact {
 namespace {
 
-using model::Array;
-using model::Dictionary;
 using model::Value;
 
 struct CodeRow {

@@ -8,7 +8,6 @@
 namespace lumifact {
 namespace {
 
-using model::Array;
 using model::Value;
 
 struct Case {

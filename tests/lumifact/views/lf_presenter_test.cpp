@@ -15,10 +15,8 @@ namespace {
 
 using bridge::NSString;
 using bridge::Object;
-using bridge::Owned;
 using bridge::send;
 using bridge::UITextView;
-using bridge::UIViewController;
 using desktop::uikit::application;
 
 constexpr std::string_view report = "{Exif} =\n{\n  FNumber = 1.8\n}";

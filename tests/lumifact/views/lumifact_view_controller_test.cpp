@@ -13,14 +13,12 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSArray;
 using bridge::NSDictionary;
 using bridge::NSString;
 using bridge::Object;
 using bridge::send;
 using bridge::UITableView;
 using bridge::UITableViewCell;
-using bridge::UITableViewController;
 using bridge::UIView;
 using bridge::UIViewController;
 using desktop::uikit::application;

@@ -6,7 +6,6 @@
 namespace lumifact {
 namespace {
 
-using bridge::NSNumber;
 using bridge::Object;
 
 class ValueKindTest : public FoundationTest {};

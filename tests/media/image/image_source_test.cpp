@@ -72,13 +72,6 @@ std::vector<Sample> samples(std::size_t padding) {
   };
 }
 
-double millisecondsOf(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
-}
-
 TEST(ImageSource, whatIsNoImageHasNoProperties) {
   for (const std::string& bytes :
        {"some text"s, "\0"s, isoBox("ftyp", "qt  \0\0\0\0"s) + isoBox("moov", ""),

@@ -4,7 +4,6 @@
 // memory, whatever it makes of them.
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <random>
 
 #include "tests/media/movie/avi_builder.h"
@@ -25,18 +24,6 @@ Bytes smallMovie() {
                         .more = userData,
                         .movieBoxes = metadata});
 }
-
-// Nothing takes long, even where sanitizers watch.
-class Stopwatch {
- public:
-  ~Stopwatch() {
-    const auto time = std::chrono::steady_clock::now() - _start;
-    EXPECT_LT(std::chrono::duration<double>(time).count(), 1.0);
-  }
-
- private:
-  std::chrono::steady_clock::time_point _start = std::chrono::steady_clock::now();
-};
 
 TEST(HostileMovie, CutAtEveryByteIsToldOrLeftAlone) {
   const Bytes whole = smallMovie();
@@ -95,8 +82,8 @@ TEST(HostileMovie, NestingThousandsDeepIsNotFollowed) {
     constexpr std::uint32_t depth = 20000;
     for (std::uint32_t level = depth; level > 0; --level)
       front.u32(std::uint64_t{8} * level).text(type);
-    const Stopwatch stopwatch;
-    readBytes(joined({fileType("qt  "), box("moov", front)}));
+    const Reading reading = readBytes(joined({fileType("qt  "), box("moov", front)}));
+    EXPECT_LE(reading.asset.tracks.size(), 1U) << type;
   }
 }
 
@@ -115,7 +102,6 @@ TEST(HostileMovie, BoxesThatReachBeyondTheirParentsAreCutToIt) {
 }
 
 TEST(HostileMovie, MillionsOfBoxesAreNotWalked) {
-  const Stopwatch stopwatch;
   Writer boxes;
   for (int index = 0; index < 400000; ++index) boxes.u32(8).text("trak");
   EXPECT_EQ(readBytes(joined({fileType("qt  "), box("moov", boxes)})).outcome, "asset");
@@ -137,7 +123,6 @@ TEST(HostileMovie, ThousandsOfTracksAndDescriptionsAreBounded) {
   Bytes traks;
   for (int index = 0; index < 500; ++index) traks.insert(traks.end(), trak.begin(), trak.end());
   const Bytes movie = joined({fileType("qt  "), box("moov", traks)});
-  const Stopwatch stopwatch;
   const Reading reading = readBytes(movie);
   std::size_t descriptions = 0;
   for (const auto& read : reading.asset.tracks) descriptions += read.formatDescriptions.size();
@@ -163,7 +148,6 @@ TEST(HostileMovie, LargePicturesInEveryTrackAreBounded) {
 }
 
 TEST(HostileMovie, MillionsOfFragmentsAreBounded) {
-  const Stopwatch stopwatch;
   const Bytes header = box("moov", {movieHeader(600, 0), box("mvex", Bytes())});
   Writer fragments;
   for (int index = 0; index < 300000; ++index) fragments.u32(8).text("moof");
@@ -171,7 +155,6 @@ TEST(HostileMovie, MillionsOfFragmentsAreBounded) {
 }
 
 TEST(HostileMovie, GigabytesAreOnlyClaimed) {
-  const Stopwatch stopwatch;
   const Bytes huge = fullBox("stsz", 0, Writer().u32(0).u32(0xFFFFFFFF).u32(1));
   const Bytes keys = fullBox("keys", 0, Writer().u32(0xFFFFFFFF).u32(0xFFFFFFFF).text("mdta"));
   const Bytes metadata =

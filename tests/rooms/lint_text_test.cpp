@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// `.ci/lint_ranges`, which finds loops over what dies before their first turn.
+// `.ci/lint_text`, which finds loops over what dies before their first turn, and unused names.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -23,7 +23,7 @@ struct LintRun {
 // Of sources named "0.cpp", "1.cpp" and so on.
 LintRun lint(const std::vector<std::string>& sources) {
   const support::TemporaryFolder folder;
-  std::string command = "cd " + folder.path() + " && " SOURCE_FOLDER "/.ci/lint_ranges";
+  std::string command = "cd " + folder.path() + " && " SOURCE_FOLDER "/.ci/lint_text";
   for (std::size_t index = 0; index < sources.size(); ++index) {
     const std::string name = std::to_string(index) + ".cpp";
     folder.write(name, sources[index]);
@@ -38,9 +38,11 @@ std::string sourceWithLoopOver(const std::string& range) {
   return "void use(int);\nvoid useAll() {\n  for (const int part : " + range + ") use(part);\n}\n";
 }
 
-TEST(LintRanges, FindsLoopsOverWhatATemporaryOwns) {
-  for (const std::string range : {"made()->parts", "made(first, of(second))->parts", "*made()",
-                                  "*room::made()", "made().value()", "room::made()->parts()"}) {
+TEST(LintText, FindsLoopsOverWhatATemporaryOwns) {
+  const std::string owned[] = {"made()->parts",  "made(first, of(second))->parts",
+                               "*made()",        "*room::made()",
+                               "made().value()", "room::made()->parts()"};
+  for (const std::string& range : owned) {
     const LintRun run = lint({sourceWithLoopOver(range)});
     EXPECT_EQ(run.status, 1) << range;
     EXPECT_THAT(run.findings,
@@ -50,7 +52,7 @@ TEST(LintRanges, FindsLoopsOverWhatATemporaryOwns) {
   }
 }
 
-TEST(LintRanges, FindsEveryLoopOfEveryFile) {
+TEST(LintText, FindsEveryLoopOfEveryFile) {
   const std::string loop = sourceWithLoopOver("made()->parts");
   const LintRun run = lint({loop + loop, sourceWithLoopOver("parts"), loop});
   EXPECT_EQ(run.status, 1);
@@ -59,13 +61,27 @@ TEST(LintRanges, FindsEveryLoopOfEveryFile) {
                                                  testing::StartsWith("2.cpp:3: ")));
 }
 
-TEST(LintRanges, LetsLoopsOverWhatStaysBe) {
-  for (const std::string range :
-       {"made()", "made().parts", "made", "made->parts", "made->parts()", "*made"}) {
+TEST(LintText, LetsLoopsOverWhatStaysBe) {
+  const std::string kept[] = {"made()",      "made().parts",  "made",
+                              "made->parts", "made->parts()", "*made"};
+  for (const std::string& range : kept) {
     const LintRun run = lint({sourceWithLoopOver(range)});
     EXPECT_EQ(run.status, 0) << range;
     EXPECT_THAT(run.findings, testing::IsEmpty());
   }
+}
+
+TEST(LintText, FindsNamesThatNobodyUses) {
+  const std::string taken = "using room::Used;\nusing room::part::Unused;\nUsed made();\n";
+  const LintRun run = lint({taken + "// Unused otherwise.\nconst char* text = \"Unused\";\n"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_THAT(run.findings, testing::ElementsAre("0.cpp:2: nobody uses Unused"));
+}
+
+TEST(LintText, LetsNamesThatAreUsedBe) {
+  const LintRun run = lint({"using room::Used;\nvoid use(Used*);\nusing Own = int;\n"});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_THAT(run.findings, testing::IsEmpty());
 }
 
 }  // namespace
