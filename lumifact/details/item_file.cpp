@@ -2,6 +2,7 @@
 #include "lumifact/details/item_file.h"
 
 #include "lumifact/assets/file_names.h"
+#include "lumifact/assets/platform_texts.h"
 
 namespace lumifact {
 namespace {
@@ -25,19 +26,6 @@ void openPreview(ItemFile& file, PHAsset asset) {
   }
 }
 
-std::string dateText(NSDate date) {
-  if (!date) return printed({}).utf8();
-  return NSDateFormatter::localizedString(date, NSDateFormatter::mediumStyle,
-                                          NSDateFormatter::mediumStyle)
-      .utf8();
-}
-
-std::string sizeText(unsigned long long bytes) {
-  return NSByteCountFormatter::string(static_cast<long long>(bytes),
-                                      NSByteCountFormatter::fileStyle)
-      .utf8();
-}
-
 }  // namespace
 
 ItemFile openItemFile(PHAsset asset) {
@@ -52,7 +40,7 @@ FileFacts factsOf(NSString path, PHAsset asset) {
   return {
       .path = shownPath(path.utf8()),
       .fileDate = dateText(attributes.fileModificationDate()),
-      .fileSize = sizeText(attributes.fileSize()),
+      .fileSize = fileSizeText(static_cast<std::int64_t>(attributes.fileSize())),
       .pixelHeight = static_cast<std::int64_t>(asset.pixelHeight()),
       .pixelWidth = static_cast<std::int64_t>(asset.pixelWidth()),
   };

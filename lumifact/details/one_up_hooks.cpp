@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bridge/guard.h"
+#include "bridge/uikit/gesture_actions.h"
 #include "lumifact/details/details_hooks.h"
 #include "lumifact/details/one_up_state.h"
 #include "lumifact/state/current_settings.h"
@@ -44,18 +45,10 @@ void addDetailsItem() {
   item.setRightBarButtonItems(items);
 }
 
-// A recogniser keeps its targets and actions to itself: a list of records.
-bool sendsViewDetails(Object recognizer) {
-  const auto targets = as<NSArray>(objectField(recognizer, "_targets"));
-  for (NSUInteger index = 0; index < targets.count(); ++index)
-    if (sameSelector(selectorField(targets.at(index), "_action"), viewDetails())) return true;
-  return false;
-}
-
 bool recognizesViewDetails(UIView view) {
   const NSArray recognizers = view.gestureRecognizers();
   for (NSUInteger index = 0; index < recognizers.count(); ++index)
-    if (sendsViewDetails(recognizers.at(index))) return true;
+    if (sendsAction(recognizers.at(index), viewDetails())) return true;
   return false;
 }
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "lumifact/state/file_size_cache.h"
 
-#include "bridge/foundation.h"
-#include "lumifact/platform.h"
-
 namespace lumifact {
 namespace {
 
@@ -12,13 +9,8 @@ Owned<NSCache>& slot() {
   return kept;
 }
 
-std::optional<std::int32_t> lookUp(std::string_view uuid) {
-  const NSNumber entry(slot()->at(NSString::make(uuid)).get());
-  return entry ? std::optional(entry.intValue()) : std::nullopt;
-}
-
-void store(std::string_view uuid, std::int32_t lowBits) {
-  slot()->set(NSNumber::withInt(lowBits), NSString::make(uuid));
+std::int32_t lowBits(std::uint64_t size) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(size));
 }
 
 }  // namespace
@@ -27,8 +19,14 @@ void createFileSizeCache() {
   slot() = makeNew<NSCache>();
 }
 
-FileSizeCacheAccess fileSizeCache() {
-  return {.lookUp = &lookUp, .store = &store};
+std::optional<std::int64_t> cachedFileSize(
+    NSString uuid, const std::function<std::optional<std::uint64_t>()>& read) {
+  const NSCache cache = uuid ? slot().get() : NSCache();
+  if (const NSNumber entry{cache.at(uuid).get()}) return entry.intValue();
+  const std::optional<std::uint64_t> size = read();
+  if (!size) return std::nullopt;
+  cache.set(NSNumber::withInt(lowBits(*size)), uuid);
+  return static_cast<std::int64_t>(*size);
 }
 
 }  // namespace lumifact
