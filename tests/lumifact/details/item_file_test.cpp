@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/lumifact/details/fake_asset.h"
+#include "tests/lumifact/assets/fake_asset.h"
 #include "tests/lumifact/details/fake_media.h"
 #include "tests/lumifact/views/foundation_test.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/lumifact/details/fake_asset.h"
+#include "tests/lumifact/assets/fake_asset.h"
 
 #include "bridge/class_builder.h"
 
