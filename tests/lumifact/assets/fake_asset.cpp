@@ -7,10 +7,14 @@ namespace lumifact::host {
 namespace {
 
 using bridge::CLLocation;
+using bridge::NSDate;
 using bridge::NSObject;
 using bridge::NSString;
 using bridge::NSURL;
+using bridge::Object;
 using bridge::Owned;
+
+int timesAskedForType = 0;
 
 class FakeLocation : public bridge::Bound<FakeLocation, NSObject> {
  public:
@@ -47,6 +51,18 @@ class FakeAsset : public bridge::Bound<FakeAsset, NSObject> {
     return made.autorelease();
   }
 
+  NSString uuid() const { return facts.uuid.empty() ? NSString() : NSString::make(facts.uuid); }
+  NSString uniformTypeIdentifier() const {
+    ++timesAskedForType;
+    return NSString::make(facts.uniformTypeIdentifier);
+  }
+  double duration() const { return facts.duration; }
+  short exifOrientation() const { return facts.exifOrientation; }
+  NSDate creationDate() const {
+    return facts.creationDate ? NSDate::withTimeIntervalSince1970(*facts.creationDate) : NSDate();
+  }
+  Object localizedGeoDescription() const { return facts.place; }
+
   AssetFacts facts;
 
  private:
@@ -66,6 +82,12 @@ Class FakeAsset::classObject() {
           .method<"pixelWidth", &FakeAsset::pixelWidth>()
           .method<"pixelHeight", &FakeAsset::pixelHeight>()
           .method<"location", &FakeAsset::location>()
+          .method<"uuid", &FakeAsset::uuid>()
+          .method<"uniformTypeIdentifier", &FakeAsset::uniformTypeIdentifier>()
+          .method<"duration", &FakeAsset::duration>()
+          .method<"exifOrientation", &FakeAsset::exifOrientation>()
+          .method<"creationDate", &FakeAsset::creationDate>()
+          .method<"localizedGeoDescription", &FakeAsset::localizedGeoDescription>()
           .build();
   return made;
 }
@@ -77,6 +99,10 @@ bridge::PHAsset makeAsset(const AssetFacts& facts) {
       Owned<bridge::PHAsset>::adopt(bridge::send<bridge::PHAsset, "new">(FakeAsset::classObject()));
   FakeAsset::of(made->get()).facts = facts;
   return made.autorelease();
+}
+
+int questionsForType() {
+  return timesAskedForType;
 }
 
 }  // namespace lumifact::host

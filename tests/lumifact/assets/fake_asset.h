@@ -11,7 +11,7 @@
 
 namespace lumifact::host {
 
-// What an asset says. A link that is empty is nil.
+// What an asset says. A link or uuid that is empty is nil.
 struct AssetFacts {
   std::string mainFile = {};
   std::string fullsizeImage = {};
@@ -21,9 +21,18 @@ struct AssetFacts {
   unsigned long pixelWidth = 0;
   unsigned long pixelHeight = 0;
   std::optional<model::Location> location = {};
+  std::string uuid = {};
+  std::string uniformTypeIdentifier = {};
+  double duration = 0;  // seconds
+  short exifOrientation = 1;
+  std::optional<double> creationDate = {};   // seconds since 1970
+  bridge::Owned<bridge::Object> place = {};  // a text, or something that is none
 };
 
 // A new object of the class PHAsset; autoreleased.
 bridge::PHAsset makeAsset(const AssetFacts& facts);
+
+// How often any asset was asked for its type since the program began.
+int questionsForType();
 
 }  // namespace lumifact::host
