@@ -27,11 +27,6 @@ struct CALayer : NSObject {
   }
 };
 
-// A Core Graphics colour is an object as it stands, and may lie in an array.
-inline Object asObject(CGColorRef color) {
-  return Object(reinterpret_cast<id>(color));
-}
-
 struct CAGradientLayer : CALayer {
   using CALayer::CALayer;
   static Class classObject() { return classNamed<"CAGradientLayer">(); }

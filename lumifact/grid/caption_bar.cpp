@@ -26,11 +26,15 @@ void shapeShadow(UIView bar) {
   bar.layer().setShadowPath(UIBezierPath::withRect(shadow).cgPath());
 }
 
+// A Core Graphics colour is an object as it stands, and may lie in an array.
+Object blackAt(CGFloat alpha) {
+  return Object(reinterpret_cast<id>(UIColor::white(0.0, alpha).cgColor()));
+}
+
 void addGradient(UIView bar) {
   const CAGradientLayer gradient = CAGradientLayer::layer();
   gradient.setFrame(bar.bounds());
-  gradient.setColors(NSArray::of(asObject(UIColor::white(0.0, 0.0).cgColor()),
-                                 asObject(UIColor::white(0.0, 1.0).cgColor())));
+  gradient.setColors(NSArray::of(blackAt(0.0), blackAt(1.0)));
   bar.layer().insertSublayer(gradient, 0);
 }
 

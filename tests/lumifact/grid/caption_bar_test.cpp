@@ -8,16 +8,16 @@
 namespace lumifact {
 namespace {
 
+using desktop::uikit::CALayerState;
 using desktop::uikit::Color;
 using host::HelperFields;
-using LayerState = desktop::uikit::CALayer;
 
 Color colorOf(UIView view) {
-  return desktop::uikit::UIColor::valueOf(send<Object, "backgroundColor">(view));
+  return desktop::uikit::UIColorState::valueOf(send<Object, "backgroundColor">(view));
 }
 
-const LayerState::Style& styleOf(UIView view) {
-  return LayerState::of(view.layer()).style();
+const CALayerState::Style& styleOf(UIView view) {
+  return CALayerState::of(view.layer()).style();
 }
 
 CGRect shadowOf(UIView bar) {
@@ -74,22 +74,22 @@ TEST_F(CaptionBarTest, ASolidBarIsBlackAndNothingElse) {
   EXPECT_EQ(colorOf(bar), (Color{0, 0, 0, 1}));
   EXPECT_FALSE(styleOf(bar).shadowPath);
   EXPECT_EQ(styleOf(bar).shadowOpacity, 0);
-  EXPECT_TRUE(LayerState::of(bar.layer()).sublayers().empty());
+  EXPECT_TRUE(CALayerState::of(bar.layer()).sublayers().empty());
 }
 
 TEST_F(CaptionBarTest, AFadingBarHasAGradientAndAShadow) {
   settings.thumbnailInfoDisplaySolid = false;
   const UIView bar = makeCellWithBar();
   EXPECT_EQ(colorOf(bar).alpha, 0);
-  const LayerState::Style& style = styleOf(bar);
+  const CALayerState::Style& style = styleOf(bar);
   EXPECT_FALSE(style.masksToBounds);
-  EXPECT_EQ(desktop::uikit::UIColor::valueOf(style.shadowColor), (Color{0, 0, 0, 1}));
+  EXPECT_EQ(desktop::uikit::UIColorState::valueOf(style.shadowColor), (Color{0, 0, 0, 1}));
   EXPECT_EQ(style.shadowOffset, (CGSize{0, -2}));
   EXPECT_EQ(style.shadowOpacity, 0.5F);
   EXPECT_EQ(shadowOf(bar), (CGRect{{2, 0}, {89, 20}}));
-  const auto& sublayers = LayerState::of(bar.layer()).sublayers();
+  const auto& sublayers = CALayerState::of(bar.layer()).sublayers();
   ASSERT_FALSE(sublayers.empty());
-  EXPECT_EQ(LayerState::of(sublayers[0].get()).frame(), (CGRect{{0, 0}, {93, 20}}));
+  EXPECT_EQ(CALayerState::of(sublayers[0].get()).frame(), (CGRect{{0, 0}, {93, 20}}));
 }
 
 TEST_F(CaptionBarTest, AFadingBarsShadowLagsOneLayoutAndItsGradientForGood) {
@@ -101,9 +101,9 @@ TEST_F(CaptionBarTest, AFadingBarsShadowLagsOneLayoutAndItsGradientForGood) {
   EXPECT_EQ(shadowOf(bar), (CGRect{{2, 0}, {89, 20}}));
   layOut();
   EXPECT_EQ(shadowOf(bar), (CGRect{{2, 0}, {182, 16}}));
-  const auto& sublayers = LayerState::of(bar.layer()).sublayers();
+  const auto& sublayers = CALayerState::of(bar.layer()).sublayers();
   ASSERT_FALSE(sublayers.empty());
-  EXPECT_EQ(LayerState::of(sublayers[0].get()).frame(), (CGRect{{0, 0}, {93, 20}}));
+  EXPECT_EQ(CALayerState::of(sublayers[0].get()).frame(), (CGRect{{0, 0}, {93, 20}}));
 }
 
 TEST_F(CaptionBarTest, TheLookIsThatOfItsMakingWhileShadowsFollowTheSetting) {
@@ -111,7 +111,7 @@ TEST_F(CaptionBarTest, TheLookIsThatOfItsMakingWhileShadowsFollowTheSetting) {
   settings.thumbnailInfoDisplaySolid = false;
   layOut();
   EXPECT_EQ(colorOf(bar).alpha, 1);
-  EXPECT_TRUE(LayerState::of(bar.layer()).sublayers().empty());
+  EXPECT_TRUE(CALayerState::of(bar.layer()).sublayers().empty());
   EXPECT_TRUE(styleOf(bar).shadowPath);
 }
 

@@ -88,8 +88,9 @@ TEST_F(GridSizeTest, TheButtonIsASmallCircleWithALetter) {
   EXPECT_EQ((send<NSInteger, "numberOfLines">(button.titleLabel())), 1);
   EXPECT_TRUE((send<bool, "adjustsFontSizeToFitWidth">(button.titleLabel())));
   EXPECT_EQ((send<NSInteger, "lineBreakMode">(button.titleLabel())), 2);
-  EXPECT_EQ(desktop::uikit::UIColor::valueOf(send<Object, "backgroundColor">(button)).alpha, 0);
-  const auto& style = desktop::uikit::CALayer::of(button.layer()).style();
+  EXPECT_EQ(desktop::uikit::UIColorState::valueOf(send<Object, "backgroundColor">(button)).alpha,
+            0);
+  const auto& style = desktop::uikit::CALayerState::of(button.layer()).style();
   EXPECT_EQ(style.cornerRadius, 10);
   EXPECT_TRUE(style.masksToBounds);
   EXPECT_EQ(style.borderWidth, 1);
