@@ -25,6 +25,7 @@ constexpr const char* badgeField = "__badgeView";
 constexpr const char* bannerField = "_textBannerView";
 constexpr CGFloat bannerMargin = 4;      // points
 constexpr CGFloat leastBannerRoom = 60;  // points; in less it would hide the photo
+constexpr CGFloat tolerance = 1.5;       // points by which a picture's size may be off
 
 int pixels(CGFloat points) {
   constexpr double most = 8192;
@@ -39,6 +40,11 @@ pictures::Request requestFor(CGSize room) {
 
 CGFloat toWholePixel(CGFloat points) {
   return std::round(points * uikit::screen().scale) / uikit::screen().scale;
+}
+
+bool isAbout(CGSize size, CGSize other) {
+  return std::abs(size.width - other.width) < tolerance &&
+         std::abs(size.height - other.height) < tolerance;
 }
 
 double durationOf(const library::LibraryItem& item) {
@@ -80,12 +86,17 @@ void PUPhotoViewContentHelperState::show(library::ItemPointer item, CGSize room)
   if (item == _item && room.width == _room.width && room.height == _room.height &&
       (_state == State::shown || _state == State::failed || _ticket.isWaiting()))
     return;
+  if (item != _item) showPicture(nullptr);
   _item = std::move(item);
   _room = room;
   _ticket.cancel();
   showBadge();
   showBanner();
   load();
+}
+
+void PUPhotoViewContentHelperState::fit(CGSize room) {
+  if (!isAbout(room, _room)) show(_item, room);
 }
 
 void PUPhotoViewContentHelperState::load() {
@@ -98,8 +109,7 @@ void PUPhotoViewContentHelperState::load() {
     showPicture(known);
     return setState(State::shown);
   }
-  showPicture(nullptr);
-  setState(State::loading);
+  if (!_picture) setState(State::loading);
   _ticket.request(_item->path, request, pictures::Priority::visible,
                   [this](const pictures::Outcome& outcome) {
                     if (!outcome.picture) return fail(outcome.reason);
@@ -144,9 +154,7 @@ CGRect PUPhotoViewContentHelperState::pictureFrame() const {
   const CGFloat scale = uikit::screen().scale;
   const CGSize natural{_picture->width / scale, _picture->height / scale};
   CGRect frame = uikit::placed(natural, room, uikit::ContentMode::aspectFill);
-  constexpr CGFloat tolerance = 1.5;  // points
-  if (std::abs(frame.size.width - natural.width) < tolerance &&
-      std::abs(frame.size.height - natural.height) < tolerance) {
+  if (isAbout(frame.size, natural)) {
     frame.origin.x = toWholePixel(frame.origin.x + (frame.size.width - natural.width) / 2);
     frame.origin.y = toWholePixel(frame.origin.y + (frame.size.height - natural.height) / 2);
     frame.size = natural;

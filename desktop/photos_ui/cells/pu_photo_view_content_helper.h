@@ -27,6 +27,9 @@ class PUPhotoViewContentHelperState
 
   // Shows an item, or nothing, in a room of the size in points; the picture covers all of it.
   void show(library::ItemPointer item, CGSize room);
+  // The room has another size, at which the item is shown as well: what is on show stays until the
+  // sharper picture is there.
+  void fit(CGSize room);
   // Nobody sees it at present: what is not there yet is no longer wanted.
   void stopLoading();
   // The view is gone; from now on nothing is shown.

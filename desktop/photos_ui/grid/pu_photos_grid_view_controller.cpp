@@ -90,14 +90,11 @@ void PUPhotosGridViewControllerState::viewWillAppear(bool animated) {
   load();
 }
 
-// Another width is another grid: what was at the top stays there.
+// Another width is another grid.
 void PUPhotosGridViewControllerState::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
-  const CGFloat width = self().view().bounds().size.width;
-  if (width == _measuredWidth) return;
-  const auto place = _measuredWidth > 0 ? _place.anchor() : std::nullopt;
-  send<void, "updateLayoutMetrics">(self());
-  if (place) _place.restore(*place);
+  if (self().view().bounds().size.width != _measuredWidth)
+    send<void, "updateLayoutMetrics">(self());
 }
 
 void PUPhotosGridViewControllerState::viewDidLayoutSubviews() {
@@ -105,12 +102,16 @@ void PUPhotosGridViewControllerState::viewDidLayoutSubviews() {
   _place.stayAtEnd();
 }
 
+// What was at the top stays there, and whoever was at the end stays at that.
 void PUPhotosGridViewControllerState::updateLayoutMetrics() {
+  const auto place = _place.anchor();
   _measuredWidth = self().view().bounds().size.width;
   const auto [columns, itemSize] =
       gridMetrics(_contents, _measuredWidth, layout().interItemSpacing(), uikit::screen().scale);
   layout().setColumnsPerRow(columns);
   send<void, "setItemSize:">(layout().self(), itemSize);
+  if (place) _place.restore(*place);
+  _place.stayAtEnd();
 }
 
 void PUPhotosGridViewControllerState::refresh() {

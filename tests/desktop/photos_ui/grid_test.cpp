@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
 
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
@@ -82,24 +83,91 @@ CGSize largerItems(id, SEL, NSInteger) {
   return {186.5, 186.5};
 }
 
+class LargerItems {
+ public:
+  LargerItems() : _stock(method_setImplementation(_method, reinterpret_cast<IMP>(&largerItems))) {}
+  ~LargerItems() { method_setImplementation(_method, _stock); }
+  LargerItems(const LargerItems&) = delete;
+  LargerItems& operator=(const LargerItems&) = delete;
+
+ private:
+  Method _method = class_getInstanceMethod(PUSectionedGridLayoutState::classObject(),
+                                           selector<"layoutItemSizeForColumn:">());
+  IMP _stock;
+};
+
 TEST_F(GridTest, ShowsAsManyColumnsAsTheSizesLeaveRoomFor) {
   openAlbumOf(5);
-  const SEL sizeForColumn = selector<"layoutItemSizeForColumn:">();
-  const Class aClass = PUSectionedGridLayoutState::classObject();
-  const Method method = class_getInstanceMethod(aClass, sizeForColumn);
-  const IMP before = method_setImplementation(method, reinterpret_cast<IMP>(&largerItems));
   const AutoreleasePool pool;
   const PUPhotosAlbumViewController album(top().get());
-  album.mainGridLayout().invalidateLayout();
-  album.updateLayoutMetrics();
-  settle();
-  EXPECT_EQ(frameOf(1).origin.x, 187.5);
-  EXPECT_EQ(frameOf(2).origin.y, 187.5);
-  EXPECT_EQ(album.mainGridLayout().columnsPerRow(), 4);
-  method_setImplementation(method, before);
+  {
+    const LargerItems larger;
+    album.mainGridLayout().invalidateLayout();
+    album.updateLayoutMetrics();
+    settle();
+    EXPECT_EQ(frameOf(1).origin.x, 187.5);
+    EXPECT_EQ(frameOf(2).origin.y, 187.5);
+    EXPECT_EQ(album.mainGridLayout().columnsPerRow(), 4);
+  }
   album.mainGridLayout().invalidateLayout();
   settle();
   EXPECT_EQ(frameOf(4).origin.y, 94);
+}
+
+TEST_F(GridTest, KeepsItsPlaceWhenItsMetricsAreUpdated) {
+  openAlbumOf(90);
+  const auto& scroll = uikit::UIScrollViewState::of(grid().collectionView());
+  send<void, "setContentOffset:">(grid().collectionView(), CGPoint{0, 500});
+  settle();
+  const CGFloat before = frameOf(24).origin.y - scroll.contentOffset().y;
+  const AutoreleasePool pool;
+  const PUPhotosAlbumViewController album(top().get());
+  const LargerItems larger;
+  album.mainGridLayout().invalidateLayout();
+  album.updateLayoutMetrics();
+  settle();
+  EXPECT_EQ(frameOf(24).origin.y - scroll.contentOffset().y, before);
+}
+
+TEST_F(GridTest, StaysAtTheEndWhenItsMetricsAreUpdated) {
+  for (int index = 0; index < 90; ++index) addPhoto("Album", index);
+  open();
+  ASSERT_FALSE(openAlbum("All Photos"));
+  settle();
+  const AutoreleasePool pool;
+  const PUPhotosAlbumViewController album(top().get());
+  const LargerItems larger;
+  album.mainGridLayout().invalidateLayout();
+  album.updateLayoutMetrics();
+  settle();
+  const auto& scroll = uikit::UIScrollViewState::of(grid().collectionView());
+  EXPECT_EQ(scroll.contentOffset().y, scroll.clamped({0, 1e9}).y);
+  EXPECT_GT(scroll.contentOffset().y, 5'000);
+}
+
+// What an extension puts on a cell's layout: a count of the passes, by the width they found.
+std::map<CGFloat, int> passes;
+IMP stockLayout = nullptr;
+void countingLayout(id self, SEL command) {
+  reinterpret_cast<void (*)(id, SEL)>(stockLayout)(self, command);
+  ++passes[UIView(self).bounds().size.width];
+}
+
+TEST_F(GridTest, LaysCellsOfAnotherSizeOutTwiceBeforeTheyAreSeen) {
+  openAlbumOf(1);
+  const Method method =
+      class_getInstanceMethod(PUPhotosGridCellState::classObject(), selector<"layoutSubviews">());
+  stockLayout = method_setImplementation(method, reinterpret_cast<IMP>(&countingLayout));
+  passes.clear();
+  application().resize({350, 667});
+  application().prepareFrame();
+  EXPECT_THAT(passes, ElementsAre(testing::Pair(87, 2)));
+  application().resize({375, 667});
+  application().prepareFrame();
+  EXPECT_THAT(passes, ElementsAre(testing::Pair(87, 2), testing::Pair(93, 2)));
+  application().prepareFrame();
+  EXPECT_EQ(passes[93], 2) << "one size, one time";
+  method_setImplementation(method, stockLayout);
 }
 
 TEST_F(GridTest, MakesCellsAsLargeAsTheyWillBe) {
