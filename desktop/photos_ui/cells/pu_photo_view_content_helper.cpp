@@ -11,7 +11,7 @@
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/text_banner.h"
-#include "desktop/photos_ui/cells/video_badge.h"
+#include "desktop/photos_ui/cells/item_badge.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
@@ -169,11 +169,11 @@ void PUPhotoViewContentHelperState::showBadge() {
   if (!isVideo) return setExtra(badgeField, {});
   if (!badge) {
     const auto made =
-        Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(VideoBadge::classObject())));
+        Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(ItemBadge::classObject())));
     setExtra(badgeField, made);
     badge = made;
   }
-  VideoBadge::of(badge).setDuration(durationOf(*_item));
+  ItemBadge::of(badge).setDuration(durationOf(*_item));
 }
 
 void PUPhotoViewContentHelperState::showBanner() {
@@ -204,7 +204,7 @@ void PUPhotoViewContentHelperState::layoutSubviewsOfContentView() {
   if (room.width == _arrangedSize.width && room.height == _arrangedSize.height) return;
   _arrangedSize = room;
   const UIView badge(objectField(self(), badgeField).get());
-  badge.setFrame({{0, room.height - VideoBadge::height}, {room.width, VideoBadge::height}});
+  badge.setFrame({{0, room.height - ItemBadge::height}, {room.width, ItemBadge::height}});
   const UIView banner(objectField(self(), bannerField).get());
   const CGSize size = send<CGSize, "sizeThatFits:">(banner, room);
   send<void, "setHidden:">(banner, room.width < leastBannerRoom);

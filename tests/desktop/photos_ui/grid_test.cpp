@@ -7,7 +7,7 @@
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
-#include "desktop/photos_ui/cells/video_badge.h"
+#include "desktop/photos_ui/cells/item_badge.h"
 #include "desktop/photos_ui/grid/selection_title.h"
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/uikit/application/application.h"
@@ -346,7 +346,7 @@ TEST_F(GridTest, MarksVideosAndLeavesTheMarkWhereOthersPutIt) {
   const auto helper = cell.photoContentView().contentHelper();
   const UIView badge(objectField(helper, "__badgeView").get());
   ASSERT_TRUE(badge);
-  EXPECT_EQ(badge.frame().origin.y, 93 - VideoBadge::height);
+  EXPECT_EQ(badge.frame().origin.y, 93 - ItemBadge::height);
   EXPECT_FALSE(objectField(helper, "_badgeView"));
   badge.setFrame({{0, 10}, {20, 20}});
   send<void, "layoutSubviewsOfContentView">(helper);

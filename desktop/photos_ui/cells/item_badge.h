@@ -17,7 +17,7 @@ namespace desktop::photos_ui {
 // "0:09", "12:34" or "1:02:03"; whole seconds, of which there is at least one.
 std::string durationText(double seconds);
 
-class VideoBadge : public Bound<VideoBadge, uikit::UIViewState> {
+class ItemBadge : public Bound<ItemBadge, uikit::UIViewState> {
  public:
   using Bound::Bound;
   static Class classObject();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/photos_ui/cells/video_badge.h"
+#include "desktop/photos_ui/cells/item_badge.h"
 
 #include <cmath>
 
@@ -46,16 +46,16 @@ std::string durationText(double seconds) {
   return std::to_string(hours) + ":" + twoDigits(minutes) + end;
 }
 
-Class VideoBadge::classObject() {
-  static const Class made = ClassBuilder<VideoBadge>("VideoBadge")
-                                .method<"initWithFrame:", &VideoBadge::initWithFrame>()
-                                .method<"layoutSubviews", &VideoBadge::layoutSubviews>()
-                                .method<"drawContentOn:", &VideoBadge::drawContent>()
+Class ItemBadge::classObject() {
+  static const Class made = ClassBuilder<ItemBadge>("ItemBadge")
+                                .method<"initWithFrame:", &ItemBadge::initWithFrame>()
+                                .method<"layoutSubviews", &ItemBadge::layoutSubviews>()
+                                .method<"drawContentOn:", &ItemBadge::drawContent>()
                                 .build();
   return made;
 }
 
-UIView VideoBadge::initWithFrame(CGRect frame) {
+UIView ItemBadge::initWithFrame(CGRect frame) {
   if (!super<UIView, "initWithFrame:">(frame)) return {};
   send<void, "setUserInteractionEnabled:">(self(), false);
   _label = makeLabel({.size = fontSize}, uikit::colors::white);
@@ -63,12 +63,12 @@ UIView VideoBadge::initWithFrame(CGRect frame) {
   return self();
 }
 
-void VideoBadge::setDuration(double seconds) {
+void ItemBadge::setDuration(double seconds) {
   showText(_label, seconds > 0 ? durationText(seconds) : std::string());
   setNeedsLayout();
 }
 
-void VideoBadge::layoutSubviews() {
+void ItemBadge::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize room = self().bounds().size;
   const CGFloat width = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{}).width;
@@ -77,7 +77,7 @@ void VideoBadge::layoutSubviews() {
   send<void, "setHidden:">(_label.get(), isCramped);
 }
 
-void VideoBadge::drawContent(uikit::Canvas* canvas) const {
+void ItemBadge::drawContent(uikit::Canvas* canvas) const {
   const CGRect bounds = shown().bounds;
   constexpr uikit::Color shade[] = {uikit::Color::white(0, 0), uikit::Color::white(0, 0.6)};
   canvas->gradient(bounds, shade, {0.5, 0}, {0.5, 1}, 0);
