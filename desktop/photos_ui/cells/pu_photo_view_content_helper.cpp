@@ -10,8 +10,8 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/cells/text_banner.h"
 #include "desktop/photos_ui/cells/item_badge.h"
+#include "desktop/photos_ui/cells/text_banner.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
@@ -45,12 +45,6 @@ CGFloat toWholePixel(CGFloat points) {
 bool isAbout(CGSize size, CGSize other) {
   return std::abs(size.width - other.width) < tolerance &&
          std::abs(size.height - other.height) < tolerance;
-}
-
-double durationOf(const library::LibraryItem& item) {
-  if (!host().library) return 0;
-  const auto& facts = host().library->facts(item);
-  return facts ? (*facts)->duration : 0;
 }
 
 }  // namespace
@@ -163,21 +157,21 @@ CGRect PUPhotoViewContentHelperState::pictureFrame() const {
 }
 
 void PUPhotoViewContentHelperState::showBadge() {
-  const bool isVideo = _item && _item->isVideo();
-  auto badge = UIView(objectField(self(), badgeField).get());
-  if (!isVideo && !badge) return;
-  if (!isVideo) return setExtra(badgeField, {});
-  if (!badge) {
-    const auto made =
-        Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(ItemBadge::classObject())));
-    setExtra(badgeField, made);
-    badge = made;
+  const ItemMarks marks = host().library ? marksOf(*host().library, _item) : ItemMarks();
+  const UIView badge(objectField(self(), badgeField).get());
+  if (!marks.areAny()) {
+    if (badge) setExtra(badgeField, {});
+    return;
   }
-  ItemBadge::of(badge).setDuration(durationOf(*_item));
+  if (!badge) setExtra(badgeField, ItemBadge::make());
+  ItemBadge::of(UIView(objectField(self(), badgeField).get())).show(marks);
 }
 
 void PUPhotoViewContentHelperState::showBanner() {
-  const std::string_view text = _item ? bannerTextFor(_item->name()) : std::string_view();
+  const std::string_view known = _word;
+  const std::string_view text = !_item          ? std::string_view()
+                                : known.empty() ? bannerTextFor(_item->name())
+                                                : known;
   if (text.empty()) {
     if (objectField(self(), bannerField)) setExtra(bannerField, {});
     return;
@@ -208,7 +202,8 @@ void PUPhotoViewContentHelperState::layoutSubviewsOfContentView() {
   const UIView banner(objectField(self(), bannerField).get());
   const CGSize size = send<CGSize, "sizeThatFits:">(banner, room);
   send<void, "setHidden:">(banner, room.width < leastBannerRoom);
-  banner.setFrame({{bannerMargin, room.height - size.height - bannerMargin}, size});
+  const CGFloat below = badge ? ItemBadge::height : bannerMargin;
+  banner.setFrame({{bannerMargin, room.height - size.height - below}, size});
 }
 
 }  // namespace desktop::photos_ui

@@ -137,7 +137,8 @@ void PUPhotosGridViewControllerState::refresh() {
 // What nobody sees is brought up to date when it is seen.
 void PUPhotosGridViewControllerState::libraryChanged(const library::LibraryChange& change) {
   const bool areItemsChanged = !change.inserted.empty() || !change.removed.empty() ||
-                               !change.updated.empty() || change.areAlbumsChanged;
+                               !change.updated.empty() || change.areAlbumsChanged ||
+                               change.areFavouritesChanged;
   if (areItemsChanged) _isStale = true;
   if (!collectionView() || !uikit::UIViewState::of(collectionView()).window()) return;
   if (areItemsChanged) {
@@ -205,7 +206,7 @@ bool PUPhotosGridViewControllerState::shouldBegin(UIGestureRecognizer recognizer
 
 // The title tells how many there are once the finger has moved on.
 void PUPhotosGridViewControllerState::handleSwipeSelection(UIGestureRecognizer recognizer) {
-  if (_selection.follow(recognizer)) updateTitle();
+  if (_selection.follow(recognizer, [this] { updateTitle(); })) updateTitle();
 }
 
 PHAsset PUPhotosGridViewControllerState::assetAt(NSIndexPath path) const {

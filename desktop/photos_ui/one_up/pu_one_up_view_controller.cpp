@@ -49,6 +49,7 @@ Class PUOneUpViewControllerState::classObject() {
                   &PUOneUpViewControllerState::assetReference>()
           .method<"_setTilingView:", &PUOneUpViewControllerState::setTilingView>()
           .method<"barsController", &PUOneUpViewControllerState::barsController>()
+          .method<"showFilm:", &PUOneUpViewControllerState::showFilm>()
           .method<"handleTap:", &PUOneUpViewControllerState::handleTap>()
           .method<"handleTapBeside:", &PUOneUpViewControllerState::handleTapBeside>()
           .method<"gestureRecognizer:shouldReceiveTouch:",
@@ -172,6 +173,15 @@ PUAssetReference PUOneUpViewControllerState::assetReference(NSIndexPath path,
   const library::ItemPointer item = _items.at(path);
   if (!item || !host().library) return {};
   return faces::PUAssetReferenceState::make(faces::PHAssetState::make(*host().library, item), path);
+}
+
+// The film of a Live Photo, as an item of its own.
+void PUOneUpViewControllerState::showFilm(NSObject) {
+  const library::ItemPointer item = currentItem();
+  if (!item || !item->isLivePhoto()) return;
+  const auto film = std::make_shared<const ItemList>(std::vector{item->film});
+  self().navigationController().push(make(film, 0, Presentation::ordinary),
+                                     UIViewController::animated);
 }
 
 void PUOneUpViewControllerState::handleTap(UIGestureRecognizer) {

@@ -6,8 +6,8 @@
 
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
-#include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/cells/item_badge.h"
+#include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/grid/selection_title.h"
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/uikit/application/application.h"
@@ -16,6 +16,7 @@
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "tests/desktop/photos_ui/library_screen.h"
+#include "tests/support/sample_photo.h"
 
 namespace desktop::photos_ui {
 namespace {
@@ -240,6 +241,51 @@ TEST_F(GridTest, DeselectsWhatASwipeThatBeginsOnASelectedItemGoesOver) {
   EXPECT_THAT(selected(), ElementsAre("Album/00.jpg"));
 }
 
+TEST_F(GridTest, ScrollsWhereASwipeStaysAtAnEdge) {
+  openAlbumOf(90);
+  beginSelecting();
+  const auto& scroll = uikit::UIScrollViewState::of(grid().collectionView());
+  const CGPoint start = placeOf(0);
+  touches().down(start);
+  touches().move({start.x + 100, start.y});
+  settle(0.02);
+  touches().move({start.x + 100, 610});
+  settle(1);
+  const CGFloat halfWay = scroll.contentOffset().y;
+  EXPECT_GT(halfWay, 200) << "the finger rests above the bar at the bottom";
+  const std::size_t selectedHalfWay = selected().size();
+  EXPECT_GT(selectedHalfWay, 30U);
+  EXPECT_THAT(title(), HasSubstr(std::to_string(selectedHalfWay)));
+  settle(5);
+  EXPECT_EQ(scroll.contentOffset().y, scroll.clamped({0, 1e9}).y) << "no further than to the end";
+  touches().move({start.x + 100, 300});
+  settle(0.02);
+  const std::size_t selectedThen = selected().size();
+  const CGFloat offset = scroll.contentOffset().y;
+  settle(1);
+  EXPECT_EQ(scroll.contentOffset().y, offset);
+  touches().up({start.x + 100, 300});
+  settle();
+  EXPECT_EQ(selected().size(), selectedThen);
+  EXPECT_EQ(scroll.contentOffset().y, offset);
+}
+
+TEST_F(GridTest, ScrollsNoMoreOnceASwipeIsTakenBack) {
+  openAlbumOf(90);
+  beginSelecting();
+  const CGPoint start = placeOf(0);
+  touches().down(start);
+  touches().move({start.x + 100, start.y});
+  settle(0.02);
+  touches().move({start.x + 100, 610});
+  settle(0.5);
+  touches().cancel();
+  const CGFloat offset = uikit::UIScrollViewState::of(grid().collectionView()).contentOffset().y;
+  settle(1);
+  EXPECT_EQ(uikit::UIScrollViewState::of(grid().collectionView()).contentOffset().y, offset);
+  EXPECT_THAT(selected(), IsEmpty());
+}
+
 TEST_F(GridTest, UndoesASwipeThatIsCancelled) {
   openAlbumOf(8);
   beginSelecting();
@@ -351,6 +397,59 @@ TEST_F(GridTest, MarksVideosAndLeavesTheMarkWhereOthersPutIt) {
   badge.setFrame({{0, 10}, {20, 20}});
   send<void, "layoutSubviewsOfContentView">(helper);
   EXPECT_EQ(badge.frame().origin.y, 10);
+}
+
+TEST_F(GridTest, MarksFavouritesAsSoonAsTheyAre) {
+  openAlbumOf(2);
+  const auto badge = [](NSInteger item) {
+    const auto& views = uikit::UICollectionViewState::of(grid().collectionView()).views();
+    const auto& cell = PUPhotosGridCellState::of(views.at({{}, {0, item}}).get());
+    return UIView(objectField(cell.photoContentView().contentHelper(), "__badgeView").get());
+  };
+  const AutoreleasePool pool;
+  EXPECT_FALSE(badge(1));
+  EXPECT_TRUE(library->setFavourite(*grid().list()->at(1), true));
+  deliver();
+  EXPECT_FALSE(badge(0));
+  EXPECT_TRUE(badge(1));
+  EXPECT_TRUE(library->setFavourite(*grid().list()->at(1), false));
+  deliver();
+  EXPECT_FALSE(badge(1));
+}
+
+TEST(MarksOf, AreWhatTheLibraryKnowsOfAnItem) {
+  const support::TemporaryFolder root;
+  const library::LibraryFolder folder;
+  const auto wide = media::facts::sampleJpeg({.width = 400, .height = 100});
+  folder.write("a wide.jpg", std::span(wide));
+  folder.photo("plain.jpg");
+  folder.broken("video.mov");
+  auto opened = library::PhotoLibrary::open(folder.path(), foundation::DeviceRoot(root.path()));
+  ASSERT_TRUE(opened);
+  library::PhotoLibrary& photos = **opened;
+  photos.findPanoramas();
+  photos.waitAndDeliver();
+  EXPECT_FALSE(marksOf(photos, nullptr).areAny());
+  for (const auto& item : photos.items()) {
+    const ItemMarks marks = marksOf(photos, item);
+    EXPECT_EQ(marks.isPanorama, item->name() == "a wide.jpg");
+    EXPECT_EQ(marks.isVideo, item->name() == "video.mov");
+    EXPECT_EQ(marks.areAny(), item->name() != "plain.jpg");
+    library::LibraryItem live = *item;
+    live.film = item;
+    EXPECT_TRUE(marksOf(photos, std::make_shared<library::LibraryItem>(live)).isLivePhoto);
+  }
+}
+
+TEST_F(GridTest, NamesSharedAlbumsInABannerOfTheirKeyPhotos) {
+  folder.photo("Trip/a.jpg");
+  folder.write("Trip/.shared", "");
+  folder.photo("City/a.jpg");
+  open();
+  ASSERT_FALSE(openAlbums());
+  settle();
+  const auto shown = texts();
+  EXPECT_EQ(std::ranges::count(shown, "Shared"), 1);
 }
 
 TEST_F(GridTest, NamesRawPhotosInABanner) {
