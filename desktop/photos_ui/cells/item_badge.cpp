@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Marks stand in a row from the left in the order of their table, a video's length at the right
-// where there is room for it. Whoever extends the badge may make it narrower: it cuts what is beside.
+// where there is room for it. Whoever extends the badge may make it narrower: it cuts what is
+// beside.
 #include "desktop/photos_ui/cells/item_badge.h"
 
 #include <cmath>

@@ -76,16 +76,18 @@ Owned<PUPhotoViewContentHelper> PUPhotoViewContentHelperState::make(UIView conte
   return made;
 }
 
+// Badge and word may be others for the same item.
 void PUPhotoViewContentHelperState::show(library::ItemPointer item, CGSize room) {
-  if (item == _item && room.width == _room.width && room.height == _room.height &&
-      (_state == State::shown || _state == State::failed || _ticket.isWaiting()))
-    return;
-  if (item != _item) showPicture(nullptr);
+  const bool isOther = item != _item;
+  const bool isUnderWay = _state == State::shown || _state == State::failed || _ticket.isWaiting();
+  const bool isLoaded = !isOther && room == _room && isUnderWay;
+  if (isOther) showPicture(nullptr);
   _item = std::move(item);
   _room = room;
-  _ticket.cancel();
   showBadge();
   showBanner();
+  if (isLoaded) return;
+  _ticket.cancel();
   load();
 }
 
@@ -167,17 +169,20 @@ void PUPhotoViewContentHelperState::showBadge() {
   ItemBadge::of(UIView(objectField(self(), badgeField).get())).show(marks);
 }
 
+std::string_view PUPhotoViewContentHelperState::bannerText() const {
+  if (!_item) return {};
+  return _word.empty() ? bannerTextFor(_item->name()) : std::string_view(_word);
+}
+
 void PUPhotoViewContentHelperState::showBanner() {
-  const std::string_view known = _word;
-  const std::string_view text = !_item          ? std::string_view()
-                                : known.empty() ? bannerTextFor(_item->name())
-                                                : known;
+  const std::string_view text = bannerText();
+  const UIView banner(objectField(self(), bannerField).get());
   if (text.empty()) {
-    if (objectField(self(), bannerField)) setExtra(bannerField, {});
+    if (banner) setExtra(bannerField, {});
     return;
   }
-  const auto made =
-      Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(TextBannerView::classObject())));
+  if (banner && TextBannerView::of(banner).text().utf8() == text) return;
+  const auto made = bridge::makeView<UIView>({}, TextBannerView::classObject());
   TextBannerView::of(made.get()).setText(NSString::make(text));
   setExtra(bannerField, made);
 }

@@ -27,7 +27,7 @@ class PUPhotoViewContentHelperState
 
   // Shows an item, or nothing, in a room of the size in points; the picture covers all of it.
   void show(library::ItemPointer item, CGSize room);
-  // The word of what is shown from now on, in place of what its name says; empty for that.
+  // The word of what is shown next, in place of what its name says; empty for that.
   void setWord(std::string_view word) { _word = word; }
   // The room has another size, at which the item is shown as well: what is on show stays until the
   // sharper picture is there.
@@ -49,6 +49,7 @@ class PUPhotoViewContentHelperState
   CGRect pictureFrame() const;
   void showBadge();
   void showBanner();
+  std::string_view bannerText() const;
   void setExtra(const char* field, UIView view);
 
   UIView _contentView;  // borrowed

@@ -54,16 +54,17 @@ Owned<NSObject> PUOneUpBarsController::make(UIViewController oneUp, const Browse
 PUOneUpBarsController::Tools PUOneUpBarsController::toolsNow() const {
   const library::ItemPointer item = _items->current();
   if (!item || !host().library) return {};
-  return {.isFavourite = host().library->isFavourite(*item), .isLivePhoto = item->isLivePhoto()};
+  return {.isFavourite = host().library->isFavourite(*item),
+          .isLivePhoto = _items->otherHalf() != nullptr};
 }
 
-// The film of a Live Photo is shown by the controller.
+// The halves of a Live Photo are swapped by the controller.
 void PUOneUpBarsController::showTools(Tools tools) {
   _tools = tools;
   const auto share = makeTool(Glyph::action, self(), selector<"shareTouched:">());
   const auto favourite = makeTool(tools.isFavourite ? Glyph::filledHeart : Glyph::heart, self(),
                                   selector<"favouriteTouched:">());
-  const auto film = makeTool(Glyph::livePhoto, _oneUp, selector<"showFilm:">());
+  const auto film = makeTool(Glyph::livePhoto, _oneUp, selector<"swapHalves:">());
   const auto items = makeNew<NSMutableArray>();
   items->add(share.get());
   items->add(makeSpace().get());

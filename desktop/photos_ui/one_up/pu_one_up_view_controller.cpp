@@ -49,7 +49,7 @@ Class PUOneUpViewControllerState::classObject() {
                   &PUOneUpViewControllerState::assetReference>()
           .method<"_setTilingView:", &PUOneUpViewControllerState::setTilingView>()
           .method<"barsController", &PUOneUpViewControllerState::barsController>()
-          .method<"showFilm:", &PUOneUpViewControllerState::showFilm>()
+          .method<"swapHalves:", &PUOneUpViewControllerState::swapHalves>()
           .method<"handleTap:", &PUOneUpViewControllerState::handleTap>()
           .method<"handleTapBeside:", &PUOneUpViewControllerState::handleTapBeside>()
           .method<"gestureRecognizer:shouldReceiveTouch:",
@@ -175,13 +175,12 @@ PUAssetReference PUOneUpViewControllerState::assetReference(NSIndexPath path,
   return faces::PUAssetReferenceState::make(faces::PHAssetState::make(*host().library, item), path);
 }
 
-// The film of a Live Photo, as an item of its own.
-void PUOneUpViewControllerState::showFilm(NSObject) {
-  const library::ItemPointer item = currentItem();
-  if (!item || !item->isLivePhoto()) return;
-  const auto film = std::make_shared<const ItemList>(std::vector{item->film});
-  self().navigationController().push(make(film, 0, Presentation::ordinary),
-                                     UIViewController::animated);
+// The film is an item of its own in the place of its still, so that whoever asks for the item on
+// show is told of it.
+void PUOneUpViewControllerState::swapHalves(NSObject) {
+  if (!_items.otherHalf()) return;
+  showItems(_items.listWithOtherHalf(), _items.index());
+  updateBars();
 }
 
 void PUOneUpViewControllerState::handleTap(UIGestureRecognizer) {

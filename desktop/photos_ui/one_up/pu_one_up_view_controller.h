@@ -54,7 +54,7 @@ class PUOneUpViewControllerState
   void setTilingView(UIView view);
   NSObject barsController() const { return _bars; }
 
-  void showFilm(NSObject sender);
+  void swapHalves(NSObject sender);
   void handleTap(UIGestureRecognizer recognizer);
   void handleTapBeside(UIGestureRecognizer recognizer);
   bool shouldReceiveTouch(UIGestureRecognizer recognizer, UITouch touch) const;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 
+#include "bridge/class_builder.h"
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/item_badge.h"
@@ -187,6 +188,40 @@ TEST_F(GridTest, OpensAPhotoByATap) {
   openAlbumOf(3);
   tap(placeOf(1));
   EXPECT_TRUE(oneUpOnShow());
+}
+
+// Somebody who waits for long presses on a grid.
+class LongPresses : public Bound<LongPresses, NSObject> {
+ public:
+  using Bound::Bound;
+  static Class classObject() {
+    static const Class made = ClassBuilder<LongPresses>("GridTestLongPresses")
+                                  .method<"pressed:", &LongPresses::pressed>()
+                                  .build();
+    return made;
+  }
+  int begun = 0;
+
+ private:
+  void pressed(UIGestureRecognizer recognizer) {
+    begun += recognizer.state() == UIGestureRecognizer::began ? 1 : 0;
+  }
+};
+
+TEST_F(GridTest, LeavesALongPressToWhoeverWaitsForOne) {
+  openAlbumOf(3);
+  const auto waiting = makeNew<NSObject>(LongPresses::classObject());
+  const auto recognizer = UILongPressGestureRecognizer::make(waiting.get(), selector<"pressed:">());
+  grid().collectionView().addGestureRecognizer(recognizer.get());
+  const CGPoint place = placeOf(1);
+  touches().down(place);
+  settle(0.6);
+  touches().up(place);
+  settle();
+  EXPECT_EQ(LongPresses::of(waiting.get()).begun, 1);
+  EXPECT_FALSE(oneUpOnShow());
+  tap(place);
+  EXPECT_TRUE(oneUpOnShow()) << "a short touch opens the photo as ever";
 }
 
 TEST_F(GridTest, AnswersTheAssetOfAPlace) {
@@ -448,8 +483,14 @@ TEST_F(GridTest, NamesSharedAlbumsInABannerOfTheirKeyPhotos) {
   open();
   ASSERT_FALSE(openAlbums());
   settle();
-  const auto shown = texts();
-  EXPECT_EQ(std::ranges::count(shown, "Shared"), 1);
+  const auto count = [] { return std::ranges::count(texts(), "Shared"); };
+  EXPECT_EQ(count(), 1);
+  std::remove((folder.path() + "/City/a.jpg").c_str());
+  deliver();
+  EXPECT_EQ(count(), 1) << "also where rows have changed places";
+  std::remove((folder.path() + "/Trip/.shared").c_str());
+  deliver();
+  EXPECT_EQ(count(), 0);
 }
 
 TEST_F(GridTest, NamesRawPhotosInABanner) {

@@ -46,7 +46,7 @@ TEST_F(OneUpTest, TellsWhyAFavouriteCannotBeKept) {
   EXPECT_THAT(texts(), Contains("Favorite Not Saved"));
 }
 
-TEST_F(OneUpTest, ShowsTheFilmOfALivePhotoByItself) {
+TEST_F(OneUpTest, ShowsTheFilmOfALivePhotoInItsPlace) {
   addPictures(1);
   const auto still = media::facts::sampleJpeg({.contentIdentifier = "ONE"});
   folder.write("Album/live.jpg", std::span(still));
@@ -60,11 +60,14 @@ TEST_F(OneUpTest, ShowsTheFilmOfALivePhotoByItself) {
   ASSERT_EQ(currentName(), "live.jpg");
   tap(middleTool);
   EXPECT_EQ(currentName(), "live.mov");
+  deliver();
+  EXPECT_EQ(currentName(), "live.mov") << "which is still there, though in no list";
   tap(middleTool);
-  EXPECT_EQ(currentName(), "live.mov") << "a film has no film";
-  ASSERT_FALSE(goBack());
-  settle();
   EXPECT_EQ(currentName(), "live.jpg");
+  EXPECT_TRUE(act(OneUpAction::previous));
+  settle();
+  tap(middleTool);
+  EXPECT_EQ(currentName(), "0.bmp") << "an ordinary photo has no other half";
 }
 
 TEST_F(OneUpTest, SharesThePathOfTheItem) {
