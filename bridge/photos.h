@@ -59,6 +59,7 @@ struct PUPhotoViewContentHelper : NSObject {
   static Class classObject() { return classNamed<"PUPhotoViewContentHelper">(); }
 
   UIView contentView() const { return send<UIView, "contentView">(*this); }
+  void layoutSubviewsOfContentView() const { send<void, "layoutSubviewsOfContentView">(*this); }
 };
 
 struct PUPhotoView : UIView {
@@ -93,6 +94,10 @@ struct PUSectionedGridLayout : UICollectionViewLayout {
   NSObject delegate() const { return send<NSObject, "delegate">(*this); }
   NSInteger columnsPerRow() const { return send<NSInteger, "columnsPerRow">(*this); }
   CGFloat interItemSpacing() const { return send<CGFloat, "interItemSpacing">(*this); }  // points
+  void setItemSize(CGSize size) const { send<void, "setItemSize:">(*this, size); }
+  CGSize itemSizeForColumn(NSInteger column) const {
+    return send<CGSize, "layoutItemSizeForColumn:">(*this, column);
+  }
 };
 
 struct PUPhotosGridViewController : UIViewController {
@@ -110,6 +115,8 @@ struct PUPhotosGridViewController : UIViewController {
   NSString localizedSelectionTitle() const {
     return send<NSString, "localizedSelectionTitle">(*this);
   }
+  // Of the thumbnails, after the columns or the width became others.
+  void updateLayoutMetrics() const { send<void, "updateLayoutMetrics">(*this); }
 };
 
 struct PUPhotosAlbumViewController : PUPhotosGridViewController {
@@ -119,7 +126,7 @@ struct PUPhotosAlbumViewController : PUPhotosGridViewController {
   PUSectionedGridLayout mainGridLayout() const {
     return send<PUSectionedGridLayout, "mainGridLayout">(*this);
   }
-  void updateLayoutMetrics() const { send<void, "updateLayoutMetrics">(*this); }
+  void updateGlobalFooter() const { send<void, "updateGlobalFooter">(*this); }
 };
 
 struct PUCloudSharedAlbumViewController : PUPhotosAlbumViewController {
@@ -167,6 +174,7 @@ struct PUOneUpViewController : UIViewController {
   PUAssetReference assetReferenceAt(NSIndexPath path, PUOneUpTilingLayout layout) const {
     return send<PUAssetReference, "_assetReferenceAtIndexPath:layout:">(*this, path, layout);
   }
+  void setTilingView(UIView view) const { send<void, "_setTilingView:">(*this, view); }
 };
 
 }  // namespace bridge

@@ -92,7 +92,7 @@ bool goBackOrLeaveFullScreen(QWindow& window) {
 bool copySelection() {
   const UIResponder responder = uikit::UIResponderState::firstResponder();
   if (!respondsTo<"copy:">(responder)) return false;
-  send<void, "copy:">(responder, Object());
+  responder.copy(Object());
   return true;
 }
 
@@ -100,7 +100,7 @@ bool isInfoButton(UIView view) {
   if (!isKindOf(view, uikit::UIButtonState::classObject())) return false;
   const auto type = uikit::UIButtonState::of(view).type();
   return type >= uikit::UIButtonState::detailDisclosure && type <= uikit::UIButtonState::infoDark &&
-         send<bool, "isEnabled">(view) && !uikit::UIViewState::of(view).isHidden();
+         UIButton(view.get()).isEnabled() && !uikit::UIViewState::of(view).isHidden();
 }
 
 bool pressInfoButtonOf(const uikit::UINavigationItemState::Items& items) {
@@ -109,8 +109,8 @@ bool pressInfoButtonOf(const uikit::UINavigationItemState::Items& items) {
     return state.isEnabled() && isInfoButton(state.customView());
   });
   if (found == items.end()) return false;
-  const auto button = uikit::UIBarButtonItemState::of(found->get()).customView();
-  send<void, "sendActionsForControlEvents:">(button, NSUInteger{touchUpInside});
+  const UIButton button(uikit::UIBarButtonItemState::of(found->get()).customView().get());
+  button.sendActions(touchUpInside);
   return true;
 }
 

@@ -33,8 +33,7 @@ void copyText(const std::string& text) {
 UIViewController topController() {
   if (application().windows.empty()) return {};
   auto top = bridge::UIWindow(application().windows.front()->get()).rootViewController();
-  while (const auto next = bridge::send<UIViewController, "presentedViewController">(top))
-    top = next;
+  while (const auto next = top.presentedViewController()) top = next;
   return top;
 }
 

@@ -34,6 +34,8 @@ struct NSArray : NSObject {
   NSArray sortedCaseInsensitively() const {
     return sortedUsing(selector<"localizedCaseInsensitiveCompare:">());
   }
+  // Whether an equal object is in it.
+  bool contains(Object object) const { return send<bool, "containsObject:">(*this, object); }
 };
 
 struct NSMutableArray : NSArray {
@@ -41,6 +43,8 @@ struct NSMutableArray : NSArray {
   static Class classObject() { return classNamed<"NSMutableArray">(); }
 
   void add(Object object) const { send<void, "addObject:">(*this, object); }
+  // REQUIRES: index < count().
+  void removeAt(NSUInteger index) const { send<void, "removeObjectAtIndex:">(*this, index); }
 };
 
 struct NSDictionary : NSObject {
@@ -76,6 +80,9 @@ inline Owned<NSMutableDictionary> mutableCopy(NSDictionary dictionary) {
 }
 
 // A copy that never changes; +1.
+inline Owned<NSArray> copy(NSArray array) {
+  return Owned<NSArray>::adopt(send<NSArray, "copy">(array));
+}
 inline Owned<NSDictionary> copy(NSDictionary dictionary) {
   return Owned<NSDictionary>::adopt(send<NSDictionary, "copy">(dictionary));
 }
@@ -84,7 +91,18 @@ struct NSSet : NSObject {
   using NSObject::NSObject;
   static Class classObject() { return classNamed<"NSSet">(); }
 
+  // Autoreleased, both.
+  static NSSet none() { return send<NSSet, "set">(classObject()); }
+  static NSSet of(Object object) { return send<NSSet, "setWithObject:">(classObject(), object); }
+
   Object anyObject() const { return send<Object, "anyObject">(*this); }
+};
+
+struct NSMutableSet : NSSet {
+  using NSSet::NSSet;
+  static Class classObject() { return classNamed<"NSMutableSet">(); }
+
+  void add(Object object) const { send<void, "addObject:">(*this, object); }
 };
 
 // Thread-safe; may drop entries under memory pressure at any time.

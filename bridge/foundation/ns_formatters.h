@@ -18,6 +18,8 @@ struct NSByteCountFormatter : NSObject {
     return send<NSString, "stringFromByteCount:countStyle:">(classObject(), byteCount,
                                                              NSInteger{style});
   }
+
+  NSInteger countStyle() const { return send<NSInteger, "countStyle">(*this); }
 };
 
 struct NSDateFormatter : NSObject {
@@ -35,6 +37,8 @@ struct NSDateFormatter : NSObject {
   void setDateStyle(Style style) const { send<void, "setDateStyle:">(*this, NSUInteger{style}); }
   void setTimeStyle(Style style) const { send<void, "setTimeStyle:">(*this, NSUInteger{style}); }
   NSString string(NSDate date) const { return send<NSString, "stringFromDate:">(*this, date); }
+  NSUInteger dateStyle() const { return send<NSUInteger, "dateStyle">(*this); }
+  NSUInteger timeStyle() const { return send<NSUInteger, "timeStyle">(*this); }
 };
 
 struct NSRegularExpression : NSObject {

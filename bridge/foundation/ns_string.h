@@ -40,10 +40,27 @@ struct NSString : NSObject {
   NSInteger localizedCaseInsensitiveCompare(NSString other) const {
     return send<NSInteger, "localizedCaseInsensitiveCompare:">(*this, other);
   }
+  NSString uppercased() const { return send<NSString, "uppercaseString">(*this); }
+  // REQUIRES: the range lies within it.
+  NSString substring(NSRange range) const {
+    return send<NSString, "substringWithRange:">(*this, range);
+  }
+  // The range, and what else belongs to its first and last characters as they are seen.
+  NSRange wholeCharacters(NSRange range) const {
+    return send<NSRange, "rangeOfComposedCharacterSequencesForRange:">(*this, range);
+  }
+  void getCharacters(char16_t* into, NSRange range) const {
+    send<void, "getCharacters:range:">(*this, reinterpret_cast<unsigned short*>(into), range);
+  }
 };
 
 inline NSString NSObject::description() const {
   return send<NSString, "description">(*this);
+}
+
+// A copy that never changes; +1.
+inline Owned<NSString> copy(NSString text) {
+  return Owned<NSString>::adopt(send<NSString, "copy">(text));
 }
 
 // What "%@" prints of an object, nil included.

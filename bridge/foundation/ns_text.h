@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "bridge/foundation/ns_string.h"
+#include "bridge/foundation/ns_collections.h"
 
 namespace bridge {
 
@@ -11,7 +11,21 @@ struct NSAttributedString : NSObject {
   static Class classObject() { return classNamed<"NSAttributedString">(); }
 
   NSUInteger length() const { return send<NSUInteger, "length">(*this); }
+  NSString string() const { return send<NSString, "string">(*this); }
+  // REQUIRES: index < length(). Nil where there is none; null for the range where it does not
+  // matter.
+  Object attribute(NSString name, NSUInteger index, NSRange* range) const {
+    return send<Object, "attribute:atIndex:effectiveRange:">(*this, name, index, range);
+  }
+  NSDictionary attributesAt(NSUInteger index, NSRange* range) const {
+    return send<NSDictionary, "attributesAtIndex:effectiveRange:">(*this, index, range);
+  }
 };
+
+// A copy that never changes; +1.
+inline Owned<NSAttributedString> copy(NSAttributedString text) {
+  return Owned<NSAttributedString>::adopt(send<NSAttributedString, "copy">(text));
+}
 
 struct NSMutableAttributedString : NSAttributedString {
   using NSAttributedString::NSAttributedString;

@@ -34,10 +34,15 @@ T as(Object object) {
   return isKindOf(object, T::classObject()) ? T(object.get()) : T();
 }
 
+// Whether the object answers a message; nil answers none.
+inline bool respondsTo(Object object, SEL selector) {
+  return send<bool, "respondsToSelector:">(object, selector);
+}
+
 // Whether the object answers a message of this name.
 template <FixedString Selector>
 bool respondsTo(Object object) {
-  return send<bool, "respondsToSelector:">(object, selector<Selector>());
+  return respondsTo(object, selector<Selector>());
 }
 
 }  // namespace bridge

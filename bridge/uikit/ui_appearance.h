@@ -19,6 +19,10 @@ struct UIFont : NSObject {
   static UIFont named(NSString name, CGFloat size) {
     return send<UIFont, "fontWithName:size:">(classObject(), name, size);
   }
+
+  NSString fontName() const { return send<NSString, "fontName">(*this); }
+  CGFloat pointSize() const { return send<CGFloat, "pointSize">(*this); }
+  CGFloat lineHeight() const { return send<CGFloat, "lineHeight">(*this); }
 };
 
 struct UIColor : NSObject {
@@ -56,11 +60,24 @@ struct UIBezierPath : NSObject {
 struct UIImage : NSObject {
   using NSObject::NSObject;
   static Class classObject() { return classNamed<"UIImage">(); }
+
+  // In points.
+  CGSize size() const { return send<CGSize, "size">(*this); }
 };
 
 // Spacings and indents are in points.
-struct NSMutableParagraphStyle : NSObject {
+struct NSParagraphStyle : NSObject {
   using NSObject::NSObject;
+  static Class classObject() { return classNamed<"NSParagraphStyle">(); }
+
+  CGFloat paragraphSpacing() const { return send<CGFloat, "paragraphSpacing">(*this); }
+  CGFloat paragraphSpacingBefore() const { return send<CGFloat, "paragraphSpacingBefore">(*this); }
+  CGFloat firstLineHeadIndent() const { return send<CGFloat, "firstLineHeadIndent">(*this); }
+  CGFloat headIndent() const { return send<CGFloat, "headIndent">(*this); }
+};
+
+struct NSMutableParagraphStyle : NSParagraphStyle {
+  using NSParagraphStyle::NSParagraphStyle;
   static Class classObject() { return classNamed<"NSMutableParagraphStyle">(); }
 
   void setParagraphSpacing(CGFloat spacing) const {
@@ -87,10 +104,5 @@ inline NSString paragraphStyleAttributeName() {
 inline CGSize sizeWithAttributes(NSString text, NSDictionary attributes) {
   return send<CGSize, "sizeWithAttributes:">(text, attributes);
 }
-
-struct NSParagraphStyle : NSObject {
-  using NSObject::NSObject;
-  static Class classObject() { return classNamed<"NSParagraphStyle">(); }
-};
 
 }  // namespace bridge

@@ -7,8 +7,19 @@
 
 namespace bridge {
 
-struct UIBarButtonItem : NSObject {
+// What buttons on bars and tabs have in common.
+struct UIBarItem : NSObject {
   using NSObject::NSObject;
+  static Class classObject() { return classNamed<"UIBarItem">(); }
+
+  NSString title() const { return send<NSString, "title">(*this); }
+  void setTitle(NSString title) const { send<void, "setTitle:">(*this, title); }
+  NSInteger tag() const { return send<NSInteger, "tag">(*this); }
+  void setTag(NSInteger tag) const { send<void, "setTag:">(*this, tag); }
+};
+
+struct UIBarButtonItem : UIBarItem {
+  using UIBarItem::UIBarItem;
   static Class classObject() { return classNamed<"UIBarButtonItem">(); }
 
   enum Style : NSInteger { plain = 0, done = 2 };
@@ -27,9 +38,10 @@ struct UIBarButtonItem : NSObject {
     return makeWith<UIBarButtonItem, "initWithCustomView:">(classObject(), view);
   }
 
-  void setTitle(NSString title) const { send<void, "setTitle:">(*this, title); }
   void setWidth(CGFloat width) const { send<void, "setWidth:">(*this, width); }
-  void setTag(NSInteger tag) const { send<void, "setTag:">(*this, tag); }
+  CGFloat width() const { return send<CGFloat, "width">(*this); }
+  // Nil where it is a plain one.
+  UIView customView() const { return send<UIView, "customView">(*this); }
 };
 
 // The first of the right items is the right-most.
@@ -37,6 +49,7 @@ struct UINavigationItem : NSObject {
   using NSObject::NSObject;
   static Class classObject() { return classNamed<"UINavigationItem">(); }
 
+  NSString title() const { return send<NSString, "title">(*this); }
   void setTitle(NSString title) const { send<void, "setTitle:">(*this, title); }
   // Nil where there are none.
   NSArray rightBarButtonItems() const { return send<NSArray, "rightBarButtonItems">(*this); }
@@ -45,6 +58,10 @@ struct UINavigationItem : NSObject {
   }
   void setLeftBarButtonItems(NSArray items) const {
     send<void, "setLeftBarButtonItems:">(*this, items);
+  }
+  NSArray leftBarButtonItems() const { return send<NSArray, "leftBarButtonItems">(*this); }
+  void setLargeTitleDisplayMode(NSInteger mode) const {
+    send<void, "setLargeTitleDisplayMode:">(*this, mode);
   }
 };
 
@@ -55,6 +72,16 @@ struct UINavigationBar : UIView {
   NSInteger barStyle() const { return send<NSInteger, "barStyle">(*this); }
   void setBarStyle(NSInteger style) const { send<void, "setBarStyle:">(*this, style); }
   void setTintColor(UIColor color) const { send<void, "setTintColor:">(*this, color); }
+  void setPrefersLargeTitles(bool prefers) const {
+    send<void, "setPrefersLargeTitles:">(*this, prefers);
+  }
+};
+
+// A view of a navigation bar that shows the title, small or large, of whatever class.
+struct NavigationTitleView : UIView {
+  using UIView::UIView;
+
+  void setTitle(NSString title) const { send<void, "setTitle:">(*this, title); }
 };
 
 struct UIToolbar : UIView {

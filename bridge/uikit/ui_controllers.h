@@ -32,6 +32,56 @@ struct UIViewController : UIResponder {
   void dismiss(Animated how, const Block<void()>& completion) const {
     send<void, "dismissViewControllerAnimated:completion:">(*this, bool{how}, completion);
   }
+
+  NSString title() const { return send<NSString, "title">(*this); }
+  void setTitle(NSString title) const { send<void, "setTitle:">(*this, title); }
+  void setView(UIView view) const { send<void, "setView:">(*this, view); }
+  void loadView() const { send<void, "loadView">(*this); }
+  void viewDidLoad() const { send<void, "viewDidLoad">(*this); }
+  void viewWillAppear(bool isAnimated) const { send<void, "viewWillAppear:">(*this, isAnimated); }
+  void viewDidAppear(bool isAnimated) const { send<void, "viewDidAppear:">(*this, isAnimated); }
+  void viewWillDisappear(bool isAnimated) const {
+    send<void, "viewWillDisappear:">(*this, isAnimated);
+  }
+  void viewDidDisappear(bool isAnimated) const {
+    send<void, "viewDidDisappear:">(*this, isAnimated);
+  }
+  void viewWillLayoutSubviews() const { send<void, "viewWillLayoutSubviews">(*this); }
+  void viewDidLayoutSubviews() const { send<void, "viewDidLayoutSubviews">(*this); }
+  void viewWillTransition(CGSize size, Object coordinator) const {
+    send<void, "viewWillTransitionToSize:withTransitionCoordinator:">(*this, size, coordinator);
+  }
+  void willMoveToParent(UIViewController parent) const {
+    send<void, "willMoveToParentViewController:">(*this, parent);
+  }
+  void didMoveToParent(UIViewController parent) const {
+    send<void, "didMoveToParentViewController:">(*this, parent);
+  }
+  // Nil where there is none.
+  UIViewController presentedViewController() const {
+    return send<UIViewController, "presentedViewController">(*this);
+  }
+  bool isBeingPresented() const { return send<bool, "isBeingPresented">(*this); }
+  UIViewController tabBarController() const {
+    return send<UIViewController, "tabBarController">(*this);
+  }
+  NSInteger modalPresentationStyle() const {
+    return send<NSInteger, "modalPresentationStyle">(*this);
+  }
+  void setModalPresentationStyle(NSInteger style) const {
+    send<void, "setModalPresentationStyle:">(*this, style);
+  }
+  bool isEditing() const { return send<bool, "isEditing">(*this); }
+  void setEditing(bool editing, bool isAnimated) const {
+    send<void, "setEditing:animated:">(*this, editing, isAnimated);
+  }
+  NSObject tabBarItem() const { return send<NSObject, "tabBarItem">(*this); }
+  void setTabBarItem(NSObject item) const { send<void, "setTabBarItem:">(*this, item); }
+  void setToolbarItems(NSArray items) const { send<void, "setToolbarItems:">(*this, items); }
+  bool hidesBottomBarWhenPushed() const { return send<bool, "hidesBottomBarWhenPushed">(*this); }
+  void setHidesBottomBarWhenPushed(bool hides) const {
+    send<void, "setHidesBottomBarWhenPushed:">(*this, hides);
+  }
 };
 
 struct UINavigationController : UIViewController {
@@ -42,9 +92,32 @@ struct UINavigationController : UIViewController {
     return makeWith<UINavigationController, "initWithRootViewController:">(classObject(), root);
   }
 
+  void setControllers(NSArray controllers) const {
+    send<void, "setViewControllers:">(*this, controllers);
+  }
   UINavigationBar navigationBar() const { return send<UINavigationBar, "navigationBar">(*this); }
   void push(UIViewController controller, Animated how) const {
     send<void, "pushViewController:animated:">(*this, controller, bool{how});
+  }
+  // The controllers that go, from the bottom.
+  NSArray popTo(UIViewController controller, bool isAnimated) const {
+    return send<NSArray, "popToViewController:animated:">(*this, controller, isAnimated);
+  }
+  NSArray popToRoot(bool isAnimated) const {
+    return send<NSArray, "popToRootViewControllerAnimated:">(*this, isAnimated);
+  }
+  // The one that goes; nil where only the root is left.
+  UIViewController pop(bool isAnimated) const {
+    return send<UIViewController, "popViewControllerAnimated:">(*this, isAnimated);
+  }
+  UIViewController topViewController() const {
+    return send<UIViewController, "topViewController">(*this);
+  }
+  void setToolbarHidden(bool hidden, bool isAnimated) const {
+    send<void, "setToolbarHidden:animated:">(*this, hidden, isAnimated);
+  }
+  void setNavigationBarHidden(bool hidden, bool isAnimated) const {
+    send<void, "setNavigationBarHidden:animated:">(*this, hidden, isAnimated);
   }
 };
 
@@ -79,6 +152,9 @@ struct UIAlertAction : NSObject {
     return send<UIAlertAction, "actionWithTitle:style:handler:">(classObject(), title,
                                                                  NSInteger{style}, handler);
   }
+
+  NSString title() const { return send<NSString, "title">(*this); }
+  NSInteger style() const { return send<NSInteger, "style">(*this); }
 };
 
 struct UIAlertController : UIViewController {
@@ -93,6 +169,8 @@ struct UIAlertController : UIViewController {
   }
 
   void addAction(UIAlertAction action) const { send<void, "addAction:">(*this, action); }
+  NSString message() const { return send<NSString, "message">(*this); }
+  NSArray actions() const { return send<NSArray, "actions">(*this); }
 };
 
 // The share sheet.
@@ -116,6 +194,15 @@ struct UIMenuController : NSObject {
 
   // In the coordinates of the screen.
   CGRect menuFrame() const { return send<CGRect, "menuFrame">(*this); }
+  static UIMenuController shared() {
+    return send<UIMenuController, "sharedMenuController">(classObject());
+  }
+  void setTargetRect(CGRect rect, UIView view) const {
+    send<void, "setTargetRect:inView:">(*this, rect, view);
+  }
+  void setMenuVisible(bool visible, bool isAnimated) const {
+    send<void, "setMenuVisible:animated:">(*this, visible, isAnimated);
+  }
 };
 
 struct UIApplication : UIResponder {
@@ -156,6 +243,9 @@ struct UITabBarController : UIViewController {
     return send<UIViewController, "selectedViewController">(*this);
   }
   void setSelectedIndex(NSUInteger index) const { send<void, "setSelectedIndex:">(*this, index); }
+  void setSelectedViewController(UIViewController controller) const {
+    send<void, "setSelectedViewController:">(*this, controller);
+  }
 };
 
 }  // namespace bridge

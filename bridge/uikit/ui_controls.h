@@ -16,10 +16,35 @@ struct UIScrollView : UIView {
   using UIView::UIView;
   static Class classObject() { return classNamed<"UIScrollView">(); }
 
+  enum InsetAdjustment : NSInteger { adjustsAlong = 0, adjustsNever = 2 };
+
   CGPoint contentOffset() const { return send<CGPoint, "contentOffset">(*this); }
   void setContentOffset(CGPoint offset) const { send<void, "setContentOffset:">(*this, offset); }
   CGSize contentSize() const { return send<CGSize, "contentSize">(*this); }
   void setContentSize(CGSize size) const { send<void, "setContentSize:">(*this, size); }
+  void setContentOffset(CGPoint offset, bool animated) const {
+    send<void, "setContentOffset:animated:">(*this, offset, animated);
+  }
+  void scrollRectToVisible(CGRect rect, bool animated) const {
+    send<void, "scrollRectToVisible:animated:">(*this, rect, animated);
+  }
+  void setPagingEnabled(bool enabled) const { send<void, "setPagingEnabled:">(*this, enabled); }
+  void setScrollEnabled(bool enabled) const { send<void, "setScrollEnabled:">(*this, enabled); }
+  void setAlwaysBounceVertical(bool bounces) const {
+    send<void, "setAlwaysBounceVertical:">(*this, bounces);
+  }
+  void setShowsHorizontalScrollIndicator(bool shows) const {
+    send<void, "setShowsHorizontalScrollIndicator:">(*this, shows);
+  }
+  void setShowsVerticalScrollIndicator(bool shows) const {
+    send<void, "setShowsVerticalScrollIndicator:">(*this, shows);
+  }
+  void setContentInsetAdjustmentBehavior(InsetAdjustment behavior) const {
+    send<void, "setContentInsetAdjustmentBehavior:">(*this, NSInteger{behavior});
+  }
+  UIPanGestureRecognizer panGestureRecognizer() const {
+    return send<UIPanGestureRecognizer, "panGestureRecognizer">(*this);
+  }
 };
 
 struct UIImageView : UIView {
@@ -51,6 +76,11 @@ struct UILabel : UIView {
   void setMinimumFontSize(CGFloat points) const {
     send<void, "setMinimumFontSize:">(*this, points);
   }
+  UIFont font() const { return send<UIFont, "font">(*this); }
+  UIColor textColor() const { return send<UIColor, "textColor">(*this); }
+  NSInteger textAlignment() const { return send<NSInteger, "textAlignment">(*this); }
+  bool adjustsFontSizeToFitWidth() const { return send<bool, "adjustsFontSizeToFitWidth">(*this); }
+  CGFloat minimumFontSize() const { return send<CGFloat, "minimumFontSize">(*this); }
 };
 
 struct UIControl : UIView {
@@ -61,6 +91,28 @@ struct UIControl : UIView {
   void addTarget(NSObject target, SEL action, ControlEvents events) const {
     send<void, "addTarget:action:forControlEvents:">(*this, target, action, NSUInteger{events});
   }
+  // To all targets for the events; to one, or with nil to the first that answers in the chain.
+  void sendActions(ControlEvents events) const {
+    send<void, "sendActionsForControlEvents:">(*this, NSUInteger{events});
+  }
+  void sendAction(SEL action, Object target, UIEvent event) const {
+    send<void, "sendAction:to:forEvent:">(*this, action, target, event);
+  }
+  bool isEnabled() const { return send<bool, "isEnabled">(*this); }
+  void setEnabled(bool enabled) const { send<void, "setEnabled:">(*this, enabled); }
+  void setHighlighted(bool highlighted) const { send<void, "setHighlighted:">(*this, highlighted); }
+
+  // Of the touch on it; whether it goes on.
+  bool beginTracking(UITouch touch, UIEvent event) const {
+    return send<bool, "beginTrackingWithTouch:withEvent:">(*this, touch, event);
+  }
+  bool continueTracking(UITouch touch, UIEvent event) const {
+    return send<bool, "continueTrackingWithTouch:withEvent:">(*this, touch, event);
+  }
+  void endTracking(UITouch touch, UIEvent event) const {
+    send<void, "endTrackingWithTouch:withEvent:">(*this, touch, event);
+  }
+  void cancelTracking(UIEvent event) const { send<void, "cancelTrackingWithEvent:">(*this, event); }
 };
 
 struct UIButton : UIControl {
@@ -80,6 +132,7 @@ struct UIButton : UIControl {
   void setTitleColor(UIColor color, ControlState state) const {
     send<void, "setTitleColor:forState:">(*this, color, NSUInteger{state});
   }
+  NSString currentTitle() const { return send<NSString, "currentTitle">(*this); }
 };
 
 // A stretch of a text view's text, and a place in it; made by the text view alone.
@@ -125,6 +178,14 @@ struct UITextView : UIScrollView {
   NSInteger offset(UITextPosition from, UITextPosition to) const {
     return send<NSInteger, "offsetFromPosition:toPosition:">(*this, from, to);
   }
+  UIFont font() const { return send<UIFont, "font">(*this); }
+  UIColor textColor() const { return send<UIColor, "textColor">(*this); }
+  NSInteger textAlignment() const { return send<NSInteger, "textAlignment">(*this); }
+  bool isEditable() const { return send<bool, "isEditable">(*this); }
+  NSAttributedString attributedText() const {
+    return send<NSAttributedString, "attributedText">(*this);
+  }
+  NSRange selectedRange() const { return send<NSRange, "selectedRange">(*this); }
 };
 
 }  // namespace bridge

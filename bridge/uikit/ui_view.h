@@ -9,7 +9,9 @@
 
 namespace bridge {
 
+struct UIEvent;
 struct UIGestureRecognizer;
+struct UITouch;
 struct UIView;
 
 enum ViewAutoresizing : NSUInteger { flexibleWidth = 2, flexibleHeight = 16 };
@@ -18,6 +20,21 @@ enum ViewAutoresizing : NSUInteger { flexibleWidth = 2, flexibleHeight = 16 };
 struct UIResponder : NSObject {
   using NSObject::NSObject;
   static Class classObject() { return classNamed<"UIResponder">(); }
+
+  // Who is asked what this one does not answer; nil at the end.
+  UIResponder nextResponder() const { return send<UIResponder, "nextResponder">(*this); }
+  bool canBecomeFirstResponder() const { return send<bool, "canBecomeFirstResponder">(*this); }
+  // Whether it did.
+  bool becomeFirstResponder() const { return send<bool, "becomeFirstResponder">(*this); }
+  bool resignFirstResponder() const { return send<bool, "resignFirstResponder">(*this); }
+  bool canPerform(SEL action, Object sender) const {
+    return send<bool, "canPerformAction:withSender:">(*this, action, sender);
+  }
+  void copy(Object sender) const { send<void, "copy:">(*this, sender); }
+  inline void touchesBegan(NSSet touches, UIEvent event) const;
+  inline void touchesMoved(NSSet touches, UIEvent event) const;
+  inline void touchesEnded(NSSet touches, UIEvent event) const;
+  inline void touchesCancelled(NSSet touches, UIEvent event) const;
 };
 
 struct UIView : UIResponder {
@@ -63,6 +80,34 @@ struct UIView : UIResponder {
     send<void, "animateWithDuration:animations:completion:">(classObject(), duration, animations,
                                                              completion);
   }
+
+  void setBounds(CGRect bounds) const { send<void, "setBounds:">(*this, bounds); }
+  void setCenter(CGPoint center) const { send<void, "setCenter:">(*this, center); }
+  void setHidden(bool hidden) const { send<void, "setHidden:">(*this, hidden); }
+  void setUserInteractionEnabled(bool enabled) const {
+    send<void, "setUserInteractionEnabled:">(*this, enabled);
+  }
+  NSInteger contentMode() const { return send<NSInteger, "contentMode">(*this); }
+  CGSize sizeThatFits(CGSize size) const { return send<CGSize, "sizeThatFits:">(*this, size); }
+  void setNeedsDisplay() const { send<void, "setNeedsDisplay">(*this); }
+  void layoutIfNeeded() const { send<void, "layoutIfNeeded">(*this); }
+  void layoutSubviews() const { send<void, "layoutSubviews">(*this); }
+  // Between the view's coordinates and another's; nil is the window.
+  CGRect convertTo(CGRect rect, UIView view) const {
+    return send<CGRect, "convertRect:toView:">(*this, rect, view);
+  }
+  CGRect convertFrom(CGRect rect, UIView view) const {
+    return send<CGRect, "convertRect:fromView:">(*this, rect, view);
+  }
+  // The deepest view below it that the point is in, or itself; nil where it is outside.
+  inline UIView hitTest(CGPoint point, UIEvent event) const;
+  inline bool pointInside(CGPoint point, UIEvent event) const;
+  // Nil is none.
+  void willMoveToSuperview(UIView superview) const {
+    send<void, "willMoveToSuperview:">(*this, superview);
+  }
+  void didMoveToSuperview() const { send<void, "didMoveToSuperview">(*this); }
+  void didMoveToWindow() const { send<void, "didMoveToWindow">(*this); }
 };
 
 // A new view of a handle's class, or of one below it, with the frame.
@@ -83,6 +128,19 @@ struct UIGestureRecognizer : NSObject {
   void setDelaysTouchesBegan(bool delays) const {
     send<void, "setDelaysTouchesBegan:">(*this, delays);
   }
+  // Nil where it is on none.
+  UIView view() const { return send<UIView, "view">(*this); }
+  void requireToFail(UIGestureRecognizer other) const {
+    send<void, "requireGestureRecognizerToFail:">(*this, other);
+  }
+
+  // What the classes below it see of the touches.
+  inline void touchesBegan(NSSet touches, UIEvent event) const;
+  inline void touchesMoved(NSSet touches, UIEvent event) const;
+  inline void touchesEnded(NSSet touches, UIEvent event) const;
+  inline void touchesCancelled(NSSet touches, UIEvent event) const;
+  // Back to possible, once a gesture is over.
+  void reset() const { send<void, "reset">(*this); }
 };
 
 struct UILongPressGestureRecognizer : UIGestureRecognizer {
@@ -92,6 +150,10 @@ struct UILongPressGestureRecognizer : UIGestureRecognizer {
   static Owned<UILongPressGestureRecognizer> make(NSObject target, SEL action) {
     return makeWith<UILongPressGestureRecognizer, "initWithTarget:action:">(classObject(), target,
                                                                             action);
+  }
+  // In seconds.
+  void setMinimumPressDuration(double duration) const {
+    send<void, "setMinimumPressDuration:">(*this, duration);
   }
 };
 
@@ -113,6 +175,37 @@ struct UIEvent : NSObject {
   using NSObject::NSObject;
   static Class classObject() { return classNamed<"UIEvent">(); }
 };
+
+inline void UIResponder::touchesBegan(NSSet touches, UIEvent event) const {
+  send<void, "touchesBegan:withEvent:">(*this, touches, event);
+}
+inline void UIResponder::touchesMoved(NSSet touches, UIEvent event) const {
+  send<void, "touchesMoved:withEvent:">(*this, touches, event);
+}
+inline void UIResponder::touchesEnded(NSSet touches, UIEvent event) const {
+  send<void, "touchesEnded:withEvent:">(*this, touches, event);
+}
+inline void UIResponder::touchesCancelled(NSSet touches, UIEvent event) const {
+  send<void, "touchesCancelled:withEvent:">(*this, touches, event);
+}
+inline void UIGestureRecognizer::touchesBegan(NSSet touches, UIEvent event) const {
+  send<void, "touchesBegan:withEvent:">(*this, touches, event);
+}
+inline void UIGestureRecognizer::touchesMoved(NSSet touches, UIEvent event) const {
+  send<void, "touchesMoved:withEvent:">(*this, touches, event);
+}
+inline void UIGestureRecognizer::touchesEnded(NSSet touches, UIEvent event) const {
+  send<void, "touchesEnded:withEvent:">(*this, touches, event);
+}
+inline void UIGestureRecognizer::touchesCancelled(NSSet touches, UIEvent event) const {
+  send<void, "touchesCancelled:withEvent:">(*this, touches, event);
+}
+inline UIView UIView::hitTest(CGPoint point, UIEvent event) const {
+  return send<UIView, "hitTest:withEvent:">(*this, point, event);
+}
+inline bool UIView::pointInside(CGPoint point, UIEvent event) const {
+  return send<bool, "pointInside:withEvent:">(*this, point, event);
+}
 
 struct UIScreen : NSObject {
   using NSObject::NSObject;

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "bridge/runtime/send.h"
+#include "bridge/foundation/ns_object.h"
 #include "desktop/platform.h"
 
 namespace desktop::runtime {
@@ -27,12 +27,12 @@ struct Association {
 using Associations = std::unordered_map<const void*, Association>;
 
 void releaseValue(const Association& association) {
-  if (association.policy & retained) send<void, "release">(association.value);
+  if (association.policy & retained) Owned<Object>::adopt(Object(association.value)).reset();
 }
 
 id acquireValue(id value, std::uintptr_t policy) {
-  if ((policy & copied) == copied) return send<id, "copy">(value);
-  if (policy & retained) return send<id, "retain">(value);
+  if ((policy & copied) == copied) return bridge::copy(bridge::NSObject(value)).detach().get();
+  if (policy & retained) return Owned<Object>::retain(Object(value)).detach().get();
   return value;
 }
 
@@ -58,7 +58,7 @@ class AssociationTable {
     const auto found = ofOwner->second.find(key);
     if (found == ofOwner->second.end()) return nullptr;
     const auto [value, policy] = found->second;
-    if (policy & atomicGetter) send<id, "autorelease">(send<id, "retain">(value));
+    if (policy & atomicGetter) Owned<Object>::retain(Object(value)).autorelease();
     return value;
   }
 

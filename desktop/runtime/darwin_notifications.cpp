@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "bridge/runtime.h"
+#include "bridge/foundation/ns_string.h"
 #include "desktop/platform.h"
 #include "foundation/notification_core.h"
 
@@ -26,12 +26,11 @@ CFNotificationCenterRef centreReference() {
 }
 
 Object makeString(const std::string& text) {
-  return send<Object, "stringWithUTF8String:">(classNamed<"NSString">(), text.c_str());
+  return NSString::make(text.c_str());
 }
 
 std::string textOf(CFStringRef string) {
-  const char* text = send<const char*, "UTF8String">(fromCFString(string));
-  return text ? text : "";
+  return NSString(fromCFString(string).get()).utf8();
 }
 
 void call(const DarwinObserver& observer) {

@@ -13,55 +13,53 @@ void addText(const char* key, NSString text, Json& node) {
 
 void addFont(UIFont font, Json& node) {
   if (!font) return;
-  node["font"] = {{"name", send<NSString, "fontName">(font).utf8()},
-                  {"size", send<CGFloat, "pointSize">(font)}};
+  node["font"] = {{"name", font.fontName().utf8()}, {"size", font.pointSize()}};
 }
 
 void addTextStyle(UIView view, Json& node) {
-  addFont(send<UIFont, "font">(view), node);
-  if (const auto color = send<UIColor, "textColor">(view))
+  addFont(UILabel(view.get()).font(), node);
+  if (const auto color = UILabel(view.get()).textColor())
     node["textColor"] = jsonOf(uikit::UIColorState::valueOf(color));
-  node["alignment"] = send<NSInteger, "textAlignment">(view);
+  node["alignment"] = UILabel(view.get()).textAlignment();
 }
 
 void addLabel(UIView view, Json& node) {
-  addText("text", send<NSString, "text">(view), node);
+  addText("text", UILabel(view.get()).text(), node);
   addTextStyle(view, node);
-  node["adjustsFontSizeToFitWidth"] = send<bool, "adjustsFontSizeToFitWidth">(view);
-  if (const CGFloat least = send<CGFloat, "minimumFontSize">(view); least != 0)
+  node["adjustsFontSizeToFitWidth"] = UILabel(view.get()).adjustsFontSizeToFitWidth();
+  if (const CGFloat least = UILabel(view.get()).minimumFontSize(); least != 0)
     node["minimumFontSize"] = least;
 }
 
 void addParagraph(NSAttributedString text, Json& node) {
   if (text.length() == 0) return;
-  const auto style = send<NSMutableParagraphStyle, "attribute:atIndex:effectiveRange:">(
-      text, paragraphStyleAttributeName(), NSUInteger{0}, static_cast<NSRange*>(nullptr));
+  const NSParagraphStyle style(text.attribute(paragraphStyleAttributeName(), 0, nullptr).get());
   if (!style) return;
-  node["paragraph"] = {{"spacing", send<CGFloat, "paragraphSpacing">(style)},
-                       {"spacingBefore", send<CGFloat, "paragraphSpacingBefore">(style)},
-                       {"firstLineHeadIndent", send<CGFloat, "firstLineHeadIndent">(style)},
-                       {"headIndent", send<CGFloat, "headIndent">(style)}};
+  node["paragraph"] = {{"spacing", style.paragraphSpacing()},
+                       {"spacingBefore", style.paragraphSpacingBefore()},
+                       {"firstLineHeadIndent", style.firstLineHeadIndent()},
+                       {"headIndent", style.headIndent()}};
 }
 
 void addTextView(UIView view, Json& node) {
-  addText("text", send<NSString, "text">(view), node);
+  addText("text", UILabel(view.get()).text(), node);
   addTextStyle(view, node);
-  node["editable"] = send<bool, "isEditable">(view);
-  addParagraph(send<NSAttributedString, "attributedText">(view), node);
-  const NSRange selected = send<NSRange, "selectedRange">(view);
-  if (send<UITextRange, "selectedTextRange">(view))
+  node["editable"] = UITextView(view.get()).isEditable();
+  addParagraph(UITextView(view.get()).attributedText(), node);
+  const NSRange selected = UITextView(view.get()).selectedRange();
+  if (UITextView(view.get()).selectedTextRange())
     node["selectedRange"] = {selected.location, selected.length};
 }
 
 void addButton(UIView view, Json& node) {
-  addText("text", send<NSString, "currentTitle">(view), node);
+  addText("text", UIButton(view.get()).currentTitle(), node);
 }
 
 void addCell(UIView view, Json& node) {
   addText("text", uikit::UITableViewCellState::of(view.get()).text(), node);
   addText("detail", uikit::UITableViewCellState::of(view.get()).detailText(), node);
-  node["accessory"] = send<NSInteger, "accessoryType">(view);
-  node["selectionStyle"] = send<NSInteger, "selectionStyle">(view);
+  node["accessory"] = UITableViewCell(view.get()).accessoryType();
+  node["selectionStyle"] = UITableViewCell(view.get()).selectionStyle();
 }
 
 struct Row {

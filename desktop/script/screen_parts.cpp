@@ -20,11 +20,10 @@ Json textOrNull(NSString text) {
 std::vector<UIViewController> presentationChain() {
   std::vector<UIViewController> chain;
   if (uikit::application().windows.empty()) return chain;
-  auto controller =
-      send<UIViewController, "rootViewController">(uikit::application().windows.front().get());
+  auto controller = UIWindow(uikit::application().windows.front()->get()).rootViewController();
   while (controller) {
     chain.push_back(controller);
-    controller = send<UIViewController, "presentedViewController">(controller);
+    controller = controller.presentedViewController();
   }
   return chain;
 }
@@ -32,9 +31,9 @@ std::vector<UIViewController> presentationChain() {
 // What a container shows: the tab that is chosen, the top of a stack; nil for any other controller.
 UIViewController shownIn(UIViewController controller) {
   if (isA(controller, "UITabBarController"))
-    return send<UIViewController, "selectedViewController">(controller);
+    return UITabBarController(controller.get()).selectedViewController();
   if (isA(controller, "UINavigationController"))
-    return send<UIViewController, "topViewController">(controller);
+    return UINavigationController(controller.get()).topViewController();
   return {};
 }
 
@@ -47,12 +46,12 @@ UINavigationController navigationIn(UIViewController controller) {
 
 Json barItem(Object item) {
   Json json = {{"class", classNameOf(item)},
-               {"title", textOrNull(send<NSString, "title">(item))},
-               {"width", send<CGFloat, "width">(item)},
-               {"tag", send<NSInteger, "tag">(item)}};
+               {"title", textOrNull(UIBarButtonItem(item.get()).title())},
+               {"width", UIBarButtonItem(item.get()).width()},
+               {"tag", UIBarButtonItem(item.get()).tag()}};
   const auto system = uikit::UIBarButtonItemState::of(item).systemItem();
   json["systemItem"] = system ? Json(*system) : Json();
-  if (const auto view = send<UIView, "customView">(item)) json["view"] = dumpView(view);
+  if (const auto view = UIBarButtonItem(item.get()).customView()) json["view"] = dumpView(view);
   return json;
 }
 
@@ -64,11 +63,11 @@ Json barItems(NSArray items) {
 }
 
 Json navigation(UINavigationController controller) {
-  const auto top = send<UIViewController, "topViewController">(controller);
+  const auto top = controller.topViewController();
   const UINavigationItem item = top.navigationItem();
   const UINavigationBar bar = controller.navigationBar();
-  return {{"title", textOrNull(send<NSString, "title">(item))},
-          {"left", barItems(send<NSArray, "leftBarButtonItems">(item))},
+  return {{"title", textOrNull(item.title())},
+          {"left", barItems(item.leftBarButtonItems())},
           {"right", barItems(item.rightBarButtonItems())},
           {"barStyle", bar.barStyle()},
           {"tintColor", jsonOf(uikit::UIColorState::valueOf(bar.tintColor()))}};
@@ -76,12 +75,12 @@ Json navigation(UINavigationController controller) {
 
 Json alert(UIViewController controller) {
   Json actions = Json::array();
-  const auto all = send<NSArray, "actions">(controller);
+  const auto all = UIAlertController(controller.get()).actions();
   for (NSUInteger index = 0; index < all.count(); ++index)
-    actions.push_back({{"title", textOrNull(send<NSString, "title">(all.at(index)))},
-                       {"style", send<NSInteger, "style">(all.at(index))}});
-  return {{"title", textOrNull(send<NSString, "title">(controller))},
-          {"message", textOrNull(send<NSString, "message">(controller))},
+    actions.push_back({{"title", textOrNull(UIAlertAction(all.at(index).get()).title())},
+                       {"style", UIAlertAction(all.at(index).get()).style()}});
+  return {{"title", textOrNull(controller.title())},
+          {"message", textOrNull(UIAlertController(controller.get()).message())},
           {"actions", actions}};
 }
 

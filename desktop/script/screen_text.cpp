@@ -31,7 +31,7 @@ class Collector {
  private:
   // A picture has the name by which those know it who do not see it.
   static NSString textOf(UIView view) {
-    if (respondsTo<"text">(view)) return send<NSString, "text">(view);
+    if (respondsTo<"text">(view)) return UILabel(view.get()).text();
     if (respondsTo<"accessibilityLabel">(view)) return send<NSString, "accessibilityLabel">(view);
     return {};
   }

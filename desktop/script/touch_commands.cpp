@@ -82,7 +82,7 @@ Outcome menu(Arguments words) {
 
 Outcome type(Arguments words) {
   if (words.size() != 1 || words[0].text != "copy") return model::Error{"only copy can be typed"};
-  send<void, "copy:">(uikit::UIResponderState::firstResponder(), Object());
+  uikit::UIResponderState::firstResponder().copy(Object());
   return std::nullopt;
 }
 

@@ -27,7 +27,7 @@ id NSByteCountFormatter_stringWithStyle(id self, SEL command, long long byteCoun
 // The other properties of a formatter are taken to be the defaults.
 Stock<id(id, SEL, long long)> stockString;
 id NSByteCountFormatter_string(id self, SEL command, long long byteCount) {
-  if (send<NSInteger, "countStyle">(self) != NSByteCountFormatter::fileStyle)
+  if (NSByteCountFormatter(self).countStyle() != NSByteCountFormatter::fileStyle)
     return stockString(self, command, byteCount);
   return fileStyleText(byteCount);
 }

@@ -41,8 +41,9 @@ id NSDateFormatter_localizedString(id self, SEL command, id date, NSUInteger dat
 Stock<id(id, SEL, id)> stockStringFromDate;
 id NSDateFormatter_stringFromDate(id self, SEL command, id date) {
   if (!date) return nullptr;
-  const auto dateStyle = send<NSUInteger, "dateStyle">(self);
-  if (!isWordedHere(dateStyle, send<NSUInteger, "timeStyle">(self)))
+  const NSDateFormatter formatter(self);
+  const auto dateStyle = formatter.dateStyle();
+  if (!isWordedHere(dateStyle, formatter.timeStyle()))
     return stockStringFromDate(self, command, date);
   return worded(date, dateStyle);
 }

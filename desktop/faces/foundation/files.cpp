@@ -73,11 +73,13 @@ Owned<Object> collectionIn(id path, model::Kind kind) {
 
 id initialised(id self, id withObject, bool isDictionary) {
   if (!withObject) {
-    send<void, "release">(self);
+    Owned<Object>::adopt(Object(self)).reset();
     return nullptr;
   }
-  return isDictionary ? send<id, "initWithDictionary:">(self, withObject)
-                      : send<id, "initWithArray:">(self, withObject);
+  const Object object(self);
+  return (isDictionary ? initWith<"initWithDictionary:">(object, withObject)
+                       : initWith<"initWithArray:">(object, withObject))
+      .get();
 }
 
 id NSDictionary_initWithContentsOfFile(id self, SEL, id path) {

@@ -62,8 +62,7 @@ Class OpaqueLink::classObject() {
 NSURL OpaqueLink::make(std::string_view text) {
   if (!isLink(text)) return {};
   // What the superclass keeps has to be a link that it understands; nobody sees it.
-  auto link = Owned<NSURL>::adopt(
-      send<NSURL, "initWithString:">(send<id, "alloc">(classObject()), NSString::make("opaque:/")));
+  auto link = makeWith<NSURL, "initWithString:">(classObject(), NSString::make("opaque:/"));
   if (!link) return {};
   of(link.get().get())._text = text;
   return link.autorelease();

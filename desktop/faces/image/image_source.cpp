@@ -30,9 +30,9 @@ CGImageSourceRef open(NSURL link) {
   if (!path) return nullptr;
   auto file = io::FileSource::open(*path);
   if (!file) return nullptr;
-  const id source = send<id, "new">(SourceObject::classObject());
-  if (source) SourceObject::of(source).file = *std::move(file);
-  return reinterpret_cast<CGImageSourceRef>(source);
+  auto source = makeNew<NSObject>(SourceObject::classObject());
+  if (source) SourceObject::of(source.get()).file = *std::move(file);
+  return reinterpret_cast<CGImageSourceRef>(source.detach().get());
 }
 
 CFDictionaryRef copyFirstProperties(CGImageSourceRef source) {

@@ -27,7 +27,7 @@ Class AVAssetTrackState::classObject() {
 }
 
 Owned<NSObject> AVAssetTrackState::make(const model::Track& track) {
-  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
+  auto made = makeNew<NSObject>(classObject());
   if (!made) return made;
   AVAssetTrackState& state = of(made->get());
   const auto formats = makeNew<NSMutableArray>();

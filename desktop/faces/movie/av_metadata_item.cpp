@@ -16,7 +16,7 @@ Class AVMetadataItemState::classObject() {
 }
 
 Owned<NSObject> AVMetadataItemState::make(const model::MetadataItem& item) {
-  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
+  auto made = makeNew<NSObject>(classObject());
   if (!made) return made;
   AVMetadataItemState& state = of(made->get());
   if (item.commonKey) state._commonKey = Owned<NSString>::retain(NSString::make(*item.commonKey));

@@ -40,7 +40,7 @@ Class AVURLAssetState::classObject() {
 
 NSObject AVURLAssetState::withURL(NSURL url, NSDictionary) {
   if (!url) return {};
-  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
+  auto made = makeNew<NSObject>(classObject());
   if (made) of(made->get())._url = Owned<NSURL>::retain(url);
   return made.autorelease();
 }

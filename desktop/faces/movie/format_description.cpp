@@ -28,7 +28,7 @@ Class FormatDescription::classObject() {
 }
 
 Owned<NSObject> FormatDescription::make(const model::FormatDescription& facts) {
-  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
+  auto made = makeNew<NSObject>(classObject());
   if (!made) return made;
   FormatDescription& description = of(made->get());
   if (facts.audio) description.audio = streamDescription(*facts.audio);

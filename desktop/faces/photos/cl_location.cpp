@@ -16,7 +16,7 @@ Class CLLocationState::classObject() {
 }
 
 CLLocation CLLocationState::make(const model::Location& place) {
-  auto made = Owned<CLLocation>::adopt(send<CLLocation, "new">(classObject()));
+  auto made = makeNew<CLLocation>(classObject());
   if (made) of(made->get())._coordinate = {place.latitude, place.longitude};
   return made.autorelease();
 }

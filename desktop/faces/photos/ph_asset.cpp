@@ -61,7 +61,7 @@ Class PHAssetState::classObject() {
 }
 
 PHAsset PHAssetState::make(const library::PhotoLibrary& library, library::ItemPointer item) {
-  auto made = Owned<PHAsset>::adopt(send<PHAsset, "new">(classObject()));
+  auto made = makeNew<PHAsset>(classObject());
   if (!made) return {};
   PHAssetState& asset = of(made->get());
   asset._library = library.reference();

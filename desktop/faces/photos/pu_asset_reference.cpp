@@ -15,7 +15,7 @@ Class PUAssetReferenceState::classObject() {
 }
 
 PUAssetReference PUAssetReferenceState::make(Object asset, NSIndexPath path) {
-  auto made = Owned<PUAssetReference>::adopt(send<PUAssetReference, "new">(classObject()));
+  auto made = makeNew<PUAssetReference>(classObject());
   if (!made) return {};
   PUAssetReferenceState& reference = of(made->get());
   reference._asset = Owned<Object>::retain(asset);

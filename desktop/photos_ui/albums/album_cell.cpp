@@ -36,9 +36,9 @@ UITableViewCell AlbumCell::initWithStyle(NSInteger style, NSString identifier) {
   const auto object = super<UITableViewCell, "initWithStyle:reuseIdentifier:">(style, identifier);
   if (!object) return {};
   const UIView content = contentView();
-  _photo = Owned<UIView>::adopt(send<UIView, "initWithFrame:">(
-      send<id, "alloc">(PUPhotoViewState::classObject()),
-      CGRect{{margin, (height - photoSide) / 2}, {photoSide, photoSide}}));
+  _photo = makeWith<UIView, "initWithFrame:">(
+      PUPhotoViewState::classObject(),
+      CGRect{{margin, (height - photoSide) / 2}, {photoSide, photoSide}});
   _title = photos_ui::makeLabel({.size = 17}, uikit::colors::black);
   _count = photos_ui::makeLabel({.size = 13}, uikit::colors::secondaryText);
   content.addSubview(_photo);

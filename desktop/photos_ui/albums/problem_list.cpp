@@ -34,9 +34,8 @@ Class ProblemList::classObject() {
 }
 
 Owned<UIViewController> ProblemList::make() {
-  auto made = Owned<UIViewController>::adopt(
-      send<UIViewController, "init">(send<id, "alloc">(classObject())));
-  send<void, "setTitle:">(made.get(), NSString::make("Not Shown"));
+  auto made = makeNew<UIViewController>(classObject());
+  made->setTitle(NSString::make("Not Shown"));
   useLargeTitle(made, false);
   return made;
 }
@@ -55,7 +54,7 @@ void ProblemList::refresh() {
   if (const library::PhotoLibrary* const library = host().library)
     for (const auto& [path, reason] : library->problems())
       _problems.emplace_back(shown(path, library->folder()), reason);
-  send<void, "reloadData">(self().tableView());
+  self().tableView().reloadData();
 }
 
 NSInteger ProblemList::numberOfRows(UITableView, NSInteger) const {
@@ -70,10 +69,9 @@ UITableViewCell ProblemList::cellForRow(UITableView table, NSIndexPath path) con
   const NSString identifier = NSString::make("problem");
   UITableViewCell cell = table.dequeueCell(identifier);
   if (!cell)
-    cell = Owned<UITableViewCell>::adopt(send<UITableViewCell, "initWithStyle:reuseIdentifier:">(
-                                             send<id, "alloc">(UITableViewCell::classObject()),
-                                             NSInteger{uikit::UITableViewCellState::subtitle},
-                                             identifier))
+    cell = makeWith<UITableViewCell, "initWithStyle:reuseIdentifier:">(
+               UITableViewCell::classObject(), NSInteger{uikit::UITableViewCellState::subtitle},
+               identifier)
                .autorelease();
   const auto& [file, reason] = _problems[static_cast<std::size_t>(path.row())];
   cell.textLabel().setText(NSString::make(file));

@@ -38,17 +38,15 @@ Class PUAlbumListViewController::classObject() {
 }
 
 Owned<UIViewController> PUAlbumListViewController::make() {
-  auto made = Owned<UIViewController>::adopt(
-      send<UIViewController, "init">(send<id, "alloc">(classObject())));
-  send<void, "setTitle:">(made.get(), NSString::make("Albums"));
+  auto made = makeNew<UIViewController>(classObject());
+  made->setTitle(NSString::make("Albums"));
   useLargeTitle(made, true);
   return made;
 }
 
 void PUAlbumListViewController::viewDidLoad() {
   super<void, "viewDidLoad">();
-  send<void, "registerClass:forCellReuseIdentifier:">(self().tableView(), AlbumCell::classObject(),
-                                                      NSString::make("album"));
+  self().tableView().registerCell(AlbumCell::classObject(), NSString::make("album"));
   self().tableView().setBackgroundColor(UIColor::whiteColor());
   if (host().library) host().library->findPanoramas();
 }
@@ -67,7 +65,7 @@ void PUAlbumListViewController::refresh() {
   library::PhotoLibrary* const library = host().library;
   _albums = library ? library->albums() : std::vector<library::Album>();
   _problemCount = library ? library->problems().size() : 0;
-  send<void, "reloadData">(self().tableView());
+  self().tableView().reloadData();
 }
 
 void PUAlbumListViewController::libraryChanged(const library::LibraryChange&) {
@@ -87,8 +85,7 @@ CGFloat PUAlbumListViewController::heightForRow(UITableView, NSIndexPath path) c
 UITableViewCell PUAlbumListViewController::cellForRow(UITableView table, NSIndexPath path) {
   const auto row = static_cast<std::size_t>(path.row());
   if (row >= _albums.size()) return problemsCell(table);
-  const auto cell = send<UITableViewCell, "dequeueReusableCellWithIdentifier:forIndexPath:">(
-      table, NSString::make("album"), path);
+  const auto cell = table.dequeueCell(NSString::make("album"), path);
   AlbumCell::of(cell).show(_albums[row]);
   return cell;
 }

@@ -26,17 +26,17 @@ PUSectionedGridLayout PUPhotosAlbumViewControllerState::mainGridLayout() const {
 // The bar has its items by now.
 void PUPhotosAlbumViewControllerState::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
-  send<void, "updateGlobalFooter">(self());
+  self().updateGlobalFooter();
 }
 
 void PUPhotosAlbumViewControllerState::setEditing(bool editing, bool animated) {
   super<void, "setEditing:animated:">(editing, animated);
-  send<void, "updateGlobalFooter">(self());
+  self().updateGlobalFooter();
 }
 
 void PUPhotosAlbumViewControllerState::libraryWasShown() {
   super<void, "libraryWasShown">();
-  send<void, "updateGlobalFooter">(self());
+  self().updateGlobalFooter();
 }
 
 void PUPhotosAlbumViewControllerState::updateGlobalFooter() {

@@ -7,8 +7,8 @@ namespace desktop::photos_ui {
 
 void useLargeTitle(UIViewController controller, bool isLarge) {
   using Item = uikit::UINavigationItemState;
-  send<void, "setLargeTitleDisplayMode:">(controller.navigationItem(),
-                                          NSInteger{isLarge ? Item::always : Item::never});
+  controller.navigationItem().setLargeTitleDisplayMode(
+      NSInteger{isLarge ? Item::always : Item::never});
 }
 
 }  // namespace desktop::photos_ui

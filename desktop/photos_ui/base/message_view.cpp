@@ -15,7 +15,7 @@ constexpr CGFloat margin = 32;  // points, at the sides
 constexpr CGFloat gap = 8;      // points
 
 CGFloat heightIn(UILabel label, CGFloat width) {
-  return send<CGSize, "sizeThatFits:">(label, CGSize{width, 0}).height;
+  return label.sizeThatFits(CGSize{width, 0}).height;
 }
 
 Owned<UILabel> makeLines(const uikit::FontFace& face) {
@@ -43,12 +43,12 @@ Class MessageView::classObject() {
 }
 
 Owned<UIView> MessageView::make() {
-  return Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
+  return makeNew<UIView>(classObject());
 }
 
 UIView MessageView::initWithFrame(CGRect frame) {
   if (!super<UIView, "initWithFrame:">(frame)) return {};
-  send<void, "setUserInteractionEnabled:">(self(), false);
+  self().setUserInteractionEnabled(false);
   _title = makeLines({.size = 22});
   _reason = makeLines({.size = 15});
   self().addSubview(_title);

@@ -54,8 +54,8 @@ Class CellMark::classObject() {
 }
 
 Owned<UIView> CellMark::make(Kind kind) {
-  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
-  send<void, "setUserInteractionEnabled:">(made.get(), false);
+  auto made = makeNew<UIView>(classObject());
+  made->setUserInteractionEnabled(false);
   of(made.get()).setKind(kind);
   return made;
 }

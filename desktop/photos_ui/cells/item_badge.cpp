@@ -133,7 +133,7 @@ Owned<UIView> ItemBadge::make() {
 
 UIView ItemBadge::initWithFrame(CGRect frame) {
   if (!super<UIView, "initWithFrame:">(frame)) return {};
-  send<void, "setUserInteractionEnabled:">(self(), false);
+  self().setUserInteractionEnabled(false);
   self().setClipsToBounds(true);
   _label = makeLabel({.size = fontSize}, ink);
   self().addSubview(_label);
@@ -150,10 +150,10 @@ void ItemBadge::show(const ItemMarks& marks) {
 void ItemBadge::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize room = self().bounds().size;
-  const CGFloat width = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{}).width;
+  const CGFloat width = _label->sizeThatFits(CGSize{}).width;
   _label->setFrame({{room.width - edge - width, 0}, {width, room.height}});
   const bool isCramped = widthOf(_marks) + width + edge > room.width;
-  send<void, "setHidden:">(_label.get(), isCramped);
+  _label->setHidden(isCramped);
 }
 
 void ItemBadge::drawContent(uikit::Canvas* canvas) const {

@@ -65,7 +65,7 @@ UIView PUPhotoViewState::initWithFrame(CGRect frame) {
 
 void PUPhotoViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
-  send<void, "layoutSubviewsOfContentView">(_contentHelper.get());
+  _contentHelper->layoutSubviewsOfContentView();
 }
 
 // What stands for a picture that is not there.

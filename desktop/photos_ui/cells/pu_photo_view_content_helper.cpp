@@ -67,8 +67,7 @@ PUPhotoViewContentHelperState::~PUPhotoViewContentHelperState() {
 }
 
 Owned<PUPhotoViewContentHelper> PUPhotoViewContentHelperState::make(UIView contentView) {
-  auto made =
-      Owned<PUPhotoViewContentHelper>::adopt(send<PUPhotoViewContentHelper, "new">(classObject()));
+  auto made = makeNew<PUPhotoViewContentHelper>(classObject());
   PUPhotoViewContentHelperState& helper = of(made.get());
   helper._contentView = contentView;
   helper._imageView = bridge::makeView<UIImageView>({});
@@ -182,7 +181,7 @@ void PUPhotoViewContentHelperState::showBanner() {
     return;
   }
   if (banner && TextBannerView::of(banner).text().utf8() == text) return;
-  const auto made = bridge::makeView<UIView>({}, TextBannerView::classObject());
+  const auto made = makeNew<UIView>(TextBannerView::classObject());
   TextBannerView::of(made.get()).setText(NSString::make(text));
   setExtra(bannerField, made);
 }
@@ -205,8 +204,8 @@ void PUPhotoViewContentHelperState::layoutSubviewsOfContentView() {
   const UIView badge(objectField(self(), badgeField).get());
   badge.setFrame({{0, room.height - ItemBadge::height}, {room.width, ItemBadge::height}});
   const UIView banner(objectField(self(), bannerField).get());
-  const CGSize size = send<CGSize, "sizeThatFits:">(banner, room);
-  send<void, "setHidden:">(banner, room.width < leastBannerRoom);
+  const CGSize size = banner.sizeThatFits(room);
+  banner.setHidden(room.width < leastBannerRoom);
   const CGFloat below = badge ? ItemBadge::height : bannerMargin;
   banner.setFrame({{bannerMargin, room.height - size.height - below}, size});
 }

@@ -25,8 +25,8 @@ Class PUPhotosGridCellState::classObject() {
 UIView PUPhotosGridCellState::initWithFrame(CGRect frame) {
   if (!super<UIView, "initWithFrame:">(frame)) return {};
   const UIView content = self().contentView();
-  _photoView = Owned<PUPhotoView>::adopt(send<PUPhotoView, "initWithFrame:">(
-      send<id, "alloc">(PUPhotoViewState::classObject()), content.bounds()));
+  _photoView =
+      makeWith<PUPhotoView, "initWithFrame:">(PUPhotoViewState::classObject(), content.bounds());
   content.addSubview(_photoView);
   return self();
 }

@@ -34,9 +34,9 @@ Class TextBannerView::classObject() {
 
 UIView TextBannerView::initWithFrame(CGRect frame) {
   if (!super<UIView, "initWithFrame:">(frame)) return {};
-  send<void, "setUserInteractionEnabled:">(self(), false);
+  self().setUserInteractionEnabled(false);
   self().setBackgroundColor(uikit::UIColorState::make(shade));
-  send<void, "setCornerRadius:">(self().layer(), CGFloat{3});
+  self().layer().setCornerRadius(CGFloat{3});
   _label =
       makeLabel({.weight = uikit::FontWeight::semibold, .size = fontSize}, uikit::colors::white);
   _label->setTextAlignment(alignCenter);
@@ -51,7 +51,7 @@ void TextBannerView::setText(NSString text) {
 }
 
 CGSize TextBannerView::sizeThatFits(CGSize) const {
-  const CGSize text = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{});
+  const CGSize text = _label->sizeThatFits(CGSize{});
   return {text.width + 2 * padding.width, text.height + 2 * padding.height};
 }
 

@@ -16,8 +16,8 @@ constexpr const char* cellIdentifier = "PUPhotosGridCell";
 }  // namespace
 
 GridCollection::~GridCollection() {
-  send<void, "setDelegate:">(_view.get(), NSObject());
-  send<void, "setDataSource:">(_view.get(), NSObject());
+  _view->setDelegate(NSObject());
+  _view->setDataSource(NSObject());
   if (_layout) layout().setDelegate({});
 }
 
@@ -29,39 +29,36 @@ void GridCollection::make(NSObject owner, CGRect frame, CGFloat headerHeight) {
       UICollectionView::classObject(), frame, UICollectionViewLayout(_layout.get().get()));
   _view->setBackgroundColor(UIColor::whiteColor());
   _view->setAutoresizingMask(flexibleWidth | flexibleHeight);
-  send<void, "setAlwaysBounceVertical:">(_view.get(), true);
+  _view->setAlwaysBounceVertical(true);
   registerClasses();
-  send<void, "setDelegate:">(_view.get(), owner);
-  send<void, "setDataSource:">(_view.get(), owner);
+  _view->setDelegate(owner);
+  _view->setDataSource(owner);
 }
 
 void GridCollection::registerClasses() const {
-  send<void, "registerClass:forCellWithReuseIdentifier:">(
-      _view.get(), PUPhotosGridCellState::classObject(), NSString::make(cellIdentifier));
+  _view->registerCell(PUPhotosGridCellState::classObject(), NSString::make(cellIdentifier));
   const auto registerTitle = [&](Class aClass, const char* kind) {
-    send<void, "registerClass:forSupplementaryViewOfKind:withReuseIdentifier:">(
-        _view.get(), aClass, NSString::make(kind), NSString::make(kind));
+    _view->registerSupplementaryView(aClass, NSString::make(kind), NSString::make(kind));
   };
   registerTitle(GridHeader::classObject(), PUSectionedGridLayoutState::headerKind);
   registerTitle(GridFooter::classObject(), PUSectionedGridLayoutState::footerKind);
 }
 
 void GridCollection::measure() const {
-  send<Object, "layoutAttributesForItemAtIndexPath:">(_view.get(), uikit::indexPathOf({0, 0}));
+  _view->layoutAttributesForItem(uikit::indexPathOf({0, 0}));
 }
 
 void GridCollection::show(ItemListPointer list) {
   _list = std::move(list);
-  send<void, "reloadData">(_view.get());
+  _view->reloadData();
 }
 
 void GridCollection::setFooterText(std::string text) {
   layout().setFooterHeight(text.empty() ? 0 : GridFooter::height);
   if (text == _footerText) return;
   _footerText = std::move(text);
-  const UIView shown = send<UIView, "supplementaryViewForElementKind:atIndexPath:">(
-      _view.get(), NSString::make(PUSectionedGridLayoutState::footerKind),
-      uikit::indexPathOf({0, 0}));
+  const UIView shown = _view->supplementaryView(
+      NSString::make(PUSectionedGridLayoutState::footerKind), uikit::indexPathOf({0, 0}));
   if (shown) GridFooter::of(shown).show(_footerText);
 }
 
@@ -87,17 +84,14 @@ NSInteger GridCollection::itemCount(NSInteger section) const {
 }
 
 UIView GridCollection::cell(UICollectionView view, NSIndexPath path) const {
-  const auto made = send<UIView, "dequeueReusableCellWithReuseIdentifier:forIndexPath:">(
-      view, NSString::make(cellIdentifier), path);
+  const auto made = view.dequeueCell(NSString::make(cellIdentifier), path);
   if (isKindOf(made, PUPhotosGridCellState::classObject()))
     PUPhotosGridCellState::of(made).showItem(itemAt(path), layout().cellSize());
   return made;
 }
 
 UIView GridCollection::title(UICollectionView view, NSString kind, NSIndexPath path) const {
-  const auto made =
-      send<UIView, "dequeueReusableSupplementaryViewOfKind:withReuseIdentifier:forIndexPath:">(
-          view, kind, kind, path);
+  const auto made = view.dequeueSupplementaryView(kind, kind, path);
   if (isKindOf(made, GridFooter::classObject())) GridFooter::of(made).show(_footerText);
   if (isKindOf(made, GridHeader::classObject()))
     showHeader(made, static_cast<std::size_t>(path.section()));

@@ -26,8 +26,8 @@ void GridSelection::setOn(bool isOn) {
   undoSwipe();
   const auto selected = _grid.viewState().selectedItems();
   for (const uikit::ItemPath path : selected)
-    send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), uikit::indexPathOf(path), false);
-  send<void, "setAllowsMultipleSelection:">(_grid.view(), isOn);
+    _grid.view().deselectItem(uikit::indexPathOf(path), false);
+  _grid.view().setAllowsMultipleSelection(isOn);
 }
 
 void GridSelection::select(std::size_t index, bool isSelected) const {
@@ -35,10 +35,9 @@ void GridSelection::select(std::size_t index, bool isSelected) const {
   if (!path || paths().contains(*path) == isSelected) return;
   const auto shown = uikit::indexPathOf(*path);
   if (isSelected)
-    send<void, "selectItemAtIndexPath:animated:scrollPosition:">(_grid.view(), shown, false,
-                                                                 NSUInteger{0});
+    _grid.view().selectItem(shown, false, NSUInteger{0});
   else
-    send<void, "deselectItemAtIndexPath:animated:">(_grid.view(), shown, false);
+    _grid.view().deselectItem(shown, false);
 }
 
 void GridSelection::selectAgain(const std::vector<library::ItemPointer>& items) {

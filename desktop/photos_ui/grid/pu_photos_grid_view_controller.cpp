@@ -10,6 +10,7 @@
 #include "desktop/faces/photos/ph_asset.h"
 #include "desktop/photos_ui/base/large_title.h"
 #include "desktop/photos_ui/base/message_view.h"
+#include "desktop/photos_ui/base/own_messages.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/grid/grid_metrics.h"
@@ -60,12 +61,11 @@ Class PUPhotosGridViewControllerState::classObject() {
 }
 
 Owned<UIViewController> PUPhotosGridViewControllerState::make(Class aClass, GridContents contents) {
-  auto made =
-      Owned<UIViewController>::adopt(send<UIViewController, "init">(send<id, "alloc">(aClass)));
+  auto made = makeNew<UIViewController>(aClass);
   PUPhotosGridViewControllerState& grid = of(made.get());
   grid._contents = std::move(contents);
   grid._place.setStartsAtEnd(grid._contents.startsAtEnd);
-  send<void, "setTitle:">(made.get(), NSString::make(grid._contents.title));
+  made->setTitle(NSString::make(grid._contents.title));
   useLargeTitle(made, grid._contents.hasLargeTitle);
   return made;
 }
@@ -93,8 +93,7 @@ void PUPhotosGridViewControllerState::viewWillAppear(bool animated) {
 // Another width is another grid.
 void PUPhotosGridViewControllerState::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
-  if (self().view().bounds().size.width != _measuredWidth)
-    send<void, "updateLayoutMetrics">(self());
+  if (self().view().bounds().size.width != _measuredWidth) self().updateLayoutMetrics();
 }
 
 void PUPhotosGridViewControllerState::viewDidLayoutSubviews() {
@@ -109,7 +108,7 @@ void PUPhotosGridViewControllerState::updateLayoutMetrics() {
   const auto [columns, itemSize] =
       gridMetrics(_contents, _measuredWidth, layout().interItemSpacing(), uikit::screen().scale);
   layout().setColumnsPerRow(columns);
-  send<void, "setItemSize:">(layout().self(), itemSize);
+  layout().self().setItemSize(itemSize);
   if (place) _place.restore(*place);
   _place.stayAtEnd();
 }
@@ -143,7 +142,7 @@ void PUPhotosGridViewControllerState::libraryChanged(const library::LibraryChang
   if (!collectionView() || !uikit::UIViewState::of(collectionView()).window()) return;
   if (areItemsChanged) {
     refresh();
-    send<void, "libraryWasShown">(self());
+    photos_ui::libraryWasShown(self());
   } else {
     updateMessage();
   }
@@ -152,7 +151,7 @@ void PUPhotosGridViewControllerState::libraryChanged(const library::LibraryChang
 void PUPhotosGridViewControllerState::updateMessage() {
   if (list()->isEmpty() != static_cast<bool>(_message)) {
     _message = list()->isEmpty() ? MessageView::make() : Owned<UIView>();
-    send<void, "setBackgroundView:">(collectionView(), _message.get());
+    collectionView().setBackgroundView(_message.get());
   }
   if (_message) showWhyEmpty(_message);
 }
@@ -188,7 +187,7 @@ void PUPhotosGridViewControllerState::didEndDisplaying(UICollectionView, UIView 
 
 void PUPhotosGridViewControllerState::didSelect(UICollectionView view, NSIndexPath path) {
   if (isEditing()) return updateTitle();
-  send<void, "deselectItemAtIndexPath:animated:">(view, path, false);
+  view.deselectItem(path, false);
   if (const auto index = _grid.indexOf(path)) open(*index, true);
 }
 
@@ -227,11 +226,11 @@ void PUPhotosGridViewControllerState::setEditing(bool editing, bool animated) {
 }
 
 void PUPhotosGridViewControllerState::beginSelecting(Object) {
-  send<void, "setEditing:animated:">(self(), true, true);
+  self().setEditing(true, true);
 }
 
 void PUPhotosGridViewControllerState::endSelecting(Object) {
-  send<void, "setEditing:animated:">(self(), false, true);
+  self().setEditing(false, true);
 }
 
 void PUPhotosGridViewControllerState::updateSelectButton() {

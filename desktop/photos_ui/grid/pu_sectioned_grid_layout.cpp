@@ -59,11 +59,11 @@ Class PUSectionedGridLayoutState::classObject() {
 }
 
 Owned<PUSectionedGridLayout> PUSectionedGridLayoutState::make() {
-  return Owned<PUSectionedGridLayout>::adopt(send<PUSectionedGridLayout, "new">(classObject()));
+  return makeNew<PUSectionedGridLayout>(classObject());
 }
 
 void PUSectionedGridLayoutState::invalidate() {
-  send<void, "invalidateLayout">(self());
+  self().invalidateLayout();
 }
 
 void PUSectionedGridLayoutState::setColumnsPerRow(NSInteger columns) {
@@ -116,7 +116,7 @@ void PUSectionedGridLayoutState::measureColumns(CGFloat width) {
   _rowHeight = leastSide;
   CGFloat x = 0;
   for (NSInteger column = 0; column < _columnsPerRow; ++column) {
-    const CGSize size = send<CGSize, "layoutItemSizeForColumn:">(self(), column);
+    const CGSize size = self().itemSizeForColumn(column);
     const CGFloat itemWidth = saneSide(size.width);
     constexpr CGFloat rounding = 0.01;
     if (column > 0 && x + itemWidth > width + rounding) break;
@@ -131,7 +131,7 @@ void PUSectionedGridLayoutState::prepareLayout() {
   const CGFloat width = collection.bounds().size.width;
   measureColumns(width);
   const auto across = static_cast<NSInteger>(_columns.size());
-  const NSInteger sections = send<NSInteger, "numberOfSections">(collection);
+  const NSInteger sections = collection.numberOfSections();
   _sections.clear();
   _sections.reserve(static_cast<std::size_t>(sections));
   CGFloat y = 0;

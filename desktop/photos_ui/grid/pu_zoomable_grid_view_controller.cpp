@@ -55,7 +55,7 @@ Owned<UIViewController> PUZoomableGridViewControllerState::make(ZoomLevel level)
        .startsAtEnd = true});
   PUZoomableGridViewControllerState& grid = of(made.get());
   grid._level = level;
-  grid._info = Owned<NSObject>::adopt(send<NSObject, "new">(description.info()));
+  grid._info = makeNew<NSObject>(description.info());
   return made;
 }
 
@@ -63,7 +63,7 @@ Owned<UIViewController> PUZoomableGridViewControllerState::make(ZoomLevel level)
 void PUZoomableGridViewControllerState::didSelect(UICollectionView view, NSIndexPath path) {
   if (_level == ZoomLevel::moments)
     return super<void, "collectionView:didSelectItemAtIndexPath:">(view, path);
-  send<void, "deselectItemAtIndexPath:animated:">(view, path, false);
+  view.deselectItem(path, false);
   const auto at = uikit::itemPathOf(path);
   const auto index = at ? list()->indexOf(*at) : std::nullopt;
   if (!index) return;

@@ -19,7 +19,7 @@ NSString titleOf(SelectButton button) {
 
 bool isShown(NSString title, NSArray items) {
   if (!title) return !items;
-  return items.count() > 0 && title.isEqualToString(send<NSString, "title">(items.at(0)));
+  return items.count() > 0 && title.isEqualToString(UIBarButtonItem(items.at(0).get()).title());
 }
 
 }  // namespace

@@ -34,10 +34,10 @@ enum Tab : NSUInteger { photosTab, albumsTab };
 Owned<UINavigationController> makeTab(NSArray controllers, const char* title,
                                       uikit::UITabBarItem::SystemPicture picture) {
   auto made = makeNew<UINavigationController>();
-  send<void, "setPrefersLargeTitles:">(made->navigationBar(), true);
-  send<void, "setViewControllers:">(made.get(), controllers);
+  made->navigationBar().setPrefersLargeTitles(true);
+  made->setControllers(controllers);
   const auto item = uikit::UITabBarItem::make(NSString::make(title), {}, picture);
-  send<void, "setTabBarItem:">(made.get(), item);
+  made->setTabBarItem(item);
   return made;
 }
 
@@ -58,7 +58,7 @@ UIViewController top() {
 
 UIViewController presented() {
   const auto root = tabs();
-  return send<UIViewController, "presentedViewController">(root);
+  return root.presentedViewController();
 }
 
 bool isOneUp(UIViewController controller) {
@@ -79,7 +79,7 @@ void dismissAll() {
 }
 
 void popTo(UIViewController controller) {
-  send<NSArray, "popToViewController:animated:">(navigation(), controller, false);
+  navigation().popTo(controller, false);
 }
 
 void showTab(Tab tab) {
@@ -142,7 +142,7 @@ model::Result<PUPhotosGridViewControllerState*> gridWithItem(long index) {
 
 UIViewController lastPresented() {
   UIViewController last = presented();
-  while (const auto next = send<UIViewController, "presentedViewController">(last)) last = next;
+  while (const auto next = last.presentedViewController()) last = next;
   return last;
 }
 
@@ -186,7 +186,7 @@ Outcome openPhotos() {
 Outcome openAlbums() {
   if (!tabs()) return model::Error{"nothing is on show"};
   showTab(albumsTab);
-  send<NSArray, "popToRootViewControllerAnimated:">(navigation(), false);
+  navigation().popToRoot(false);
   prepare();
   return std::nullopt;
 }
@@ -240,12 +240,11 @@ Outcome goBack() {
     return std::nullopt;
   }
   if (tapCoverAway(top())) return std::nullopt;
-  if (send<bool, "isEditing">(top())) {
-    send<void, "setEditing:animated:">(top(), false, true);
+  if (top().isEditing()) {
+    top().setEditing(false, true);
     return std::nullopt;
   }
-  if (!send<UIViewController, "popViewControllerAnimated:">(navigation(), true))
-    return model::Error{"there is no way back from here"};
+  if (!navigation().pop(true)) return model::Error{"there is no way back from here"};
   return std::nullopt;
 }
 
@@ -261,7 +260,7 @@ Outcome selectItem(long index) {
   const auto place = placeOfItem(index);
   if (!place) return place.error();
   const UIViewController grid = top();
-  if (!send<bool, "isEditing">(grid)) send<void, "setEditing:animated:">(grid, true, false);
+  if (!grid.isEditing()) grid.setEditing(true, false);
   prepare();
   touches().down(*place);
   touches().up(*place);

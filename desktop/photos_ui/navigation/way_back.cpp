@@ -65,7 +65,7 @@ void leavePresented(UIViewController presented) {
   }
   // A page that was reached from the presented one leads back to it.
   if (isKindOf(presented, UINavigationController::classObject()) &&
-      send<UIViewController, "popViewControllerAnimated:">(presented, true))
+      UINavigationController(presented.get()).pop(true))
     return;
   presented.dismiss(UIViewController::animated, {});
 }

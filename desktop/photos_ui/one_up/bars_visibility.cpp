@@ -13,8 +13,8 @@ bool BarsVisibility::show(bool shown, bool animated) {
   _areShown = shown;
   showStatusBar(shown);
   const auto navigation = _controller.navigationController();
-  send<void, "setNavigationBarHidden:animated:">(navigation, !shown, animated);
-  send<void, "setToolbarHidden:animated:">(navigation, !shown, animated);
+  navigation.setNavigationBarHidden(!shown, animated);
+  navigation.setToolbarHidden(!shown, animated);
   const UIView view = _controller.view();
   UIView::animate(animated ? time : 0, Block<void()>([view, shown] {
                     view.setBackgroundColor(shown ? UIColor::whiteColor() : UIColor::blackColor());
@@ -23,14 +23,12 @@ bool BarsVisibility::show(bool shown, bool animated) {
 }
 
 void BarsVisibility::showToolbar(bool animated) const {
-  send<void, "setToolbarHidden:animated:">(_controller.navigationController(), !_areShown,
-                                           animated);
+  _controller.navigationController().setToolbarHidden(!_areShown, animated);
 }
 
 void BarsVisibility::hideToolbarForAnother(bool animated) const {
   const auto navigation = _controller.navigationController();
-  if (send<UIViewController, "topViewController">(navigation) != _controller)
-    send<void, "setToolbarHidden:animated:">(navigation, true, animated);
+  if (navigation.topViewController() != _controller) navigation.setToolbarHidden(true, animated);
 }
 
 void BarsVisibility::showStatusBar(bool shown) {

@@ -15,12 +15,11 @@ PhotoPages::~PhotoPages() {
   if (_view) tiling().pageChanged = nullptr;
 }
 
-Owned<UIView> PhotoPages::makeView(CGRect frame) {
-  constexpr NSInteger adjustsNever = 2;  // UIScrollViewContentInsetAdjustmentNever
-  auto made = bridge::makeView<UIView>(frame, PUTilingView::classObject());
-  send<void, "setPagingEnabled:">(made.get(), true);
-  send<void, "setShowsHorizontalScrollIndicator:">(made.get(), false);
-  send<void, "setContentInsetAdjustmentBehavior:">(made.get(), adjustsNever);
+Owned<UIScrollView> PhotoPages::makeView(CGRect frame) {
+  auto made = bridge::makeView<UIScrollView>(frame, PUTilingView::classObject());
+  made->setPagingEnabled(true);
+  made->setShowsHorizontalScrollIndicator(false);
+  made->setContentInsetAdjustmentBehavior(UIScrollView::adjustsNever);
   return made;
 }
 
@@ -77,7 +76,7 @@ bool PhotoPages::zoom(OneUpAction action) {
 bool PhotoPages::play() {
   const UIView shown = tiling().currentPage();
   if (!shown || !PUOneUpPhotoView::of(shown).item()->isVideo()) return false;
-  send<void, "playTouched:">(shown, NSObject());
+  PUOneUpPhotoView::of(shown).play();
   return true;
 }
 

@@ -19,7 +19,7 @@ class PhotoPages {
   ~PhotoPages();
 
   // A tiling view for photos.
-  static Owned<UIView> makeView(CGRect frame);
+  static Owned<UIScrollView> makeView(CGRect frame);
   // Shows pages in such a view; called when another page is on show.
   void setView(UIView view);
   void onChange(std::function<void(std::size_t index)> changed);

@@ -2,6 +2,7 @@
 #include "desktop/photos_ui/one_up/pu_one_up_bars_controller.h"
 
 #include "bridge/class_builder.h"
+#include "desktop/photos_ui/base/own_messages.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/bars/bar_glyphs.h"
@@ -44,7 +45,7 @@ Class PUOneUpBarsController::classObject() {
 }
 
 Owned<NSObject> PUOneUpBarsController::make(UIViewController oneUp, const BrowsedItems& items) {
-  auto made = Owned<NSObject>::adopt(send<NSObject, "new">(classObject()));
+  auto made = makeNew<NSObject>(classObject());
   of(made.get())._oneUp = oneUp;
   of(made.get())._items = &items;
   of(made.get()).showTools({});
@@ -73,11 +74,11 @@ void PUOneUpBarsController::showTools(Tools tools) {
     items->add(makeSpace().get());
   }
   items->add(favourite.get());
-  send<void, "setToolbarItems:">(_oneUp, NSArray(items.get().get()));
+  _oneUp.setToolbarItems(NSArray(items.get().get()));
 }
 
 void PUOneUpBarsController::update() const {
-  send<void, "updateBars">(self());
+  photos_ui::updateBars(self());
 }
 
 void PUOneUpBarsController::updateBars() {

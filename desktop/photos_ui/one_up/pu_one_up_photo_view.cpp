@@ -63,8 +63,8 @@ Class PUOneUpPhotoView::classObject() {
 }
 
 Owned<UIView> PUOneUpPhotoView::make(library::ItemPointer item) {
-  auto made = Owned<UIView>::adopt(send<UIView, "initWithFrame:">(
-      send<id, "alloc">(classObject()), uikit::rectOfSize(uikit::screen().size)));
+  auto made =
+      makeWith<UIView, "initWithFrame:">(classObject(), uikit::rectOfSize(uikit::screen().size));
   of(made.get()).prepare(std::move(item));
   return made;
 }
@@ -73,9 +73,9 @@ void PUOneUpPhotoView::prepare(library::ItemPointer item) {
   _item = std::move(item);
   _imageView = bridge::makeView<UIImageView>({});
   insertSubview(_imageView, 0);
-  send<void, "setShowsVerticalScrollIndicator:">(self(), false);
-  send<void, "setShowsHorizontalScrollIndicator:">(self(), false);
-  send<void, "setContentInsetAdjustmentBehavior:">(self(), NSInteger{2});
+  self().setShowsVerticalScrollIndicator(false);
+  self().setShowsHorizontalScrollIndicator(false);
+  self().setContentInsetAdjustmentBehavior(UIScrollView::adjustsNever);
   const auto tap = makeRecognizer<UITapGestureRecognizer>(self(), selector<"handleDoubleTap:">());
   tap->setNumberOfTapsRequired(2);
   self().addGestureRecognizer(tap);
@@ -130,7 +130,7 @@ void PUOneUpPhotoView::layoutSubviews() {
   if (room() == _laidOut) return;
   _laidOut = room();
   _zoom = 1;
-  send<void, "setContentOffset:">(self(), CGPoint{});
+  self().setContentOffset(CGPoint{});
   arrange();
   if (_pictureSize.width > 0) loadForRoom();
 }
@@ -147,7 +147,7 @@ void PUOneUpPhotoView::arrange() {
   const CGPoint mid = {content.width / 2, content.height / 2};
   if (_playButton) UIViewState::of(_playButton.get()).setCenter(mid);
   if (_failure) {
-    const CGSize size = send<CGSize, "sizeThatFits:">(_failure.get(), room());
+    const CGSize size = _failure->sizeThatFits(room());
     const CGFloat y = _playButton ? mid.y + playSide : mid.y - size.height / 2;
     _failure->setFrame({{0, y}, {room().width, size.height}});
   }
@@ -225,7 +225,7 @@ void PUOneUpPhotoView::zoomTo(CGFloat zoom, CGPoint at, bool animated) {
 
 // At its left and right edges a finger that goes on outwards turns the page.
 bool PUOneUpPhotoView::shouldBegin(UIGestureRecognizer recognizer) {
-  const auto pan = send<UIPanGestureRecognizer, "panGestureRecognizer">(self());
+  const auto pan = self().panGestureRecognizer();
   if (recognizer != pan) return true;
   const CGPoint moved = pan.translationIn({});
   const CGPoint speed = pan.velocityIn({});
@@ -243,10 +243,8 @@ void PUOneUpPhotoView::handleDoubleTap(UIGestureRecognizer recognizer) {
   zoomTo(_zoom > 1 ? 1 : doubleTapZoom, at, true);
 }
 
-// The file goes to whatever the user plays videos with.
-void PUOneUpPhotoView::playTouched(NSObject) {
-  const auto url =
-      send<NSURL, "fileURLWithPath:">(NSURL::classObject(), NSString::make(_item->path));
+void PUOneUpPhotoView::play() const {
+  const auto url = NSURL::fileURLWithPath(NSString::make(_item->path));
   UIApplication::sharedApplication().openURL(url);
 }
 

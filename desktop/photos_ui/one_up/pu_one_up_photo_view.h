@@ -27,12 +27,14 @@ class PUOneUpPhotoView : public Bound<PUOneUpPhotoView, uikit::UIScrollViewState
   // The zoom at which a pixel of the photo is one of the screen.
   CGFloat actualSizeZoom() const;
   CGFloat greatestZoom() const;
+  // REQUIRES: it is a video. Hands it to whatever the user plays videos with.
+  void play() const;
 
  private:
   void layoutSubviews();
   bool shouldBegin(UIGestureRecognizer recognizer);
   void handleDoubleTap(UIGestureRecognizer recognizer);
-  void playTouched(NSObject sender);
+  void playTouched(NSObject) const { play(); }
 
   void prepare(library::ItemPointer item);
   void addPlayButton();

@@ -64,20 +64,19 @@ PUOneUpViewControllerState::~PUOneUpViewControllerState() {
 
 Owned<UIViewController> PUOneUpViewControllerState::make(ItemListPointer items, std::size_t index,
                                                          Presentation presentation) {
-  auto made = Owned<UIViewController>::adopt(send<UIViewController, "new">(classObject()));
+  auto made = makeNew<UIViewController>(classObject());
   PUOneUpViewControllerState& controller = of(made.get());
   controller._items.set(std::move(items), index);
   controller._presentation = presentation;
-  if (presentation == Presentation::preview)
-    send<void, "setModalPresentationStyle:">(made.get(), overFullScreen);
-  send<void, "setHidesBottomBarWhenPushed:">(made.get(), true);
+  if (presentation == Presentation::preview) made->setModalPresentationStyle(overFullScreen);
+  made->setHidesBottomBarWhenPushed(true);
   useLargeTitle(made.get(), false);
   return made;
 }
 
 UIViewController PUOneUpViewControllerState::init() {
   const auto object = super<UIViewController, "init">();
-  _layout = Owned<NSObject>::adopt(send<NSObject, "new">(PUOneUpTilingLayoutState::classObject()));
+  _layout = makeNew<NSObject>(PUOneUpTilingLayoutState::classObject());
   _bars = PUOneUpBarsController::make(UIViewController(self().get()), _items);
   return object;
 }
@@ -88,7 +87,7 @@ void PUOneUpViewControllerState::viewDidLoad() {
   self().view().setBackgroundColor(isPreview ? UIColor::white(0, 0.4) : UIColor::whiteColor());
   const auto tiling = makeTilingView();
   self().view().addSubview(tiling);
-  send<void, "_setTilingView:">(self(), tiling.get());
+  self().setTilingView(tiling.get());
   _pages.onChange([this](std::size_t page) { moved(page); });
   showItems(_items.list(), _items.index());
   if (!isPreview) return;
@@ -98,17 +97,17 @@ void PUOneUpViewControllerState::viewDidLoad() {
   self().view().addGestureRecognizer(beside);
 }
 
-Owned<UIView> PUOneUpViewControllerState::makeTilingView() {
+Owned<UIScrollView> PUOneUpViewControllerState::makeTilingView() {
   auto tiling = PhotoPages::makeView(self().view().bounds());
   if (isPresentedForPreview()) {
     dressAsCard(tiling);
-    send<void, "setScrollEnabled:">(tiling.get(), false);
+    tiling->setScrollEnabled(false);
     return tiling;
   }
   const auto tap = makeRecognizer<UITapGestureRecognizer>(self(), selector<"handleTap:">());
   const auto twice = makeRecognizer<UITapGestureRecognizer>({}, nullptr);
   twice->setNumberOfTapsRequired(2);
-  send<void, "requireGestureRecognizerToFail:">(tap.get(), twice.get());
+  tap->requireToFail(twice.get());
   tiling->addGestureRecognizer(twice);
   tiling->addGestureRecognizer(tap);
   return tiling;
@@ -220,7 +219,7 @@ void PUOneUpViewControllerState::leave() {
   const auto stack = uikit::UINavigationControllerState::of(navigation).stack();
   const auto place = std::ranges::find(stack, controller, &Owned<UIViewController>::get);
   if (place != stack.begin() && place != stack.end())
-    send<NSArray, "popToViewController:animated:">(navigation, std::prev(place)->get(), true);
+    navigation.popTo(std::prev(place)->get(), true);
 }
 
 bool performOneUpAction(UIViewController controller, OneUpAction action) {

@@ -60,7 +60,7 @@ class PUOneUpViewControllerState
   bool shouldReceiveTouch(UIGestureRecognizer recognizer, UITouch touch) const;
   void libraryChanged(const library::LibraryChange& change);
 
-  Owned<UIView> makeTilingView();
+  Owned<UIScrollView> makeTilingView();
   CGRect pagesFrame() const;
   void showItems(ItemListPointer items, std::size_t index);
   void moved(std::size_t index);

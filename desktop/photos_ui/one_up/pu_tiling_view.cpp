@@ -48,7 +48,7 @@ CGRect PUTilingView::frameOf(std::size_t index) const {
 void PUTilingView::show(std::size_t index, bool animated) {
   if (index >= _count) return;
   _goal = index;
-  send<void, "setContentOffset:animated:">(self(), frameOf(index).origin, animated);
+  self().setContentOffset(frameOf(index).origin, animated);
   setNeedsLayout();
 }
 

@@ -6,6 +6,7 @@
 
 #include "desktop/uikit/base/geometry.h"
 #include "desktop/uikit/base/outside.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
@@ -33,7 +34,7 @@ void Application::prepareFrame() const {
   const AutoreleasePool pool;
   animator().tick();
   const auto present = windows;
-  for (const auto& window : present) send<void, "layoutIfNeeded">(window.get());
+  for (const auto& window : present) window->layoutIfNeeded();
 }
 
 void Application::advance(Seconds by) const {
@@ -50,7 +51,7 @@ void Application::resize(CGSize size) const {
   const CGSize before = std::exchange(screen().size, size);
   screen().damage.add(rectOfSize(size));
   const auto present = windows;
-  for (const auto& window : present) send<void, "_screenDidResizeFrom:">(window.get(), before);
+  for (const auto& window : present) screenDidResize(window.get(), before);
 }
 
 // From the top down: what goes may still tell the parts below.

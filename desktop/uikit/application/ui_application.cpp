@@ -26,7 +26,7 @@ UIApplication UIApplicationState::sharedApplication() {
 
 bool UIApplicationState::openURL(NSURL url) {
   if (!url) return false;
-  const std::string link = send<NSString, "absoluteString">(url).utf8();
+  const std::string link = url.absoluteString().utf8();
   application().opened.push_back(link);
   return outside().openLink && outside().openLink(link);
 }

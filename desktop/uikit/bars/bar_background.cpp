@@ -19,9 +19,9 @@ Class BarBackground::classObject() {
 }
 
 Owned<UIView> BarBackground::make(Hairline side) {
-  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
+  auto made = makeNew<UIView>(classObject());
   of(made.get())._side = side;
-  send<void, "setUserInteractionEnabled:">(made.get(), false);
+  made->setUserInteractionEnabled(false);
   return made;
 }
 

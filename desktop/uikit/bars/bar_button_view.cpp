@@ -32,8 +32,7 @@ constexpr double pressedAlpha = 0.2;
 constexpr Color disabledColor = Color::white(0.6);
 
 Owned<UIView> makeView() {
-  return Owned<UIView>::adopt(
-      send<UIView, "init">(send<id, "alloc">(BarButtonView::classObject())));
+  return makeNew<UIView>(BarButtonView::classObject());
 }
 
 }  // namespace
@@ -84,7 +83,7 @@ void BarButtonView::refresh() {
     _label->setFont(item.style() == UIBarButtonItemState::done ? semiboldFont(fontSize)
                                                                : UIFont::systemFont(fontSize));
     setTitle(hasText() ? item.title() : NSString());
-    send<void, "setEnabled:">(self(), item.isEnabled());
+    self().setEnabled(item.isEnabled());
   }
   _label->setTextColor(UIColorState::make(color()));
   setNeedsDisplay();
@@ -129,7 +128,7 @@ void BarButtonView::layoutSubviews() {
 
 CGSize BarButtonView::sizeThatFits(CGSize size) const {
   if (hasText()) {
-    const CGSize text = send<CGSize, "sizeThatFits:">(_label.get(), CGSize{});
+    const CGSize text = _label->sizeThatFits(CGSize{});
     const bool isBare = _label->text().length() == 0;
     return {isBare && isBack() ? chevronWidth : textStart() + text.width, size.height};
   }
@@ -142,8 +141,8 @@ bool BarButtonView::pointInside(CGPoint point, UIEvent) const {
   return contains(inset(self().bounds(), -touchMargin, 0), point);
 }
 
-void BarButtonView::setHighlighted(bool highlighted) {
-  super<void, "setHighlighted:">(highlighted);
+void BarButtonView::setHighlighted(bool isHighlighted) {
+  super<void, "setHighlighted:">(isHighlighted);
   refresh();
 }
 

@@ -67,7 +67,7 @@ CGFloat BarSlots::widthOf(const BarSlot& slot, CGFloat height) {
   if (!slot.view) return item.systemItem() == UIBarButtonItemState::fixedSpace ? item.width() : 0;
   if (item.width() > 0) return item.width();
   if (item.customView()) return item.customView().bounds().size.width;
-  return send<CGSize, "sizeThatFits:">(slot.view.get(), CGSize{0, height}).width;
+  return slot.view.get().sizeThatFits(CGSize{0, height}).width;
 }
 
 // A custom view keeps its size and stands in the middle of the height.

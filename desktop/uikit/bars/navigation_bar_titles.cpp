@@ -12,6 +12,7 @@
 #include "desktop/uikit/bars/bar_button_view.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/text/interface_fonts.h"
 #include "desktop/uikit/views/ui_view.h"
@@ -30,7 +31,7 @@ constexpr CGFloat largeTitleHeight = 41;
 constexpr CGFloat largeTitleBottom = 8;
 
 CGFloat fittingWidth(UIView view, CGFloat height) {
-  return send<CGSize, "sizeThatFits:">(view, CGSize{0, height}).width;
+  return view.sizeThatFits(CGSize{0, height}).width;
 }
 
 }  // namespace
@@ -102,7 +103,7 @@ void NavigationBarContentView::showBack(NSString title, const std::function<void
 }
 
 void NavigationBarContentView::itemChanged() {
-  send<void, "_itemChanged">(superview());
+  uikit::itemChanged(superview());
 }
 
 CGFloat NavigationBarContentView::titleWidth() const {

@@ -45,7 +45,7 @@ UIView TabBarButton::initWithFrame(CGRect frame) {
 }
 
 Owned<UIView> TabBarButton::make(NSObject item, std::function<void()> pressed) {
-  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
+  auto made = makeNew<UIView>(classObject());
   of(made.get())._item = Owned<NSObject>::retain(item);
   of(made.get())._pressed = std::move(pressed);
   return made;

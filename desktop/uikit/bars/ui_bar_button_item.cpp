@@ -8,6 +8,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -99,7 +100,7 @@ NSObject UIBarButtonItemState::initWithCustomView(UIView view) {
 
 void UIBarButtonItemState::setTitle(NSString title) {
   if (title == _title.get() || (title && _title && title.isEqualToString(_title))) return;
-  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
+  _title = copy(title);
   changed();
 }
 
@@ -140,7 +141,7 @@ std::optional<Color> UIBarButtonItemState::tint() const {
 }
 
 void UIBarButtonItemState::changed() const {
-  send<void, "_itemChanged">(_shownBy);
+  itemChanged(_shownBy);
 }
 
 // Neither item nor target may go while the action runs.
@@ -149,8 +150,7 @@ void UIBarButtonItemState::press(UIResponder from) {
   const auto kept = Owned<NSObject>::retain(self());
   Owned<NSObject> taker = Owned<NSObject>::retain(_target);
   if (!taker) {
-    while (from && !send<bool, "respondsToSelector:">(from, _action))
-      from = send<UIResponder, "nextResponder">(from);
+    while (from && !respondsTo(from, _action)) from = from.nextResponder();
     taker = Owned<NSObject>::retain(from);
   }
   if (taker) dispatch<void>(taker.get().get(), _action, self().get());

@@ -24,7 +24,7 @@ constexpr CGFloat largeTitleHeight = 52;  // points
 
 template <typename T>
 Owned<UIView> makeSubview(UIView bar) {
-  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(T::classObject())));
+  auto made = makeNew<UIView>(T::classObject());
   bar.addSubview(made);
   return made;
 }
@@ -151,8 +151,8 @@ void UINavigationBarState::itemsChanged() {
   content.setTitleLook(color, isLarge);
   large.label().setTextColor(UIColorState::make(color));
   UIViewState::of(_largeTitle.get()).setHidden(!isLarge);
-  send<void, "setTitle:">(_content.get(), title);
-  send<void, "setTitle:">(_largeTitle.get(), title);
+  NavigationTitleView(_content->get()).setTitle(title);
+  NavigationTitleView(_largeTitle->get()).setTitle(title);
   setNeedsLayout();
   if (const auto outer = superview(); outer && self().frame().size.height != height())
     UIViewState::of(outer.get()).setNeedsLayout();

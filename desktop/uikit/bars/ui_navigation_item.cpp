@@ -3,6 +3,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/own_messages.h"
 
 namespace desktop::uikit {
 
@@ -48,7 +49,7 @@ NSObject UINavigationItemState::initWithTitle(NSString title) {
 }
 
 void UINavigationItemState::setTitle(NSString title) {
-  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
+  _title = copy(title);
   changed();
 }
 
@@ -104,7 +105,7 @@ void UINavigationItemState::setLargeTitleDisplayMode(NSInteger mode) {
 }
 
 void UINavigationItemState::changed() const {
-  send<void, "_itemChanged">(_bar);
+  itemChanged(_bar);
 }
 
 }  // namespace desktop::uikit

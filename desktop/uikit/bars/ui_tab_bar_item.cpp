@@ -3,6 +3,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/own_messages.h"
 
 namespace desktop::uikit {
 
@@ -23,8 +24,8 @@ Class UITabBarItem::classObject() {
 }
 
 Owned<NSObject> UITabBarItem::make(NSString title, UIImage image, NSInteger picture) {
-  auto made = Owned<NSObject>::adopt(send<NSObject, "initWithTitle:image:tag:">(
-      send<id, "alloc">(classObject()), title, image, NSInteger{0}));
+  auto made =
+      makeWith<NSObject, "initWithTitle:image:tag:">(classObject(), title, image, NSInteger{0});
   of(made.get()).setPicture(picture);
   return made;
 }
@@ -38,7 +39,7 @@ NSObject UITabBarItem::initWithTitle(NSString title, UIImage image, NSInteger ta
 }
 
 void UITabBarItem::setTitle(NSString title) {
-  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
+  _title = copy(title);
   changed();
 }
 
@@ -53,12 +54,12 @@ void UITabBarItem::setPicture(NSInteger picture) {
 }
 
 void UITabBarItem::setBadgeValue(NSString badge) {
-  _badge = Owned<NSString>::adopt(send<NSString, "copy">(badge));
+  _badge = copy(badge);
   changed();
 }
 
 void UITabBarItem::changed() const {
-  send<void, "_itemsChanged">(_bar);
+  itemsChanged(_bar);
 }
 
 }  // namespace desktop::uikit

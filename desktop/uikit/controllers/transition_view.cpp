@@ -12,8 +12,7 @@ Class TransitionView::classObject() {
 }
 
 Owned<UIView> makeTransitionView(CGRect frame) {
-  auto made = Owned<UIView>::adopt(
-      send<UIView, "initWithFrame:">(send<id, "alloc">(TransitionView::classObject()), frame));
+  auto made = makeWith<UIView, "initWithFrame:">(TransitionView::classObject(), frame);
   made->setAutoresizingMask(flexibleWidth | flexibleHeight);
   return made;
 }

@@ -16,9 +16,9 @@ constexpr char saveActivity[] = "SaveAsText";
 
 constexpr NSUInteger previewLength = 160;  // UTF-16 units
 
-UIAlertAction row(const char* title, NSInteger style, std::function<void()> press) {
-  return send<UIAlertAction, "actionWithTitle:style:handler:">(
-      UIAlertActionState::classObject(), NSString::make(title), style,
+UIAlertAction row(const char* title, UIAlertAction::Style style, std::function<void()> press) {
+  return UIAlertAction::make(
+      NSString::make(title), style,
       Block<void(UIAlertAction)>([press = std::move(press)](UIAlertAction) { press(); }));
 }
 
@@ -41,13 +41,13 @@ Class UIActivityViewControllerState::classObject() {
 }
 
 UIViewController UIActivityViewControllerState::initWithItems(NSArray items, NSArray) {
-  const auto object = send<UIViewController, "init">(self());
-  _items = Owned<NSArray>::adopt(send<NSArray, "copy">(items));
+  const auto object = initWith<"init">(self());
+  _items = copy(items);
   return object;
 }
 
 void UIActivityViewControllerState::setExcludedActivityTypes(NSArray types) {
-  _excluded = Owned<NSArray>::adopt(send<NSArray, "copy">(types));
+  _excluded = copy(types);
 }
 
 void UIActivityViewControllerState::setCompletionHandler(const BlockHeader* handler) {
@@ -65,7 +65,7 @@ std::string UIActivityViewControllerState::text() const {
 }
 
 bool UIActivityViewControllerState::isExcluded(const char* activityType) const {
-  return send<bool, "containsObject:">(_excluded.get(), NSString::make(activityType));
+  return _excluded->contains(NSString::make(activityType));
 }
 
 // The beginning of the first item.
@@ -73,10 +73,8 @@ NSString UIActivityViewControllerState::preview() const {
   if (_items->count() == 0) return {};
   const NSString whole = printed(_items->at(0));
   if (whole.length() <= previewLength) return whole;
-  const auto characters =
-      send<NSRange, "rangeOfComposedCharacterSequencesForRange:">(whole, NSRange{0, previewLength});
-  return send<NSString, "substringWithRange:">(whole, characters)
-      .appending(NSString::make("\u2026"));
+  const auto characters = whole.wholeCharacters(NSRange{0, previewLength});
+  return whole.substring(characters).appending(NSString::make("\u2026"));
 }
 
 ObjectList<UIAlertAction> UIActivityViewControllerState::rows() {
@@ -85,10 +83,10 @@ ObjectList<UIAlertAction> UIActivityViewControllerState::rows() {
     rows.push_back(Owned<UIAlertAction>::retain(action));
   };
   if (!isExcluded(copyActivity))
-    add(row("Copy", UIAlertActionState::normal, [this] { perform(Activity::copy); }));
+    add(row("Copy", UIAlertAction::normal, [this] { perform(Activity::copy); }));
   if (!isExcluded(saveActivity))
-    add(row("Save as Text\u2026", UIAlertActionState::normal, [this] { perform(Activity::save); }));
-  add(row("Cancel", UIAlertActionState::cancel, [this] { cancel(); }));
+    add(row("Save as Text\u2026", UIAlertAction::normal, [this] { perform(Activity::save); }));
+  add(row("Cancel", UIAlertAction::cancel, [this] { cancel(); }));
   return rows;
 }
 
@@ -99,7 +97,7 @@ void UIActivityViewControllerState::loadView() {
           {.title = {}, .message = preview(), .actions = rows(), .preferred = {}, .isSheet = true},
           [](UIAlertAction action) { UIAlertActionState::of(action.get()).callHandler(); },
           [this] { cancel(); });
-  send<void, "setView:">(self(), view.get());
+  self().setView(view.get());
 }
 
 void UIActivityViewControllerState::showPresented(bool shown) {

@@ -40,14 +40,14 @@ Class UIAlertControllerState::classObject() {
 
 UIAlertController UIAlertControllerState::make(NSString title, NSString message, NSInteger style) {
   auto made = makeNew<UIAlertController>();
-  send<void, "setTitle:">(made.get(), title);
+  made->setTitle(title);
   of(made.get()).setMessage(message);
   of(made.get())._style = style;
   return made.autorelease();
 }
 
 void UIAlertControllerState::setMessage(NSString message) {
-  _message = Owned<NSString>::adopt(send<NSString, "copy">(message));
+  _message = copy(message);
 }
 
 void UIAlertControllerState::addAction(UIAlertAction action) {
@@ -59,7 +59,7 @@ void UIAlertControllerState::setPreferredAction(UIAlertAction action) {
 }
 
 void UIAlertControllerState::loadView() {
-  send<void, "setView:">(self(), AlertView::make({}).get());
+  self().setView(AlertView::make({}).get());
 }
 
 // Actions can be added until the alert is shown.
@@ -100,7 +100,7 @@ void UIAlertControllerState::cancel() {
 
 void UIAlertControllerState::showPresented(bool shown) {
   AlertView& view = AlertView::of(self().view().get());
-  const bool isComing = send<bool, "isBeingPresented">(self());
+  const bool isComing = self().isBeingPresented();
   view.take(shown      ? AlertView::Stance::shown
             : isComing ? AlertView::Stance::coming
                        : AlertView::Stance::gone);

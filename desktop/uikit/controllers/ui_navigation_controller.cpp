@@ -52,8 +52,7 @@ Class UINavigationControllerState::classObject() {
 UINavigationControllerState::UINavigationControllerState(id self)
     : Bound(self),
       _bar(bridge::makeView<UINavigationBar>({})),
-      _toolbar(Owned<UIView>::adopt(
-          send<UIView, "init">(send<id, "alloc">(UIToolbarState::classObject())))) {
+      _toolbar(makeNew<UIView>(UIToolbarState::classObject())) {
   UINavigationBarState::of(_bar.get()).setBackAction([this] { pop(true); });
 }
 
@@ -62,7 +61,7 @@ UINavigationControllerState::~UINavigationControllerState() {
 }
 
 UIViewController UINavigationControllerState::initWithRoot(UIViewController root) {
-  const auto object = send<UIViewController, "init">(self());
+  const auto object = initWith<"init">(self());
   push(root, false);
   return object;
 }
@@ -81,7 +80,7 @@ UIViewController UINavigationControllerState::top() const {
 }
 
 UIViewController UINavigationControllerState::visible() const {
-  const auto presented = send<UIViewController, "presentedViewController">(self());
+  const auto presented = self().presentedViewController();
   return presented ? presented : top();
 }
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 
 #include "desktop/uikit/bars/ui_navigation_bar.h"
+#include "desktop/uikit/base/optional_message.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/views/animator.h"
@@ -64,8 +66,7 @@ void UINavigationControllerState::beginTransition(UIViewController from, UIViewC
     if (from) UIViewControllerState::of(from.get()).beginAppearance(false, isAnimated);
     if (to) UIViewControllerState::of(to.get()).beginAppearance(true, isAnimated);
   }
-  const auto tabs = send<UIViewController, "tabBarController">(self());
-  send<void, "_updateBar:">(tabs, isAnimated);
+  updateBar(self().tabBarController(), isAnimated);
   if (isAnimated) return slide(from, to, direction);
   showTop();
   arrange();
@@ -84,7 +85,7 @@ void UINavigationControllerState::slide(UIViewController from, UIViewController 
     to.view().setAutoresizingMask(flexibleWidth | flexibleHeight);
     to.view().setFrame(bounds);
     arrange();
-    send<void, "layoutIfNeeded">(to.view());
+    to.view().layoutIfNeeded();
     to.view().setFrame(offset(bounds, {isForward ? width : -parallax * width, 0}));
     bar.setAlpha(0);
   });
@@ -137,12 +138,11 @@ void UINavigationControllerState::showTop() {
 
 void UINavigationControllerState::tellDelegate(bool isDone, bool animated) const {
   if (isDone) {
-    if (respondsTo<"navigationController:didShowViewController:animated:">(_delegate))
-      send<void, "navigationController:didShowViewController:animated:">(_delegate, self(), top(),
-                                                                         animated);
-  } else if (respondsTo<"navigationController:willShowViewController:animated:">(_delegate)) {
-    send<void, "navigationController:willShowViewController:animated:">(_delegate, self(), top(),
-                                                                        animated);
+    told<"navigationController:didShowViewController:animated:">(_delegate, self(), top(),
+                                                                 animated);
+  } else {
+    told<"navigationController:willShowViewController:animated:">(_delegate, self(), top(),
+                                                                  animated);
   }
 }
 

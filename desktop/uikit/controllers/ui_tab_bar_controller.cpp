@@ -10,6 +10,7 @@
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/bars/ui_tab_bar.h"
+#include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/views/animator.h"
@@ -21,7 +22,7 @@ namespace {
 constexpr Seconds slideTime = 0.35;
 
 bool hidesBar(UIViewController controller) {
-  return send<bool, "hidesBottomBarWhenPushed">(controller);
+  return controller.hidesBottomBarWhenPushed();
 }
 
 }  // namespace
@@ -49,8 +50,7 @@ Class UITabBarControllerState::classObject() {
 }
 
 UITabBarControllerState::UITabBarControllerState(id self)
-    : Bound(self),
-      _bar(Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(UITabBar::classObject())))) {
+    : Bound(self), _bar(makeNew<UIView>(UITabBar::classObject())) {
   UITabBar::of(_bar.get()).setPressed([this](NSUInteger index) { pressed(index); });
 }
 
@@ -80,7 +80,7 @@ void UITabBarControllerState::setControllers(NSArray controllers) {
   setChildren(next);
   ObjectList<NSObject> items;
   for (const auto& controller : next)
-    items.push_back(Owned<NSObject>::retain(send<NSObject, "tabBarItem">(controller.get())));
+    items.push_back(Owned<NSObject>::retain(controller->tabBarItem()));
   UITabBar::of(_bar.get()).setItems(std::move(items));
   const bool keeps = selectedIndex() != static_cast<NSUInteger>(NSNotFound);
   const UIViewController shown =
@@ -106,8 +106,7 @@ void UITabBarControllerState::select(UIViewController controller) {
   const auto place = std::ranges::find(children, controller, &Owned<UIViewController>::get);
   if (controller && place == children.end()) return;
   const auto before = Owned<UIViewController>::retain(std::exchange(_selected, controller));
-  if (controller)
-    UITabBar::of(_bar.get()).setSelectedItem(send<NSObject, "tabBarItem">(controller));
+  if (controller) UITabBar::of(_bar.get()).setSelectedItem(controller.tabBarItem());
   if (before.get() == controller || !me.viewIfLoaded()) return;
   const bool isShown = me.appearance() == UIViewControllerState::Appearance::shown;
   const bool isComing = me.appearance() == UIViewControllerState::Appearance::appearing;
@@ -128,16 +127,15 @@ void UITabBarControllerState::pressed(NSUInteger index) {
   const auto& children = UIViewControllerState::children();
   if (index >= children.size()) return;
   const auto controller = children[index];
-  if (respondsTo<"tabBarController:shouldSelectViewController:">(_delegate) &&
-      !send<bool, "tabBarController:shouldSelectViewController:">(_delegate, self(),
-                                                                  controller.get()))
+  if (!asked<bool, "tabBarController:shouldSelectViewController:">(_delegate, self(),
+                                                                   controller.get())
+           .value_or(true))
     return;
   if (controller.get() == _selected &&
       isKindOf(controller.get(), UINavigationControllerState::classObject()))
-    send<NSArray, "popToRootViewControllerAnimated:">(controller.get(), true);
-  send<void, "setSelectedViewController:">(self(), controller.get());
-  if (respondsTo<"tabBarController:didSelectViewController:">(_delegate))
-    send<void, "tabBarController:didSelectViewController:">(_delegate, self(), controller.get());
+    UINavigationController(controller.get().get()).popToRoot(true);
+  self().setSelectedViewController(controller.get());
+  told<"tabBarController:didSelectViewController:">(_delegate, self(), controller.get());
 }
 
 void UITabBarControllerState::showSelected() {

@@ -29,13 +29,12 @@ Class UITableViewControllerState::classObject() {
 // is told of cells that go.
 UITableViewControllerState::~UITableViewControllerState() {
   const auto table = as<UITableView>(viewIfLoaded());
-  if (send<id, "delegate">(table) == self().get()) send<void, "setDelegate:">(table, NSObject());
-  if (send<id, "dataSource">(table) == self().get())
-    send<void, "setDataSource:">(table, NSObject());
+  if (table.delegate() == self()) table.setDelegate(NSObject());
+  if (table.dataSource() == self()) table.setDataSource(NSObject());
 }
 
 UITableViewController UITableViewControllerState::init() {
-  return send<UITableViewController, "initWithStyle:">(self(), NSInteger{UITableViewState::plain});
+  return initWith<"initWithStyle:">(self(), NSInteger{UITableViewState::plain});
 }
 
 UITableViewController UITableViewControllerState::initWithStyle(NSInteger style) {
@@ -44,12 +43,12 @@ UITableViewController UITableViewControllerState::initWithStyle(NSInteger style)
 }
 
 void UITableViewControllerState::loadView() {
-  const auto table = Owned<UITableView>::adopt(send<UITableView, "initWithFrame:style:">(
-      send<id, "alloc">(UITableView::classObject()), rectOfSize(screen().size), _style));
+  const auto table = makeWith<UITableView, "initWithFrame:style:">(
+      UITableView::classObject(), rectOfSize(screen().size), _style);
   table->setAutoresizingMask(flexibleWidth | flexibleHeight);
-  send<void, "setDataSource:">(table, self());
-  send<void, "setDelegate:">(table, self());
-  send<void, "setView:">(self(), table);
+  table->setDataSource(self());
+  table->setDelegate(self());
+  self().setView(table);
 }
 
 UITableView UITableViewControllerState::tableView() const {
@@ -57,15 +56,15 @@ UITableView UITableViewControllerState::tableView() const {
 }
 
 void UITableViewControllerState::setTableView(UITableView table) {
-  send<void, "setView:">(self(), table);
+  self().setView(table);
 }
 
 void UITableViewControllerState::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
   if (!_clearsSelection) return;
   const UITableView table = tableView();
-  const auto selected = send<NSIndexPath, "indexPathForSelectedRow">(table);
-  if (selected) send<void, "deselectRowAtIndexPath:animated:">(table, selected, animated);
+  const auto selected = table.indexPathForSelectedRow();
+  if (selected) table.deselectRow(selected, UIViewController::Animated{animated});
 }
 
 }  // namespace desktop::uikit

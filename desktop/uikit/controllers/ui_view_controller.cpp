@@ -91,7 +91,7 @@ UIViewControllerState::~UIViewControllerState() {
 }
 
 UIViewController UIViewControllerState::init() {
-  return send<UIViewController, "initWithNibName:bundle:">(self(), NSString(), Object());
+  return initWith<"initWithNibName:bundle:">(self(), NSString(), Object());
 }
 
 // There are no nibs.
@@ -101,16 +101,16 @@ UIViewController UIViewControllerState::initWithNib(NSString, Object) const {
 
 UIView UIViewControllerState::view() {
   if (_view) return _view;
-  send<void, "loadView">(self());
+  self().loadView();
   if (!_view) loadView();
-  send<void, "viewDidLoad">(self());
+  self().viewDidLoad();
   return _view;
 }
 
 void UIViewControllerState::loadView() {
   const auto made = bridge::makeView<UIView>(rectOfSize(screen().size));
   made->setAutoresizingMask(flexibleWidth | flexibleHeight);
-  send<void, "setView:">(self(), made.get());
+  self().setView(made.get());
 }
 
 void UIViewControllerState::setView(UIView view) {
@@ -130,15 +130,15 @@ UIResponder UIViewControllerState::nextResponder() const {
 
 // The items follow the title until they are given one of their own.
 void UIViewControllerState::setTitle(NSString title) {
-  _title = Owned<NSString>::adopt(send<NSString, "copy">(title));
+  _title = copy(title);
   if (_navigationItem) _navigationItem->setTitle(title);
-  send<void, "setTitle:">(_tabBarItem.get(), title);
+  UIBarItem(_tabBarItem->get()).setTitle(title);
 }
 
 UINavigationItem UIViewControllerState::navigationItem() {
   if (!_navigationItem)
-    _navigationItem = Owned<UINavigationItem>::adopt(send<UINavigationItem, "initWithTitle:">(
-        send<id, "alloc">(UINavigationItemState::classObject()), _title.get()));
+    _navigationItem = makeWith<UINavigationItem, "initWithTitle:">(
+        UINavigationItemState::classObject(), _title.get());
   return _navigationItem;
 }
 
@@ -156,7 +156,7 @@ void UIViewControllerState::setEditing(bool editing, bool) {
 }
 
 void UIViewControllerState::setEditingAtOnce(bool editing) {
-  send<void, "setEditing:animated:">(self(), editing, false);
+  self().setEditing(editing, false);
 }
 
 NSArray UIViewControllerState::toolbarItemsArray() const {

@@ -38,7 +38,7 @@ void UIViewControllerState::addChild(UIViewController child) {
   if (!child || root() == child) return;
   const auto kept = Owned<UIViewController>::retain(child);
   if (of(child.get())._parent) of(child.get()).removeFromParent();
-  send<void, "willMoveToParentViewController:">(child, me);
+  child.willMoveToParent(me);
   _children.push_back(kept);
   of(child.get())._parent = me;
 }
@@ -57,20 +57,20 @@ void UIViewControllerState::setChildren(const std::vector<Owned<UIViewController
     UIViewControllerState& state = of(child.get());
     if (state._parent == me) continue;
     state.removeFromParent();
-    send<void, "willMoveToParentViewController:">(child.get(), me);
+    child->willMoveToParent(me);
     state._parent = me;
   }
   const auto before = std::exchange(_children, children);
   for (const auto& child : children) {
     const bool isNew =
         std::ranges::none_of(before, [&](const auto& known) { return known.get() == child.get(); });
-    if (isNew) send<void, "didMoveToParentViewController:">(child.get(), me);
+    if (isNew) child->didMoveToParent(me);
   }
 }
 
 void UIViewControllerState::leftParent() {
   _parent = {};
-  send<void, "didMoveToParentViewController:">(self(), UIViewController());
+  self().didMoveToParent(UIViewController());
 }
 
 void UIViewControllerState::beginAppearance(bool comes, bool animated) {
@@ -82,9 +82,9 @@ void UIViewControllerState::beginAppearance(bool comes, bool animated) {
   _appearance = comes ? Appearance::appearing : Appearance::disappearing;
   if (comes) {
     view();
-    send<void, "viewWillAppear:">(self(), animated);
+    self().viewWillAppear(animated);
   } else {
-    send<void, "viewWillDisappear:">(self(), animated);
+    self().viewWillDisappear(animated);
   }
   for (const auto& child : shownChildren()) of(child.get()).beginAppearance(comes, animated);
 }
@@ -92,10 +92,10 @@ void UIViewControllerState::beginAppearance(bool comes, bool animated) {
 void UIViewControllerState::endAppearance() {
   if (_appearance == Appearance::appearing) {
     _appearance = Appearance::shown;
-    send<void, "viewDidAppear:">(self(), _isTransitionAnimated);
+    self().viewDidAppear(_isTransitionAnimated);
   } else if (_appearance == Appearance::disappearing) {
     _appearance = Appearance::gone;
-    send<void, "viewDidDisappear:">(self(), _isTransitionAnimated);
+    self().viewDidDisappear(_isTransitionAnimated);
   } else {
     return;
   }
@@ -103,16 +103,14 @@ void UIViewControllerState::endAppearance() {
 }
 
 void UIViewControllerState::becomeSize(CGSize size) {
-  send<void, "viewWillTransitionToSize:withTransitionCoordinator:">(self(), size, Object());
+  self().viewWillTransition(size, Object());
   if (const auto above = presented()) of(above.get()).becomeSize(size);
 }
 
 // There is no coordinator: sizes change at once.
 void UIViewControllerState::viewWillTransition(CGSize size, Object coordinator) {
   const auto children = _children;
-  for (const auto& child : children)
-    send<void, "viewWillTransitionToSize:withTransitionCoordinator:">(child.get(), size,
-                                                                      coordinator);
+  for (const auto& child : children) child->viewWillTransition(size, coordinator);
 }
 
 std::vector<Owned<UIViewController>> UIViewControllerState::shownChildren() const {

@@ -7,6 +7,7 @@
 #include "bridge/block.h"
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/controllers/presentation.h"
 #include "desktop/uikit/controllers/transition_view.h"
@@ -23,19 +24,19 @@ constexpr Seconds slideTime = 0.4;
 bool coversAll(UIViewController controller) {
   constexpr NSInteger currentContext = 3;
   constexpr NSInteger overCurrentContext = 6;
-  const auto style = send<NSInteger, "modalPresentationStyle">(controller);
+  const auto style = controller.modalPresentationStyle();
   return style <= currentContext || style > overCurrentContext;
 }
 
 // Runs the change to the shown or hidden state, over time or at once.
 void move(UIViewController controller, bool shown, bool animated,
           const std::function<void()>& finished) {
-  const auto change = [controller, shown] { send<void, "_showPresented:">(controller, shown); };
+  const auto change = [controller, shown] { showPresented(controller, shown); };
   if (!animated) {
     change();
     return finished();
   }
-  const auto duration = send<Seconds, "_presentationDuration">(controller);
+  const auto duration = presentationDuration(controller);
   animator().animate(duration, 0, AnimationCurve::easeInOut, change,
                      [finished](bool) { finished(); });
 }
@@ -78,8 +79,8 @@ void UIViewControllerState::present(UIViewController controller, bool animated,
     view.setFrame(presentation->container->bounds());
     view.setAutoresizingMask(flexibleWidth | flexibleHeight);
     presentation->container->addSubview(view);
-    send<void, "layoutIfNeeded">(presentation->container.get());
-    send<void, "_showPresented:">(controller, false);
+    presentation->container.get().layoutIfNeeded();
+    uikit::showPresented(controller, false);
   });
   const auto done = Block<void()>::retain(completion);
   move(controller, true, animated,

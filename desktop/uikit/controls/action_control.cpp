@@ -31,8 +31,7 @@ UIView ActionControl::initWithFrame(CGRect frame) {
 }
 
 Owned<UIControl> ActionControl::make(const Look& look, std::function<void()> action) {
-  auto made = Owned<UIControl>::adopt(
-      send<UIControl, "init">(send<id, "alloc">(ActionControl::classObject())));
+  auto made = makeNew<UIControl>(ActionControl::classObject());
   ActionControl& control = of(made.get());
   control._action = std::move(action);
   control._color = look.color;
@@ -51,13 +50,13 @@ void ActionControl::layoutSubviews() {
 }
 
 CGSize ActionControl::sizeThatFits(CGSize size) const {
-  const CGSize text = send<CGSize, "sizeThatFits:">(_label.get(), size);
+  const CGSize text = _label->sizeThatFits(size);
   return {text.width + 2 * _margin, text.height};
 }
 
-void ActionControl::setHighlighted(bool highlighted) {
-  super<void, "setHighlighted:">(highlighted);
-  self().setBackgroundColor(UIColorState::make(highlighted ? _pressedBackground : colors::clear));
+void ActionControl::setHighlighted(bool isHighlighted) {
+  super<void, "setHighlighted:">(isHighlighted);
+  self().setBackgroundColor(UIColorState::make(isHighlighted ? _pressedBackground : colors::clear));
 }
 
 void ActionControl::setEnabled(bool enabled) {

@@ -65,7 +65,7 @@ Class UIButtonState::classObject() {
 }
 
 UIButton UIButtonState::withType(NSInteger type) {
-  auto made = Owned<UIButton>::adopt(send<UIButton, "new">(classObject()));
+  auto made = makeNew<UIButton>(classObject());
   UIButtonState& button = of(made.get());
   button._type = type >= custom && type <= contactAdd ? static_cast<Type>(type) : custom;
   if (button.hasSymbol()) made->setFrame({{0, 0}, symbolSize});
@@ -94,7 +94,7 @@ void UIButtonState::setValue(ByState<T>& values, T value, NSUInteger state) {
 
 // A title of its own, which a text that is changed later does not reach.
 void UIButtonState::setTitle(NSString title, NSUInteger state) {
-  const auto copied = Owned<NSString>::adopt(send<NSString, "copy">(title));
+  const auto copied = copy(title);
   setValue(_titles, copied.get(), state);
 }
 
@@ -219,7 +219,7 @@ CGSize UIButtonState::imageSize() const {
 CGSize UIButtonState::titleSize() const {
   constexpr CGSize anySize{10'000, 10'000};
   if (!_titleLabel) return {};
-  const auto size = send<CGSize, "sizeThatFits:">(_titleLabel.get(), anySize);
+  const auto size = _titleLabel->sizeThatFits(anySize);
   return {std::ceil(size.width), std::ceil(size.height)};
 }
 

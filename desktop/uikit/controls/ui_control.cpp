@@ -30,8 +30,8 @@ UITouch touchOf(NSSet touches) {
 
 // The first on the way up from a view that answers the action.
 NSObject whoAnswers(SEL action, UIResponder from) {
-  for (; from; from = send<UIResponder, "nextResponder">(from))
-    if (send<bool, "respondsToSelector:">(from, action)) return from;
+  for (; from; from = from.nextResponder())
+    if (respondsTo(from, action)) return from;
   return {};
 }
 
@@ -110,8 +110,7 @@ void UIControlState::sendActionsWithEvent(NSUInteger events, UIEvent event) {
       return known.target == target.target && (known.events & events) != 0 &&
              sameSelector(known.action, target.action);
     });
-    if (isStillThere)
-      send<void, "sendAction:to:forEvent:">(self(), target.action, target.target, event);
+    if (isStillThere) self().sendAction(target.action, target.target, event);
   }
 }
 
@@ -122,10 +121,10 @@ void UIControlState::sendAction(SEL action, NSObject target, UIEvent event) {
 }
 
 NSSet UIControlState::allTargets() const {
-  const auto all = send<NSSet, "set">(objc_getClass("NSMutableSet"));
+  auto all = makeNew<NSMutableSet>();
   for (const Target& known : _targets)
-    if (known.target) send<void, "addObject:">(all, known.target);
-  return all;
+    if (known.target) all->add(known.target);
+  return all.autorelease();
 }
 
 NSUInteger UIControlState::allControlEvents() const {
@@ -156,7 +155,7 @@ void UIControlState::setEnabled(bool enabled) {
   setBit(disabled, !enabled);
   if (!enabled && _isTracking) {
     stopTracking();
-    send<void, "cancelTrackingWithEvent:">(self(), UIEvent());
+    self().cancelTracking(UIEvent());
   }
 }
 
@@ -175,16 +174,16 @@ bool UIControlState::isNear(UITouch touch) const {
 void UIControlState::stopTracking() {
   _isTracking = false;
   _isTouchInside = false;
-  send<void, "setHighlighted:">(self(), false);
+  self().setHighlighted(false);
 }
 
 void UIControlState::touchesBegan(NSSet touches, UIEvent event) {
   const UITouch touch = touchOf(touches);
   if (!isEnabled() || !touch) return;
-  _isTracking = send<bool, "beginTrackingWithTouch:withEvent:">(self(), touch, event);
+  _isTracking = self().beginTracking(touch, event);
   if (!_isTracking) return;
   _isTouchInside = true;
-  send<void, "setHighlighted:">(self(), true);
+  self().setHighlighted(true);
   const bool isRepeated = UITouchState::of(touch.get()).tapCount() > 1;
   sendActionsWithEvent(isRepeated ? touchDown | touchDownRepeat : touchDown, event);
 }
@@ -196,9 +195,8 @@ void UIControlState::touchesMoved(NSSet touches, UIEvent event) {
   if (!window()) return stopTracking();
   const bool wasInside = _isTouchInside;
   _isTouchInside = isNear(touch);
-  if (!send<bool, "continueTrackingWithTouch:withEvent:">(self(), touch, event))
-    return stopTracking();
-  send<void, "setHighlighted:">(self(), _isTouchInside);
+  if (!self().continueTracking(touch, event)) return stopTracking();
+  self().setHighlighted(_isTouchInside);
   if (_isTouchInside != wasInside)
     sendActionsWithEvent(wasInside ? touchDragExit : touchDragEnter, event);
   sendActionsWithEvent(_isTouchInside ? touchDragInside : touchDragOutside, event);
@@ -210,7 +208,7 @@ void UIControlState::touchesEnded(NSSet touches, UIEvent event) {
   const bool isInside = isNear(touch);
   stopTracking();
   if (!window()) return;
-  send<void, "endTrackingWithTouch:withEvent:">(self(), touch, event);
+  self().endTracking(touch, event);
   sendActionsWithEvent(isInside ? touchUpInside : touchUpOutside, event);
 }
 
@@ -218,7 +216,7 @@ void UIControlState::touchesCancelled(NSSet, UIEvent event) {
   if (!_isTracking) return;
   stopTracking();
   if (!window()) return;
-  send<void, "cancelTrackingWithEvent:">(self(), event);
+  self().cancelTracking(event);
   sendActionsWithEvent(touchCancel, event);
 }
 

@@ -15,7 +15,7 @@ Class UITextPositionState::classObject() {
 }
 
 UITextPosition UITextPositionState::make(std::size_t offset) {
-  auto made = Owned<UITextPosition>::adopt(send<UITextPosition, "new">(classObject()));
+  auto made = makeNew<UITextPosition>(classObject());
   if (made) of(made.get())._offset = offset;
   return made.autorelease();
 }
@@ -40,7 +40,7 @@ Class UITextRangeState::classObject() {
 }
 
 UITextRange UITextRangeState::make(NSRange range) {
-  auto made = Owned<UITextRange>::adopt(send<UITextRange, "new">(classObject()));
+  auto made = makeNew<UITextRange>(classObject());
   if (made) of(made.get())._range = range;
   return made.autorelease();
 }

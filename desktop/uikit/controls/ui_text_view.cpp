@@ -96,7 +96,7 @@ void UITextViewState::show(AttributedText text) {
 
 void UITextViewState::setText(NSString text) {
   if (!text) text = NSString::make("");
-  _string = Owned<NSString>::adopt(send<NSString, "copy">(text));
+  _string = copy(text);
   AttributedText plain = AttributedText::plain(utf16Of(_string), _look.face, _look.style);
   plain.runs[0].color = _look.color;
   show(std::move(plain));
@@ -104,8 +104,8 @@ void UITextViewState::setText(NSString text) {
 }
 
 void UITextViewState::setAttributedText(NSAttributedString text) {
-  const auto string = send<NSString, "string">(text);
-  _string = Owned<NSString>::adopt(send<NSString, "copy">(string ? string : NSString::make("")));
+  const auto string = text.string();
+  _string = copy(string ? string : NSString::make(""));
   AttributedText attributed = AttributedText::of(text, standardFace);
   // Paragraphs without an alignment of their own stand as the view says.
   for (TextRun& run : attributed.runs)
@@ -217,7 +217,7 @@ void UITextViewState::layoutSubviews() {
   updateContentSize();
   CGPoint offset = seen.origin;
   if (shift != 0) offset = clamped({offset.x, offset.y + shift});
-  if (offset != seen.origin) send<void, "setContentOffset:">(self(), offset);
+  if (offset != seen.origin) self().setContentOffset(offset);
   setNeedsDisplay();
 }
 
@@ -231,7 +231,7 @@ CGRect UITextViewState::caretAt(std::size_t index) {
 
 void UITextViewState::scrollRangeToVisible(NSRange range) {
   const CGRect first = caretAt(range.location);
-  send<void, "scrollRectToVisible:animated:">(self(), first, false);
+  self().scrollRectToVisible(first, false);
 }
 
 void UITextViewState::drawContent(Canvas* canvas) {

@@ -3,6 +3,7 @@
 // What of a text view is selected, and what can be done with it.
 #include <algorithm>
 
+#include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/base/outside.h"
 #include "desktop/uikit/controls/ui_text_position.h"
 #include "desktop/uikit/controls/ui_text_view.h"
@@ -34,9 +35,7 @@ void UITextViewState::select(std::optional<NSRange> range) {
   if (range == _selection) return;
   _selection = range;
   setNeedsDisplay();
-  const NSObject delegate = UIScrollViewState::of(self()).delegate();
-  if (respondsTo<"textViewDidChangeSelection:">(delegate))
-    send<void, "textViewDidChangeSelection:">(delegate, self());
+  told<"textViewDidChangeSelection:">(delegate(), self());
 }
 
 void UITextViewState::setSelectedRange(NSRange range) {
@@ -99,7 +98,7 @@ CGRect UITextViewState::caretRect(UITextPosition position) {
 void UITextViewState::selectAll(NSObject sender) {
   if (!_isSelectable) return;
   select(NSRange{0, _text->text.size()});
-  send<bool, "becomeFirstResponder">(self());
+  self().becomeFirstResponder();
   if (isKindOf(sender, UIMenuController::classObject())) showMenu();
 }
 

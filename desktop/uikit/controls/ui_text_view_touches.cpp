@@ -16,9 +16,8 @@ constexpr CGFloat reach = 20;  // points around an end that take hold of it
 // A recogniser of a class, which the view owns; borrowed from it.
 template <FixedString ClassName, FixedString Action>
 UIGestureRecognizer addRecognizer(UIView view) {
-  const auto made =
-      Owned<UIGestureRecognizer>::adopt(send<UIGestureRecognizer, "initWithTarget:action:">(
-          send<id, "alloc">(classNamed<ClassName>()), view, selector<Action>()));
+  const auto made = makeWith<UIGestureRecognizer, "initWithTarget:action:">(
+      classNamed<ClassName>(), view, selector<Action>());
   made->setDelegate(view);
   view.addGestureRecognizer(made);
   return made;
@@ -35,8 +34,8 @@ bool isOver(UIGestureRecognizer recognizer) {
 }
 
 void hideMenu() {
-  const auto menu = send<UIMenuController, "sharedMenuController">(UIMenuController::classObject());
-  send<void, "setMenuVisible:animated:">(menu, false, true);
+  const auto menu = UIMenuController::shared();
+  menu.setMenuVisible(false, true);
 }
 
 }  // namespace
@@ -45,7 +44,7 @@ void UITextViewState::addGestures() {
   const UIView view = self();
   _press = addRecognizer<"UILongPressGestureRecognizer", "textPressed:">(view);
   _handle = addRecognizer<"UILongPressGestureRecognizer", "selectionEndDragged:">(view);
-  send<void, "setMinimumPressDuration:">(_handle, 0.0);
+  UILongPressGestureRecognizer(_handle.get()).setMinimumPressDuration(0);
   _tap = addRecognizer<"UITapGestureRecognizer", "textTapped:">(view);
 }
 
@@ -76,7 +75,7 @@ void UITextViewState::pressed(UIGestureRecognizer recognizer) {
   if (recognizer.state() == UIGestureRecognizer::began) {
     hideMenu();
     _pressed = word;
-    send<bool, "becomeFirstResponder">(self());
+    self().becomeFirstResponder();
   }
   if (recognizer.state() != UIGestureRecognizer::cancelled)
     selectBetween(std::min(word.location, _pressed.location),
@@ -99,7 +98,7 @@ void UITextViewState::dragged(UIGestureRecognizer recognizer) {
     const bool isFirst = distance(point, caretAt(range.location)) < distance(point, caretAt(end));
     _fixedEnd = isFirst ? end : range.location;
     hideMenu();
-    send<bool, "becomeFirstResponder">(self());
+    self().becomeFirstResponder();
     return;
   }
   const std::size_t index = indexAt(point);
@@ -112,9 +111,9 @@ void UITextViewState::showMenu() {
   CGRect target = rects.empty() ? CGRect{bounds().origin, {1, 1}} : rects[0];
   for (const CGRect& rect : rects) target = unionOf(target, rect);
   target = intersection(target, bounds());
-  const auto menu = send<UIMenuController, "sharedMenuController">(UIMenuController::classObject());
-  send<void, "setTargetRect:inView:">(menu, target, self());
-  send<void, "setMenuVisible:animated:">(menu, true, true);
+  const auto menu = UIMenuController::shared();
+  menu.setTargetRect(target, self());
+  menu.setMenuVisible(true, true);
 }
 
 }  // namespace desktop::uikit

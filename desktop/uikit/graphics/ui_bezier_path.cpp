@@ -21,7 +21,7 @@ Class UIBezierPathState::classObject() {
 }
 
 UIBezierPath UIBezierPathState::make(Path path) {
-  auto made = Owned<UIBezierPath>::adopt(send<UIBezierPath, "new">(classObject()));
+  auto made = makeNew<UIBezierPath>(classObject());
   if (made) of(made.get())._path = std::move(path);
   return made.autorelease();
 }

@@ -53,7 +53,7 @@ Class UIColorState::classObject() {
 }
 
 UIColor UIColorState::make(Color color) {
-  auto made = Owned<UIColor>::adopt(send<UIColor, "new">(classObject()));
+  auto made = makeNew<UIColor>(classObject());
   if (made)
     of(made.get())._value = {unit(color.red), unit(color.green), unit(color.blue),
                              unit(color.alpha)};

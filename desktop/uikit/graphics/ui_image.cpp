@@ -19,7 +19,7 @@ Class UIImageState::classObject() {
 }
 
 UIImage UIImageState::make(SharedBitmap bitmap, CGFloat scale) {
-  auto image = Owned<UIImage>::adopt(send<UIImage, "new">(classObject()));
+  auto image = makeNew<UIImage>(classObject());
   UIImageState& state = of(image.get());
   state._bitmap = std::move(bitmap);
   if (scale > 0 && std::isfinite(scale)) state._scale = scale;

@@ -11,13 +11,13 @@ constexpr NSUInteger largestIndex = std::numeric_limits<NSInteger>::max();
 
 id pathOf(NSInteger first, NSInteger second) {
   const NSUInteger indexes[] = {static_cast<NSUInteger>(first), static_cast<NSUInteger>(second)};
-  return send<id, "indexPathWithIndexes:length:">(
-      NSIndexPath::classObject(), static_cast<const NSUInteger*>(indexes), NSUInteger{2});
+  return NSIndexPath::of(indexes, 2).get();
 }
 
 NSInteger indexAt(id path, NSUInteger position) {
-  if (send<NSUInteger, "length">(path) <= position) return NSNotFound;
-  const auto index = send<NSUInteger, "indexAtPosition:">(path, position);
+  const NSIndexPath places(path);
+  if (places.length() <= position) return NSNotFound;
+  const auto index = places.at(position);
   return static_cast<NSInteger>(std::min(index, largestIndex));
 }
 
@@ -47,7 +47,7 @@ NSIndexPath indexPathOf(ItemPath path) {
 
 std::optional<ItemPath> itemPathOf(Object path) {
   const auto indices = as<NSIndexPath>(path);
-  if (send<NSUInteger, "length">(indices) < 2) return {};
+  if (indices.length() < 2) return {};
   return ItemPath{indexAt(path.get(), 0), indexAt(path.get(), 1)};
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
@@ -26,7 +27,7 @@ Owned<UIView> ReusePool::take(const std::string& identifier) {
 
 UIView ReusePool::dequeue(const std::string& identifier, const Make& make) {
   if (auto waiting = take(identifier)) {
-    send<void, "prepareForReuse">(waiting);
+    prepareForReuse(waiting);
     return waiting.autorelease();
   }
   const auto registered = _classes.find(identifier);

@@ -18,8 +18,7 @@ Class UICollectionReusableViewState::classObject() {
 
 Owned<UIView> UICollectionReusableViewState::make(Class aClass, NSString reuseIdentifier,
                                                   std::string poolKey, CGRect frame) {
-  const auto made =
-      Owned<Object>::adopt(send<Object, "initWithFrame:">(send<id, "alloc">(aClass), frame));
+  const auto made = makeWith<Object, "initWithFrame:">(aClass, frame);
   const auto view = as<UICollectionReusableView>(made.get());
   if (!view) return {};
   of(view)._reuseIdentifier = Owned<NSString>::retain(reuseIdentifier);

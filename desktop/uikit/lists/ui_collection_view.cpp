@@ -102,8 +102,7 @@ Class UICollectionViewState::classObject() {
 }
 
 UIView UICollectionViewState::initWithFrame(CGRect frame) {
-  return send<UIView, "initWithFrame:collectionViewLayout:">(self(), frame,
-                                                             UICollectionViewLayout());
+  return initWith<"initWithFrame:collectionViewLayout:">(self(), frame, UICollectionViewLayout());
 }
 
 UIView UICollectionViewState::initWithFrameAndLayout(CGRect frame, UICollectionViewLayout layout) {
@@ -127,7 +126,7 @@ void UICollectionViewState::setCollectionViewLayout(UICollectionViewLayout layou
 }
 
 void UICollectionViewState::setCollectionViewLayoutAnimated(UICollectionViewLayout layout, bool) {
-  send<void, "setCollectionViewLayout:">(self(), layout);
+  self().setCollectionViewLayout(layout);
 }
 
 void UICollectionViewState::setBackgroundView(UIView view) {
@@ -197,7 +196,7 @@ void UICollectionViewState::scrollToItem(NSIndexPath path, NSUInteger position, 
   if (const auto where = shownAt(position, top, centeredVertically, bottom))
     offset.y = offsetShowing(origin.y, size.height,
                              {offset.y, seen.size.height, insets.top, insets.bottom}, *where);
-  send<void, "setContentOffset:animated:">(self(), clamped(offset), animated);
+  self().setContentOffset(clamped(offset), animated);
 }
 
 // Views come and go.

@@ -71,8 +71,8 @@ void UICollectionViewCellState::showSelection() const {
 
 void UICollectionViewCellState::prepareForReuse() {
   super<void, "prepareForReuse">();
-  send<void, "setSelected:">(self(), false);
-  send<void, "setHighlighted:">(self(), false);
+  self().setSelected(false);
+  self().setHighlighted(false);
 }
 
 void UICollectionViewCellState::layoutSubviews() {

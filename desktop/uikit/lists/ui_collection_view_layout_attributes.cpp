@@ -94,8 +94,8 @@ NSString UICollectionViewLayoutAttributesState::elementKind() const {
 
 Object UICollectionViewLayoutAttributesState::copyWithZone(void*) const {
   const Class own = object_getClass(self().get());
-  const auto made = send<Object, "init">(send<id, "alloc">(own));
-  UICollectionViewLayoutAttributesState& copy = of(made);
+  auto made = makeNew<UICollectionViewLayoutAttributes>(own);
+  UICollectionViewLayoutAttributesState& copy = of(made.get());
   copy._path = _path;
   copy._kind = _kind;
   copy._center = _center;
@@ -104,7 +104,7 @@ Object UICollectionViewLayoutAttributesState::copyWithZone(void*) const {
   copy._transform = _transform;
   copy._zIndex = _zIndex;
   copy._isHidden = _isHidden;
-  return made;
+  return made.detach();
 }
 
 bool UICollectionViewLayoutAttributesState::isEqual(Object other) const {

@@ -106,7 +106,7 @@ Class UITableViewState::classObject() {
 }
 
 UIView UITableViewState::initWithFrame(CGRect frame) {
-  return send<UIView, "initWithFrame:style:">(self(), frame, NSInteger{plain});
+  return initWith<"initWithFrame:style:">(self(), frame, NSInteger{plain});
 }
 
 UITableView UITableViewState::initWithFrameAndStyle(CGRect frame, NSInteger style) {
@@ -251,7 +251,7 @@ void UITableViewState::scrollToRow(NSIndexPath path, NSInteger position, bool an
   if (const auto where = shownAt(position))
     offset.y = offsetShowing(row.top, row.height,
                              {seen.top, seen.height, insets.top, insets.bottom}, *where);
-  send<void, "setContentOffset:animated:">(self(), clamped(offset), animated);
+  self().setContentOffset(clamped(offset), animated);
 }
 
 // Cells and titles come and go.
@@ -301,8 +301,8 @@ void UITableViewState::showRow(ItemPath path, CGRect frame) {
   animator().withoutAnimation([&] {
     cell->setFrame(frame);
     styleCell(cell, path);
-    send<void, "setSelected:animated:">(cell, _selected == path, false);
-    send<void, "setHighlighted:animated:">(cell, _press.isOn(path), false);
+    cell->setSelected(_selected == path, false);
+    cell->setHighlighted(_press.isOn(path), false);
     TableCells::insert(cell, *this);
     UIViewState::of(cell.get()).setNeedsLayout();
   });
@@ -453,12 +453,11 @@ void UITableViewState::setSelected(std::optional<ItemPath> path, bool animated) 
   const auto before = std::exchange(_selected, path);
   for (const auto& changed : {before, path})
     if (const auto cell = changed ? _cells.at(*changed) : UITableViewCell())
-      send<void, "setSelected:animated:">(cell, _selected == changed, animated);
+      cell.setSelected(_selected == changed, animated);
 }
 
 void UITableViewState::highlight(ItemPath path, bool isHighlighted) const {
-  if (const auto cell = _cells.at(path))
-    send<void, "setHighlighted:animated:">(cell, isHighlighted, false);
+  if (const auto cell = _cells.at(path)) cell.setHighlighted(isHighlighted, false);
 }
 
 }  // namespace desktop::uikit

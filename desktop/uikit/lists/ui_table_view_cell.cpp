@@ -37,17 +37,16 @@ CGSize wishOf(UILabel label) {
   constexpr CGFloat plenty = 100'000;
   const NSUInteger length = label.text().length();
   if (length == 0) return {};
-  const FontFace face = UIFontState::faceOf(send<UIFont, "font">(label));
+  const FontFace face = UIFontState::faceOf(UILabel(label.get()).font());
   const CGFloat height = std::ceil(2 * measuresOf(face).lineHeight()) / 2;
   if (length > longText) return {plenty, height};
-  const CGSize wanted = send<CGSize, "sizeThatFits:">(label, CGSize{plenty, plenty});
+  const CGSize wanted = label.sizeThatFits(CGSize{plenty, plenty});
   return {wanted.width, height};
 }
 
 // A picture higher than its row is shown smaller.
-CGSize wishOf(UIView imageView, CGFloat height) {
-  const auto image = send<UIImage, "image">(imageView);
-  const CGSize size = send<CGSize, "size">(image);
+CGSize wishOf(UIImageView imageView, CGFloat height) {
+  const CGSize size = imageView.image().size();
   if (isEmpty(rectOfSize(size))) return {};
   const CGFloat scale = std::min(1.0, height / size.height);
   return {size.width * scale, size.height * scale};
@@ -103,8 +102,8 @@ Class UITableViewCellState::classObject() {
 }
 
 Owned<UITableViewCell> UITableViewCellState::make(Class aClass, NSString identifier) {
-  const auto made = Owned<Object>::adopt(send<Object, "initWithStyle:reuseIdentifier:">(
-      send<id, "alloc">(aClass), NSInteger{plain}, identifier));
+  const auto made =
+      makeWith<Object, "initWithStyle:reuseIdentifier:">(aClass, NSInteger{plain}, identifier);
   return Owned<UITableViewCell>::retain(as<UITableViewCell>(made.get()));
 }
 
@@ -117,7 +116,7 @@ UIView UITableViewCellState::initWithFrame(CGRect frame) {
 }
 
 UITableViewCell UITableViewCellState::initWithStyle(NSInteger style, NSString reuseIdentifier) {
-  const auto made = send<UITableViewCell, "initWithFrame:">(self(), startFrame);
+  const auto made = initWith<"initWithFrame:">(self(), startFrame);
   if (!made) return {};
   _style = style;
   _reuseIdentifier = Owned<NSString>::retain(reuseIdentifier);
@@ -185,7 +184,7 @@ void UITableViewCellState::setSeparators(const RowSeparators& separators) {
 }
 
 void UITableViewCellState::setSelectedAtOnce(bool selected) {
-  send<void, "setSelected:animated:">(self(), selected, false);
+  self().setSelected(selected, false);
 }
 
 void UITableViewCellState::setSelected(bool selected, bool) {
@@ -195,7 +194,7 @@ void UITableViewCellState::setSelected(bool selected, bool) {
 }
 
 void UITableViewCellState::setHighlightedAtOnce(bool highlighted) {
-  send<void, "setHighlighted:animated:">(self(), highlighted, false);
+  self().setHighlighted(highlighted, false);
 }
 
 void UITableViewCellState::setHighlighted(bool highlighted, bool) {
@@ -205,8 +204,8 @@ void UITableViewCellState::setHighlighted(bool highlighted, bool) {
 }
 
 void UITableViewCellState::prepareForReuse() {
-  send<void, "setSelected:animated:">(self(), false, false);
-  send<void, "setHighlighted:animated:">(self(), false, false);
+  self().setSelected(false, false);
+  self().setHighlighted(false, false);
 }
 
 // The room that an accessory takes from the content, with the gap before it.

@@ -41,7 +41,7 @@ UIView UITableViewHeaderFooterView::initWithFrame(CGRect frame) {
 }
 
 UIView UITableViewHeaderFooterView::make(NSString title, Place place, bool isGrouped) {
-  auto made = Owned<UIView>::adopt(send<UIView, "init">(send<id, "alloc">(classObject())));
+  auto made = makeNew<UIView>(classObject());
   of(made.get()).show(title, place, isGrouped);
   return made.autorelease();
 }
@@ -50,7 +50,7 @@ void UITableViewHeaderFooterView::show(NSString title, Place place, bool isGroup
   _place = place;
   _isGrouped = isGrouped;
   const bool isUpper = isGrouped && place == Place::header;
-  _textLabel->setText(isUpper ? send<NSString, "uppercaseString">(title) : title);
+  _textLabel->setText(isUpper ? title.uppercased() : title);
   const auto weight = isGrouped ? FontWeight::regular : FontWeight::semibold;
   _textLabel->setFont(UIFontState::make({.weight = weight, .size = isGrouped ? 13.0 : 17.0}));
   _textLabel->setTextColor(UIColorState::make(isGrouped ? groupedText : colors::black));
@@ -60,7 +60,7 @@ void UITableViewHeaderFooterView::show(NSString title, Place place, bool isGroup
 
 CGSize UITableViewHeaderFooterView::textSize(CGFloat width) const {
   const CGSize room = {std::max(width - 2 * margin, 0.0), 10'000};
-  return send<CGSize, "sizeThatFits:">(_textLabel, room);
+  return _textLabel->sizeThatFits(room);
 }
 
 CGFloat UITableViewHeaderFooterView::heightOf(NSString title, Place place, bool isGrouped,

@@ -60,8 +60,8 @@ Owned<UIView> makeBox(UIView parent) {
 // An empty text keeps its line.
 CGFloat textHeight(UILabel label, CGFloat width) {
   const auto font = UILabelState::of(label.get()).font();
-  const CGFloat line = std::ceil(send<CGFloat, "lineHeight">(font));
-  return std::max(line, send<CGSize, "sizeThatFits:">(label, CGSize{width, 0}).height);
+  const CGFloat line = std::ceil(font.lineHeight());
+  return std::max(line, label.sizeThatFits(CGSize{width, 0}).height);
 }
 
 CGFloat hairline() {
@@ -82,14 +82,13 @@ Class AlertView::classObject() {
 AlertView::AlertView(id self) : Bound(self) {}
 
 Owned<UIView> AlertView::make(CGRect frame) {
-  return Owned<UIView>::adopt(
-      send<UIView, "initWithFrame:">(send<id, "alloc">(classObject()), frame));
+  return makeWith<UIView, "initWithFrame:">(classObject(), frame);
 }
 
 UIView AlertView::initWithFrame(CGRect frame) {
   const auto object = super<UIView, "initWithFrame:">(frame);
   _backdrop = plainView(self(), backdropColor);
-  send<void, "setUserInteractionEnabled:">(_backdrop.get(), false);
+  _backdrop->setUserInteractionEnabled(false);
   _box = makeBox(self());
   _cancelBox = makeBox(self());
   _text = Owned<UIView>::retain(bridge::makeView<UIScrollView>({}).get());
@@ -137,13 +136,13 @@ void AlertView::addButton(UIAlertAction action, bool isSemibold) {
       .color = state.style() == UIAlertActionState::destructive ? destructiveColor : colors::tint};
   const auto kept = Owned<UIAlertAction>::retain(action);
   const auto button = ActionControl::make(look, [this, kept] { _choose(kept); });
-  send<void, "setEnabled:">(button.get(), state.isEnabled());
+  button->setEnabled(state.isEnabled());
   const bool standsAlone = _isSheet && state.style() == UIAlertActionState::cancel;
   (standsAlone ? _cancelBox : _box)->addSubview(button);
   _buttons.push_back(button);
   _isCancel.push_back(standsAlone);
   _lines.push_back(plainView(standsAlone ? _cancelBox : _box, lineColor));
-  send<void, "setUserInteractionEnabled:">(_lines.back().get(), false);
+  _lines.back()->setUserInteractionEnabled(false);
 }
 
 // Answers the height of title and message with their margins; nothing takes no room at all.
@@ -169,7 +168,7 @@ CGFloat AlertView::layOutText(CGFloat width) const {
 bool AlertView::isSideBySide(CGFloat width) const {
   if (_isSheet || _buttons.size() != 2) return false;
   return std::ranges::all_of(_buttons, [width](const auto& button) {
-    return send<CGSize, "sizeThatFits:">(button.get(), CGSize{}).width <= width / 2;
+    return button->sizeThatFits(CGSize{}).width <= width / 2;
   });
 }
 
@@ -221,8 +220,8 @@ void AlertView::arrange() {
   const CGFloat y = _isSheet ? room.height - sheetMargin - below - height
                              : std::round((room.height - height) / 2);
   _backdrop->setFrame(rectOfSize(room));
-  send<void, "setBounds:">(_box.get(), CGRect{{}, {width, height}});
-  send<void, "setCenter:">(_box.get(), CGPoint{x + width / 2, y + height / 2});
+  _box->setBounds(CGRect{{}, {width, height}});
+  _box->setCenter(CGPoint{x + width / 2, y + height / 2});
   _cancelBox->setFrame({{x, room.height - sheetMargin - sheetButtonHeight},
                         {width, hasCancel ? sheetButtonHeight : 0}});
   _text->setFrame({{0, 0}, {width, shownText}});

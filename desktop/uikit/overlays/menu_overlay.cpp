@@ -44,8 +44,7 @@ MenuOverlay::~MenuOverlay() {
 
 UIView MenuOverlay::show(UIView window, std::vector<MenuCommand> commands, CGRect target,
                          Ends ends) {
-  const auto made = Owned<UIView>::adopt(
-      send<UIView, "initWithFrame:">(send<id, "alloc">(classObject()), window.bounds()));
+  const auto made = makeWith<UIView, "initWithFrame:">(classObject(), window.bounds());
   MenuOverlay& overlay = of(made.get());
   overlay._commands = std::move(commands);
   overlay._ends = std::move(ends);
@@ -71,8 +70,7 @@ void MenuOverlay::addButtons() {
 void MenuOverlay::arrange(CGRect target) {
   const CGSize room = self().bounds().size;
   CGFloat width = 0;
-  for (const auto& button : _buttons)
-    width += send<CGSize, "sizeThatFits:">(button.get(), room).width;
+  for (const auto& button : _buttons) width += button->sizeThatFits(room).width;
   const CGFloat height = buttonHeight + arrowHeight;
   const CGFloat mid = middle(target).x;
   const CGFloat left = std::max(edge, std::min(mid - width / 2, room.width - edge - width));
@@ -85,7 +83,7 @@ void MenuOverlay::arrange(CGRect target) {
   _arrow = std::max(left + reach, std::min(mid, right(_bubble) - reach));
   CGFloat x = left;
   for (const auto& button : _buttons) {
-    const CGFloat own = send<CGSize, "sizeThatFits:">(button.get(), room).width;
+    const CGFloat own = button->sizeThatFits(room).width;
     button->setFrame({{x, _pointsDown ? y : y + arrowHeight}, {own, buttonHeight}});
     x += own;
   }

@@ -22,7 +22,7 @@ UIAlertAction UIAlertActionState::make(NSString title, NSInteger style,
                                        const BlockHeader* handler) {
   auto made = makeNew<UIAlertAction>();
   UIAlertActionState& action = of(made.get());
-  action._title = Owned<NSString>::adopt(send<NSString, "copy">(title));
+  action._title = copy(title);
   action._style = style;
   action._handler = Block<void(UIAlertAction)>::retain(handler);
   return made.autorelease();

@@ -24,8 +24,7 @@ constexpr StandardCommand standardCommands[] = {
 UIResponder takerOf(SEL action) {
   UIResponder taker = UIResponderState::firstResponder();
   const auto sender = UIMenuControllerState::sharedMenuController();
-  while (taker && !send<bool, "canPerformAction:withSender:">(taker, action, sender))
-    taker = send<UIResponder, "nextResponder">(taker);
+  while (taker && !taker.canPerform(action, sender)) taker = taker.nextResponder();
   return taker;
 }
 
@@ -73,11 +72,10 @@ void UIMenuControllerState::show(std::vector<MenuCommand> commands, CGRect targe
   const UIView window = UIApplication::sharedApplication().keyWindow();
   if (commands.empty() || !window) return;
   if (!isFinite(targetOnScreen)) targetOnScreen = {};
-  const CGRect target = send<CGRect, "convertRect:fromView:">(window, targetOnScreen, UIView());
+  const CGRect target = window.convertFrom(targetOnScreen, UIView());
   _overlay = MenuOverlay::show(window, std::move(commands), target,
                                {[this] { _overlay = {}; }, std::move(hidden)});
-  _menuFrame = send<CGRect, "convertRect:toView:">(
-      window, MenuOverlay::of(_overlay.get()).bubbleFrame(), UIView());
+  _menuFrame = window.convertTo(MenuOverlay::of(_overlay.get()).bubbleFrame(), UIView());
 }
 
 void UIMenuControllerState::hide() {
@@ -97,7 +95,7 @@ void UIMenuControllerState::run(std::size_t index) {
 }
 
 void UIMenuControllerState::setTargetRect(CGRect rect, UIView view) {
-  _target = send<CGRect, "convertRect:toView:">(view, rect, UIView());
+  _target = view.convertTo(rect, UIView());
 }
 
 void UIMenuControllerState::setMenuVisible(bool visible, bool) {

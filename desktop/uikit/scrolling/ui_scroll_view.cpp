@@ -116,7 +116,7 @@ void UIScrollViewState::setContentOffset(CGPoint offset) {
 void UIScrollViewState::setContentOffsetAnimated(CGPoint offset, bool animated) {
   const CGPoint from = contentOffset();
   const bool isGoing = animated && window() && isFinite(offset) && offset != from;
-  if (!isGoing) return send<void, "setContentOffset:">(self(), offset);
+  if (!isGoing) return self().setContentOffset(offset);
   start(ScrollTravel::easing(from, offset, scrollTime));
 }
 
@@ -127,7 +127,7 @@ void UIScrollViewState::setContentSize(CGSize size) {
   _content.size = size;
   if (isDragging() || _travel) return;
   const CGPoint inside = clamped(contentOffset());
-  if (inside != contentOffset()) send<void, "setContentOffset:">(self(), inside);
+  if (inside != contentOffset()) self().setContentOffset(inside);
 }
 
 void UIScrollViewState::setContentInset(EdgeInsets insets) {
@@ -153,7 +153,7 @@ void UIScrollViewState::followInset(const EdgeInsets& before) {
   const EdgeInsets after = adjustedContentInset();
   const CGPoint offset = contentOffset();
   if (after != before && offset.y == -before.top)
-    send<void, "setContentOffset:">(self(), CGPoint{offset.x, -after.top});
+    self().setContentOffset(CGPoint{offset.x, -after.top});
 }
 
 void UIScrollViewState::setScrollEnabled(bool enabled) {
@@ -166,7 +166,7 @@ bool UIScrollViewState::scrollBy(CGPoint distance) {
   const CGPoint before = contentOffset();
   const CGPoint after = clamped(before + distance);
   if (!_isScrollEnabled || isDragging() || after == before) return false;
-  send<void, "setContentOffset:">(self(), after);
+  self().setContentOffset(after);
   showIndicators();
   return true;
 }
@@ -323,7 +323,7 @@ void UIScrollViewState::stop() {
 
 void UIScrollViewState::moveTo(CGPoint offset) {
   const bool wasMovingItself = std::exchange(_isMovingItself, true);
-  send<void, "setContentOffset:">(self(), offset);
+  self().setContentOffset(offset);
   _isMovingItself = wasMovingItself;
   showIndicators();
 }

@@ -41,13 +41,12 @@ AttributedText AttributedText::plain(std::u16string text, const FontFace& face,
 }
 
 AttributedText AttributedText::of(NSAttributedString text, const FontFace& face) {
-  AttributedText made = plain(utf16Of(send<NSString, "string">(text)), face);
+  AttributedText made = plain(utf16Of(text.string()), face);
   std::vector<TextRun> runs;
   for (std::size_t at = 0; at < made.text.size();) {
     const AutoreleasePool pool;
     NSRange range{};
-    const auto attributes =
-        send<NSDictionary, "attributesAtIndex:effectiveRange:">(text, NSUInteger{at}, &range);
+    const auto attributes = text.attributesAt(NSUInteger{at}, &range);
     const TextRun run = runOf(attributes, at, face);
     if (runs.empty() || !looksLike(runs.back(), run)) runs.push_back(run);
     at = std::max(at + 1, range.location + range.length);

@@ -10,9 +10,9 @@
 namespace desktop::uikit {
 namespace {
 
-NSObject newStyle(Class style, const ParagraphStyle& value) {
-  const auto made = send<NSObject, "new">(style);
-  if (made) NSParagraphStyleState::of(made).setValue(value);
+Owned<NSObject> newStyle(Class style, const ParagraphStyle& value) {
+  auto made = makeNew<NSObject>(style);
+  if (made) NSParagraphStyleState::of(made.get()).setValue(value);
   return made;
 }
 
@@ -58,15 +58,15 @@ ParagraphStyle NSParagraphStyleState::valueOf(Object style) {
 }
 
 NSObject NSParagraphStyleState::make(const ParagraphStyle& value) {
-  return Owned<NSObject>::adopt(newStyle(classObject(), value)).autorelease();
+  return newStyle(classObject(), value).autorelease();
 }
 
 Object NSParagraphStyleState::copyWithZone(void*) const {
-  return newStyle(classObject(), _value);
+  return newStyle(classObject(), _value).detach();
 }
 
 Object NSParagraphStyleState::mutableCopyWithZone(void*) const {
-  return newStyle(NSMutableParagraphStyleState::classObject(), _value);
+  return newStyle(NSMutableParagraphStyleState::classObject(), _value).detach();
 }
 
 bool NSParagraphStyleState::isEqual(Object other) const {

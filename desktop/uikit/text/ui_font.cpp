@@ -62,7 +62,7 @@ Class UIFontState::classObject() {
 }
 
 UIFont UIFontState::make(const FontFace& face) {
-  auto font = Owned<UIFont>::adopt(send<UIFont, "new">(classObject()));
+  auto font = makeNew<UIFont>(classObject());
   if (!font) return {};
   of(font.get())._face = face;
   if (!(std::isfinite(face.size) && face.size > 0)) of(font.get())._face.size = standardSize;

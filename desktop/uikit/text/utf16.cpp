@@ -29,16 +29,15 @@ std::u16string withoutLoneSurrogates(std::u16string_view text) {
 
 std::u16string utf16Of(NSString text) {
   std::u16string units(text.length(), u'\0');
-  auto* const start = reinterpret_cast<unsigned short*>(units.data());
-  send<void, "getCharacters:range:">(text, start, NSRange{0, units.size()});
+  text.getCharacters(units.data(), NSRange{0, units.size()});
   return units;
 }
 
 NSString stringOf(std::u16string_view units) {
   const std::u16string valid = withoutLoneSurrogates(units);
   const auto* const start = reinterpret_cast<const unsigned short*>(valid.data());
-  auto made = Owned<NSString>::adopt(send<NSString, "initWithCharacters:length:">(
-      send<id, "alloc">(NSString::classObject()), start, NSUInteger{valid.size()}));
+  auto made = makeWith<NSString, "initWithCharacters:length:">(NSString::classObject(), start,
+                                                               NSUInteger{valid.size()});
   return made.autorelease();
 }
 

@@ -12,6 +12,7 @@
 #include "bridge/uikit/ui_controllers.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/touch/touch_session.h"
 #include "desktop/uikit/touch/ui_event.h"
@@ -43,7 +44,7 @@ UIView TouchDispatcher::viewAt(CGPoint point, UIEvent event) const {
   const auto windows = UIApplication::sharedApplication().windows();
   for (NSUInteger index = windows.count(); index-- > 0;) {
     const UIView window(windows.at(index).get());
-    const auto hit = send<UIView, "hitTest:withEvent:">(window, fromScreen(point, window), event);
+    const auto hit = window.hitTest(fromScreen(point, window), event);
     if (hit) return hit;
   }
   return {};
@@ -106,7 +107,7 @@ void TouchDispatcher::scroll(CGPoint at, CGPoint distance) {
   const Turn turn(*this);
   UIView view = viewAt(at, UIEventState::make());
   for (; view; view = UIViewState::of(view).superview())
-    if (send<bool, "_scrollBy:">(view, distance)) return;
+    if (scrollBy(view, distance)) return;
 }
 
 void TouchDispatcher::abandon() {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/touch/gesture_arbiter.h"
 #include "desktop/uikit/touch/ui_event.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
@@ -17,14 +18,14 @@ constexpr Seconds scrollingTime =
 void tell(UIView view, UITouchState::Phase phase, NSSet touches, UIEvent event) {
   switch (phase) {
     case UITouchState::began:
-      return send<void, "touchesBegan:withEvent:">(view, touches, event);
+      return view.touchesBegan(touches, event);
     case UITouchState::moved:
     case UITouchState::stationary:
-      return send<void, "touchesMoved:withEvent:">(view, touches, event);
+      return view.touchesMoved(touches, event);
     case UITouchState::ended:
-      return send<void, "touchesEnded:withEvent:">(view, touches, event);
+      return view.touchesEnded(touches, event);
     case UITouchState::cancelled:
-      return send<void, "touchesCancelled:withEvent:">(view, touches, event);
+      return view.touchesCancelled(touches, event);
   }
 }
 
@@ -52,7 +53,7 @@ void TouchSession::findRecognizers() {
 void TouchSession::holdForScrolling() {
   UIView view = UITouchState::of(_touch.get()).view();
   while ((view = UIViewState::of(view).superview())) {
-    if (!send<bool, "_delaysTouches">(view)) continue;
+    if (!delaysTouches(view)) continue;
     return _scrolling.callAfter(scrollingTime,
                                 [] { const GestureArbiter::Turn turn(gestureArbiter()); });
   }

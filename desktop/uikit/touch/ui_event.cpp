@@ -9,8 +9,7 @@ namespace desktop::uikit {
 namespace {
 
 NSSet setOf(UITouch touch) {
-  return touch ? send<NSSet, "setWithObject:">(NSSet::classObject(), touch)
-               : send<NSSet, "set">(NSSet::classObject());
+  return touch ? NSSet::of(touch) : NSSet::none();
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "bridge/class_builder.h"
 #include "bridge/runtime/fields.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/optional_message.h"
 #include "desktop/uikit/touch/gesture_arbiter.h"
 #include "desktop/uikit/touch/ui_event.h"
 #include "desktop/uikit/touch/ui_touch.h"
@@ -30,8 +31,7 @@ UIGestureRecognizerState::Action actionOf(Object record) {
 }
 
 Owned<NSObject> makeRecord(NSObject target, SEL action) {
-  auto record =
-      Owned<NSObject>::adopt(send<NSObject, "new">(UIGestureRecognizerTarget::classObject()));
+  auto record = makeNew<NSObject>(UIGestureRecognizerTarget::classObject());
   setBorrowedField(record, targetField, target);
   setSelectorField(record, actionField, action);
   return record;
@@ -99,7 +99,7 @@ UIGestureRecognizerState::~UIGestureRecognizerState() {
 }
 
 UIGestureRecognizer UIGestureRecognizerState::init() {
-  return send<UIGestureRecognizer, "initWithTarget:action:">(self(), NSObject(), SEL{});
+  return initWith<"initWithTarget:action:">(self(), NSObject(), SEL{});
 }
 
 UIGestureRecognizer UIGestureRecognizerState::initWithTarget(NSObject target, SEL action) {
@@ -131,7 +131,7 @@ void UIGestureRecognizerState::removeTarget(NSObject target, SEL action) {
   for (NSUInteger index = records.count(); index-- > 0;) {
     const Action known = actionOf(records.at(index));
     if ((!target || known.target == target) && (!action || sameSelector(known.action, action)))
-      send<void, "removeObjectAtIndex:">(records, index);
+      records.removeAt(index);
   }
 }
 
@@ -173,8 +173,8 @@ CGPoint UIGestureRecognizerState::locationOfTouch(NSUInteger, UIView view) const
 
 bool UIGestureRecognizerState::wantsTouch(UITouch touch) const {
   if (!_isEnabled || !isUndecided() || isWaiting()) return false;
-  if (!respondsTo<"gestureRecognizer:shouldReceiveTouch:">(_delegate)) return true;
-  return send<bool, "gestureRecognizer:shouldReceiveTouch:">(_delegate, self(), touch);
+  return asked<bool, "gestureRecognizer:shouldReceiveTouch:">(_delegate, self(), touch)
+      .value_or(true);
 }
 
 void UIGestureRecognizerState::touched(UITouch touch, UIEvent event) {
@@ -186,15 +186,15 @@ void UIGestureRecognizerState::touched(UITouch touch, UIEvent event) {
   _hasTouch = true;
   switch (state.phase()) {
     case UITouchState::began:
-      return send<void, "touchesBegan:withEvent:">(self(), touches, event);
+      return self().touchesBegan(touches, event);
     case UITouchState::moved:
     case UITouchState::stationary:
-      return send<void, "touchesMoved:withEvent:">(self(), touches, event);
+      return self().touchesMoved(touches, event);
     case UITouchState::ended:
-      send<void, "touchesEnded:withEvent:">(self(), touches, event);
+      self().touchesEnded(touches, event);
       break;
     case UITouchState::cancelled:
-      send<void, "touchesCancelled:withEvent:">(self(), touches, event);
+      self().touchesCancelled(touches, event);
       break;
   }
   _hasTouch = false;
@@ -212,7 +212,7 @@ void UIGestureRecognizerState::startAnew() {
   _awaited = State::possible;
   _hasTouch = false;
   _expectsMoreTouches = false;
-  send<void, "reset">(self());
+  self().reset();
 }
 
 void UIGestureRecognizerState::become(State next) {
@@ -255,15 +255,12 @@ bool UIGestureRecognizerState::tryAgain() {
 
 // The touched view is asked too: a control keeps taps on it to itself.
 bool UIGestureRecognizerState::mayBegin() const {
-  if (respondsTo<"gestureRecognizerShouldBegin:">(_delegate) &&
-      !send<bool, "gestureRecognizerShouldBegin:">(_delegate, self()))
-    return false;
+  const auto lets = [this](Object who) {
+    return asked<bool, "gestureRecognizerShouldBegin:">(who, self()).value_or(true);
+  };
+  if (!lets(_delegate)) return false;
   const auto touched = gestureArbiter().touchedViewOf(self());
-  for (const UIView view : {_view, touched == _view ? UIView() : touched})
-    if (respondsTo<"gestureRecognizerShouldBegin:">(view) &&
-        !send<bool, "gestureRecognizerShouldBegin:">(view, self()))
-      return false;
-  return true;
+  return lets(_view) && (touched == _view || lets(touched));
 }
 
 bool UIGestureRecognizerState::mustWait() const {
@@ -295,7 +292,7 @@ void UIGestureRecognizerState::excludeOthers() const {
 bool UIGestureRecognizerState::allowsTogether(UIGestureRecognizer other) const {
   constexpr FixedString question =
       "gestureRecognizer:shouldRecognizeSimultaneouslyWithGestureRecognizer:";
-  return respondsTo<question>(_delegate) && send<bool, question>(_delegate, self(), other);
+  return asked<bool, question>(_delegate, self(), other).value_or(false);
 }
 
 bool UIGestureRecognizerState::goesTogetherWith(UIGestureRecognizer other) const {
@@ -304,7 +301,7 @@ bool UIGestureRecognizerState::goesTogetherWith(UIGestureRecognizer other) const
 
 // A target that is taken away by an action before its own is not told.
 void UIGestureRecognizerState::fire() {
-  const auto records = Owned<NSArray>::adopt(send<NSArray, "copy">(recordsOf(self())));
+  const auto records = copy(recordsOf(self()));
   for (NSUInteger index = 0; index < records->count(); ++index)
     if (recordsOf(self()).containsIdentical(records->at(index)))
       perform(actionOf(records->at(index)), self());

@@ -155,7 +155,7 @@ void Animator::tick() {
   std::vector<std::shared_ptr<Group>> over;
   const Seconds now = scheduler().now();
   for (const Part& part : _running) {
-    send<void, "setNeedsDisplay">(part.view.get());
+    part.view.get().setNeedsDisplay();
     const bool isOver = now >= part.group->start + part.group->duration;
     if (isOver && std::ranges::find(over, part.group) == over.end()) over.push_back(part.group);
   }
@@ -167,7 +167,7 @@ void Animator::finish(const std::shared_ptr<Group>& group) {
   for (Part& part : _running)
     if (part.group == group) ended.push_back(part);
   std::erase_if(_running, [&](const Part& part) { return part.group == group; });
-  for (const Part& part : ended) send<void, "setNeedsDisplay">(part.view.get());
+  for (const Part& part : ended) part.view.get().setNeedsDisplay();
   if (const Completion done = std::exchange(group->completion, nullptr)) done(!group->wasCut);
 }
 

@@ -27,7 +27,7 @@ std::vector<Color> CAGradientLayerState::colors() const {
 }
 
 void CAGradientLayerState::setColors(NSArray colors) {
-  _colors = Owned<NSArray>::adopt(send<NSArray, "copy">(colors));
+  _colors = copy(colors);
 }
 
 }  // namespace desktop::uikit

@@ -54,7 +54,7 @@ CALayerState::~CALayerState() {
 }
 
 CALayer CALayerState::layer() {
-  return Owned<CALayer>::adopt(send<CALayer, "new">(classObject())).autorelease();
+  return makeNew<CALayer>(classObject()).autorelease();
 }
 
 CGRect CALayerState::frame() const {
@@ -72,7 +72,7 @@ void CALayerState::setFrame(CGRect frame) {
 }
 
 void CALayerState::changed() const {
-  if (_view) return send<void, "setNeedsDisplay">(_view);
+  if (_view) return _view.setNeedsDisplay();
   if (_superlayer) of(_superlayer.get()).changed();
 }
 

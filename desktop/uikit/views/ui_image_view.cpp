@@ -52,12 +52,12 @@ Class UIImageViewState::classObject() {
   return made;
 }
 
-UIImageViewState::UIImageViewState(id self) : Bound(self) {
-  send<void, "setUserInteractionEnabled:">(self, false);
+UIImageViewState::UIImageViewState(id object) : Bound(object) {
+  self().setUserInteractionEnabled(false);
 }
 
 UIView UIImageViewState::initWithImage(UIImage image) {
-  const auto object = send<UIView, "initWithFrame:">(self(), CGRect{{0, 0}, sizeOf(image)});
+  const auto object = initWith<"initWithFrame:">(self(), CGRect{{0, 0}, sizeOf(image)});
   if (object) setImage(image);
   return object;
 }
@@ -75,7 +75,7 @@ CGSize UIImageViewState::sizeThatFits(CGSize) const {
 void UIImageViewState::drawContent(Canvas* canvas) const {
   const SharedBitmap bitmap = UIImageState::bitmapOf(_image.get());
   if (!bitmap) return;
-  const auto mode = static_cast<ContentMode>(send<NSInteger, "contentMode">(self()));
+  const auto mode = static_cast<ContentMode>(self().contentMode());
   const CGRect rect = placed(sizeOf(_image), shown().bounds, mode);
   if (!isEmpty(rect)) canvas->image(bitmap, rect);
 }

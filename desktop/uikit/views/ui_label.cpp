@@ -54,9 +54,9 @@ Class UILabelState::classObject() {
   return made;
 }
 
-UILabelState::UILabelState(id self) : Bound(self) {
+UILabelState::UILabelState(id object) : Bound(object) {
   _font = Owned<UIFont>::retain(UIFont::systemFont(standardSize));
-  send<void, "setUserInteractionEnabled:">(Object(self), false);
+  self().setUserInteractionEnabled(false);
 }
 
 void UILabelState::changed() {
@@ -66,7 +66,7 @@ void UILabelState::changed() {
 
 void UILabelState::setText(NSString text) {
   if (!_attributedText && (text == _text.get() || text.isEqual(_text.get()))) return;
-  _text = Owned<NSString>::adopt(send<NSString, "copy">(text));
+  _text = copy(text);
   _attributedText.reset();
   changed();
 }
@@ -80,8 +80,8 @@ NSAttributedString UILabelState::attributedText() const {
 
 // The text's first font becomes the label's.
 void UILabelState::setAttributedText(NSAttributedString text) {
-  _attributedText = Owned<NSAttributedString>::adopt(send<NSAttributedString, "copy">(text));
-  _text = Owned<NSString>::adopt(send<NSString, "copy">(send<NSString, "string">(text)));
+  _attributedText = copy(text);
+  _text = copy(text.string());
   if (text) {
     const FontFace face = AttributedText::of(text, UIFontState::faceOf(_font.get())).runs[0].face;
     _font = Owned<UIFont>::retain(UIFontState::make(face));

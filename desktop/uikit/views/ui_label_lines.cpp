@@ -97,7 +97,7 @@ CGSize UILabelState::sizeThatFits(CGSize size) const {
 }
 
 CGSize UILabelState::intrinsicContentSize() const {
-  return send<CGSize, "sizeThatFits:">(self(), CGSize{});
+  return self().sizeThatFits(CGSize{});
 }
 
 const std::vector<LabelLine>& UILabelState::lines() const {

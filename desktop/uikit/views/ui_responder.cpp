@@ -38,8 +38,8 @@ UIResponder UIResponderState::firstResponder() {
 
 bool UIResponderState::becomeFirstResponder() {
   if (isFirstResponder()) return true;
-  if (!send<bool, "canBecomeFirstResponder">(self())) return false;
-  send<bool, "resignFirstResponder">(firstResponder());
+  if (!self().canBecomeFirstResponder()) return false;
+  firstResponder().resignFirstResponder();
   currentFirstResponder = self().get();
   return true;
 }
@@ -54,27 +54,27 @@ bool UIResponderState::isFirstResponder() const {
 }
 
 bool UIResponderState::canPerformAction(SEL action, Object) const {
-  return send<bool, "respondsToSelector:">(self(), action);
+  return respondsTo(self(), action);
 }
 
 UIResponder UIResponderState::next() const {
-  return send<UIResponder, "nextResponder">(self());
+  return self().nextResponder();
 }
 
 void UIResponderState::touchesBegan(NSSet touches, UIEvent event) {
-  send<void, "touchesBegan:withEvent:">(next(), touches, event);
+  next().touchesBegan(touches, event);
 }
 
 void UIResponderState::touchesMoved(NSSet touches, UIEvent event) {
-  send<void, "touchesMoved:withEvent:">(next(), touches, event);
+  next().touchesMoved(touches, event);
 }
 
 void UIResponderState::touchesEnded(NSSet touches, UIEvent event) {
-  send<void, "touchesEnded:withEvent:">(next(), touches, event);
+  next().touchesEnded(touches, event);
 }
 
 void UIResponderState::touchesCancelled(NSSet touches, UIEvent event) {
-  send<void, "touchesCancelled:withEvent:">(next(), touches, event);
+  next().touchesCancelled(touches, event);
 }
 
 }  // namespace desktop::uikit

@@ -8,6 +8,7 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/encodings.h"
@@ -101,11 +102,11 @@ UIViewState::UIViewState(id self) : Bound(self) {
 UIViewState::~UIViewState() {
   CALayerState::of(_layer.get()).setView({});
   for (const auto& view : _subviews) of(view.get())._superview = {};
-  for (const auto& recognizer : _gestureRecognizers) send<void, "_viewIsGone">(recognizer.get());
+  for (const auto& recognizer : _gestureRecognizers) viewIsGone(recognizer.get());
 }
 
 UIView UIViewState::init() {
-  return send<UIView, "initWithFrame:">(self(), CGRect{});
+  return initWith<"initWithFrame:">(self(), CGRect{});
 }
 
 UIView UIViewState::initWithFrame(CGRect frame) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -72,10 +73,11 @@ bool UIViewState::layOut() {
   const UIView me(self().get());
   bool didAny = _needsLayout;
   if (std::exchange(_needsLayout, false)) {
-    send<void, "_adjustScrollViews">(_controller);
-    send<void, "viewWillLayoutSubviews">(_controller);
-    send<void, "layoutSubviews">(me);
-    send<void, "viewDidLayoutSubviews">(_controller);
+    const UIViewController controller(_controller.get());
+    adjustScrollViews(controller);
+    controller.viewWillLayoutSubviews();
+    me.layoutSubviews();
+    controller.viewDidLayoutSubviews();
   }
   const auto children = _subviews;
   for (const auto& child : children) didAny |= of(child.get()).layOut();
@@ -88,7 +90,7 @@ CGSize UIViewState::sizeThatFits(CGSize) const {
 
 void UIViewState::sizeToFit() {
   const UIView me(self().get());
-  const CGSize size = send<CGSize, "sizeThatFits:">(me, _own.bounds.size);
+  const CGSize size = me.sizeThatFits(_own.bounds.size);
   me.setFrame({me.frame().origin, size});
 }
 
@@ -98,10 +100,10 @@ UIView UIViewState::hitTest(CGPoint point, UIEvent event) {
   const UIView me(self().get());
   if (_isHidden || !_isUserInteractionEnabled || _own.alpha < leastAlpha) return {};
   if (animator().isAnimating(me)) return {};
-  if (!send<bool, "pointInside:withEvent:">(me, point, event)) return {};
+  if (!me.pointInside(point, event)) return {};
   for (auto child = _subviews.rbegin(); child != _subviews.rend(); ++child) {
     const CGPoint inChild = uikit::apply(inverse(of(child->get().get()).toSuperview()), point);
-    const auto hit = send<UIView, "hitTest:withEvent:">(child->get(), inChild, event);
+    const auto hit = child->get().hitTest(inChild, event);
     if (hit) return hit;
   }
   return me;

@@ -5,6 +5,7 @@
 // leaves the window ends what was under way: animations and touches.
 #include <algorithm>
 
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -44,11 +45,11 @@ void UIViewState::insertSubview(UIView view, std::size_t index) {
   UIViewState& child = of(view.get());
   const UIView windowBefore = child.window();
   if (child._superview) of(child._superview.get()).detach(view);
-  send<void, "willMoveToSuperview:">(view, me);
+  view.willMoveToSuperview(me);
   index = std::min(index, _subviews.size());
   _subviews.insert(_subviews.begin() + static_cast<std::ptrdiff_t>(index), kept);
   child._superview = me;
-  send<void, "didMoveToSuperview">(view);
+  view.didMoveToSuperview();
   if (child.window() != windowBefore) child.tellMovedToWindow();
   setNeedsLayout();
   child.setNeedsDisplay();
@@ -92,9 +93,9 @@ void UIViewState::removeFromSuperview() {
   const UIView me(self().get());
   const auto kept = Owned<UIView>::retain(me);
   const bool wasInWindow = static_cast<bool>(window());
-  send<void, "willMoveToSuperview:">(me, UIView());
+  me.willMoveToSuperview(UIView());
   of(_superview.get()).detach(me);
-  send<void, "didMoveToSuperview">(me);
+  me.didMoveToSuperview();
   if (wasInWindow) tellMovedToWindow();
 }
 
@@ -111,9 +112,9 @@ void UIViewState::tellMovedToWindow() {
   if (!window()) {
     animator().stop(me);
     const auto recognizers = _gestureRecognizers;
-    for (const auto& recognizer : recognizers) send<void, "_leaveTouches">(recognizer.get());
+    for (const auto& recognizer : recognizers) leaveTouches(recognizer.get());
   }
-  send<void, "didMoveToWindow">(me);
+  me.didMoveToWindow();
   const auto children = _subviews;
   for (const auto& child : children) of(child.get()).tellMovedToWindow();
 }
@@ -136,17 +137,17 @@ NSArray UIViewState::gestureRecognizersArray() const {
 void UIViewState::addGestureRecognizer(UIGestureRecognizer recognizer) {
   if (!recognizer) return;
   const auto kept = Owned<UIGestureRecognizer>::retain(recognizer);
-  const auto before = send<UIView, "view">(recognizer);
+  const auto before = recognizer.view();
   before.removeGestureRecognizer(recognizer);
   _gestureRecognizers.push_back(kept);
-  send<void, "moveToView:">(recognizer, UIView(self().get()));
+  moveTo(recognizer, self());
 }
 
 void UIViewState::removeGestureRecognizer(UIGestureRecognizer recognizer) {
   const auto place =
       std::ranges::find(_gestureRecognizers, recognizer, &Owned<UIGestureRecognizer>::get);
   if (place == _gestureRecognizers.end()) return;
-  send<void, "moveToView:">(recognizer, UIView());
+  moveTo(recognizer, UIView());
   _gestureRecognizers.erase(place);
 }
 

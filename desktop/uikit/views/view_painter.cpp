@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/uikit/views/view_painter.h"
 
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/graphics/canvas.h"
 #include "desktop/uikit/graphics/ui_bezier_path.h"
 #include "desktop/uikit/graphics/ui_color.h"
@@ -76,9 +77,9 @@ void paintView(UIView view, Canvas& canvas) {
     if (seen.background.alpha > 0) canvas.fill(seen.bounds, seen.background, style.cornerRadius);
     if (style.masksToBounds) canvas.clip(seen.bounds, style.cornerRadius);
     for (const auto& sublayer : layer.sublayers()) paintLayer(sublayer, canvas);
-    send<void, "drawContentOn:">(view, &canvas);
+    drawContent(view, &canvas);
     for (const auto& subview : state.subviews()) paintView(subview, canvas);
-    send<void, "drawOverSubviewsOn:">(view, &canvas);
+    drawOverSubviews(view, &canvas);
     paintBorder(style, seen.bounds, canvas);
   }
   canvas.restore();

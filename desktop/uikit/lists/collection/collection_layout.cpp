@@ -36,8 +36,8 @@ std::optional<CGSize> CollectionLayout::prepare() {
   CGSize size;
   const bool isNew = _inquiry.renew([&] {
     const AutoreleasePool pool;
-    send<void, "prepareLayout">(_object);
-    size = sane(send<CGSize, "collectionViewContentSize">(_object));
+    _object->prepareLayout();
+    size = sane(_object->contentSize());
   });
   return isNew ? std::optional(size) : std::nullopt;
 }
@@ -45,24 +45,22 @@ std::optional<CGSize> CollectionLayout::prepare() {
 void CollectionLayout::followBounds(CGRect bounds) {
   const CGRect before = std::exchange(_bounds, bounds);
   if (before == bounds) return;
-  if (before.size != bounds.size ||
-      send<bool, "shouldInvalidateLayoutForBoundsChange:">(_object, bounds))
-    send<void, "invalidateLayout">(_object);
+  if (before.size != bounds.size || _object->shouldInvalidateFor(bounds))
+    _object->invalidateLayout();
 }
 
 CollectionLayout::Attributes CollectionLayout::item(NSIndexPath path) const {
-  return as<Attributes>(send<Object, "layoutAttributesForItemAtIndexPath:">(_object, path));
+  return as<Attributes>(_object->layoutAttributesForItem(path));
 }
 
 CollectionLayout::Attributes CollectionLayout::supplementary(NSString kind,
                                                              NSIndexPath path) const {
-  return as<Attributes>(
-      send<Object, "layoutAttributesForSupplementaryViewOfKind:atIndexPath:">(_object, kind, path));
+  return as<Attributes>(_object->layoutAttributesForSupplementaryView(kind, path));
 }
 
 CollectionLayout::Elements CollectionLayout::elementsIn(CGRect rect, const Has& has) const {
   Elements elements;
-  const auto all = as<NSArray>(send<Object, "layoutAttributesForElementsInRect:">(_object, rect));
+  const auto all = as<NSArray>(_object->layoutAttributesInRect(rect));
   const std::size_t count = std::min<std::size_t>(all.count(), maximalElementsInSight);
   for (std::size_t index = 0; index < count; ++index) {
     const auto attributes = as<Attributes>(all.at(index));

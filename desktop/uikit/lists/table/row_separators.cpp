@@ -4,7 +4,7 @@
 namespace desktop::uikit {
 namespace {
 
-constexpr CGFloat inset = 16;
+constexpr CGFloat leadingInset = 16;
 
 }  // namespace
 
@@ -12,7 +12,7 @@ RowSeparators TableSeparators::ofRow(NSInteger row, NSInteger rows, bool isGroup
   const bool isLast = row == rows - 1;
   return {.above = areShown && isGrouped && row == 0,
           .below = areShown,
-          .insetBelow = isGrouped && isLast ? 0 : inset,
+          .insetBelow = isGrouped && isLast ? 0 : leadingInset,
           .color = color};
 }
 

@@ -16,7 +16,8 @@ bool TableDelegate::hasRowHeights() const {
 }
 
 CGFloat TableDelegate::rowHeight(ItemPath path) const {
-  return send<CGFloat, "tableView:heightForRowAtIndexPath:">(delegate(), _table, indexPathOf(path));
+  return asked<CGFloat, "tableView:heightForRowAtIndexPath:">(delegate(), _table, indexPathOf(path))
+      .value_or(0);
 }
 
 std::optional<CGFloat> TableDelegate::titleHeight(TitlePlace place) const {
