@@ -86,7 +86,7 @@ struct Mark {
   bool ItemMarks::*isShown;
   Draw draw;
 };
-constexpr Mark marks[] = {
+constexpr Mark allMarks[] = {
     {&ItemMarks::isFavourite, drawHeart},
     {&ItemMarks::isLivePhoto, drawLivePhoto},
     {&ItemMarks::isPanorama, drawPanorama},
@@ -161,7 +161,7 @@ void ItemBadge::drawContent(uikit::Canvas* canvas) const {
   constexpr uikit::Color shade[] = {uikit::Color::white(0, 0), uikit::Color::white(0, 0.6)};
   canvas->gradient(bounds, shade, {0.5, 0}, {0.5, 1}, 0);
   CGPoint at{edge, (bounds.size.height - markSize.height) / 2};
-  for (const auto& [isShown, draw] : marks) {
+  for (const auto& [isShown, draw] : allMarks) {
     if (!(_marks.*isShown)) continue;
     draw(*canvas, at);
     at.x += markSize.width + edge;
