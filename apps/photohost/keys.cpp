@@ -83,9 +83,10 @@ bool toggleFullScreen(QWindow& window) {
   return true;
 }
 
-bool leaveFullScreenOrGoBack(QWindow& window) {
-  if (window.visibility() == QWindow::FullScreen) return toggleFullScreen(window);
-  return !photos_ui::goBack();
+// The full screen is left where there is nothing else to leave.
+bool goBackOrLeaveFullScreen(QWindow& window) {
+  if (!photos_ui::goBack()) return true;
+  return window.visibility() == QWindow::FullScreen && toggleFullScreen(window);
 }
 
 bool copySelection() {
@@ -124,7 +125,7 @@ bool pressInfoButton() {
 
 bool pressKey(const QKeyEvent& event, QWindow& window) {
   if (is(event, Qt::Key_F11)) return toggleFullScreen(window);
-  if (is(event, Qt::Key_Escape)) return leaveFullScreenOrGoBack(window);
+  if (is(event, Qt::Key_Escape)) return goBackOrLeaveFullScreen(window);
   if (is(event, Qt::Key_C, Qt::ControlModifier)) return copySelection();
   if (is(event, Qt::Key_Q, Qt::ControlModifier)) return window.close();
   if (is(event, Qt::Key_I) || is(event, Qt::Key_Return, Qt::AltModifier) ||

@@ -4,7 +4,8 @@
 // and walked side by side, and the observer is told of what only one of them has, or what differs.
 // Reading says how far down it goes: a changed folder alone with what is new in it, or everything.
 // A folder that is gone takes all below it along, item by item, so the observer never has to know
-// the tree.
+// the tree. Files of one name but for the extension are told together, since two of them may be the
+// halves of a Live Photo, of which the observer hears as one item.
 #include "desktop/library/folder_tree.h"
 
 #include <sys/stat.h>
@@ -62,14 +63,21 @@ ItemPointer makeItem(const std::string& path, media::facts::MediaKind kind,
                   .modificationDate = {modified}});
 }
 
+// The item with another film, or without one.
+ItemPointer withFilm(const LibraryItem& item, ItemPointer film) {
+  LibraryItem other = item;
+  other.film = std::move(film);
+  return std::make_shared<const LibraryItem>(std::move(other));
+}
+
 bool isMarkedShared(const std::string& folder) {
   return ::access(foundation::pathInFolder(folder, ".shared").c_str(), F_OK) == 0;
 }
 
 }  // namespace
 
-FolderTree::FolderTree(std::string root, FolderObserver& observer)
-    : _root(std::move(root)), _observer(observer) {}
+FolderTree::FolderTree(std::string root, FolderObserver& observer, ReadIdentifier readIdentifier)
+    : _root(std::move(root)), _observer(observer), _readIdentifier(std::move(readIdentifier)) {}
 
 void FolderTree::read(const std::string& folder) {
   if (folder == _root || _folders.contains(folder)) read(folder, Depth::newFolders);
@@ -115,16 +123,54 @@ void FolderTree::updateFiles(const std::string& path, Folder& folder,
                              const std::vector<foundation::FolderEntry>& entries) {
   const std::vector<File> known = std::exchange(folder.files, {});
   auto old = known.begin();
+  std::size_t told = 0;
+  const auto tellNew = [&] {
+    tell(std::span(folder.files).subspan(told));
+    told = folder.files.size();
+  };
   for (const foundation::FolderEntry& entry : entries) {
     if (entry.kind != foundation::FolderEntryKind::file) continue;
     if (_observer.isStopped()) return;
+    if (!folder.files.empty() && stemOf(folder.files.back().name) != stemOf(entry.name)) tellNew();
     for (; old != known.end() && old->name < entry.name; ++old) forgetFile(path, *old);
     const bool isKnown = old != known.end() && old->name == entry.name;
     folder.files.push_back(
         examine(foundation::pathInFolder(path, entry.name), entry.name, isKnown ? &*old : nullptr));
     if (isKnown) ++old;
   }
+  tellNew();
   for (; old != known.end(); ++old) forgetFile(path, *old);
+}
+
+// The still and the film among files of one name; both are null where there is no Live Photo.
+std::pair<FolderTree::File*, FolderTree::File*> FolderTree::livePhotoAmong(
+    std::span<File> namesakes) const {
+  const auto find = [&](bool isVideo) {
+    const auto found = std::ranges::find_if(
+        namesakes, [&](const File& file) { return file.item && file.item->isVideo() == isVideo; });
+    return found == namesakes.end() ? nullptr : &*found;
+  };
+  const auto identifierOf = [&](File& file) {
+    if (!file.liveIdentifier) file.liveIdentifier = _readIdentifier(file.item->path);
+    return *file.liveIdentifier;
+  };
+  File* const still = find(false);
+  File* const film = find(true);
+  if (!still || !film) return {};
+  const std::string identifier = identifierOf(*still);
+  if (identifier.empty() || identifier != identifierOf(*film)) return {};
+  return {still, film};
+}
+
+void FolderTree::tell(std::span<File> namesakes) {
+  const auto [still, film] = livePhotoAmong(namesakes);
+  for (File& file : namesakes) {
+    const ItemPointer filmNow = &file == still ? film->item : nullptr;
+    if (file.item && file.item->film != filmNow) file.item = withFilm(*file.item, filmNow);
+    const ItemPointer now = &file == film ? nullptr : file.item;
+    const ItemPointer before = std::exchange(file.told, now);
+    if (before != now) _observer.itemChanged(before, now);
+  }
 }
 
 std::vector<std::string> FolderTree::updateSubfolders(
@@ -169,16 +215,15 @@ FolderTree::File FolderTree::examine(const std::string& path, const std::string&
   File file = known != nullptr ? *known : File{.name = name, .identity = {}, .item = {}};
   if (known != nullptr && status.exists() && identity == known->identity) return file;
   file.identity = identity;
+  file.liveIdentifier.reset();
   const Verdict verdict = judge(path, name, status);
   setProblem(path, file.hasProblem, verdict.problem);
-  const ItemPointer before =
-      std::exchange(file.item, verdict.kind ? makeItem(path, *verdict.kind, status.data) : nullptr);
-  if (before || file.item) _observer.itemChanged(before, file.item);
+  file.item = verdict.kind ? makeItem(path, *verdict.kind, status.data) : nullptr;
   return file;
 }
 
 void FolderTree::forgetFile(const std::string& folder, const File& file) {
-  if (file.item) _observer.itemChanged(file.item, nullptr);
+  if (file.told) _observer.itemChanged(file.told, nullptr);
   if (file.hasProblem)
     _observer.problemChanged(foundation::pathInFolder(folder, file.name), std::nullopt);
 }

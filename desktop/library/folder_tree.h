@@ -5,12 +5,16 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "desktop/library/library_item.h"
+#include "desktop/library/live_photo.h"
 #include "foundation/folder_entries.h"
 
 namespace desktop::library {
@@ -36,9 +40,13 @@ class FolderObserver {
 
 class FolderTree {
  public:
+  // What tells the halves of a Live Photo: a file's identifier, empty where it has none.
+  using ReadIdentifier = std::function<std::string(const std::string& path)>;
+
   // The root's path is absolute and without a slash at its end ("/" stays). The observer outlives
   // the tree.
-  FolderTree(std::string root, FolderObserver& observer);
+  FolderTree(std::string root, FolderObserver& observer,
+             ReadIdentifier readIdentifier = liveIdentifier);
 
   // Reads a folder again, and with it the folders in it that are new or could not be read. Folders
   // that the tree does not know are ignored, the root is always known.
@@ -60,6 +68,8 @@ class FolderTree {
     std::string name;
     Identity identity;
     ItemPointer item;
+    ItemPointer told = {};  // the item that the observer knows; null for the film of a Live Photo
+    std::optional<std::string> liveIdentifier = {};  // none until it is asked for
     bool hasProblem = false;
   };
   struct Subfolder {
@@ -82,6 +92,8 @@ class FolderTree {
                                             const std::vector<foundation::FolderEntry>& entries,
                                             Depth depth);
   File examine(const std::string& path, const std::string& name, const File* known);
+  void tell(std::span<File> namesakes);
+  std::pair<File*, File*> livePhotoAmong(std::span<File> namesakes) const;
   bool hasProblem(const std::string& folder) const;
   void forgetFile(const std::string& folder, const File& file);
   void setProblem(const std::string& path, bool& hasProblem,
@@ -91,6 +103,7 @@ class FolderTree {
 
   std::string _root;
   FolderObserver& _observer;
+  ReadIdentifier _readIdentifier;
   std::unordered_map<std::string, Folder> _folders;
 };
 

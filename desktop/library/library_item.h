@@ -20,7 +20,10 @@ struct LibraryItem {
   media::facts::MediaKind kind = media::facts::MediaKind::image;
   std::uint64_t fileSize = 0;  // bytes
   model::Date modificationDate = {};
+  // Of a Live Photo: its film, which is an item as any other but in no list. Null for all others.
+  std::shared_ptr<const LibraryItem> film = {};
 
+  bool isLivePhoto() const { return film != nullptr; }
   bool isVideo() const { return kind == media::facts::MediaKind::video; }
   // The last component of the path, as bytes and as valid UTF-8 to show.
   std::string_view name() const;

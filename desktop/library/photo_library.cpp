@@ -25,7 +25,8 @@ constexpr std::size_t factsKept = 20'000;
 
 bool isAny(const LibraryChange& change) {
   return !change.inserted.empty() || !change.removed.empty() || !change.updated.empty() ||
-         change.areAlbumsChanged || change.areProblemsChanged || change.isStateChanged;
+         change.areAlbumsChanged || change.areProblemsChanged || change.areFavouritesChanged ||
+         change.isStateChanged;
 }
 
 }  // namespace
@@ -44,6 +45,7 @@ PhotoLibrary::PhotoLibrary(std::string folder, foundation::DeviceRoot root,
     : _folder(std::move(folder)),
       _root(std::move(root)),
       _facts(_root, factsKept),
+      _favourites(_root.folder() + "/favourites"),
       _worker(_folder, limits, _box) {}
 
 PhotoLibrary::~PhotoLibrary() = default;
@@ -55,8 +57,9 @@ std::optional<std::size_t> PhotoLibrary::indexOf(const ItemPointer& item) const 
 }
 
 ItemPointer PhotoLibrary::itemOf(const std::string& uuid) const {
-  const auto entry = _itemOfUuid.find(uuid);
-  return entry == _itemOfUuid.end() ? nullptr : entry->second;
+  for (const auto* items : {&_itemOfUuid, &_filmOfUuid})
+    if (const auto entry = items->find(uuid); entry != items->end()) return entry->second;
+  return nullptr;
 }
 
 const std::vector<Album>& PhotoLibrary::albums() {
@@ -88,6 +91,13 @@ void PhotoLibrary::noteProblem(const std::string& path, const std::string& reaso
   _box.wake();
 }
 
+model::Result<bool> PhotoLibrary::setFavourite(const LibraryItem& item, bool isFavourite) {
+  auto result = _favourites.set(item.uuid, isFavourite);
+  if (result) _areFavouritesChanged = true;
+  if (result) _box.wake();
+  return result;
+}
+
 void PhotoLibrary::onChange(std::function<void(const LibraryChange&)> listener) {
   _listener = std::move(listener);
 }
@@ -100,6 +110,7 @@ bool PhotoLibrary::deliverChanges() {
   applySharing(news.sharing, change);
   applyPanoramas(news.panoramas, change);
   change.areProblemsChanged = std::exchange(_areProblemsChanged, false);
+  change.areFavouritesChanged = std::exchange(_areFavouritesChanged, false);
   const LoadingState state = stateAfter(news.isWalkComplete);
   change.isStateChanged = state != std::exchange(_state, state);
   if (change.areAlbumsChanged) _albums.reset();
@@ -149,6 +160,7 @@ void PhotoLibrary::replaceItems(const LibraryChange& change,
   if (outdated.empty() && change.inserted.empty()) return;
   for (const ItemPointer& item : outdated) {
     _itemOfUuid.erase(item->uuid);
+    if (item->film) _filmOfUuid.erase(item->film->uuid);
     _panoramas.erase(item);
     if (_problems.erase(item->path) > 0) _areProblemsChanged = true;
   }
@@ -156,7 +168,10 @@ void PhotoLibrary::replaceItems(const LibraryChange& change,
   std::ranges::set_difference(_items, outdated, std::back_inserter(kept), comesBefore);
   std::vector<ItemPointer> fresh;
   std::ranges::merge(change.inserted, change.updated, std::back_inserter(fresh), comesBefore);
-  for (const ItemPointer& item : fresh) _itemOfUuid[item->uuid] = item;
+  for (const ItemPointer& item : fresh) {
+    _itemOfUuid[item->uuid] = item;
+    if (item->film) _filmOfUuid[item->film->uuid] = item->film;
+  }
   _items.clear();
   std::ranges::merge(kept, fresh, std::back_inserter(_items), comesBefore);
 }

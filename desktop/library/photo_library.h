@@ -21,6 +21,7 @@
 
 #include "desktop/library/albums.h"
 #include "desktop/library/facts_cache.h"
+#include "desktop/library/favourites.h"
 #include "desktop/library/library_news.h"
 #include "desktop/library/library_worker.h"
 #include "desktop/library/panorama_finder.h"
@@ -42,6 +43,7 @@ struct LibraryChange {
                                      // library may differ too
   bool areAlbumsChanged = false;     // also where no item is, as by a panorama found
   bool areProblemsChanged = false;
+  bool areFavouritesChanged = false;
   bool isStateChanged = false;
 };
 
@@ -65,11 +67,12 @@ class PhotoLibrary {
   const foundation::DeviceRoot& root() const { return _root; }
   LoadingState state() const { return _state; }
 
-  // Oldest first, by the files' own dates; by path where these are the same.
+  // Oldest first, by the files' own dates; by path where these are the same. A Live Photo is one
+  // item.
   const std::vector<ItemPointer>& items() const { return _items; }
   // Where an item stands; none where it is not in the library any more.
   std::optional<std::size_t> indexOf(const ItemPointer& item) const;
-  // The item of a uuid, as it is now; null where there is none.
+  // The item of a uuid, as it is now, also of the film of a Live Photo; null where there is none.
   ItemPointer itemOf(const std::string& uuid) const;
 
   // Valid until changes are delivered. The panoramas among them are complete some time after
@@ -78,6 +81,12 @@ class PhotoLibrary {
   // Reads the sizes of all stills in the background, from now on of new ones too: for whoever shows
   // the list of albums.
   void findPanoramas();
+
+  bool isPanorama(const ItemPointer& item) const { return _panoramas.contains(item); }
+
+  bool isFavourite(const LibraryItem& item) const { return _favourites.contains(item.uuid); }
+  // Told by the next deliverChanges. Errors: what the system says of the file that keeps it.
+  model::Result<bool> setFavourite(const LibraryItem& item, bool isFavourite);
 
   // The facts of an item that is seen; a failure is noted as a problem.
   const FactsCache::Facts& facts(const LibraryItem& item);
@@ -122,12 +131,15 @@ class PhotoLibrary {
   LoadingState _state = LoadingState::reading;
   std::vector<ItemPointer> _items;
   std::unordered_map<std::string_view, ItemPointer> _itemOfUuid;
-  std::optional<std::vector<Album>> _albums;  // none until they are asked for
+  std::unordered_map<std::string_view, ItemPointer> _filmOfUuid;  // of Live Photos
+  std::optional<std::vector<Album>> _albums;                      // none until they are asked for
   std::set<std::string, std::less<>> _sharedFolders;
   std::unordered_set<ItemPointer> _panoramas;
   FactsCache _facts;
   std::map<std::string, std::string> _problems;
   bool _areProblemsChanged = false;
+  Favourites _favourites;
+  bool _areFavouritesChanged = false;
   std::function<void(const LibraryChange&)> _listener;
 
   NewsBox _box;

@@ -13,7 +13,7 @@
 #include "desktop/photos_ui/cells/pu_photo_view.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/cells/text_banner.h"
-#include "desktop/photos_ui/cells/video_badge.h"
+#include "desktop/photos_ui/cells/item_badge.h"
 #include "desktop/photos_ui/grid/grid_titles.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/grid/pu_sectioned_grid_layout.h"
@@ -32,7 +32,7 @@ constexpr Class (*classes[])() = {
     // clang-format off
     &PUPhotoViewContentHelperState::classObject,
     &PUPhotoViewState::classObject,
-    &VideoBadge::classObject,
+    &ItemBadge::classObject,
     &TextBannerView::classObject,
     &CellMark::classObject,
     &PUPhotosGridCellState::classObject,

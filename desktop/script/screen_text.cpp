@@ -29,9 +29,15 @@ class Collector {
   }
 
  private:
+  // A picture has the name by which those know it who do not see it.
+  static NSString textOf(UIView view) {
+    if (respondsTo<"text">(view)) return UILabel(view.get()).text();
+    if (respondsTo<"accessibilityLabel">(view)) return send<NSString, "accessibilityLabel">(view);
+    return {};
+  }
+
   void collect(UIView view, CGRect place) {
-    if (!respondsTo<"text">(view)) return;
-    const NSString text = UILabel(view.get()).text();
+    const NSString text = textOf(view);
     if (text && text.length() > 0) _found.push_back({text.utf8(), place});
   }
 

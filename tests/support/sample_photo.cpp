@@ -45,6 +45,11 @@ Bytes exifBlock(const SamplePhoto& photo) {
   if (!photo.dateTimeOriginal.empty()) {
     exif.push_back(image::ascii(0x9003, photo.dateTimeOriginal));
   }
+  if (!photo.contentIdentifier.empty()) {
+    const Bytes note =
+        image::buildAppleNote(io::ByteOrder::big, {image::ascii(17, photo.contentIdentifier)});
+    exif.push_back(image::undefined(0x927C, image::asText(note)));
+  }
   if (!photo.offset.empty()) exif.push_back(image::ascii(0x9011, photo.offset));
   if (const auto& place = photo.location) {
     image.push_back(image::pointerTo(0x8825, 2));

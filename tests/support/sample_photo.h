@@ -23,6 +23,7 @@ struct SamplePhoto {
   std::optional<model::Location> location = {};
   std::string city = {};
   std::string country = {};
+  std::string contentIdentifier = {};  // of a Live Photo's still
 };
 
 // The bytes of the file: Exif, IPTC where there is a place name, and a picture that no reader of

@@ -50,9 +50,9 @@ UITableViewCell AlbumCell::initWithStyle(NSInteger style, NSString identifier) {
 
 // The newest photo stands for all.
 void AlbumCell::show(const library::Album& album) {
-  PUPhotoViewState::of(_photo.get())
-      .content()
-      .show(album.items.empty() ? nullptr : album.items.back(), {photoSide, photoSide});
+  auto& photo = PUPhotoViewState::of(_photo.get()).content();
+  photo.setWord(album.kind == library::AlbumKind::sharedFolder ? "Shared" : "");
+  photo.show(album.items.empty() ? nullptr : album.items.back(), {photoSide, photoSide});
   showText(_title, album.title);
   showText(_count, countOf(album));
 }

@@ -19,10 +19,11 @@ constexpr CGPoint moved(CGPoint from, CGFloat right, CGFloat down) {
 using uikit::Path;
 namespace colors = uikit::colors;
 
+// At the top, clear of what stands at the bottom of a thumbnail.
 void drawTick(uikit::Canvas& canvas, CGRect bounds) {
   constexpr CGFloat side = 22;   // points
   constexpr CGFloat margin = 4;  // points
-  const CGRect circle{{uikit::right(bounds) - side - margin, uikit::bottom(bounds) - side - margin},
+  const CGRect circle{{uikit::right(bounds) - side - margin, bounds.origin.y + margin},
                       {side, side}};
   canvas.fill(Path::ellipse(circle), colors::tint);
   canvas.stroke(Path::ellipse(uikit::inset(circle, 0.75, 0.75)), 1.5, colors::white);

@@ -18,7 +18,7 @@ class CellMark : public Bound<CellMark, uikit::UIViewState> {
  public:
   enum class Kind {
     pressed,   // darker, while a finger is on it
-    selected,  // paler, with a tick in the corner
+    selected,  // paler, with a tick at the upper right
     add,       // a plus
   };
 

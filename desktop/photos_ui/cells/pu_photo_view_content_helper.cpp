@@ -10,8 +10,8 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/cells/item_badge.h"
 #include "desktop/photos_ui/cells/text_banner.h"
-#include "desktop/photos_ui/cells/video_badge.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/ui_image.h"
@@ -25,6 +25,7 @@ constexpr const char* badgeField = "__badgeView";
 constexpr const char* bannerField = "_textBannerView";
 constexpr CGFloat bannerMargin = 4;      // points
 constexpr CGFloat leastBannerRoom = 60;  // points; in less it would hide the photo
+constexpr CGFloat tolerance = 1.5;       // points by which a picture's size may be off
 
 int pixels(CGFloat points) {
   constexpr double most = 8192;
@@ -41,10 +42,9 @@ CGFloat toWholePixel(CGFloat points) {
   return std::round(points * uikit::screen().scale) / uikit::screen().scale;
 }
 
-double durationOf(const library::LibraryItem& item) {
-  if (!host().library) return 0;
-  const auto& facts = host().library->facts(item);
-  return facts ? (*facts)->duration : 0;
+bool isAbout(CGSize size, CGSize other) {
+  return std::abs(size.width - other.width) < tolerance &&
+         std::abs(size.height - other.height) < tolerance;
 }
 
 }  // namespace
@@ -75,16 +75,23 @@ Owned<PUPhotoViewContentHelper> PUPhotoViewContentHelperState::make(UIView conte
   return made;
 }
 
+// Badge and word may be others for the same item.
 void PUPhotoViewContentHelperState::show(library::ItemPointer item, CGSize room) {
-  if (item == _item && room.width == _room.width && room.height == _room.height &&
-      (_state == State::shown || _state == State::failed || _ticket.isWaiting()))
-    return;
+  const bool isOther = item != _item;
+  const bool isUnderWay = _state == State::shown || _state == State::failed || _ticket.isWaiting();
+  const bool isLoaded = !isOther && room == _room && isUnderWay;
+  if (isOther) showPicture(nullptr);
   _item = std::move(item);
   _room = room;
-  _ticket.cancel();
   showBadge();
   showBanner();
+  if (isLoaded) return;
+  _ticket.cancel();
   load();
+}
+
+void PUPhotoViewContentHelperState::fit(CGSize room) {
+  if (!isAbout(room, _room)) show(_item, room);
 }
 
 void PUPhotoViewContentHelperState::load() {
@@ -97,8 +104,7 @@ void PUPhotoViewContentHelperState::load() {
     showPicture(known);
     return setState(State::shown);
   }
-  showPicture(nullptr);
-  setState(State::loading);
+  if (!_picture) setState(State::loading);
   _ticket.request(_item->path, request, pictures::Priority::visible,
                   [this](const pictures::Outcome& outcome) {
                     if (!outcome.picture) return fail(outcome.reason);
@@ -143,9 +149,7 @@ CGRect PUPhotoViewContentHelperState::pictureFrame() const {
   const CGFloat scale = uikit::screen().scale;
   const CGSize natural{_picture->width / scale, _picture->height / scale};
   CGRect frame = uikit::placed(natural, room, uikit::ContentMode::aspectFill);
-  constexpr CGFloat tolerance = 1.5;  // points
-  if (std::abs(frame.size.width - natural.width) < tolerance &&
-      std::abs(frame.size.height - natural.height) < tolerance) {
+  if (isAbout(frame.size, natural)) {
     frame.origin.x = toWholePixel(frame.origin.x + (frame.size.width - natural.width) / 2);
     frame.origin.y = toWholePixel(frame.origin.y + (frame.size.height - natural.height) / 2);
     frame.size = natural;
@@ -154,24 +158,29 @@ CGRect PUPhotoViewContentHelperState::pictureFrame() const {
 }
 
 void PUPhotoViewContentHelperState::showBadge() {
-  const bool isVideo = _item && _item->isVideo();
-  auto badge = UIView(objectField(self(), badgeField).get());
-  if (!isVideo && !badge) return;
-  if (!isVideo) return setExtra(badgeField, {});
-  if (!badge) {
-    const auto made = makeNew<UIView>(VideoBadge::classObject());
-    setExtra(badgeField, made);
-    badge = made;
+  const ItemMarks marks = host().library ? marksOf(*host().library, _item) : ItemMarks();
+  const UIView badge(objectField(self(), badgeField).get());
+  if (!marks.areAny()) {
+    if (badge) setExtra(badgeField, {});
+    return;
   }
-  VideoBadge::of(badge).setDuration(durationOf(*_item));
+  if (!badge) setExtra(badgeField, ItemBadge::make());
+  ItemBadge::of(UIView(objectField(self(), badgeField).get())).show(marks);
+}
+
+std::string_view PUPhotoViewContentHelperState::bannerText() const {
+  if (!_item) return {};
+  return _word.empty() ? bannerTextFor(_item->name()) : std::string_view(_word);
 }
 
 void PUPhotoViewContentHelperState::showBanner() {
-  const std::string_view text = _item ? bannerTextFor(_item->name()) : std::string_view();
+  const std::string_view text = bannerText();
+  const UIView banner(objectField(self(), bannerField).get());
   if (text.empty()) {
-    if (objectField(self(), bannerField)) setExtra(bannerField, {});
+    if (banner) setExtra(bannerField, {});
     return;
   }
+  if (banner && TextBannerView::of(banner).text().utf8() == text) return;
   const auto made = makeNew<UIView>(TextBannerView::classObject());
   TextBannerView::of(made.get()).setText(NSString::make(text));
   setExtra(bannerField, made);
@@ -193,11 +202,12 @@ void PUPhotoViewContentHelperState::layoutSubviewsOfContentView() {
   if (room.width == _arrangedSize.width && room.height == _arrangedSize.height) return;
   _arrangedSize = room;
   const UIView badge(objectField(self(), badgeField).get());
-  badge.setFrame({{0, room.height - VideoBadge::height}, {room.width, VideoBadge::height}});
+  badge.setFrame({{0, room.height - ItemBadge::height}, {room.width, ItemBadge::height}});
   const UIView banner(objectField(self(), bannerField).get());
   const CGSize size = banner.sizeThatFits(room);
   banner.setHidden(room.width < leastBannerRoom);
-  banner.setFrame({{bannerMargin, room.height - size.height - bannerMargin}, size});
+  const CGFloat below = badge ? ItemBadge::height : bannerMargin;
+  banner.setFrame({{bannerMargin, room.height - size.height - below}, size});
 }
 
 }  // namespace desktop::photos_ui

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // PUPhotoViewContentHelper: what a photo view shows of an item: its thumbnail as soon as it is
-// there, a mark where it is a video, a word where it is of a special kind. The mark and the word
+// there, a badge with what marks it, a word where it is of a special kind. The badge and the word
 // are in the fields `__badgeView` and `_textBannerView`.
 #pragma once
 
@@ -27,6 +27,11 @@ class PUPhotoViewContentHelperState
 
   // Shows an item, or nothing, in a room of the size in points; the picture covers all of it.
   void show(library::ItemPointer item, CGSize room);
+  // The word of what is shown next, in place of what its name says; empty for that.
+  void setWord(std::string_view word) { _word = word; }
+  // The room has another size, at which the item is shown as well: what is on show stays until the
+  // sharper picture is there.
+  void fit(CGSize room);
   // Nobody sees it at present: what is not there yet is no longer wanted.
   void stopLoading();
   // The view is gone; from now on nothing is shown.
@@ -44,11 +49,13 @@ class PUPhotoViewContentHelperState
   CGRect pictureFrame() const;
   void showBadge();
   void showBanner();
+  std::string_view bannerText() const;
   void setExtra(const char* field, UIView view);
 
   UIView _contentView;  // borrowed
   Owned<UIImageView> _imageView;
   library::ItemPointer _item;
+  std::string _word;
   CGSize _room;                      // points
   pictures::SharedPicture _picture;  // on show
   PictureTicket _ticket;

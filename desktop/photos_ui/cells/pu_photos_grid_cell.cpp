@@ -58,9 +58,15 @@ void PUPhotosGridCellState::showCover() {
   setNeedsLayout();
 }
 
+// What others put on a cell may follow its size by itself and by their own layout, one after the
+// other: a cell of another size is laid out twice, so that the second pass finds all in place.
 void PUPhotosGridCellState::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGRect room = self().contentView().bounds();
+  if (_photoView->frame().size != room.size) {
+    content().fit(room.size);
+    setNeedsLayout();
+  }
   _photoView->setFrame(room);
   _cover->setFrame(room);
   _addSign->setFrame(room);

@@ -82,23 +82,43 @@ void GridSelection::beginSwipe(UIGestureRecognizer recognizer) {
   _swipe.emplace(*first, std::move(selected));
 }
 
-bool GridSelection::follow(UIGestureRecognizer recognizer) {
+void GridSelection::swipeTo(UIGestureRecognizer recognizer) {
+  if (const auto index = indexAt(recognizer.locationIn(_grid.view())))
+    _swipe->goTo(*index, selecting());
+}
+
+// The recogniser is the one that was added, and stays as long as this.
+void GridSelection::scrollAtEdges(UIGestureRecognizer recognizer, std::function<void()> scrolled) {
+  _edges.follow(recognizer.locationIn(_grid.view()), [this, recognizer, scrolled] {
+    swipeTo(recognizer);
+    scrolled();
+    scrollAtEdges(recognizer, scrolled);
+  });
+}
+
+bool GridSelection::follow(UIGestureRecognizer recognizer, std::function<void()> scrolled) {
   using Recognizer = UIGestureRecognizer;
   const Recognizer::State state = recognizer.state();
   if (state == Recognizer::began) beginSwipe(recognizer);
   if (!_swipe) return false;
   if (state == Recognizer::cancelled)
     undoSwipe();
-  else if (const auto index = indexAt(recognizer.locationIn(_grid.view())))
-    _swipe->goTo(*index, selecting());
-  if (state == Recognizer::ended) _swipe.reset();
+  else
+    swipeTo(recognizer);
+  if (state == Recognizer::ended) endSwipe();
+  if (_swipe) scrollAtEdges(recognizer, std::move(scrolled));
   return state != Recognizer::began;
+}
+
+void GridSelection::endSwipe() {
+  _edges.stop();
+  _swipe.reset();
 }
 
 void GridSelection::undoSwipe() {
   if (!_swipe) return;
   _swipe->undo(selecting());
-  _swipe.reset();
+  endSwipe();
 }
 
 }  // namespace desktop::photos_ui

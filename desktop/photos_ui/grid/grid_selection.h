@@ -3,9 +3,11 @@
 // Which items of a grid are selected in select mode, by taps or by swipes.
 #pragma once
 
+#include <functional>
 #include <set>
 #include <vector>
 
+#include "desktop/photos_ui/grid/edge_scrolling.h"
 #include "desktop/photos_ui/grid/grid_collection.h"
 #include "desktop/photos_ui/grid/swipe_selection.h"
 
@@ -32,8 +34,9 @@ class GridSelection {
   void addRecognizer(NSObject owner, SEL handler);
   // Whether a recogniser may begin, also one of somebody else.
   bool shouldBegin(UIGestureRecognizer recognizer) const;
-  // Whether a finger that swipes has moved on or left.
-  bool follow(UIGestureRecognizer recognizer);
+  // Whether a finger that swipes has moved on or left. Near the top and the bottom the grid scrolls
+  // below it; `scrolled` is called where more is swiped over by that.
+  bool follow(UIGestureRecognizer recognizer, std::function<void()> scrolled);
   // What a swipe that is under way did is undone, and it ends.
   void undoSwipe();
 
@@ -42,11 +45,15 @@ class GridSelection {
   void select(std::size_t index, bool isSelected) const;
   SwipeSelection::Select selecting() const;
   void beginSwipe(UIGestureRecognizer recognizer);
+  void swipeTo(UIGestureRecognizer recognizer);
+  void endSwipe();
+  void scrollAtEdges(UIGestureRecognizer recognizer, std::function<void()> scrolled);
   std::optional<std::size_t> indexAt(CGPoint point) const;
 
   const GridCollection& _grid;
   Owned<UIGestureRecognizer> _recognizer;
   std::optional<SwipeSelection> _swipe;
+  EdgeScrolling _edges{_grid};
   bool _isOn = false;
 };
 

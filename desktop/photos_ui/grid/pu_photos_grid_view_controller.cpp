@@ -90,14 +90,10 @@ void PUPhotosGridViewControllerState::viewWillAppear(bool animated) {
   load();
 }
 
-// Another width is another grid: what was at the top stays there.
+// Another width is another grid.
 void PUPhotosGridViewControllerState::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
-  const CGFloat width = self().view().bounds().size.width;
-  if (width == _measuredWidth) return;
-  const auto place = _measuredWidth > 0 ? _place.anchor() : std::nullopt;
-  self().updateLayoutMetrics();
-  if (place) _place.restore(*place);
+  if (self().view().bounds().size.width != _measuredWidth) self().updateLayoutMetrics();
 }
 
 void PUPhotosGridViewControllerState::viewDidLayoutSubviews() {
@@ -105,12 +101,16 @@ void PUPhotosGridViewControllerState::viewDidLayoutSubviews() {
   _place.stayAtEnd();
 }
 
+// What was at the top stays there, and whoever was at the end stays at that.
 void PUPhotosGridViewControllerState::updateLayoutMetrics() {
+  const auto place = _place.anchor();
   _measuredWidth = self().view().bounds().size.width;
   const auto [columns, itemSize] =
       gridMetrics(_contents, _measuredWidth, layout().interItemSpacing(), uikit::screen().scale);
   layout().setColumnsPerRow(columns);
   layout().self().setItemSize(itemSize);
+  if (place) _place.restore(*place);
+  _place.stayAtEnd();
 }
 
 void PUPhotosGridViewControllerState::refresh() {
@@ -136,7 +136,8 @@ void PUPhotosGridViewControllerState::refresh() {
 // What nobody sees is brought up to date when it is seen.
 void PUPhotosGridViewControllerState::libraryChanged(const library::LibraryChange& change) {
   const bool areItemsChanged = !change.inserted.empty() || !change.removed.empty() ||
-                               !change.updated.empty() || change.areAlbumsChanged;
+                               !change.updated.empty() || change.areAlbumsChanged ||
+                               change.areFavouritesChanged;
   if (areItemsChanged) _isStale = true;
   if (!collectionView() || !uikit::UIViewState::of(collectionView()).window()) return;
   if (areItemsChanged) {
@@ -204,7 +205,7 @@ bool PUPhotosGridViewControllerState::shouldBegin(UIGestureRecognizer recognizer
 
 // The title tells how many there are once the finger has moved on.
 void PUPhotosGridViewControllerState::handleSwipeSelection(UIGestureRecognizer recognizer) {
-  if (_selection.follow(recognizer)) updateTitle();
+  if (_selection.follow(recognizer, [this] { updateTitle(); })) updateTitle();
 }
 
 PHAsset PUPhotosGridViewControllerState::assetAt(NSIndexPath path) const {

@@ -12,6 +12,7 @@
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/grid/pu_photos_grid_view_controller.h"
 #include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
+#include "desktop/photos_ui/navigation/way_back.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/application/application.h"
@@ -139,6 +140,12 @@ model::Result<PUPhotosGridViewControllerState*> gridWithItem(long index) {
   return grid;
 }
 
+UIViewController lastPresented() {
+  UIViewController last = presented();
+  while (const auto next = last.presentedViewController()) last = next;
+  return last;
+}
+
 }  // namespace
 
 Owned<UIViewController> makeRootController() {
@@ -228,16 +235,11 @@ Outcome peekAt(CGPoint onScreen) {
 
 Outcome goBack() {
   if (!tabs()) return model::Error{"nothing is on show"};
-  if (presented()) {
-    UIViewController last = tabs();
-    while (const auto next = last.presentedViewController()) last = next;
-    // A page that was reached from the presented one leads back to it.
-    if (isKindOf(last, UINavigationController::classObject()) &&
-        UINavigationController(last.get()).pop(true))
-      return std::nullopt;
-    last.dismiss(UIViewController::animated, {});
+  if (const auto last = lastPresented()) {
+    leavePresented(last);
     return std::nullopt;
   }
+  if (tapCoverAway(top())) return std::nullopt;
   if (top().isEditing()) {
     top().setEditing(false, true);
     return std::nullopt;

@@ -30,7 +30,9 @@ Outcome peekItem(long index);
 Outcome peekAt(CGPoint onScreen);
 // "moments", "collections" or "years".
 Outcome setZoomLevel(std::string_view name);
-// One step back: the preview, the presented page, the single photo, the album.
+// One step back. An alert is answered by its cancel action, or its only one; what else is presented
+// goes; what others laid over the whole screen is tapped beside its contents; select mode ends; the
+// single photo or the album is left.
 Outcome goBack();
 
 // The middle of an item's cell on the screen; the grid is scrolled so that it can be seen.

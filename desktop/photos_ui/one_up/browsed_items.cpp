@@ -18,6 +18,21 @@ void BrowsedItems::set(ItemListPointer list, std::size_t index) {
   _index = index;
 }
 
+library::ItemPointer BrowsedItems::otherHalf() const {
+  const library::ItemPointer item = current();
+  if (!item || item->isLivePhoto()) return item ? item->film : nullptr;
+  const auto still = _stills.find(item->uuid);
+  return still == _stills.end() ? nullptr : still->second;
+}
+
+ItemListPointer BrowsedItems::listWithOtherHalf() {
+  const library::ItemPointer item = current();
+  auto items = _list->items();
+  items[_index] = otherHalf();
+  if (item->isLivePhoto()) _stills[item->film->uuid] = item;
+  return std::make_shared<const ItemList>(std::move(items), _list->sections());
+}
+
 ItemListPointer BrowsedItems::listAfterChange(const ItemNow& itemNow) const {
   std::vector<library::ItemPointer> left;
   for (const library::ItemPointer& item : _list->items())

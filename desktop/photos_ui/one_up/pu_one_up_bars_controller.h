@@ -21,12 +21,22 @@ class PUOneUpBarsController : public Bound<PUOneUpBarsController, NSObject> {
   void update() const;
 
  private:
+  // What the tools at the bottom say of the item.
+  struct Tools {
+    bool isFavourite = false;
+    bool isLivePhoto = false;
+    bool operator==(const Tools&) const = default;
+  };
+
   void updateBars();
-  void makeToolbarItems();
+  Tools toolsNow() const;
+  void showTools(Tools tools);
   void shareTouched(NSObject sender);
+  void favouriteTouched(NSObject sender);
 
   UIViewController _oneUp;  // borrowed
   const BrowsedItems* _items = nullptr;
+  Tools _tools;
 };
 
 }  // namespace desktop::photos_ui

@@ -49,6 +49,7 @@ Class PUOneUpViewControllerState::classObject() {
                   &PUOneUpViewControllerState::assetReference>()
           .method<"_setTilingView:", &PUOneUpViewControllerState::setTilingView>()
           .method<"barsController", &PUOneUpViewControllerState::barsController>()
+          .method<"swapHalves:", &PUOneUpViewControllerState::swapHalves>()
           .method<"handleTap:", &PUOneUpViewControllerState::handleTap>()
           .method<"handleTapBeside:", &PUOneUpViewControllerState::handleTapBeside>()
           .method<"gestureRecognizer:shouldReceiveTouch:",
@@ -171,6 +172,14 @@ PUAssetReference PUOneUpViewControllerState::assetReference(NSIndexPath path,
   const library::ItemPointer item = _items.at(path);
   if (!item || !host().library) return {};
   return faces::PUAssetReferenceState::make(faces::PHAssetState::make(*host().library, item), path);
+}
+
+// The film is an item of its own in the place of its still, so that whoever asks for the item on
+// show is told of it.
+void PUOneUpViewControllerState::swapHalves(NSObject) {
+  if (!_items.otherHalf()) return;
+  showItems(_items.listWithOtherHalf(), _items.index());
+  updateBars();
 }
 
 void PUOneUpViewControllerState::handleTap(UIGestureRecognizer) {

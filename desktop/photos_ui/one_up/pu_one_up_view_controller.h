@@ -54,6 +54,7 @@ class PUOneUpViewControllerState
   void setTilingView(UIView view);
   NSObject barsController() const { return _bars; }
 
+  void swapHalves(NSObject sender);
   void handleTap(UIGestureRecognizer recognizer);
   void handleTapBeside(UIGestureRecognizer recognizer);
   bool shouldReceiveTouch(UIGestureRecognizer recognizer, UITouch touch) const;

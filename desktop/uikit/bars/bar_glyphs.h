@@ -32,6 +32,9 @@ enum class Glyph : NSInteger {
   fastForward = 20,
   photos = 100,
   albums = 101,
+  heart = 102,
+  filledHeart = 103,
+  livePhoto = 104,
 };
 
 // The side of the square that a picture is drawn in, in points.

@@ -4,6 +4,7 @@
 // pictures.
 #include "apps/photohost/keys.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
@@ -152,16 +153,100 @@ TEST_F(KeysTest, PlusMinusAndNumbersZoom) {
   }
 }
 
-TEST_F(KeysTest, EscapeLeavesTheFullScreenFirst) {
-  showPhoto(0);
+TEST_F(KeysTest, EscapeLeavesTheFullScreenLast) {
   EXPECT_TRUE(press(Qt::Key_F11));
   EXPECT_TRUE(isFullScreen());
   EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(title(), "Albums");
+  EXPECT_TRUE(isFullScreen());
+  EXPECT_TRUE(press(Qt::Key_Escape));
   EXPECT_FALSE(isFullScreen());
-  EXPECT_TRUE(isOneUpOnShow());
+  EXPECT_FALSE(press(Qt::Key_Escape));
   press(Qt::Key_F11);
   press(Qt::Key_F11);
   EXPECT_FALSE(isFullScreen());
+}
+
+TEST_F(KeysTest, EscapeAnswersAnAlertByItsCancelOrOnlyAction) {
+  using Actions = std::vector<std::pair<const char*, UIAlertAction::Style>>;
+  const struct {
+    Actions actions;
+    std::string pressed;
+  } alerts[] = {
+      {{{"Ok", UIAlertAction::normal}}, "Ok"},
+      {{{"Delete", UIAlertAction::normal}, {"Cancel", UIAlertAction::cancel}}, "Cancel"},
+      {{{"Left", UIAlertAction::normal}, {"Right", UIAlertAction::normal}}, ""},
+  };
+  for (const auto& [actions, wanted] : alerts) {
+    const AutoreleasePool pool;
+    std::string pressed;
+    const auto alert =
+        UIAlertController::make({}, NSString::make("What now?"), UIAlertController::alert);
+    for (const auto& [name, style] : actions)
+      alert.addAction(UIAlertAction::make(
+          NSString::make(name), style,
+          Block<void(UIAlertAction)>([&pressed, name = name](UIAlertAction) { pressed = name; })));
+    top().present(alert, UIViewController::immediately, {});
+    settle();
+    EXPECT_TRUE(press(Qt::Key_Escape));
+    EXPECT_EQ(pressed, wanted);
+    EXPECT_THAT(texts(), testing::Not(testing::Contains("What now?")));
+    EXPECT_EQ(title(), "Album");
+  }
+}
+
+// A view of somebody else's that counts the touches that end on it, and goes by the first.
+class Cover : public Bound<Cover, uikit::UIViewState> {
+ public:
+  using Bound::Bound;
+  static Class classObject() {
+    static const Class made = ClassBuilder<Cover>("KeysTestCover")
+                                  .method<"touchesEnded:withEvent:", &Cover::touchesEnded>()
+                                  .build();
+    return made;
+  }
+  static int count;
+
+ private:
+  void touchesEnded(NSSet, UIEvent) {
+    ++count;
+    self().removeFromSuperview();
+  }
+};
+int Cover::count = 0;
+
+TEST_F(KeysTest, EscapeTapsWhatOthersLaidOverTheScreen) {
+  const auto cover = makeView<UIView>(top().view().bounds(), Cover::classObject());
+  top().view().addSubview(cover);
+  settle();
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(Cover::count, 1);
+  EXPECT_EQ(title(), "Album");
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(title(), "Albums");
+}
+
+TEST_F(KeysTest, EscapeLeavesAloneWhatLiesOverAPartOfTheScreen) {
+  Cover::count = 0;
+  const auto cover = makeView<UIView>({{0, 0}, {300, 300}}, Cover::classObject());
+  top().view().addSubview(cover);
+  settle();
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(Cover::count, 0);
+  EXPECT_EQ(title(), "Albums");
+}
+
+TEST_F(KeysTest, EscapeTouchesNothingBelowWhatIsStillComing) {
+  Cover::count = 0;
+  const auto cover = makeView<UIView>(top().view().bounds(), Cover::classObject());
+  top().view().addSubview(cover);
+  cover->setAlpha(0);
+  UIView::animate(5, Block<void()>([&cover] { cover->setAlpha(1); }));
+  settle();
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_EQ(Cover::count, 0);
+  EXPECT_EQ(title(), "Album");
+  EXPECT_FALSE(isOneUpOnShow());
 }
 
 TEST_F(KeysTest, SpaceOpensAVideoOutside) {

@@ -22,20 +22,35 @@ std::vector<std::string> albums() {
   return folders;
 }
 
-int itemsIn(const std::string& folder) {
-  int count = 0;
+// The film of a Live Photo lies beside its still.
+bool isFilm(const fs::path& file) {
+  return file.extension() == ".MOV" && fs::exists(fs::path(file).replace_extension(".HEIC"));
+}
+
+// What opens each item of a folder, in the library's order; a film is reached from its still.
+std::vector<std::string> waysToItems(const std::string& folder) {
+  std::vector<std::pair<fs::file_time_type, fs::path>> files;
   for (const auto& entry : fs::directory_iterator(folder))
-    count += entry.path().filename().native().front() != '.';
-  return count;
+    if (entry.path().filename().native().front() != '.' && !isFilm(entry.path()))
+      files.emplace_back(entry.last_write_time(), entry.path());
+  std::ranges::sort(files);
+  std::vector<std::string> ways;
+  for (std::size_t item = 0; item < files.size(); ++item) {
+    const std::string open = "open item " + std::to_string(item) + "\nwait 1\n";
+    ways.push_back(open);
+    const fs::path film = fs::path(files[item].second).replace_extension(".MOV");
+    if (fs::exists(film) && isFilm(film)) ways.push_back(open + "tap \"Live Photo\"\nwait 1\n");
+  }
+  return ways;
 }
 
 // Opens the details of every item, and dumps each page under its number.
-std::string scriptFor(int items, int viewType) {
+std::string scriptFor(const std::vector<std::string>& ways, int viewType) {
   std::string script = "preference net.korvu.lumifact viewType " + std::to_string(viewType) +
                        "\nnotify net.korvu.lumifact/preferences\n";
-  for (int item = 0; item < items; ++item)
-    script += "open item " + std::to_string(item) + "\nwait 1\n" + pressInfo + "dump " +
-              std::to_string(item) + ".json\ntap \"Dismiss\"\nwait 1\nback\nwait 1\n";
+  for (std::size_t item = 0; item < ways.size(); ++item)
+    script += ways[item] + pressInfo + "dump " + std::to_string(item) +
+              ".json\ntap \"Dismiss\"\nwait 1\nback\nwait 1\n";
   return script;
 }
 
@@ -60,12 +75,13 @@ std::string reportOf(const std::string& path) {
 void compareTexts(const std::string& folder) {
   Host host;
   host.library(folder);
-  const int items = itemsIn(folder);
-  host.run(scriptFor(items, 1));
-  for (int item = 0; item < items; ++item) {
+  const auto ways = waysToItems(folder);
+  host.run(scriptFor(ways, 1));
+  for (std::size_t item = 0; item < ways.size(); ++item) {
     const Json page = host.dumped(std::to_string(item));
     const std::string path = pathOnScreen(page);
     ASSERT_TRUE(fs::exists(path)) << "item " << item << ": " << path;
+    EXPECT_EQ(isFilm(path), ways[item].find("Live Photo") != std::string::npos) << path;
     EXPECT_EQ(textOnScreen(page), reportOf(path)) << path;
   }
 }
@@ -84,9 +100,9 @@ std::string shownValue(const Json& value) {
 void compareTables(const std::string& folder) {
   Host host;
   host.library(folder).size(375, 4'000);
-  const int items = itemsIn(folder);
-  host.run(scriptFor(items, 2));
-  for (int item = 0; item < items; ++item) {
+  const auto ways = waysToItems(folder);
+  host.run(scriptFor(ways, 2));
+  for (std::size_t item = 0; item < ways.size(); ++item) {
     const Json page = host.dumped(std::to_string(item));
     const std::string path = pathOnScreen(page);
     ASSERT_TRUE(fs::exists(path)) << "item " << item << ": " << path;

@@ -239,6 +239,21 @@ TEST_F(PhotoLibraryTest, namesThatAreNoTextCanBeOpened) {
   EXPECT_TRUE(_library->facts(*item));
 }
 
+TEST_F(PhotoLibraryTest, favouritesAreToldAndKeptBelowTheRootOnly) {
+  const std::string path = photo("a.jpg");
+  open();
+  ASSERT_TRUE(waitUntil([&] { return _library->state() == LoadingState::ready; }));
+  const LibraryItem item = *_library->items().front();
+  EXPECT_FALSE(_library->isFavourite(item));
+  _changes.clear();
+  EXPECT_TRUE(_library->setFavourite(item, true));
+  EXPECT_TRUE(_library->isFavourite(item));
+  ASSERT_TRUE(waitUntil([&] { return !_changes.empty(); }));
+  EXPECT_TRUE(_changes[0].areFavouritesChanged);
+  EXPECT_TRUE(fs::exists(_folder.file("root/favourites")));
+  EXPECT_EQ(std::distance(fs::directory_iterator(_folder.file("library")), {}), 1);
+}
+
 TEST_F(PhotoLibraryTest, panoramasAreFoundOnceTheyAreWanted) {
   const auto write = [&](const std::string& name, std::uint16_t width, std::uint16_t height) {
     return _folder.write("library/" + name,

@@ -2,11 +2,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
 
+#include "bridge/class_builder.h"
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/cells/item_badge.h"
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
-#include "desktop/photos_ui/cells/video_badge.h"
 #include "desktop/photos_ui/grid/selection_title.h"
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/uikit/application/application.h"
@@ -15,6 +17,7 @@
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "tests/desktop/photos_ui/library_screen.h"
+#include "tests/support/sample_photo.h"
 
 namespace desktop::photos_ui {
 namespace {
@@ -82,24 +85,91 @@ CGSize largerItems(id, SEL, NSInteger) {
   return {186.5, 186.5};
 }
 
+class LargerItems {
+ public:
+  LargerItems() : _stock(method_setImplementation(_method, reinterpret_cast<IMP>(&largerItems))) {}
+  ~LargerItems() { method_setImplementation(_method, _stock); }
+  LargerItems(const LargerItems&) = delete;
+  LargerItems& operator=(const LargerItems&) = delete;
+
+ private:
+  Method _method = class_getInstanceMethod(PUSectionedGridLayoutState::classObject(),
+                                           selector<"layoutItemSizeForColumn:">());
+  IMP _stock;
+};
+
 TEST_F(GridTest, ShowsAsManyColumnsAsTheSizesLeaveRoomFor) {
   openAlbumOf(5);
-  const SEL sizeForColumn = selector<"layoutItemSizeForColumn:">();
-  const Class aClass = PUSectionedGridLayoutState::classObject();
-  const Method method = class_getInstanceMethod(aClass, sizeForColumn);
-  const IMP before = method_setImplementation(method, reinterpret_cast<IMP>(&largerItems));
   const AutoreleasePool pool;
   const PUPhotosAlbumViewController album(top().get());
-  album.mainGridLayout().invalidateLayout();
-  album.updateLayoutMetrics();
-  settle();
-  EXPECT_EQ(frameOf(1).origin.x, 187.5);
-  EXPECT_EQ(frameOf(2).origin.y, 187.5);
-  EXPECT_EQ(album.mainGridLayout().columnsPerRow(), 4);
-  method_setImplementation(method, before);
+  {
+    const LargerItems larger;
+    album.mainGridLayout().invalidateLayout();
+    album.updateLayoutMetrics();
+    settle();
+    EXPECT_EQ(frameOf(1).origin.x, 187.5);
+    EXPECT_EQ(frameOf(2).origin.y, 187.5);
+    EXPECT_EQ(album.mainGridLayout().columnsPerRow(), 4);
+  }
   album.mainGridLayout().invalidateLayout();
   settle();
   EXPECT_EQ(frameOf(4).origin.y, 94);
+}
+
+TEST_F(GridTest, KeepsItsPlaceWhenItsMetricsAreUpdated) {
+  openAlbumOf(90);
+  const auto& scroll = uikit::UIScrollViewState::of(grid().collectionView());
+  send<void, "setContentOffset:">(grid().collectionView(), CGPoint{0, 500});
+  settle();
+  const CGFloat before = frameOf(24).origin.y - scroll.contentOffset().y;
+  const AutoreleasePool pool;
+  const PUPhotosAlbumViewController album(top().get());
+  const LargerItems larger;
+  album.mainGridLayout().invalidateLayout();
+  album.updateLayoutMetrics();
+  settle();
+  EXPECT_EQ(frameOf(24).origin.y - scroll.contentOffset().y, before);
+}
+
+TEST_F(GridTest, StaysAtTheEndWhenItsMetricsAreUpdated) {
+  for (int index = 0; index < 90; ++index) addPhoto("Album", index);
+  open();
+  ASSERT_FALSE(openAlbum("All Photos"));
+  settle();
+  const AutoreleasePool pool;
+  const PUPhotosAlbumViewController album(top().get());
+  const LargerItems larger;
+  album.mainGridLayout().invalidateLayout();
+  album.updateLayoutMetrics();
+  settle();
+  const auto& scroll = uikit::UIScrollViewState::of(grid().collectionView());
+  EXPECT_EQ(scroll.contentOffset().y, scroll.clamped({0, 1e9}).y);
+  EXPECT_GT(scroll.contentOffset().y, 5'000);
+}
+
+// What an extension puts on a cell's layout: a count of the passes, by the width they found.
+std::map<CGFloat, int> passes;
+IMP stockLayout = nullptr;
+void countingLayout(id self, SEL command) {
+  reinterpret_cast<void (*)(id, SEL)>(stockLayout)(self, command);
+  ++passes[UIView(self).bounds().size.width];
+}
+
+TEST_F(GridTest, LaysCellsOfAnotherSizeOutTwiceBeforeTheyAreSeen) {
+  openAlbumOf(1);
+  const Method method =
+      class_getInstanceMethod(PUPhotosGridCellState::classObject(), selector<"layoutSubviews">());
+  stockLayout = method_setImplementation(method, reinterpret_cast<IMP>(&countingLayout));
+  passes.clear();
+  application().resize({350, 667});
+  application().prepareFrame();
+  EXPECT_THAT(passes, ElementsAre(testing::Pair(87, 2)));
+  application().resize({375, 667});
+  application().prepareFrame();
+  EXPECT_THAT(passes, ElementsAre(testing::Pair(87, 2), testing::Pair(93, 2)));
+  application().prepareFrame();
+  EXPECT_EQ(passes[93], 2) << "one size, one time";
+  method_setImplementation(method, stockLayout);
 }
 
 TEST_F(GridTest, MakesCellsAsLargeAsTheyWillBe) {
@@ -118,6 +188,40 @@ TEST_F(GridTest, OpensAPhotoByATap) {
   openAlbumOf(3);
   tap(placeOf(1));
   EXPECT_TRUE(oneUpOnShow());
+}
+
+// Somebody who waits for long presses on a grid.
+class LongPresses : public Bound<LongPresses, NSObject> {
+ public:
+  using Bound::Bound;
+  static Class classObject() {
+    static const Class made = ClassBuilder<LongPresses>("GridTestLongPresses")
+                                  .method<"pressed:", &LongPresses::pressed>()
+                                  .build();
+    return made;
+  }
+  int begun = 0;
+
+ private:
+  void pressed(UIGestureRecognizer recognizer) {
+    begun += recognizer.state() == UIGestureRecognizer::began ? 1 : 0;
+  }
+};
+
+TEST_F(GridTest, LeavesALongPressToWhoeverWaitsForOne) {
+  openAlbumOf(3);
+  const auto waiting = makeNew<NSObject>(LongPresses::classObject());
+  const auto recognizer = UILongPressGestureRecognizer::make(waiting.get(), selector<"pressed:">());
+  grid().collectionView().addGestureRecognizer(recognizer.get());
+  const CGPoint place = placeOf(1);
+  touches().down(place);
+  settle(0.6);
+  touches().up(place);
+  settle();
+  EXPECT_EQ(LongPresses::of(waiting.get()).begun, 1);
+  EXPECT_FALSE(oneUpOnShow());
+  tap(place);
+  EXPECT_TRUE(oneUpOnShow()) << "a short touch opens the photo as ever";
 }
 
 TEST_F(GridTest, AnswersTheAssetOfAPlace) {
@@ -170,6 +274,51 @@ TEST_F(GridTest, DeselectsWhatASwipeThatBeginsOnASelectedItemGoesOver) {
   touches().up(placeOf(3));
   settle();
   EXPECT_THAT(selected(), ElementsAre("Album/00.jpg"));
+}
+
+TEST_F(GridTest, ScrollsWhereASwipeStaysAtAnEdge) {
+  openAlbumOf(90);
+  beginSelecting();
+  const auto& scroll = uikit::UIScrollViewState::of(grid().collectionView());
+  const CGPoint start = placeOf(0);
+  touches().down(start);
+  touches().move({start.x + 100, start.y});
+  settle(0.02);
+  touches().move({start.x + 100, 610});
+  settle(1);
+  const CGFloat halfWay = scroll.contentOffset().y;
+  EXPECT_GT(halfWay, 200) << "the finger rests above the bar at the bottom";
+  const std::size_t selectedHalfWay = selected().size();
+  EXPECT_GT(selectedHalfWay, 30U);
+  EXPECT_THAT(title(), HasSubstr(std::to_string(selectedHalfWay)));
+  settle(5);
+  EXPECT_EQ(scroll.contentOffset().y, scroll.clamped({0, 1e9}).y) << "no further than to the end";
+  touches().move({start.x + 100, 300});
+  settle(0.02);
+  const std::size_t selectedThen = selected().size();
+  const CGFloat offset = scroll.contentOffset().y;
+  settle(1);
+  EXPECT_EQ(scroll.contentOffset().y, offset);
+  touches().up({start.x + 100, 300});
+  settle();
+  EXPECT_EQ(selected().size(), selectedThen);
+  EXPECT_EQ(scroll.contentOffset().y, offset);
+}
+
+TEST_F(GridTest, ScrollsNoMoreOnceASwipeIsTakenBack) {
+  openAlbumOf(90);
+  beginSelecting();
+  const CGPoint start = placeOf(0);
+  touches().down(start);
+  touches().move({start.x + 100, start.y});
+  settle(0.02);
+  touches().move({start.x + 100, 610});
+  settle(0.5);
+  touches().cancel();
+  const CGFloat offset = uikit::UIScrollViewState::of(grid().collectionView()).contentOffset().y;
+  settle(1);
+  EXPECT_EQ(uikit::UIScrollViewState::of(grid().collectionView()).contentOffset().y, offset);
+  EXPECT_THAT(selected(), IsEmpty());
 }
 
 TEST_F(GridTest, UndoesASwipeThatIsCancelled) {
@@ -278,11 +427,70 @@ TEST_F(GridTest, MarksVideosAndLeavesTheMarkWhereOthersPutIt) {
   const auto helper = cell.photoContentView().contentHelper();
   const UIView badge(objectField(helper, "__badgeView").get());
   ASSERT_TRUE(badge);
-  EXPECT_EQ(badge.frame().origin.y, 93 - VideoBadge::height);
+  EXPECT_EQ(badge.frame().origin.y, 93 - ItemBadge::height);
   EXPECT_FALSE(objectField(helper, "_badgeView"));
   badge.setFrame({{0, 10}, {20, 20}});
   send<void, "layoutSubviewsOfContentView">(helper);
   EXPECT_EQ(badge.frame().origin.y, 10);
+}
+
+TEST_F(GridTest, MarksFavouritesAsSoonAsTheyAre) {
+  openAlbumOf(2);
+  const auto badge = [](NSInteger item) {
+    const auto& views = uikit::UICollectionViewState::of(grid().collectionView()).views();
+    const auto& cell = PUPhotosGridCellState::of(views.at({{}, {0, item}}).get());
+    return UIView(objectField(cell.photoContentView().contentHelper(), "__badgeView").get());
+  };
+  const AutoreleasePool pool;
+  EXPECT_FALSE(badge(1));
+  EXPECT_TRUE(library->setFavourite(*grid().list()->at(1), true));
+  deliver();
+  EXPECT_FALSE(badge(0));
+  EXPECT_TRUE(badge(1));
+  EXPECT_TRUE(library->setFavourite(*grid().list()->at(1), false));
+  deliver();
+  EXPECT_FALSE(badge(1));
+}
+
+TEST(MarksOf, AreWhatTheLibraryKnowsOfAnItem) {
+  const support::TemporaryFolder root;
+  const library::LibraryFolder folder;
+  const auto wide = media::facts::sampleJpeg({.width = 400, .height = 100});
+  folder.write("a wide.jpg", std::span(wide));
+  folder.photo("plain.jpg");
+  folder.broken("video.mov");
+  auto opened = library::PhotoLibrary::open(folder.path(), foundation::DeviceRoot(root.path()));
+  ASSERT_TRUE(opened);
+  library::PhotoLibrary& photos = **opened;
+  photos.findPanoramas();
+  photos.waitAndDeliver();
+  EXPECT_FALSE(marksOf(photos, nullptr).areAny());
+  for (const auto& item : photos.items()) {
+    const ItemMarks marks = marksOf(photos, item);
+    EXPECT_EQ(marks.isPanorama, item->name() == "a wide.jpg");
+    EXPECT_EQ(marks.isVideo, item->name() == "video.mov");
+    EXPECT_EQ(marks.areAny(), item->name() != "plain.jpg");
+    library::LibraryItem live = *item;
+    live.film = item;
+    EXPECT_TRUE(marksOf(photos, std::make_shared<library::LibraryItem>(live)).isLivePhoto);
+  }
+}
+
+TEST_F(GridTest, NamesSharedAlbumsInABannerOfTheirKeyPhotos) {
+  folder.photo("Trip/a.jpg");
+  folder.write("Trip/.shared", "");
+  folder.photo("City/a.jpg");
+  open();
+  ASSERT_FALSE(openAlbums());
+  settle();
+  const auto count = [] { return std::ranges::count(texts(), "Shared"); };
+  EXPECT_EQ(count(), 1);
+  std::remove((folder.path() + "/City/a.jpg").c_str());
+  deliver();
+  EXPECT_EQ(count(), 1) << "also where rows have changed places";
+  std::remove((folder.path() + "/Trip/.shared").c_str());
+  deliver();
+  EXPECT_EQ(count(), 0);
 }
 
 TEST_F(GridTest, NamesRawPhotosInABanner) {

@@ -6,7 +6,6 @@
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/uikit/application/application.h"
-#include "desktop/uikit/controllers/ui_activity_view_controller.h"
 #include "desktop/uikit/graphics/color.h"
 #include "tests/desktop/photos_ui/one_up_screen.h"
 
@@ -265,16 +264,6 @@ TEST_F(OneUpTest, WantsNoPicturesOnceItIsLeft) {
   settle();
   pool.reset();
   EXPECT_TRUE(host().pictures->waitUntilIdle(std::chrono::milliseconds(0)));
-}
-
-TEST_F(OneUpTest, SharesThePathOfTheItem) {
-  const AutoreleasePool pool;
-  addPictures(2);
-  show(1);
-  tap({20, 645});
-  const auto sheet = send<UIViewController, "presentedViewController">(top());
-  ASSERT_TRUE(isKindOf(sheet, UIActivityViewController::classObject()));
-  EXPECT_EQ(uikit::UIActivityViewControllerState::of(sheet).text(), folder.file("Album/1.bmp"));
 }
 
 }  // namespace

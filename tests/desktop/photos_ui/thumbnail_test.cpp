@@ -7,6 +7,7 @@
 #include "desktop/photos_ui/cells/pu_photos_grid_cell.h"
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/pictures/picture_loader.h"
+#include "desktop/uikit/application/application.h"
 #include "desktop/uikit/graphics/ui_image.h"
 #include "desktop/uikit/lists/ui_collection_view.h"
 #include "tests/desktop/photos_ui/library_screen.h"
@@ -92,6 +93,22 @@ TEST_F(ThumbnailTest, DropsWhatIsScrolledAwayBeforeItCame) {
   for (const auto& item : items) decoded += loader().find(item->path, request) ? 1 : 0;
   EXPECT_LT(decoded, 200);
   EXPECT_GE(decoded, 28) << "what is in sight at the end";
+}
+
+TEST_F(ThumbnailTest, AsksForASharperPictureWhereACellGrows) {
+  folder.photo("Album/a.jpg");
+  openAlbum();
+  waitForPictures();
+  const UIImageView shown = imageView(0);
+  const UIImage small = shown.image();
+  uikit::application().resize({350, 667});
+  settle();
+  EXPECT_EQ(cell(0)->content().state(), State::shown) << "the small one, until the other is there";
+  EXPECT_EQ(shown.image(), small);
+  waitForPictures();
+  EXPECT_NE(shown.image(), small);
+  EXPECT_EQ(uikit::UIImageState::bitmapOf(shown.image())->height, 173);
+  EXPECT_EQ(shown.frame().size.height, 86.5);
 }
 
 TEST_F(ThumbnailTest, ShowsAChangedFileAnew) {

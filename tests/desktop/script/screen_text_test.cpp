@@ -26,6 +26,17 @@ TEST_F(ScreenTextTest, FindsTextsThatCanBeSeen) {
   EXPECT_EQ(placeOf("Dismiss"), (CGPoint{60, 30}));
 }
 
+TEST_F(ScreenTextTest, FindsPicturesByTheirNames) {
+  const auto bar = bridge::makeView<UIToolbar>({{0, 600}, {375, 44}});
+  const auto share = UIBarButtonItem::withSystemItem(UIBarButtonItem::action, {}, nullptr);
+  bar->setItems(NSArray::of(share.get()));
+  window().addSubview(bar);
+  EXPECT_FALSE(isOnScreen("Dismiss"));
+  uikit::application().prepareFrame();
+  EXPECT_TRUE(isOnScreen("Share"));
+  EXPECT_LT(placeOf("Share")->x, 60);
+}
+
 TEST_F(ScreenTextTest, DoesNotFindWhatIsHiddenTransparentOrOutside) {
   addLabel(window(), {{10, 20}, {100, 20}}, "hidden")->setAlpha(0);
   addLabel(window(), {{1000, 20}, {100, 20}}, "outside");
