@@ -80,14 +80,20 @@ Class UIControlState::classObject() {
   return made;
 }
 
+const std::vector<UIControlState::Target>& UIControlState::targets() {
+  std::erase_if(_targets, &Target::isGone);
+  return _targets;
+}
+
 void UIControlState::addTarget(NSObject target, SEL action, NSUInteger events) {
   if (!action || events == 0) return;
+  targets();  // one that has gone may have been where the new one is
   for (Target& known : _targets) {
     if (known.target != target || !sameSelector(known.action, action)) continue;
     known.events |= events;
     return;
   }
-  _targets.push_back({target, action, events});
+  _targets.push_back({target, action, events, WeakReference(target)});
 }
 
 void UIControlState::removeTarget(NSObject target, SEL action, NSUInteger events) {
@@ -104,9 +110,9 @@ void UIControlState::sendActions(NSUInteger events) {
 // An action that takes others away keeps them from being told.
 void UIControlState::sendActionsWithEvent(NSUInteger events, UIEvent event) {
   const auto kept = Owned<UIView>::retain(self());
-  const auto present = _targets;
+  const auto present = targets();
   for (const Target& target : present) {
-    const bool isStillThere = std::ranges::any_of(_targets, [&](const Target& known) {
+    const bool isStillThere = std::ranges::any_of(targets(), [&](const Target& known) {
       return known.target == target.target && (known.events & events) != 0 &&
              sameSelector(known.action, target.action);
     });
@@ -120,23 +126,23 @@ void UIControlState::sendAction(SEL action, NSObject target, UIEvent event) {
   if (receiver) perform(action, receiver, self(), event);
 }
 
-NSSet UIControlState::allTargets() const {
+NSSet UIControlState::allTargets() {
   auto all = makeNew<NSMutableSet>();
-  for (const Target& known : _targets)
+  for (const Target& known : targets())
     if (known.target) all->add(known.target);
   return all.autorelease();
 }
 
-NSUInteger UIControlState::allControlEvents() const {
+NSUInteger UIControlState::allControlEvents() {
   NSUInteger all = 0;
-  for (const Target& known : _targets) all |= known.events;
+  for (const Target& known : targets()) all |= known.events;
   return all;
 }
 
 // Nil where there are none.
-NSArray UIControlState::actionsForTarget(NSObject target, NSUInteger events) const {
+NSArray UIControlState::actionsForTarget(NSObject target, NSUInteger events) {
   const auto names = makeNew<NSMutableArray>();
-  for (const Target& known : _targets)
+  for (const Target& known : targets())
     if (known.target == target && (known.events & events) != 0)
       names->add(NSString::make(sel_getName(known.action)));
   if (names->count() == 0) return {};

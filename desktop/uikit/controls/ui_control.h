@@ -10,6 +10,7 @@
 #include "bridge/uikit.h"
 #include "bridge/uikit/ui_controls.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/weak_reference.h"
 
 namespace desktop::uikit {
 
@@ -36,8 +37,12 @@ class UIControlState : public Bound<UIControlState, UIViewState, UIControl> {
     NSObject target;  // borrowed; nil is whoever first answers on the way up
     SEL action;
     NSUInteger events;
+    WeakReference living;  // to the target
+
+    bool isGone() const { return target && !living.get(); }
   };
-  const std::vector<Target>& targets() const { return _targets; }
+  // Without those that have gone, which nobody tells.
+  const std::vector<Target>& targets();
   // A pair of target and action is there once, for all of its events together.
   void addTarget(NSObject target, SEL action, NSUInteger events);
   // Nil is every target, null every action.
@@ -56,9 +61,9 @@ class UIControlState : public Bound<UIControlState, UIViewState, UIControl> {
   void setHighlighted(bool isHighlighted) { setBit(highlighted, isHighlighted); }
   void setSelected(bool isSelected) { setBit(selected, isSelected); }
   void setBit(NSUInteger bit, bool isSet);
-  NSSet allTargets() const;
-  NSUInteger allControlEvents() const;
-  NSArray actionsForTarget(NSObject target, NSUInteger events) const;
+  NSSet allTargets();
+  NSUInteger allControlEvents();
+  NSArray actionsForTarget(NSObject target, NSUInteger events);
   void sendAction(SEL action, NSObject target, UIEvent event);
   void sendActionsWithEvent(NSUInteger events, UIEvent event);
   bool shouldBegin(UIGestureRecognizer recognizer) const;

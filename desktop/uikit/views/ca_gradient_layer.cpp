@@ -9,6 +9,7 @@ namespace desktop::uikit {
 
 Class CAGradientLayerState::classObject() {
   static const Class made = ClassBuilder<CAGradientLayerState>("CAGradientLayer")
+                                .classMethod<"layer", &CAGradientLayerState::layer>()
                                 .method<"colors", &CAGradientLayerState::colorsArray>()
                                 .method<"setColors:", &CAGradientLayerState::setColors>()
                                 .method<"startPoint", &CAGradientLayerState::startPoint>()
@@ -17,6 +18,10 @@ Class CAGradientLayerState::classObject() {
                                 .method<"setEndPoint:", &CAGradientLayerState::setEndPoint>()
                                 .build();
   return made;
+}
+
+CAGradientLayer CAGradientLayerState::layer() {
+  return makeNew<CAGradientLayer>(classObject()).autorelease();
 }
 
 std::vector<Color> CAGradientLayerState::colors() const {

@@ -15,6 +15,9 @@ class CAGradientLayerState : public Bound<CAGradientLayerState, CALayerState, CA
   using Bound::Bound;
   static Class classObject();
 
+  // A new one. Autoreleased.
+  static CAGradientLayer layer();
+
   // At even distances.
   std::vector<Color> colors() const;
   CGPoint startPoint() const { return _start; }

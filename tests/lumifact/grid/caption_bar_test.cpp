@@ -2,7 +2,7 @@
 #include "lumifact/grid/caption_bar.h"
 
 #include "desktop/uikit/graphics/ui_color.h"
-#include "desktop/uikit/views/ca_layer.h"
+#include "desktop/uikit/views/ca_gradient_layer.h"
 #include "tests/lumifact/grid/grid_host_test.h"
 
 namespace lumifact {
@@ -89,7 +89,10 @@ TEST_F(CaptionBarTest, AFadingBarHasAGradientAndAShadow) {
   EXPECT_EQ(shadowOf(bar), (CGRect{{2, 0}, {89, 20}}));
   const auto& sublayers = CALayerState::of(bar.layer()).sublayers();
   ASSERT_FALSE(sublayers.empty());
+  ASSERT_TRUE(isKindOf(sublayers[0].get(), CAGradientLayer::classObject()));
   EXPECT_EQ(CALayerState::of(sublayers[0].get()).frame(), (CGRect{{0, 0}, {93, 20}}));
+  const auto& gradient = desktop::uikit::CAGradientLayerState::of(sublayers[0].get());
+  EXPECT_EQ(gradient.colors(), (std::vector<Color>{{0, 0, 0, 0}, {0, 0, 0, 1}}));
 }
 
 TEST_F(CaptionBarTest, AFadingBarsShadowLagsOneLayoutAndItsGradientForGood) {

@@ -125,6 +125,19 @@ TEST_F(UIControlTest, TargetsAreTakenAwayByWhatTheyShare) {
   EXPECT_EQ(state().targets().size(), 1u);
 }
 
+TEST_F(UIControlTest, ForgetsTargetsThatHaveGone) {
+  add(selector<"act">());
+  {
+    const AutoreleasePool pool;
+    const auto gone = Probe::make();
+    state().addTarget(gone, selector<"act:">(), UIControlState::touchUpInside);
+    EXPECT_EQ(state().targets().size(), 2u);
+  }
+  EXPECT_EQ(state().targets().size(), 1u);
+  tap(inside);
+  EXPECT_THAT(of(probe).told, ElementsAre("act"));
+}
+
 TEST_F(UIControlTest, AnswersWhoIsTold) {
   add(selector<"act:">());
   add(selector<"act">(), UIControlState::touchDown);
