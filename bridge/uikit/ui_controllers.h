@@ -38,6 +38,11 @@ struct UIViewController : UIResponder {
   void setView(UIView view) const { send<void, "setView:">(*this, view); }
   void loadView() const { send<void, "loadView">(*this); }
   void viewDidLoad() const { send<void, "viewDidLoad">(*this); }
+  // What a container tells a controller whose view it shows or hides, before and after.
+  void beginAppearance(bool isComing, bool isAnimated) const {
+    send<void, "beginAppearanceTransition:animated:">(*this, isComing, isAnimated);
+  }
+  void endAppearance() const { send<void, "endAppearanceTransition">(*this); }
   void viewWillAppear(bool isAnimated) const { send<void, "viewWillAppear:">(*this, isAnimated); }
   void viewDidAppear(bool isAnimated) const { send<void, "viewDidAppear:">(*this, isAnimated); }
   void viewWillDisappear(bool isAnimated) const {

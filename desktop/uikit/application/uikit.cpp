@@ -6,7 +6,6 @@
 #include "desktop/uikit/graphics/image_context.h"
 #include "desktop/uikit/lists/index_path.h"
 #include "desktop/uikit/text/string_drawing.h"
-#include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
 
@@ -15,7 +14,6 @@ void registerUIKit() {
     addStringDrawing();
     addIndexPathMethods();
     registerClasses();
-    addViewAnimations();
     provideImageContexts();
     answerMissingMessages();
     return true;

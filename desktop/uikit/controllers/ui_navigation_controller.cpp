@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The stack, and where its bars and screens stand. How one screen takes another's place is in
-// ui_navigation_controller_transitions.cpp.
+// The stack, and where its bars and screens stand. Who leaves and who comes is held by a transition
+// until its animation ends; what is under way is over at once when the next one begins, so two
+// never run together, and appearance messages always come in pairs.
 #include "desktop/uikit/controllers/ui_navigation_controller.h"
 
 #include <algorithm>
@@ -10,13 +11,23 @@
 #include "desktop/platform.h"
 #include "desktop/uikit/bars/ui_navigation_bar.h"
 #include "desktop/uikit/bars/ui_toolbar.h"
+#include "desktop/uikit/base/optional_message.h"
+#include "desktop/uikit/base/own_messages.h"
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/controllers/transition_view.h"
+#include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
+namespace {
+
+bool contains(const UINavigationControllerState::Stack& stack, UIViewController controller) {
+  return std::ranges::any_of(stack, [&](const auto& known) { return known.get() == controller; });
+}
+
+}  // namespace
 
 Class UINavigationControllerState::classObject() {
   using Controller = UINavigationControllerState;
@@ -87,8 +98,7 @@ UIViewController UINavigationControllerState::visible() const {
 void UINavigationControllerState::push(UIViewController controller, bool animated) {
   if (!controller) return;
   Stack next = stack();
-  const bool isKnown =
-      std::ranges::any_of(next, [&](const auto& known) { return known.get() == controller; });
+  const bool isKnown = contains(next, controller);
   if (isKnown || isKindOf(controller, classObject()))
     return logLine("Attempt to push " + nameOf(controller) + " on " + nameOf(self()) +
                    (isKnown ? " more than once" : ", which is a navigation controller"));
@@ -118,9 +128,7 @@ NSArray UINavigationControllerState::popTo(UIViewController controller, bool ani
 
 void UINavigationControllerState::setStack(NSArray controllers, bool animated) {
   const Stack next = listOf<UIViewController>(controllers);
-  const bool goesBack = !next.empty() && std::ranges::any_of(stack(), [&](const auto& known) {
-    return known.get() == next.back().get();
-  });
+  const bool goesBack = !next.empty() && contains(stack(), next.back());
   change(next, !animated ? Direction::none : goesBack ? Direction::backward : Direction::forward);
 }
 
@@ -186,6 +194,99 @@ void UINavigationControllerState::arrange() {
     UIViewControllerState::of(shown.get())
         .setSafeArea({.top = std::max(barBottom(), around.top),
                       .bottom = std::max(bounds.size.height - toolbarTop, around.bottom)});
+  }
+}
+
+// What was under way is over at once: two never run together. Answers the controllers that left.
+UINavigationControllerState::Stack UINavigationControllerState::change(const Stack& next,
+                                                                       Direction direction) {
+  endTransition();
+  const Stack before = stack();
+  const auto from = Owned<UIViewController>::retain(top());
+  setChildren(next);
+  Stack gone;
+  for (const auto& controller : before)
+    if (!contains(next, controller)) gone.push_back(controller);
+  for (const auto& controller : gone)
+    if (controller.get() != from.get()) UIViewControllerState::of(controller.get()).leftParent();
+  updateBars();
+  if (top() != from.get()) beginTransition(from, top(), direction);
+  return gone;
+}
+
+void UINavigationControllerState::updateBars() {
+  UINavigationBarState::Items items;
+  for (const auto& controller : stack())
+    items.push_back(Owned<UINavigationItem>::retain(controller->navigationItem()));
+  UINavigationBarState::of(_bar.get()).setItems(std::move(items));
+}
+
+// Nobody is told of screens that change while nothing of the stack is on show.
+void UINavigationControllerState::beginTransition(UIViewController from, UIViewController to,
+                                                  Direction direction) {
+  _transition.begin(from, to);
+  if (!viewIfLoaded()) return endTransition();
+  const bool isShown = isThereOrComing();
+  const bool isAnimated = direction != Direction::none && from && to && isShown &&
+                          UIViewState::of(view().get()).window();
+  UIMenuControllerState::shared().hide();
+  tellDelegate(false, isAnimated);
+  if (to) to.view();
+  if (isShown) {
+    if (from) UIViewControllerState::of(from.get()).beginAppearance(false, isAnimated);
+    if (to) UIViewControllerState::of(to.get()).beginAppearance(true, isAnimated);
+  }
+  updateBar(self().tabBarController(), isAnimated);
+  if (isAnimated) return slide(direction);
+  showTop();
+  arrange();
+  endTransition();
+}
+
+void UINavigationControllerState::slide(Direction direction) {
+  const auto kept = Owned<UIViewController>::retain(self());
+  _transition.slide(
+      direction, _content, UINavigationBarState::of(_bar.get()).contentView(),
+      [this] { arrange(); }, [kept] { of(kept.get()).endTransition(); });
+}
+
+void UINavigationControllerState::endTransition() {
+  if (!isInTransition()) return;
+  const auto [leaving, coming] = _transition.end();
+  const bool isLoaded = static_cast<bool>(viewIfLoaded());
+  if (leaving) {
+    UIViewControllerState& state = UIViewControllerState::of(leaving.get());
+    if (state.viewIfLoaded()) state.viewIfLoaded().removeFromSuperview();
+    state.endAppearance();
+    if (!contains(stack(), leaving)) state.leftParent();
+  }
+  if (!coming || !isLoaded) return;
+  animator().stop(coming->view());
+  // Who is coming because the whole stack is coming is told with it.
+  if (appearance() == UIViewControllerState::Appearance::shown)
+    UIViewControllerState::of(coming.get()).endAppearance();
+  tellDelegate(true, false);
+}
+
+void UINavigationControllerState::showTop() {
+  if (!_content) return;
+  const UIView shown = top() ? top().view() : UIView();
+  const auto before = UIViewState::of(_content.get()).subviews();
+  for (const auto& view : before)
+    if (view.get() != shown) view->removeFromSuperview();
+  if (!shown || UIViewState::of(shown.get()).superview() == _content.get()) return;
+  shown.setAutoresizingMask(flexibleWidth | flexibleHeight);
+  shown.setFrame(_content->bounds());
+  _content->addSubview(shown);
+}
+
+void UINavigationControllerState::tellDelegate(bool isDone, bool animated) const {
+  if (isDone) {
+    told<"navigationController:didShowViewController:animated:">(_delegate, self(), top(),
+                                                                 animated);
+  } else {
+    told<"navigationController:willShowViewController:animated:">(_delegate, self(), top(),
+                                                                  animated);
   }
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "desktop/uikit/base/object_list.h"
+#include "desktop/uikit/controllers/navigation_transition.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 
 namespace desktop::uikit {
@@ -25,7 +26,7 @@ class UINavigationControllerState
   UIView toolbar() const { return _toolbar; }
   bool isNavigationBarHidden() const { return _isBarHidden; }
   bool isToolbarHidden() const { return _isToolbarHidden; }
-  bool isInTransition() const { return static_cast<bool>(_leaving) || static_cast<bool>(_coming); }
+  bool isInTransition() const { return _transition.isUnderWay(); }
 
   // A controller that is on the stack already is refused and logged.
   void push(UIViewController controller, bool animated);
@@ -50,12 +51,12 @@ class UINavigationControllerState
   NSObject delegate() const { return _delegate; }
   void setDelegate(NSObject delegate) { _delegate = delegate; }
 
-  enum class Direction { none, forward, backward };
+  using Direction = NavigationTransition::Direction;
   // Makes the stack this one; what is on top then takes the place of what was. Answers the
   // controllers that left.
   Stack change(const Stack& next, Direction direction);
   void beginTransition(UIViewController from, UIViewController to, Direction direction);
-  void slide(UIViewController from, UIViewController to, Direction direction);
+  void slide(Direction direction);
   void endTransition();
   void showTop();
   void arrange();
@@ -66,11 +67,9 @@ class UINavigationControllerState
 
   Owned<UINavigationBar> _bar;
   Owned<UIView> _toolbar;
-  Owned<UIView> _content;            // what the screens stand in
-  Owned<UIViewController> _leaving;  // of the transition that goes on
-  Owned<UIViewController> _coming;
-  unsigned _transition = 0;  // counts them
-  NSObject _delegate;        // borrowed
+  Owned<UIView> _content;  // what the screens stand in
+  NavigationTransition _transition;
+  NSObject _delegate;  // borrowed
   bool _isBarHidden = false;
   bool _isToolbarHidden = true;
 };

@@ -1,20 +1,34 @@
 // SPDX-License-Identifier: MIT
 //
-// The class, and a controller's view. Containment and appearance are in
-// ui_view_controller_containment.cpp, presentation in ui_view_controller_presentation.cpp.
+// A controller's view, and who stands in whom: a controller keeps its children alive and knows its
+// parent without keeping it. Who comes and goes with it hears of it, through the children whose
+// views stand in its own. What one asks of presentation goes to the outermost controller.
 #include "desktop/uikit/controllers/ui_view_controller.h"
+
+#include <algorithm>
+#include <utility>
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/bars/ui_navigation_item.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
 #include "desktop/uikit/base/object_list.h"
+#include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/base/screen.h"
-#include "desktop/uikit/controllers/presentation.h"
 #include "desktop/uikit/overlays/ui_popover_presentation_controller.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
+namespace {
+
+constexpr Seconds standardPresentationTime = 0.4;
+
+// What a plain controller answers to messages that are there for classes below to answer.
+void nothingToDo() {}
+template <typename Ignored>
+void nothingToDoAbout(Ignored) {}
+
+}  // namespace
 
 Class UIViewControllerState::classObject() {
   static const Class made =
@@ -27,7 +41,7 @@ Class UIViewControllerState::classObject() {
           .method<"isViewLoaded", &UIViewControllerState::isViewLoaded>()
           .method<"loadView", &UIViewControllerState::loadView>()
           .method<"loadViewIfNeeded", &UIViewControllerState::loadViewIfNeeded>()
-          .method<"viewDidLoad", &UIViewControllerState::viewDidLoad>()
+          .method<"viewDidLoad", &nothingToDo>()
           .method<"nextResponder", &UIViewControllerState::nextResponder>()
           .method<"title", &UIViewControllerState::title>()
           .method<"setTitle:", &UIViewControllerState::setTitle>()
@@ -42,12 +56,12 @@ Class UIViewControllerState::classObject() {
           .method<"toolbarItems", &UIViewControllerState::toolbarItemsArray>()
           .method<"setToolbarItems:", &UIViewControllerState::setToolbarItems>()
           .method<"setToolbarItems:animated:", &UIViewControllerState::setToolbarItemsAnimated>()
-          .method<"viewWillAppear:", &UIViewControllerState::viewWillAppear>()
-          .method<"viewDidAppear:", &UIViewControllerState::viewDidAppear>()
-          .method<"viewWillDisappear:", &UIViewControllerState::viewWillDisappear>()
-          .method<"viewDidDisappear:", &UIViewControllerState::viewDidDisappear>()
-          .method<"viewWillLayoutSubviews", &UIViewControllerState::viewWillLayoutSubviews>()
-          .method<"viewDidLayoutSubviews", &UIViewControllerState::viewDidLayoutSubviews>()
+          .method<"viewWillAppear:", &nothingToDoAbout<bool>>()
+          .method<"viewDidAppear:", &nothingToDoAbout<bool>>()
+          .method<"viewWillDisappear:", &nothingToDoAbout<bool>>()
+          .method<"viewDidDisappear:", &nothingToDoAbout<bool>>()
+          .method<"viewWillLayoutSubviews", &nothingToDo>()
+          .method<"viewDidLayoutSubviews", &nothingToDo>()
           .method<"viewWillTransitionToSize:withTransitionCoordinator:",
                   &UIViewControllerState::viewWillTransition>()
           .method<"_adjustScrollViews", &UIViewControllerState::adjustScrollViews>()
@@ -58,8 +72,8 @@ Class UIViewControllerState::classObject() {
           .method<"parentViewController", &UIViewControllerState::parent>()
           .method<"addChildViewController:", &UIViewControllerState::addChild>()
           .method<"removeFromParentViewController", &UIViewControllerState::removeFromParent>()
-          .method<"willMoveToParentViewController:", &UIViewControllerState::willMoveToParent>()
-          .method<"didMoveToParentViewController:", &UIViewControllerState::didMoveToParent>()
+          .method<"willMoveToParentViewController:", &nothingToDoAbout<UIViewController>>()
+          .method<"didMoveToParentViewController:", &nothingToDoAbout<UIViewController>>()
           .method<"navigationController", &UIViewControllerState::navigationController>()
           .method<"tabBarController", &UIViewControllerState::tabBarController>()
           .method<"presentedViewController", &UIViewControllerState::presentedController>()
@@ -83,10 +97,6 @@ UIViewControllerState::UIViewControllerState(id self) : Bound(self) {}
 
 UIViewControllerState::~UIViewControllerState() {
   for (const auto& child : _children) of(child.get())._parent = {};
-  if (_presentation) {
-    of(_presentation->presented.get())._presenting = {};
-    _presentation->container->removeFromSuperview();
-  }
   if (_view) UIViewState::of(_view.get()).setController({});
 }
 
@@ -124,7 +134,7 @@ void UIViewControllerState::setView(UIView view) {
 
 // What a controller does not take goes to what its view stands in, or to who presented it.
 UIResponder UIViewControllerState::nextResponder() const {
-  if (_presenting) return _presenting;
+  if (presenting()) return presenting();
   return _view ? UIViewState::of(_view.get()).superview() : UIView();
 }
 
@@ -190,6 +200,153 @@ void UIViewControllerState::adjustScrollViews() {
   };
   adjust(_view);
   for (const auto& view : UIViewState::of(_view.get()).subviews()) adjust(view);
+}
+
+UIViewController UIViewControllerState::root() const {
+  UIViewController at = self();
+  while (const auto above = of(at.get())._parent) at = above;
+  return at;
+}
+
+UIViewController UIViewControllerState::enclosing(Class aClass) const {
+  UIViewController at = _parent;
+  while (at && !isKindOf(at, aClass)) at = of(at.get())._parent;
+  return at;
+}
+
+UIViewController UIViewControllerState::navigationController() const {
+  return enclosing(classNamed<"UINavigationController">());
+}
+
+UIViewController UIViewControllerState::tabBarController() const {
+  return enclosing(classNamed<"UITabBarController">());
+}
+
+NSArray UIViewControllerState::childrenArray() const {
+  return arrayOf(_children);
+}
+
+void UIViewControllerState::addChild(UIViewController child) {
+  const UIViewController me = self();
+  if (!child || root() == child) return;
+  const auto kept = Owned<UIViewController>::retain(child);
+  if (of(child.get())._parent) of(child.get()).removeFromParent();
+  child.willMoveToParent(me);
+  _children.push_back(kept);
+  of(child.get())._parent = me;
+}
+
+void UIViewControllerState::removeFromParent() {
+  if (!_parent) return;
+  const UIViewController me = self();
+  const auto kept = Owned<UIViewController>::retain(me);
+  std::erase_if(of(_parent.get())._children, [&](const auto& child) { return child.get() == me; });
+  leftParent();
+}
+
+void UIViewControllerState::setChildren(const std::vector<Owned<UIViewController>>& children) {
+  const UIViewController me = self();
+  for (const auto& child : children) {
+    UIViewControllerState& state = of(child.get());
+    if (state._parent == me) continue;
+    state.removeFromParent();
+    child->willMoveToParent(me);
+    state._parent = me;
+  }
+  const auto before = std::exchange(_children, children);
+  for (const auto& child : children) {
+    const bool isNew =
+        std::ranges::none_of(before, [&](const auto& known) { return known.get() == child.get(); });
+    if (isNew) child->didMoveToParent(me);
+  }
+}
+
+void UIViewControllerState::leftParent() {
+  _parent = {};
+  self().didMoveToParent(UIViewController());
+}
+
+void UIViewControllerState::beginAppearance(bool comes, bool animated) {
+  if (!_appearance.begin(comes, animated)) return;
+  if (comes) {
+    view();
+    self().viewWillAppear(animated);
+  } else {
+    self().viewWillDisappear(animated);
+  }
+  for (const auto& child : shownChildren()) of(child.get()).beginAppearance(comes, animated);
+}
+
+void UIViewControllerState::endAppearance() {
+  const auto hasCome = _appearance.end();
+  if (!hasCome) return;
+  if (*hasCome)
+    self().viewDidAppear(_appearance.isAnimated());
+  else
+    self().viewDidDisappear(_appearance.isAnimated());
+  for (const auto& child : shownChildren()) of(child.get()).endAppearance();
+}
+
+void UIViewControllerState::becomeSize(CGSize size) {
+  self().viewWillTransition(size, Object());
+  if (const auto above = presented()) of(above.get()).becomeSize(size);
+}
+
+// There is no coordinator: sizes change at once.
+void UIViewControllerState::viewWillTransition(CGSize size, Object coordinator) {
+  const auto children = _children;
+  for (const auto& child : children) child->viewWillTransition(size, coordinator);
+}
+
+std::vector<Owned<UIViewController>> UIViewControllerState::shownChildren() const {
+  auto shown = _children;
+  std::erase_if(shown, [this](const auto& child) {
+    const UIView view = of(child.get())._view;
+    return !view || !UIViewState::of(view.get()).isDescendantOf(_view);
+  });
+  return shown;
+}
+
+const char* UIViewControllerState::refusal(UIViewController controller) const {
+  if (!controller) return "which is none";
+  const UIViewControllerState& other = of(controller.get());
+  if (other.presenting() || other._parent || controller == root()) return "which is shown already";
+  if (_presentation.isInTransition()) return "while a presentation is in progress";
+  if (presented()) return "which is already presenting";
+  if (!_view || !UIViewState::of(_view.get()).window())
+    return "whose view is not in the window hierarchy";
+  return nullptr;
+}
+
+void UIViewControllerState::present(UIViewController controller, bool animated,
+                                    const BlockHeader* completion) {
+  if (root() != self()) return of(root().get()).present(controller, animated, completion);
+  if (const char* why = refusal(controller))
+    return logLine("Attempt to present " + nameOf(controller) + " on " + nameOf(self()) + " " +
+                   why);
+  _presentation.present(of(controller.get())._presentation, animated,
+                        Block<void()>::retain(completion));
+}
+
+void UIViewControllerState::dismiss(bool animated, const BlockHeader* completion) {
+  of(root().get())._presentation.dismiss(animated, Block<void()>::retain(completion));
+}
+
+UIViewController UIViewControllerState::presentedController() const {
+  return of(root().get()).presented();
+}
+
+UIViewController UIViewControllerState::presentingController() const {
+  return of(root().get()).presenting();
+}
+
+void UIViewControllerState::showPresented(bool shown) {
+  const CGRect whole = UIViewState::of(_view.get()).superview().bounds();
+  _view->setFrame(shown ? whole : offset(whole, {0, whole.size.height}));
+}
+
+Seconds UIViewControllerState::presentationDuration() const {
+  return standardPresentationTime;
 }
 
 }  // namespace desktop::uikit

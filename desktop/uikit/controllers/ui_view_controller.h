@@ -5,20 +5,19 @@
 // presented over one.
 #pragma once
 
-#include <memory>
 #include <vector>
-#include "desktop/uikit/views/ui_responder.h"
 
 #include "bridge/bound.h"
 #include "bridge/uikit.h"
 #include "bridge/uikit/ui_controllers.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/controllers/appearance_cycle.h"
+#include "desktop/uikit/controllers/presentation.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
+#include "desktop/uikit/views/ui_responder.h"
 
 namespace desktop::uikit {
-
-struct Presentation;
 
 // How a presented controller covers its presenter: wholly, so that the presenter's view goes
 // meanwhile, or over it.
@@ -61,11 +60,12 @@ class UIViewControllerState
   void leftParent();
 
   // Presentation: what this controller presents itself, and what presents it; nil where none.
-  UIViewController presented() const;
-  UIViewController presenting() const { return _presenting; }
+  UIViewController presented() const { return _presentation.presented(); }
+  UIViewController presenting() const { return _presentation.presenting(); }
 
-  enum class Appearance { gone, appearing, shown, disappearing };
-  Appearance appearance() const { return _appearance; }
+  using Appearance = AppearanceCycle::Stage;
+  Appearance appearance() const { return _appearance.stage(); }
+  bool isThereOrComing() const { return _appearance.isThereOrComing(); }
   // The view is about to come or to go; tells this controller and the children that show in it.
   // What is so already is not told again.
   void beginAppearance(bool comes, bool animated);
@@ -84,16 +84,9 @@ class UIViewControllerState
   UIViewController init();
   UIViewController initWithNib(NSString, Object) const;
   void loadView();
-  void viewDidLoad() {}
   void loadViewIfNeeded() { view(); }
   bool isViewLoaded() const { return static_cast<bool>(_view); }
   UIResponder nextResponder() const;
-  void viewWillAppear(bool) {}
-  void viewDidAppear(bool) {}
-  void viewWillDisappear(bool) {}
-  void viewDidDisappear(bool) {}
-  void viewWillLayoutSubviews() {}
-  void viewDidLayoutSubviews() {}
   void viewWillTransition(CGSize size, Object coordinator);
   void adjustScrollViews();
   EdgeInsets safeAreaInsets() const { return _safeArea; }
@@ -107,8 +100,6 @@ class UIViewControllerState
   void setToolbarItemsAnimated(NSArray items, bool) { setToolbarItems(items); }
 
   NSArray childrenArray() const;
-  void willMoveToParent(UIViewController) {}
-  void didMoveToParent(UIViewController) {}
   UIViewController navigationController() const;
   UIViewController tabBarController() const;
 
@@ -118,8 +109,8 @@ class UIViewControllerState
   void setModalPresentationStyle(NSInteger style) { _modalStyle = style; }
   NSInteger modalTransitionStyle() const { return _modalTransition; }
   void setModalTransitionStyle(NSInteger style) { _modalTransition = style; }
-  bool isBeingPresented() const;
-  bool isBeingDismissed() const;
+  bool isBeingPresented() const { return _presentation.isBeingPresented(); }
+  bool isBeingDismissed() const { return _presentation.isBeingDismissed(); }
   void present(UIViewController controller, bool animated, const BlockHeader* completion);
   void dismiss(bool animated, const BlockHeader* completion);
   // Where a presented view stands when it is shown, and before and after; animated.
@@ -130,12 +121,6 @@ class UIViewControllerState
   std::vector<Owned<UIViewController>> shownChildren() const;
 
   const char* refusal(UIViewController controller) const;
-  void finishPresenting(const std::shared_ptr<Presentation>& presentation);
-  void dismissPresented(bool animated, const Block<void()>& completion);
-  void finishDismissing(const std::shared_ptr<Presentation>& presentation);
-  std::vector<Owned<UIViewController>> presentedChain() const;
-  bool isInTransition() const;
-  void putViewBack();
 
   Owned<UIView> _view;
   Owned<NSString> _title;
@@ -144,14 +129,12 @@ class UIViewControllerState
   Owned<UIPopoverPresentationController> _popover;
   std::vector<Owned<NSObject>> _toolbarItems;
   std::vector<Owned<UIViewController>> _children;
-  UIViewController _parent;                     // borrowed
-  UIViewController _presenting;                 // borrowed
-  std::shared_ptr<Presentation> _presentation;  // of what this controller presents
-  Appearance _appearance = Appearance::gone;
+  UIViewController _parent;  // borrowed
+  Presentation _presentation{self()};
+  AppearanceCycle _appearance;
   EdgeInsets _safeArea;
   NSInteger _modalStyle = fullScreen;
   NSInteger _modalTransition = 0;
-  bool _isTransitionAnimated = false;
   bool _isEditing = false;
   bool _hidesBottomBar = false;
 };

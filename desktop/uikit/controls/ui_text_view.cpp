@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// The text of a text view, its look and its arrangement. Selecting is in
-// ui_text_view_selection.cpp, touches are in ui_text_view_touches.cpp.
+// What a text view answers, by its parts: the text as it is shown, and what of it is selected. A
+// long press selects a word and, dragged, more; the ends of a selection can be dragged; a tap
+// clears it.
 #include "desktop/uikit/controls/ui_text_view.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
-#include "desktop/uikit/graphics/canvas.h"
+#include "desktop/uikit/base/optional_message.h"
+#include "desktop/uikit/base/outside.h"
+#include "desktop/uikit/controls/ui_text_position.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/text/ui_font.h"
@@ -18,14 +20,26 @@
 namespace desktop::uikit {
 namespace {
 
-constexpr CGFloat padding = 5;  // at both ends of every line
-constexpr FontFace standardFace{.size = 12};
-constexpr CGFloat unlimited = 1e7;
+constexpr CGFloat reach = 20;  // points around an end of the selection that take hold of it
 
-// To whole points, upwards.
-CGFloat pointsUp(CGFloat points) {
-  constexpr CGFloat tolerance = 1e-6;
-  return std::ceil(points - tolerance);
+// A recogniser of a class, which the view owns; borrowed from it.
+template <FixedString ClassName, FixedString Action>
+UIGestureRecognizer addRecognizer(UIView view) {
+  const auto made = makeWith<UIGestureRecognizer, "initWithTarget:action:">(
+      classNamed<ClassName>(), view, selector<Action>());
+  made->setDelegate(view);
+  view.addGestureRecognizer(made);
+  return made;
+}
+
+bool isOver(UIGestureRecognizer recognizer) {
+  return recognizer.state() == UIGestureRecognizer::ended ||
+         recognizer.state() == UIGestureRecognizer::cancelled;
+}
+
+void hideMenu() {
+  const auto menu = UIMenuController::shared();
+  menu.setMenuVisible(false, true);
 }
 
 }  // namespace
@@ -40,10 +54,10 @@ Class UITextViewState::classObject() {
           .method<"setAttributedText:", &Self::setAttributedText>()
           .method<"font", &Self::font>()
           .method<"setFont:", &Self::setFont>()
-          .method<"textColor", &Self::textColorObject>()
+          .method<"textColor", &Self::textColor>()
           .method<"setTextColor:", &Self::setTextColor>()
-          .method<"textAlignment", &Self::alignmentNumber>()
-          .method<"setTextAlignment:", &Self::setAlignmentNumber>()
+          .method<"textAlignment", &Self::alignment>()
+          .method<"setTextAlignment:", &Self::setAlignment>()
           .method<"isEditable", &Self::isEditable>()
           .method<"setEditable:", &Self::setEditable>()
           .method<"isSelectable", &Self::isSelectable>()
@@ -79,77 +93,77 @@ Class UITextViewState::classObject() {
   return made;
 }
 
-UITextViewState::UITextViewState(id self) : Bound(self) {
-  _look.face = standardFace;
-  _text = std::make_shared<AttributedText>(AttributedText::plain({}, _look.face));
+UITextViewState::UITextViewState(id object) : Bound(object) {
   _string = Owned<NSString>::retain(NSString::make(""));
-  addGestures();
+  addRecognizer<"UILongPressGestureRecognizer", "textPressed:">(self());
+  _handle = addRecognizer<"UILongPressGestureRecognizer", "selectionEndDragged:">(self());
+  UILongPressGestureRecognizer(_handle.get()).setMinimumPressDuration(0);
+  _tap = addRecognizer<"UITapGestureRecognizer", "textTapped:">(self());
 }
 
-// Another text begins without a selection.
-void UITextViewState::show(AttributedText text) {
-  _text = std::make_shared<AttributedText>(std::move(text));
-  _layout.reset();
+// The text, arranged for the width that the view has at present.
+const ShownText& UITextViewState::arranged() {
+  if (_text.arrange(bounds().size.width)) updateContentSize();
+  return _text;
+}
+
+void UITextViewState::updateContentSize() {
+  const CGFloat width = bounds().size.width;
+  setContentSize({width, _text.sizeIn(width).height});
+}
+
+void UITextViewState::textChanged() {
   setNeedsLayout();
   setNeedsDisplay();
 }
 
+// Another text begins without a selection.
 void UITextViewState::setText(NSString text) {
-  if (!text) text = NSString::make("");
-  _string = copy(text);
-  AttributedText plain = AttributedText::plain(utf16Of(_string), _look.face, _look.style);
-  plain.runs[0].color = _look.color;
-  show(std::move(plain));
+  _string = copy(text ? text : NSString::make(""));
+  _text.setPlain(utf16Of(_string));
+  textChanged();
   select(std::nullopt);
 }
 
 void UITextViewState::setAttributedText(NSAttributedString text) {
   const auto string = text.string();
   _string = copy(string ? string : NSString::make(""));
-  AttributedText attributed = AttributedText::of(text, standardFace);
-  // Paragraphs without an alignment of their own stand as the view says.
-  for (TextRun& run : attributed.runs)
-    if (run.style.alignment == TextAlignment::natural) run.style.alignment = alignment();
-  if (!attributed.text.empty()) _look = attributed.runs[0];
-  show(std::move(attributed));
+  _text.setAttributed(AttributedText::of(text, ShownText::standardFace));
+  textChanged();
   select(std::nullopt);
 }
 
 NSAttributedString UITextViewState::attributedText() const {
-  return attributedString(_string, _text->runs);
-}
-
-// Changes the look of all text, and of what is set later.
-template <typename Change>
-void UITextViewState::restyle(const Change& change) {
-  AttributedText restyled = *_text;
-  for (TextRun& run : restyled.runs) change(run);
-  change(_look);
-  show(std::move(restyled));
+  return attributedString(_string, _text.content().runs);
 }
 
 UIFont UITextViewState::font() const {
-  return UIFontState::make(_look.face);
+  return UIFontState::make(_text.face());
 }
 
 // No font is the standard one.
 void UITextViewState::setFont(UIFont font) {
-  const FontFace face = UIFontState::faceOf(font, standardFace);
-  restyle([&](TextRun& run) { run.face = face; });
+  _text.setFace(UIFontState::faceOf(font, ShownText::standardFace));
+  textChanged();
 }
 
-UIColor UITextViewState::textColorObject() const {
-  return UIColorState::make(textColor());
+UIColor UITextViewState::textColor() const {
+  return UIColorState::make(_text.color());
 }
 
 void UITextViewState::setTextColor(UIColor color) {
-  const auto value = color ? std::optional(UIColorState::valueOf(color)) : std::nullopt;
-  restyle([&](TextRun& run) { run.color = value; });
+  _text.setColor(color ? std::optional(UIColorState::valueOf(color)) : std::nullopt);
+  textChanged();
 }
 
-void UITextViewState::setAlignmentNumber(NSInteger alignment) {
+void UITextViewState::setAlignment(NSInteger alignment) {
   if (alignment < 0 || alignment > static_cast<NSInteger>(TextAlignment::natural)) return;
-  restyle([&](TextRun& run) { run.style.alignment = static_cast<TextAlignment>(alignment); });
+  _text.setAlignment(static_cast<TextAlignment>(alignment));
+  textChanged();
+}
+
+void UITextViewState::setTextContainerInset(EdgeInsets inset) {
+  if (_text.setInset(inset)) textChanged();
 }
 
 void UITextViewState::setSelectable(bool selectable) {
@@ -157,63 +171,23 @@ void UITextViewState::setSelectable(bool selectable) {
   if (!selectable) select(std::nullopt);
 }
 
-void UITextViewState::setTextContainerInset(EdgeInsets inset) {
-  const bool isFinite = std::isfinite(inset.top + inset.left + inset.bottom + inset.right);
-  if (!isFinite || inset == _inset) return;
-  _inset = inset;
-  _layout.reset();
-  setNeedsLayout();
-  setNeedsDisplay();
-}
-
-double UITextViewState::columnWidth(CGFloat viewWidth) const {
-  return std::max(viewWidth - _inset.left - _inset.right - 2 * padding, 0.0);
-}
-
-CGPoint UITextViewState::textOrigin() const {
-  return {_inset.left + padding, _inset.top};
-}
-
-const TextLayout& UITextViewState::layout() {
-  const double width = columnWidth(bounds().size.width);
-  if (!_layout || _layout->width() != width) {
-    _layout.emplace(_text, width);
-    updateContentSize();
-  }
-  return *_layout;
-}
-
-CGSize UITextViewState::sizeAround(const TextLayout& layout, CGFloat width) const {
-  const CGSize text = layout.size();
-  const CGFloat needed = pointsUp(text.width + 2 * padding + _inset.left + _inset.right);
-  return {std::min(needed, width), pointsUp(text.height + _inset.top + _inset.bottom)};
-}
-
-void UITextViewState::updateContentSize() {
-  const CGFloat width = bounds().size.width;
-  setContentSize({width, sizeAround(*_layout, width).height});
-}
-
 CGSize UITextViewState::contentSize() {
-  layout();
+  arranged();
   return UIScrollViewState::contentSize();
 }
 
-// As wide as the longest line; a size without width does not limit it.
+// A size without width does not limit it.
 CGSize UITextViewState::sizeThatFits(CGSize size) const {
-  const CGFloat width = size.width > 0 ? std::min(size.width, unlimited) : unlimited;
-  if (_layout && _layout->width() == columnWidth(width)) return sizeAround(*_layout, width);
-  return sizeAround(TextLayout(_text, columnWidth(width)), width);
+  constexpr CGFloat unlimited = 1e7;
+  return _text.sizeIn(size.width > 0 ? std::min(size.width, unlimited) : unlimited);
 }
 
 // What comes into sight is laid out for good; what is in sight then stays where it is.
 void UITextViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
-  layout();
+  if (arranged().layout().isExact()) return;
   const CGRect seen = bounds();
-  const double top = seen.origin.y - _inset.top;
-  if (_layout->isExact()) return;
-  const double shift = _layout->refine(top, top + seen.size.height);
+  const double shift = _text.refine(seen);
   updateContentSize();
   CGPoint offset = seen.origin;
   if (shift != 0) offset = clamped({offset.x, offset.y + shift});
@@ -221,24 +195,143 @@ void UITextViewState::layoutSubviews() {
   setNeedsDisplay();
 }
 
-std::size_t UITextViewState::indexAt(CGPoint point) {
-  return layout().indexAt(point - textOrigin());
-}
-
-CGRect UITextViewState::caretAt(std::size_t index) {
-  return offset(layout().caretAt(std::min(index, _text->text.size())), textOrigin());
-}
-
 void UITextViewState::scrollRangeToVisible(NSRange range) {
-  const CGRect first = caretAt(range.location);
-  self().scrollRectToVisible(first, false);
+  self().scrollRectToVisible(caretAt(range.location), false);
 }
 
 void UITextViewState::drawContent(Canvas* canvas) {
-  const CGRect seen = bounds();
-  if (hasSelectedText()) drawSelection(*canvas);
-  const double top = seen.origin.y - _inset.top;
-  layout().draw(*canvas, textOrigin(), textColor(), top, top + seen.size.height);
+  const ShownText& text = arranged();
+  if (hasSelectedText()) text.drawSelection(*canvas, selectedRange(), bounds(), tint());
+  text.draw(*canvas, bounds());
+}
+
+// The delegate hears of another selection only.
+void UITextViewState::select(std::optional<NSRange> range) {
+  if (!_selection.set(range, _text.length())) return;
+  setNeedsDisplay();
+  told<"textViewDidChangeSelection:">(delegate(), self());
+}
+
+void UITextViewState::setSelectedRange(NSRange range) {
+  if (range.location == static_cast<NSUInteger>(NSNotFound)) return select(std::nullopt);
+  select(range);
+}
+
+UITextRange UITextViewState::selectedTextRange() const {
+  return _selection.range() ? UITextRangeState::make(*_selection.range()) : UITextRange();
+}
+
+void UITextViewState::setSelectedTextRange(UITextRange range) {
+  if (!range) return select(std::nullopt);
+  select(UITextRangeState::rangeOf(range));
+}
+
+UITextPosition UITextViewState::beginningOfDocument() const {
+  return UITextPositionState::make(0);
+}
+
+UITextPosition UITextViewState::endOfDocument() const {
+  return UITextPositionState::make(_text.length());
+}
+
+NSInteger UITextViewState::offsetBetween(UITextPosition from, UITextPosition to) const {
+  return static_cast<NSInteger>(UITextPositionState::offsetOf(to)) -
+         static_cast<NSInteger>(UITextPositionState::offsetOf(from));
+}
+
+// Nil outside the text.
+UITextPosition UITextViewState::positionFrom(UITextPosition position, NSInteger offset) const {
+  const auto start = static_cast<NSInteger>(UITextPositionState::offsetOf(position));
+  const auto length = static_cast<NSInteger>(_text.length());
+  if (!position || offset < -start || offset > length - start) return {};
+  return UITextPositionState::make(static_cast<std::size_t>(start + offset));
+}
+
+UITextRange UITextViewState::rangeBetween(UITextPosition from, UITextPosition to) const {
+  if (!from || !to) return {};
+  const auto [start, end] =
+      std::minmax({UITextPositionState::offsetOf(from), UITextPositionState::offsetOf(to)});
+  return UITextRangeState::make({start, end - start});
+}
+
+NSString UITextViewState::textInRange(UITextRange range) const {
+  return stringOf(_text.units(UITextRangeState::rangeOf(range)));
+}
+
+UITextPosition UITextViewState::closestPosition(CGPoint point) {
+  return UITextPositionState::make(arranged().indexAt(point));
+}
+
+CGRect UITextViewState::caretRect(UITextPosition position) {
+  return caretAt(UITextPositionState::offsetOf(position));
+}
+
+// Chosen from the edit menu, it leaves the menu there for what comes next.
+void UITextViewState::selectAll(NSObject sender) {
+  if (!_isSelectable) return;
+  select(NSRange{0, _text.length()});
+  self().becomeFirstResponder();
+  if (isKindOf(sender, UIMenuController::classObject())) showMenu();
+}
+
+void UITextViewState::copyText(NSObject) {
+  if (!hasSelectedText() || !outside().copyText) return;
+  outside().copyText(stringOf(_text.units(_selection.units())).utf8());
+}
+
+bool UITextViewState::canPerformAction(SEL action, Object sender) const {
+  if (sameSelector(action, selector<"copy:">())) return hasSelectedText();
+  if (sameSelector(action, selector<"selectAll:">()))
+    return _isSelectable && selectedRange().length < _text.length();
+  return super<bool, "canPerformAction:withSender:">(action, sender);
+}
+
+bool UITextViewState::wantsTouch(UIGestureRecognizer recognizer, UITouch touch) {
+  if (recognizer == _tap) return _selection.range().has_value();
+  if (recognizer != _handle) return _isSelectable;
+  if (!hasSelectedText()) return false;
+  const CGPoint point = touch.locationIn(self());
+  return arranged().distance(point, _selection.start()) <= reach ||
+         arranged().distance(point, _selection.end()) <= reach;
+}
+
+void UITextViewState::pressed(UIGestureRecognizer recognizer) {
+  const NSRange word = arranged().wordAt(recognizer.locationIn(self()));
+  if (recognizer.state() == UIGestureRecognizer::began) {
+    hideMenu();
+    _selection.press(word);
+    self().becomeFirstResponder();
+  }
+  if (recognizer.state() != UIGestureRecognizer::cancelled) select(_selection.pressedTo(word));
+  if (isOver(recognizer)) showMenu();
+}
+
+void UITextViewState::tapped(UIGestureRecognizer) {
+  hideMenu();
+  select(std::nullopt);
+}
+
+// The end that is nearer to the finger goes with it.
+void UITextViewState::dragged(UIGestureRecognizer recognizer) {
+  const CGPoint point = recognizer.locationIn(self());
+  if (recognizer.state() == UIGestureRecognizer::began) {
+    _selection.hold(arranged().distance(point, _selection.start()) <
+                    arranged().distance(point, _selection.end()));
+    hideMenu();
+    self().becomeFirstResponder();
+    return;
+  }
+  if (isOver(recognizer)) return showMenu();
+  if (const auto range = _selection.draggedTo(arranged().indexAt(point))) select(range);
+}
+
+void UITextViewState::showMenu() {
+  const std::vector<CGRect> rects = arranged().selection(selectedRange(), bounds());
+  CGRect target = rects.empty() ? CGRect{bounds().origin, {1, 1}} : rects[0];
+  for (const CGRect& rect : rects) target = unionOf(target, rect);
+  const auto menu = UIMenuController::shared();
+  menu.setTargetRect(intersection(target, bounds()), self());
+  menu.setMenuVisible(true, true);
 }
 
 }  // namespace desktop::uikit

@@ -1,153 +1,118 @@
 // SPDX-License-Identifier: MIT
-//
-// Breaking and measuring. A text is broken by pieces when they are looked at; the heights of the
-// others are estimated and refined as they come into sight, so that a long text is there at once.
-// Finding places, and painting, is in text_layout_places.cpp.
 #include "desktop/uikit/text/text_layout.h"
 
 #include <algorithm>
-#include <cmath>
 
-#include "desktop/uikit/text/text_direction.h"
+#include "desktop/uikit/graphics/canvas.h"
+#include "desktop/uikit/text/utf16.h"
 
 namespace desktop::uikit {
-namespace {
 
-constexpr std::size_t eagerUnits = std::size_t{64} << 10;
-constexpr double unlimitedWidth = 1e7;
-constexpr std::size_t keptPieces = 1024;  // whose lines are remembered
-
-double indentOf(const TextPiece& piece, const ParagraphStyle& style, bool isFirst, double width) {
-  const bool isParagraphsFirst = isFirst && piece.beginsParagraph;
-  return std::clamp(isParagraphsFirst ? style.firstLineHeadIndent : style.headIndent, 0.0, width);
+std::u16string_view TextLayout::unitsOf(const PlacedLine& line) const {
+  return std::u16string_view(text().text).substr(line.start, line.length);
 }
 
-}  // namespace
+PlacedLine TextLayout::placed(std::size_t index, std::size_t line, double firstLineTop) const {
+  const TextLine& broken = _broken.linesOf(index)[line];
+  const FontFace& face = _broken.faceOf(index);
+  const double advance = _broken.lineAdvance(index);
+  const double top = firstLineTop + static_cast<double>(line) * advance;
+  const bool isLast = line + 1 == _broken.linesOf(index).size();
+  return {.start = _broken.piece(index).start + broken.start,
+          .length = broken.length,
+          .frame = {{_broken.x(index, line), top}, {broken.width, measuresOf(face).lineHeight()}},
+          .advance = isLast ? _broken.bottom(index) - top : advance,
+          .face = face};
+}
 
-TextLayout::TextLayout(SharedText text, double width) : _text(std::move(text)) {
-  if (!(width > 0)) return;
-  _width = std::min(width, unlimitedWidth);
-  _pieces = piecesOf(_text->text);
-  _measured.resize(_pieces.size());
-  std::vector<double> heights(_pieces.size());
-  std::size_t budget = eagerUnits;
-  for (std::size_t piece = 0; piece < _pieces.size(); ++piece) {
-    _measured[piece] = measured(piece, budget);
-    _lineCount += _measured[piece].lines;
-    heights[piece] = heightOf(piece);
+std::vector<PlacedLine> TextLayout::lines(double top, double bottom) const {
+  std::vector<PlacedLine> found;
+  if (_broken.pieces() == 0 || !(bottom > 0) || !(size().height > 0)) return found;
+  for (std::size_t index = _broken.pieceAtHeight(top); index < _broken.pieces(); ++index) {
+    if (_broken.top(index) >= bottom) break;
+    const double firstTop = _broken.firstLineTop(index);
+    const double advance = _broken.lineAdvance(index);
+    const double skipped = advance > 0 ? (top - firstTop) / advance : 0;
+    const std::size_t count = _broken.linesOf(index).size();
+    for (auto line = skipped > 0 ? static_cast<std::size_t>(skipped) : 0; line < count; ++line) {
+      const PlacedLine next = placed(index, line, firstTop);
+      if (next.frame.origin.y >= bottom) break;
+      found.push_back(next);
+    }
   }
-  _heights = HeightIndex(std::move(heights));
+  return found;
 }
 
-std::u16string_view TextLayout::textOf(const TextPiece& piece) const {
-  return std::u16string_view(_text->text).substr(piece.start, piece.length);
+// Behind the last unit of a broken line a caret would stand in the next line.
+std::size_t TextLayout::indexIn(const PlacedLine& line, double x, bool isLast) const {
+  const std::u16string_view units = unitsOf(line);
+  std::size_t index = textEngine().indexAt(line.face, units, x - line.frame.origin.x);
+  if (!isLast && index == line.length && index > 0) --index;
+  return line.start + outsidePair(units, index);
 }
 
-std::vector<TextLine> TextLayout::broken(std::size_t index) const {
-  const TextPiece& piece = _pieces[index];
-  const TextRun& run = runOf(piece);
-  const ParagraphRoom room{.width = _width,
-                           .firstLineIndent = indentOf(piece, run.style, true, _width),
-                           .headIndent = indentOf(piece, run.style, false, _width)};
-  return textEngine().breakLines(run.face, textOf(piece), room);
+std::size_t TextLayout::indexAt(CGPoint point) const {
+  if (_broken.pieces() == 0) return 0;
+  const std::size_t index = _broken.pieceAtHeight(point.y);
+  const double firstTop = _broken.firstLineTop(index);
+  const double advance = _broken.lineAdvance(index);
+  const std::size_t last = _broken.linesOf(index).size() - 1;
+  const double lines = advance > 0 ? (point.y - firstTop) / advance : 0;
+  const auto line = static_cast<std::size_t>(std::clamp(lines, 0.0, static_cast<double>(last)));
+  return indexIn(placed(index, line, firstTop), point.x, line == last);
 }
 
-const std::vector<TextLine>& TextLayout::linesOf(std::size_t piece) const {
-  if (const auto known = _lines.find(piece); known != _lines.end()) return known->second;
-  if (_lines.size() >= keptPieces) _lines.clear();
-  return _lines.emplace(piece, broken(piece)).first->second;
+CGRect TextLayout::caretAt(std::size_t index) const {
+  if (_broken.pieces() == 0) return {};
+  const std::size_t piece = _broken.pieceOfUnit(index);
+  const TextPiece& around = _broken.piece(piece);
+  const std::size_t inPiece = std::min<std::size_t>(index - around.start, around.length);
+  const std::vector<TextLine>& lines = _broken.linesOf(piece);
+  const auto next = std::ranges::upper_bound(lines, inPiece, {}, &TextLine::start);
+  const auto line = static_cast<std::size_t>(std::max(next - lines.begin() - 1, std::ptrdiff_t{0}));
+  const PlacedLine place = placed(piece, line, _broken.firstLineTop(piece));
+  const double x = textEngine().positionOf(place.face, unitsOf(place), inPiece - lines[line].start);
+  return {{place.frame.origin.x + x, place.frame.origin.y}, {0, place.frame.size.height}};
 }
 
-// Exactly where that is quick or there is budget left, else about.
-TextLayout::Measured TextLayout::measured(std::size_t index, std::size_t& budget) {
-  const TextPiece& piece = _pieces[index];
-  const TextRun& run = runOf(piece);
-  const bool isQuick = textEngine().breaksQuickly(run.face, textOf(piece));
-  if (!isQuick && piece.length > budget) {
-    ++_estimated;
-    return {estimatedLines(piece, run), false};
+std::vector<CGRect> TextLayout::selection(NSRange range, double top, double bottom) const {
+  std::vector<CGRect> rects;
+  const std::size_t end = range.location + range.length;
+  for (const PlacedLine& line : lines(top, bottom)) {
+    const std::size_t from = std::max<std::size_t>(range.location, line.start);
+    const std::size_t to = std::min(end, line.end());
+    const bool goesOn = end > line.end() && line.end() < text().text.size();
+    if (from > to || (from == to && !goesOn) || range.length == 0) continue;
+    const std::u16string_view units = unitsOf(line);
+    const double first = textEngine().positionOf(line.face, units, from - line.start);
+    const double second = textEngine().positionOf(line.face, units, to - line.start);
+    const double left = line.frame.origin.x + std::min(first, second);
+    const double right = goesOn ? width() : line.frame.origin.x + std::max(first, second);
+    rects.push_back({{left, line.frame.origin.y}, {std::max(right - left, 0.0), line.advance}});
   }
-  if (!isQuick) budget -= piece.length;
-  const std::vector<TextLine> lines = broken(index);
-  count(lines, piece);
-  return {static_cast<std::uint32_t>(lines.size()), true};
+  return rects;
 }
 
-std::uint32_t TextLayout::estimatedLines(const TextPiece& piece, const TextRun& run) {
-  constexpr std::u16string_view sample = u"The quick brown fox jumps over the lazy dog 0123456789.";
-  if (!(run.face == _sampledFace)) {
-    _sampledFace = run.face;
-    _sampledAdvance = textEngine().width(run.face, sample) / static_cast<double>(sample.size());
-  }
-  const double room = std::max(_width - indentOf(piece, run.style, false, _width), _sampledAdvance);
-  const double lines = std::ceil(piece.length * _sampledAdvance / room);
-  return std::isfinite(lines)
-             ? static_cast<std::uint32_t>(std::clamp(lines, 1.0, 1.0 * longestPiece))
-             : 1;
-}
-
-void TextLayout::count(const std::vector<TextLine>& lines, const TextPiece& piece) {
-  const ParagraphStyle& style = runOf(piece).style;
-  for (const TextLine& line : lines)
-    _longest =
-        std::max(_longest, line.width + indentOf(piece, style, &line == lines.data(), _width));
-}
-
-double TextLayout::lineAdvance(std::size_t piece) const {
-  const TextRun& run = runOf(_pieces[piece]);
-  return measuresOf(run.face).lineHeight() + std::max(run.style.lineSpacing, 0.0);
-}
-
-double TextLayout::spacingBefore(std::size_t index) const {
-  const TextPiece& piece = _pieces[index];
-  return index > 0 && piece.beginsParagraph ? std::max(runOf(piece).style.spacingBefore, 0.0) : 0;
-}
-
-double TextLayout::heightOf(std::size_t index) const {
-  const TextPiece& piece = _pieces[index];
-  const ParagraphStyle& style = runOf(piece).style;
-  const double lines = spacingBefore(index) + _measured[index].lines * lineAdvance(index);
-  if (index + 1 == _pieces.size()) return lines - std::max(style.lineSpacing, 0.0);
-  return piece.endsParagraph ? lines + std::max(style.spacing, 0.0) : lines;
-}
-
-CGSize TextLayout::size() const {
-  return {isExact() ? _longest : _width, _heights.total()};
-}
-
-double TextLayout::refine(double top, double bottom) {
-  double shift = 0;
-  if (isExact()) return shift;
-  const double margin = std::max(bottom - top, 0.0);
-  for (std::size_t index = _heights.at(top - margin); index < _pieces.size(); ++index) {
-    const double pieceTop = _heights.before(index);
-    if (pieceTop > bottom + margin + shift) break;
-    if (_measured[index].isExact) continue;
-    const double before = heightOf(index);
-    const std::vector<TextLine>& lines = linesOf(index);
-    count(lines, _pieces[index]);
-    _lineCount += lines.size() - _measured[index].lines;
-    _measured[index] = {static_cast<std::uint32_t>(lines.size()), true};
-    --_estimated;
-    const double growth = heightOf(index) - before;
-    _heights.grow(index, growth);
-    if (pieceTop < top + shift) shift += growth;
-  }
-  return shift;
-}
-
-double TextLayout::x(const TextPiece& piece, const TextLine& line, bool isFirst) const {
-  const ParagraphStyle& style = runOf(piece).style;
-  const double indent = indentOf(piece, style, isFirst, _width);
-  switch (style.alignment) {
-    case TextAlignment::center:
-      return indent + (_width - indent - line.width) / 2;
-    case TextAlignment::right:
-      return _width - line.width;
-    case TextAlignment::natural:
-      return isRightToLeft(textOf(piece)) ? _width - indent - line.width : indent;
-    default:
-      return indent;
+// A line's stretches of one color are painted one by one.
+void TextLayout::draw(Canvas& canvas, CGPoint origin, Color color, double top,
+                      double bottom) const {
+  for (const PlacedLine& line : lines(top, bottom)) {
+    const std::u16string_view units = unitsOf(line);
+    if (canvas.isClippedAway(offset(line.frame, origin))) continue;
+    const double baseline = line.frame.origin.y + measuresOf(line.face).ascender;
+    for (std::size_t at = 0; at < units.size();) {
+      const TextRun* const run = &text().runAt(line.start + at);
+      const bool isLast = run == &text().runs.back();
+      const std::size_t end =
+          isLast ? units.size() : std::min(units.size(), run[1].start - line.start);
+      const double x = end - at == units.size()
+                           ? 0
+                           : std::min(textEngine().positionOf(line.face, units, at),
+                                      textEngine().positionOf(line.face, units, end));
+      canvas.text(units.substr(at, end - at), line.face, run->color.value_or(color),
+                  {origin.x + line.frame.origin.x + x, origin.y + baseline});
+      at = end;
+    }
   }
 }
 

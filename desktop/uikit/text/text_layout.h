@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// A text broken into lines in a column of some width. The column begins at the origin; all lengths
-// are in points and all ranges in UTF-16 units.
-//
-// Texts of some length are laid out whole. Of longer ones the rest is estimated until it comes
-// into sight, unless its font makes breaking lines quick; `refine` then moves what is below.
+// Where the lines of a text stand in a column of some width, and places in it. The column begins at
+// the origin; all lengths are in points and all ranges in UTF-16 units.
 #pragma once
 
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
-#include "desktop/uikit/text/attributed_text.h"
-#include "desktop/uikit/text/height_index.h"
-#include "desktop/uikit/text/text_pieces.h"
+#include "desktop/uikit/text/broken_text.h"
 
 namespace desktop::uikit {
 
@@ -31,22 +26,15 @@ struct PlacedLine {
 
 class TextLayout {
  public:
-  // A width that is not positive takes no text at all; an infinite one takes every paragraph in
-  // one line.
-  TextLayout(SharedText text, double width);
+  // Of what is broken it says the same as BrokenText, which see.
+  TextLayout(SharedText text, double width) : _broken(std::move(text), width) {}
 
-  const AttributedText& text() const { return *_text; }
-  double width() const { return _width; }
-
-  // As high as all lines, as wide as the longest one; estimated unless it is exact.
-  CGSize size() const;
-  bool isExact() const { return _estimated == 0; }
-  // How many lines there are, estimated unless it is exact.
-  std::size_t lineCount() const { return _lineCount; }
-
-  // Lays out what lies between two heights, and as much above and below. Answers how far what is
-  // at `top` moved down by that.
-  double refine(double top, double bottom);
+  const AttributedText& text() const { return _broken.text(); }
+  double width() const { return _broken.width(); }
+  CGSize size() const { return _broken.size(); }
+  bool isExact() const { return _broken.isExact(); }
+  std::size_t lineCount() const { return _broken.lineCount(); }
+  double refine(double top, double bottom) { return _broken.refine(top, bottom); }
 
   // The lines that lie between two heights, at least in part.
   std::vector<PlacedLine> lines(double top, double bottom) const;
@@ -63,37 +51,11 @@ class TextLayout {
   void draw(Canvas& canvas, CGPoint origin, Color color, double top, double bottom) const;
 
  private:
-  struct Measured {
-    std::uint32_t lines = 0;
-    bool isExact = false;
-  };
-
-  std::u16string_view textOf(const TextPiece& piece) const;
-  const TextRun& runOf(const TextPiece& piece) const { return _text->runAt(piece.start); }
-  std::vector<TextLine> broken(std::size_t piece) const;
-  const std::vector<TextLine>& linesOf(std::size_t piece) const;
-  Measured measured(std::size_t piece, std::size_t& budget);
-  std::uint32_t estimatedLines(const TextPiece& piece, const TextRun& run);
-  void count(const std::vector<TextLine>& lines, const TextPiece& piece);
-  double heightOf(std::size_t piece) const;
-  double spacingBefore(std::size_t piece) const;
-  double lineAdvance(std::size_t piece) const;
-  double x(const TextPiece& piece, const TextLine& line, bool isFirst) const;
-  PlacedLine placed(std::size_t piece, std::size_t line, double pieceTop) const;
-  std::size_t pieceAt(std::size_t index) const;
+  std::u16string_view unitsOf(const PlacedLine& line) const;
+  PlacedLine placed(std::size_t piece, std::size_t line, double firstLineTop) const;
   std::size_t indexIn(const PlacedLine& line, double x, bool isLast) const;
 
-  SharedText _text;
-  double _width = 0;
-  std::vector<TextPiece> _pieces;
-  std::vector<Measured> _measured;  // one for each piece
-  HeightIndex _heights;
-  std::size_t _estimated = 0;  // pieces
-  std::size_t _lineCount = 0;
-  double _longest = 0;  // line, with its indent
-  FontFace _sampledFace{.size = 0};
-  double _sampledAdvance = 0;                                             // an average
-  mutable std::unordered_map<std::size_t, std::vector<TextLine>> _lines;  // of pieces in sight
+  BrokenText _broken;
 };
 
 }  // namespace desktop::uikit

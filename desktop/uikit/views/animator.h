@@ -10,19 +10,9 @@
 #include "bridge/uikit/ui_view.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/base/scheduler.h"
-#include "desktop/uikit/graphics/color.h"
+#include "desktop/uikit/views/view_appearance.h"
 
 namespace desktop::uikit {
-
-// What of a view is seen and can be animated. Lengths in points.
-struct ViewAppearance {
-  CGRect bounds;
-  CGPoint center;  // in the superview's coordinates
-  CGAffineTransform transform;
-  CGFloat alpha = 1;
-  Color background;
-  bool operator==(const ViewAppearance&) const = default;
-};
 
 enum class AnimationCurve { easeInOut, easeIn, easeOut, linear };
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // What a label shows, and how. Setters stop where nothing changes; else the lines are made anew
-// when they are next asked for, and the label is painted again. Where its lines stand is in
-// ui_label_lines.cpp.
+// when they are next asked for, and the label is painted again. Lines are kept until text, room or
+// screen change; where the font may shrink, the size that fits is looked for.
 #include "desktop/uikit/views/ui_label.h"
 
 #include <algorithm>
@@ -10,14 +10,18 @@
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
+#include "desktop/uikit/text/label_text.h"
 #include "desktop/uikit/text/ui_font.h"
+#include "desktop/uikit/text/utf16.h"
 
 namespace desktop::uikit {
 namespace {
 
 constexpr CGFloat standardSize = 17;
+
 }  // namespace
 
 Class UILabelState::classObject() {
@@ -98,7 +102,7 @@ void UILabelState::setFont(UIFont font) {
 }
 
 UIColor UILabelState::textColorObject() const {
-  return UIColorState::make(_textColor);
+  return UIColorState::make(_style.color);
 }
 
 void UILabelState::setTextColor(UIColor color) {
@@ -106,18 +110,18 @@ void UILabelState::setTextColor(UIColor color) {
 }
 
 void UILabelState::setColor(Color color) {
-  if (color == _textColor) return;
-  _textColor = color;
+  if (color == _style.color) return;
+  _style.color = color;
   changed();
 }
 
 void UILabelState::setHighlightedTextColor(UIColor color) {
   _highlightedTextColor = Owned<UIColor>::retain(color);
-  changed();
+  updateHighlight();
 }
 
 void UILabelState::setHighlighted(bool highlighted) {
-  if (std::exchange(_isHighlighted, highlighted) != highlighted) changed();
+  if (std::exchange(_isHighlighted, highlighted) != highlighted) updateHighlight();
 }
 
 void UILabelState::setAlignmentNumber(NSInteger alignment) {
@@ -128,12 +132,12 @@ void UILabelState::setAlignmentNumber(NSInteger alignment) {
 
 void UILabelState::setLineBreakModeNumber(NSInteger mode) {
   if (mode < 0 || mode > static_cast<NSInteger>(LineBreakMode::byTruncatingMiddle)) return;
-  _lineBreakMode = static_cast<LineBreakMode>(mode);
+  _style.lineBreakMode = static_cast<LineBreakMode>(mode);
   changed();
 }
 
 void UILabelState::setNumberOfLines(NSInteger lines) {
-  _numberOfLines = std::max(lines, NSInteger{0});
+  _style.numberOfLines = std::max(lines, NSInteger{0});
   changed();
 }
 
@@ -149,6 +153,57 @@ void UILabelState::setMinimumFontSize(CGFloat points) {
 void UILabelState::setMinimumScaleFactor(CGFloat factor) {
   _minimumScaleFactor = factor > 0 ? std::min(factor, 1.0) : 0;
   changed();
+}
+
+void UILabelState::updateHighlight() {
+  _style.highlight.reset();
+  if (_isHighlighted && _highlightedTextColor)
+    _style.highlight = UIColorState::valueOf(_highlightedTextColor);
+  changed();
+}
+
+// The text with the label's own alignment.
+SharedText UILabelState::textIn(const FontFace& face) const {
+  AttributedText text = _attributedText ? AttributedText::of(_attributedText, face)
+                                        : AttributedText::plain(utf16Of(_text), face);
+  for (TextRun& run : text.runs)
+    if (run.style.alignment == TextAlignment::natural) run.style.alignment = _alignment;
+  return std::make_shared<AttributedText>(std::move(text));
+}
+
+CGFloat UILabelState::shownFontSize() const {
+  const FontFace face = UIFontState::faceOf(_font.get());
+  if (!_adjustsFontSize || numberOfLines() != 1 || _attributedText || !_text) return face.size;
+  const double smallest = std::max(_minimumFontSize, _minimumScaleFactor * face.size);
+  return sizeFitting(utf16Of(_text), face, bounds().size.width, smallest);
+}
+
+CGSize UILabelState::sizeThatFits(CGSize size) const {
+  if (_text.get().length() == 0) return {};
+  const FontFace face = UIFontState::faceOf(_font.get());
+  return labelSize(textIn(face), _style, face, size);
+}
+
+CGSize UILabelState::intrinsicContentSize() const {
+  return self().sizeThatFits(CGSize{});
+}
+
+std::vector<LabelLine> UILabelState::linesIn(CGSize size) const {
+  if (_text.get().length() == 0 || isEmpty(rectOfSize(size))) return {};
+  FontFace face = UIFontState::faceOf(_font.get());
+  face.size = shownFontSize();
+  return labelLines(textIn(face), _style, size);
+}
+
+const std::vector<LabelLine>& UILabelState::lines() const {
+  const CGSize size = bounds().size;
+  if (_shown.scale != screen().scale || _shown.size != size)
+    _shown = {size, screen().scale, linesIn(size)};
+  return _shown.lines;
+}
+
+void UILabelState::drawContent(Canvas* canvas) const {
+  drawLabelLines(lines(), bounds(), *canvas);
 }
 
 }  // namespace desktop::uikit

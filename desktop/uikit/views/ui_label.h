@@ -3,26 +3,16 @@
 // UILabel: a few lines of text, centred vertically in the view.
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "bridge/bound.h"
 #include "bridge/uikit.h"
 #include "bridge/uikit/ui_controls.h"
 #include "desktop/platform.h"
-#include "desktop/uikit/text/attributed_text.h"
-#include "desktop/uikit/text/text_layout.h"
+#include "desktop/uikit/views/label_lines.h"
 #include "desktop/uikit/views/ui_view.h"
 
 namespace desktop::uikit {
-
-// One line as a label paints it.
-struct LabelLine {
-  std::u16string text;
-  FontFace face;
-  Color color;
-  CGPoint baseline;  // in the label's coordinates
-};
 
 class UILabelState : public Bound<UILabelState, UIViewState, UILabel> {
  public:
@@ -31,10 +21,10 @@ class UILabelState : public Bound<UILabelState, UIViewState, UILabel> {
 
   NSString text() const { return _text; }
   UIFont font() const { return _font; }
-  Color textColor() const { return _textColor; }
+  Color textColor() const { return _style.color; }
   TextAlignment alignment() const { return _alignment; }
-  LineBreakMode lineBreakMode() const { return _lineBreakMode; }
-  NSInteger numberOfLines() const { return _numberOfLines; }
+  LineBreakMode lineBreakMode() const { return _style.lineBreakMode; }
+  NSInteger numberOfLines() const { return _style.numberOfLines; }
   // The size that the font has after shrinking to the width; the font's own where it fits.
   CGFloat shownFontSize() const;
   // What is painted: the lines that there is room for, cut where they are too long.
@@ -57,7 +47,7 @@ class UILabelState : public Bound<UILabelState, UIViewState, UILabel> {
   void setHighlighted(bool highlighted);
   NSInteger alignmentNumber() const { return static_cast<NSInteger>(_alignment); }
   void setAlignmentNumber(NSInteger alignment);
-  NSInteger lineBreakModeNumber() const { return static_cast<NSInteger>(_lineBreakMode); }
+  NSInteger lineBreakModeNumber() const { return static_cast<NSInteger>(lineBreakMode()); }
   void setLineBreakModeNumber(NSInteger mode);
   void setNumberOfLines(NSInteger lines);
   bool adjustsFontSize() const { return _adjustsFontSize; }
@@ -77,23 +67,20 @@ class UILabelState : public Bound<UILabelState, UIViewState, UILabel> {
   };
 
   void changed();
-  AttributedText textIn(const FontFace& face) const;
-  std::vector<PlacedLine> linesWithRoom(const TextLayout& layout, CGSize size) const;
+  void updateHighlight();
+  SharedText textIn(const FontFace& face) const;
   std::vector<LabelLine> linesIn(CGSize size) const;
-  Color colorOf(const TextRun& run) const;
 
   Owned<NSString> _text;                      // nil: none
   Owned<NSAttributedString> _attributedText;  // nil: plain
   Owned<UIFont> _font;
-  Color _textColor = colors::black;
   Owned<UIColor> _highlightedTextColor;  // nil: the same
   TextAlignment _alignment = TextAlignment::natural;
-  LineBreakMode _lineBreakMode = LineBreakMode::byTruncatingTail;
-  NSInteger _numberOfLines = 1;  // 0: as many as there are
   CGFloat _minimumFontSize = 0;
   CGFloat _minimumScaleFactor = 0;
   bool _adjustsFontSize = false;
   bool _isHighlighted = false;
+  LabelStyle _style;
   mutable Shown _shown;
 };
 

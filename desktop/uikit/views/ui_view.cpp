@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
-// The look and geometry of views, and the class. The tree is in ui_view_tree.cpp, layout and
-// touches' way through the tree in ui_view_layout.cpp.
+// What a view answers, and how its parts work together. What of it is seen changes at one place,
+// become(), which tells the animator and has subviews follow. A view keeps its subviews alive and
+// knows its superview without keeping it; coming and going is told before and after, and a view
+// that leaves the window ends what was under way: animations and touches. Layout goes from the top
+// down until it comes to rest.
 #include "desktop/uikit/views/ui_view.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "bridge/class_builder.h"
 #include "desktop/platform.h"
@@ -14,9 +19,36 @@
 #include "desktop/uikit/graphics/encodings.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/animator.h"
+#include "desktop/uikit/views/autoresizing.h"
 #include "desktop/uikit/views/ca_layer.h"
+#include "desktop/uikit/views/view_animations.h"
 
 namespace desktop::uikit {
+namespace {
+
+// A pass can ask for another one; whoever never comes to rest waits for the next frame.
+constexpr int maximalPasses = 8;
+
+// How far a shadow stands out of the bounds.
+CGFloat reachOf(const CALayerState::Style& style) {
+  if (!(style.shadowOpacity > 0)) return 0;
+  return 2 * style.shadowRadius + std::abs(style.shadowOffset.width) +
+         std::abs(style.shadowOffset.height) + 8;
+}
+
+// What a plain view answers to messages that are there for classes below to answer.
+void nothing() {}
+template <typename Ignored>
+void nothingOf(Ignored) {}
+bool no() {
+  return false;
+}
+template <typename Ignored>
+bool noTo(Ignored) {
+  return false;
+}
+
+}  // namespace
 
 Class UIViewState::classObject() {
   static const Class made =
@@ -67,42 +99,46 @@ Class UIViewState::classObject() {
           .method<"bringSubviewToFront:", &UIViewState::bringToFront>()
           .method<"sendSubviewToBack:", &UIViewState::sendToBack>()
           .method<"removeFromSuperview", &UIViewState::removeFromSuperview>()
-          .method<"willMoveToSuperview:", &UIViewState::willMoveToSuperview>()
-          .method<"didMoveToSuperview", &UIViewState::didMoveToSuperview>()
-          .method<"didMoveToWindow", &UIViewState::didMoveToWindow>()
+          .method<"willMoveToSuperview:", &nothingOf<UIView>>()
+          .method<"didMoveToSuperview", &nothing>()
+          .method<"didMoveToWindow", &nothing>()
           .method<"nextResponder", &UIViewState::nextResponder>()
           .method<"setNeedsLayout", &UIViewState::setNeedsLayout>()
           .method<"setNeedsDisplay", &UIViewState::setNeedsDisplay>()
-          .method<"layoutSubviews", &UIViewState::layoutSubviews>()
+          .method<"layoutSubviews", &nothing>()
           .method<"layoutIfNeeded", &UIViewState::layoutIfNeeded>()
           .method<"sizeThatFits:", &UIViewState::sizeThatFits>()
           .method<"sizeToFit", &UIViewState::sizeToFit>()
           .method<"hitTest:withEvent:", &UIViewState::hitTest>()
           .method<"pointInside:withEvent:", &UIViewState::pointInside>()
-          .method<"convertPoint:toView:", &UIViewState::convertPointTo>()
-          .method<"convertPoint:fromView:", &UIViewState::convertPointFrom>()
-          .method<"convertRect:toView:", &UIViewState::convertRectTo>()
-          .method<"convertRect:fromView:", &UIViewState::convertRectFrom>()
-          .method<"_scrollBy:", &UIViewState::scrollBy>()
-          .method<"_delaysTouches", &UIViewState::delaysTouches>()
+          .method<"convertPoint:toView:", &UIViewState::convertTo<CGPoint>>()
+          .method<"convertPoint:fromView:", &UIViewState::convertFrom<CGPoint>>()
+          .method<"convertRect:toView:", &UIViewState::convertTo<CGRect>>()
+          .method<"convertRect:fromView:", &UIViewState::convertFrom<CGRect>>()
+          .method<"_scrollBy:", &noTo<CGPoint>>()
+          .method<"_delaysTouches", &no>()
           .method<"gestureRecognizers", &UIViewState::gestureRecognizersArray>()
           .method<"addGestureRecognizer:", &UIViewState::addGestureRecognizer>()
           .method<"removeGestureRecognizer:", &UIViewState::removeGestureRecognizer>()
-          .method<"drawContentOn:", &UIViewState::drawContent>()
-          .method<"drawOverSubviewsOn:", &UIViewState::drawOverSubviews>()
+          .method<"drawContentOn:", &nothingOf<Canvas*>>()
+          .method<"drawOverSubviewsOn:", &nothingOf<Canvas*>>()
+          .classMethod<"animateWithDuration:animations:", &animateChanges>()
+          .classMethod<"animateWithDuration:animations:completion:", &animateToCompletion>()
+          .classMethod<"animateWithDuration:delay:options:animations:completion:",
+                       &animateWithOptions>()
+          .classMethod<"performWithoutAnimation:", &performWithoutAnimation>()
           .build();
   return made;
 }
 
-UIViewState::UIViewState(id self) : Bound(self) {
+UIViewState::UIViewState(id object) : Bound(object) {
   _layer = makeNew<CALayer>();
-  CALayerState::of(_layer.get()).setView(UIView(self));
+  CALayerState::of(_layer.get()).setView(self());
 }
 
 UIViewState::~UIViewState() {
   CALayerState::of(_layer.get()).setView({});
-  for (const auto& view : _subviews) of(view.get())._superview = {};
-  for (const auto& recognizer : _gestureRecognizers) viewIsGone(recognizer.get());
+  for (const auto& view : subviews()) of(view.get())._superview = {};
 }
 
 UIView UIViewState::init() {
@@ -115,58 +151,11 @@ UIView UIViewState::initWithFrame(CGRect frame) {
   return object;
 }
 
-CGRect UIViewState::frame() const {
-  const CGRect around = uikit::apply(
-      _own.transform,
-      CGRect{{-_own.bounds.size.width / 2, -_own.bounds.size.height / 2}, _own.bounds.size});
-  return offset(around, _own.center);
-}
-
-void UIViewState::setFrame(CGRect frame) {
-  if (!isFinite(frame)) frame = {};
-  ViewAppearance next = _own;
-  next.bounds.size = frame.size;
-  next.center = middle(frame);
-  become(next);
-}
-
-void UIViewState::setBounds(CGRect bounds) {
-  if (!isFinite(bounds)) bounds = {};
-  ViewAppearance next = _own;
-  next.bounds = bounds;
-  become(next);
-}
-
-void UIViewState::setCenter(CGPoint center) {
-  ViewAppearance next = _own;
-  if (std::isfinite(center.x) && std::isfinite(center.y)) next.center = center;
-  become(next);
-}
-
-void UIViewState::setTransform(CGAffineTransform transform) {
-  ViewAppearance next = _own;
-  next.transform = transform;
-  become(next);
-}
-
-void UIViewState::setAlpha(CGFloat alpha) {
-  ViewAppearance next = _own;
-  next.alpha = alpha > 0 ? std::min(alpha, 1.0) : 0;
-  become(next);
-}
-
-void UIViewState::setBackgroundColor(UIColor color) {
-  ViewAppearance next = _own;
-  next.background = UIColorState::valueOf(color);
-  become(next);
-}
-
 void UIViewState::become(const ViewAppearance& appearance) {
   if (appearance == _own) return;
   setNeedsDisplay();
-  const ViewAppearance before = _own;
-  _own = appearance;
-  animator().appearanceChanges(UIView(self().get()), before, _own);
+  const ViewAppearance before = std::exchange(_own, appearance);
+  animator().appearanceChanges(self(), before, _own);
   if (before.bounds.size != _own.bounds.size) {
     resizeSubviews(before.bounds.size);
     setNeedsLayout();
@@ -175,13 +164,7 @@ void UIViewState::become(const ViewAppearance& appearance) {
 }
 
 ViewAppearance UIViewState::shown() const {
-  return animator().shown(UIView(self().get()), _own);
-}
-
-CGAffineTransform UIViewState::toSuperview() const {
-  const ViewAppearance seen = shown();
-  const CGPoint mid = middle(seen.bounds);
-  return concat(concat(translation({-mid.x, -mid.y}), seen.transform), translation(seen.center));
+  return animator().shown(self(), _own);
 }
 
 CGAffineTransform UIViewState::toScreen() const {
@@ -198,22 +181,19 @@ void UIViewState::setHidden(bool hidden) {
   setNeedsDisplay();
 }
 
-// What stands out of the bounds by a shadow is painted again too.
+// What stands out of the bounds is painted again too.
 void UIViewState::setNeedsDisplay() const {
   if (!window()) return;
-  const CALayerState::Style& style = CALayerState::of(_layer.get()).style();
-  CGRect touched = shown().bounds;
-  if (style.shadowOpacity > 0) {
-    const CGFloat reach = 2 * style.shadowRadius + std::abs(style.shadowOffset.width) +
-                          std::abs(style.shadowOffset.height) + 8;
-    touched = inset(touched, -reach, -reach);
-  }
+  const CGFloat reach = reachOf(CALayerState::of(_layer.get()).style());
+  CGRect touched = inset(shown().bounds, -reach, -reach);
   if (!clipsToBounds())
-    for (const auto& view : _subviews) touched = unionOf(touched, of(view.get()).frame());
+    for (const auto& view : subviews()) touched = unionOf(touched, of(view.get()).frame());
   screen().damage.add(uikit::apply(toScreen(), touched));
 }
 
-void UIViewState::drawContent(Canvas*) const {}
+void UIViewState::setBackgroundColor(UIColor color) {
+  become(_own.withBackground(UIColorState::valueOf(color)));
+}
 
 UIColor UIViewState::backgroundColorObject() const {
   return _own.background == Color{} ? UIColor() : UIColorState::make(_own.background);
@@ -245,6 +225,146 @@ void UIViewState::setClipsToBounds(bool clips) {
 void UIViewState::setContentMode(NSInteger mode) {
   _contentMode = mode;
   setNeedsDisplay();
+}
+
+UIView UIViewState::window() const {
+  UIView top = self();
+  while (const UIView above = of(top.get())._superview) top = above;
+  return of(top.get())._isWindow ? top : UIView();
+}
+
+bool UIViewState::isDescendantOf(UIView view) const {
+  UIView at = self();
+  while (at && at != view) at = of(at.get())._superview;
+  return static_cast<bool>(at);
+}
+
+// A view that contains this one cannot become its subview.
+void UIViewState::insertSubview(UIView view, std::size_t index) {
+  if (!view || isDescendantOf(view)) return;
+  const auto kept = Owned<UIView>::retain(view);
+  UIViewState& child = of(view.get());
+  const UIView windowBefore = child.window();
+  if (child._superview) of(child._superview.get()).detach(view);
+  view.willMoveToSuperview(self());
+  _subviews.insert(view, index);
+  child._superview = self();
+  view.didMoveToSuperview();
+  if (child.window() != windowBefore) child.tellMovedToWindow();
+  setNeedsLayout();
+  child.setNeedsDisplay();
+}
+
+void UIViewState::insertSubviewAtIndex(UIView view, NSInteger index) {
+  insertSubview(view, static_cast<std::size_t>(std::max(index, 0L)));
+}
+
+void UIViewState::bringToFront(UIView view) {
+  if (_subviews.bringToFront(view)) of(view.get()).setNeedsDisplay();
+}
+
+void UIViewState::sendToBack(UIView view) {
+  if (_subviews.sendToBack(view)) of(view.get()).setNeedsDisplay();
+}
+
+void UIViewState::removeFromSuperview() {
+  if (!_superview) return;
+  const UIView me = self();
+  const auto kept = Owned<UIView>::retain(me);
+  const bool wasInWindow = static_cast<bool>(window());
+  me.willMoveToSuperview(UIView());
+  of(_superview.get()).detach(me);
+  me.didMoveToSuperview();
+  if (wasInWindow) tellMovedToWindow();
+}
+
+void UIViewState::detach(UIView subview) {
+  of(subview.get()).setNeedsDisplay();
+  of(subview.get())._superview = {};
+  _subviews.remove(subview);
+  setNeedsLayout();
+}
+
+// What leaves the window is no longer shown: its animations and gestures end there.
+void UIViewState::tellMovedToWindow() {
+  if (!window()) {
+    animator().stop(self());
+    _gestures.leaveTouches();
+  }
+  self().didMoveToWindow();
+  const auto children = subviews();
+  for (const auto& child : children) of(child.get()).tellMovedToWindow();
+}
+
+UIView UIViewState::viewWithTag(NSInteger tag) {
+  if (_tag == tag) return self();
+  for (const auto& view : subviews())
+    if (const auto found = of(view.get()).viewWithTag(tag)) return found;
+  return {};
+}
+
+UIResponder UIViewState::nextResponder() const {
+  return _controller ? _controller : UIResponder(_superview.get());
+}
+
+void UIViewState::resizeSubviews(CGSize oldSize) {
+  const auto children = subviews();
+  for (const auto& child : children)
+    if (const NSUInteger mask = of(child.get())._autoresizingMask)
+      child->setFrame(autoresized(child->frame(), mask, oldSize, _own.bounds.size));
+}
+
+void UIViewState::layoutIfNeeded() {
+  for (int pass = 0; pass < maximalPasses && layOut(); ++pass) {
+  }
+}
+
+// Lays out this view and all below that need it; whether any did.
+bool UIViewState::layOut() {
+  bool didAny = _needsLayout;
+  if (std::exchange(_needsLayout, false)) {
+    const UIViewController controller(_controller.get());
+    adjustScrollViews(controller);
+    controller.viewWillLayoutSubviews();
+    self().layoutSubviews();
+    controller.viewDidLayoutSubviews();
+  }
+  const auto children = subviews();
+  for (const auto& child : children) didAny |= of(child.get()).layOut();
+  return didAny;
+}
+
+void UIViewState::sizeToFit() {
+  const CGSize size = self().sizeThatFits(_own.bounds.size);
+  self().setFrame({self().frame().origin, size});
+}
+
+// Views that are hidden, nearly transparent, switched off or being animated take no touches.
+UIView UIViewState::hitTest(CGPoint point, UIEvent event) {
+  constexpr CGFloat leastAlpha = 0.01;
+  const UIView me = self();
+  if (_isHidden || !_isUserInteractionEnabled || _own.alpha < leastAlpha) return {};
+  if (animator().isAnimating(me)) return {};
+  if (!me.pointInside(point, event)) return {};
+  for (auto child = subviews().rbegin(); child != subviews().rend(); ++child) {
+    const CGPoint inChild = uikit::apply(inverse(of(child->get().get()).toSuperview()), point);
+    const auto hit = child->get().hitTest(inChild, event);
+    if (hit) return hit;
+  }
+  return me;
+}
+
+// No view stands for the screen.
+template <typename Place>
+Place UIViewState::convertTo(Place place, UIView view) const {
+  const Place onScreen = uikit::apply(toScreen(), place);
+  return view ? uikit::apply(inverse(of(view.get()).toScreen()), onScreen) : onScreen;
+}
+
+template <typename Place>
+Place UIViewState::convertFrom(Place place, UIView view) const {
+  const Place onScreen = view ? uikit::apply(of(view.get()).toScreen(), place) : place;
+  return uikit::apply(inverse(toScreen()), onScreen);
 }
 
 }  // namespace desktop::uikit

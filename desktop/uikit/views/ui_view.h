@@ -4,19 +4,17 @@
 // coordinates, bounds are in the view's own.
 #pragma once
 
-#include <vector>
-#include "desktop/uikit/views/ui_responder.h"
-
 #include "bridge/bound.h"
 #include "bridge/uikit.h"
 #include "bridge/uikit/ui_view.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/base/geometry.h"
-#include "desktop/uikit/views/animator.h"
+#include "desktop/uikit/views/subview_order.h"
+#include "desktop/uikit/views/ui_responder.h"
+#include "desktop/uikit/views/view_appearance.h"
+#include "desktop/uikit/views/view_gestures.h"
 
 namespace desktop::uikit {
-
-class Canvas;
 
 class UIViewState : public Bound<UIViewState, UIResponderState, UIView> {
  public:
@@ -24,39 +22,37 @@ class UIViewState : public Bound<UIViewState, UIResponderState, UIView> {
   ~UIViewState();
   static Class classObject();
 
-  // Geometry. A frame that is not finite counts as zero; one of a transformed view is the
-  // rectangle around it.
-  CGRect frame() const;
-  void setFrame(CGRect frame);
+  // Geometry.
+  CGRect frame() const { return _own.frame(); }
+  void setFrame(CGRect frame) { become(_own.withFrame(frame)); }
   CGRect bounds() const { return _own.bounds; }
-  void setBounds(CGRect bounds);
+  void setBounds(CGRect bounds) { become(_own.withBounds(bounds)); }
   CGPoint center() const { return _own.center; }
-  void setCenter(CGPoint center);
+  void setCenter(CGPoint center) { become(_own.withCenter(center)); }
   CGAffineTransform transform() const { return _own.transform; }
-  void setTransform(CGAffineTransform transform);
-  // What is on screen at this moment, which differs from the above while animations run.
+  void setTransform(CGAffineTransform transform) { become(_own.withTransform(transform)); }
+  NSUInteger autoresizingMask() const { return _autoresizingMask; }
+  // What is on screen at this moment, which differs from the view's own while animations run.
   ViewAppearance shown() const;
-  // From the view's coordinates to the superview's, as shown now.
-  CGAffineTransform toSuperview() const;
-  // From the view's coordinates to the screen's, as shown now.
+  // From the view's coordinates to the superview's and to the screen's, as shown now.
+  CGAffineTransform toSuperview() const { return shown().toSuperview(); }
   CGAffineTransform toScreen() const;
 
   // Look.
   CGFloat alpha() const { return _own.alpha; }
-  void setAlpha(CGFloat alpha);
+  void setAlpha(CGFloat alpha) { become(_own.withAlpha(alpha)); }
   bool isHidden() const { return _isHidden; }
   void setHidden(bool hidden);
   Color backgroundColor() const { return _own.background; }
-  void setBackgroundColor(UIColor color);
   // Its own, or the nearest superview's that has one, or the standard one.
   Color tint() const;
   bool clipsToBounds() const;
+  bool isUserInteractionEnabled() const { return _isUserInteractionEnabled; }
   CALayer layer() const { return _layer; }
   NSInteger tag() const { return _tag; }
-  NSUInteger autoresizingMask() const { return _autoresizingMask; }
 
   // Tree. Subviews are from back to front; superview and window are borrowed, nil where none.
-  const std::vector<Owned<UIView>>& subviews() const { return _subviews; }
+  const ObjectList<UIView>& subviews() const { return _subviews.all(); }
   UIView superview() const { return _superview; }
   UIView window() const;
   // Says that this view is a window: the top of what is on screen.
@@ -64,90 +60,78 @@ class UIViewState : public Bound<UIViewState, UIResponderState, UIView> {
   bool isDescendantOf(UIView view) const;
   void insertSubview(UIView view, std::size_t index);
   // The controller whose view this is, or nil; set by the controller, borrowed.
-  UIResponder controller() const { return _controller; }
   void setController(UIResponder controller) { _controller = controller; }
-
-  const std::vector<Owned<UIGestureRecognizer>>& gestureRecognizers() const {
-    return _gestureRecognizers;
-  }
-  bool isUserInteractionEnabled() const { return _isUserInteractionEnabled; }
+  const ObjectList<UIGestureRecognizer>& gestureRecognizers() const { return _gestures.all(); }
 
   // Asks for another layout pass or for painting again before the next frame.
   void setNeedsLayout() { _needsLayout = true; }
   void setNeedsDisplay() const;
 
-  // Paints the view's own content inside its bounds, between background and subviews; the message
-  // "drawContentOn:" gets here, so that classes below can answer it with their own.
-  void drawContent(Canvas* canvas) const;
-  // The same over the subviews, by "drawOverSubviewsOn:".
-  void drawOverSubviews(Canvas*) const {}
-
  private:
-  UIView initWithFrame(CGRect frame);
+  // What is bound of its look.
   UIView init();
+  UIView initWithFrame(CGRect frame);
   UIColor backgroundColorObject() const;
+  void setBackgroundColor(UIColor color);
   UIColor tintColor() const;
   void setTintColor(UIColor color);
   void setClipsToBounds(bool clips);
-  void setTag(NSInteger tag) { _tag = tag; }
-  void setAutoresizingMask(NSUInteger mask) { _autoresizingMask = mask; }
-  bool translatesMask() const { return _translatesMask; }
-  void setTranslatesMask(bool translates) { _translatesMask = translates; }
-  void setUserInteractionEnabled(bool enabled) { _isUserInteractionEnabled = enabled; }
   NSInteger contentMode() const { return _contentMode; }
   void setContentMode(NSInteger mode);
   bool isOpaque() const { return _isOpaque; }
   void setOpaque(bool opaque) { _isOpaque = opaque; }
+  void setTag(NSInteger tag) { _tag = tag; }
 
-  NSArray subviewsArray() const;
-  void addSubview(UIView view);
+  // Of the tree.
+  NSArray subviewsArray() const { return arrayOf(subviews()); }
+  void addSubview(UIView view) { insertSubview(view, subviews().size()); }
   void insertSubviewAtIndex(UIView view, NSInteger index);
-  void insertAbove(UIView view, UIView sibling);
-  void insertBelow(UIView view, UIView sibling);
+  void insertAbove(UIView view, UIView sibling) {
+    insertSubview(view, _subviews.indexAbove(sibling));
+  }
+  void insertBelow(UIView view, UIView sibling) {
+    insertSubview(view, _subviews.indexBelow(sibling));
+  }
   void bringToFront(UIView view);
   void sendToBack(UIView view);
   void removeFromSuperview();
-  void willMoveToSuperview(UIView) {}
-  void didMoveToSuperview() {}
-  void didMoveToWindow() {}
   UIView viewWithTag(NSInteger tag);
   UIResponder nextResponder() const;
 
-  void layoutSubviews() {}
+  // Of layout.
+  void setAutoresizingMask(NSUInteger mask) { _autoresizingMask = mask; }
+  bool translatesMask() const { return _translatesMask; }
+  void setTranslatesMask(bool translates) { _translatesMask = translates; }
   void layoutIfNeeded();
-  CGSize sizeThatFits(CGSize size) const;
+  CGSize sizeThatFits(CGSize) const { return _own.bounds.size; }
   void sizeToFit();
-  void resizeSubviews(CGSize oldSize);
 
+  // Of touches, and of places.
+  void setUserInteractionEnabled(bool enabled) { _isUserInteractionEnabled = enabled; }
   UIView hitTest(CGPoint point, UIEvent event);
-  bool pointInside(CGPoint point, UIEvent event) const;
-  CGPoint convertPointTo(CGPoint point, UIView view) const;
-  CGPoint convertPointFrom(CGPoint point, UIView view) const;
-  CGRect convertRectTo(CGRect rect, UIView view) const;
-  CGRect convertRectFrom(CGRect rect, UIView view) const;
+  bool pointInside(CGPoint point, UIEvent) const { return contains(_own.bounds, point); }
+  template <typename Place>
+  Place convertTo(Place place, UIView view) const;
+  template <typename Place>
+  Place convertFrom(Place place, UIView view) const;
+  NSArray gestureRecognizersArray() const { return arrayOrNil(gestureRecognizers()); }
+  void addGestureRecognizer(UIGestureRecognizer recognizer) { _gestures.add(recognizer, self()); }
+  void removeGestureRecognizer(UIGestureRecognizer recognizer) { _gestures.remove(recognizer); }
 
-  // What scrolls answers these otherwise: a wheel over it, and whether a touch in it may be one
-  // that scrolls.
-  bool scrollBy(CGPoint) { return false; }
-  bool delaysTouches() const { return false; }
-
-  NSArray gestureRecognizersArray() const;
-  void addGestureRecognizer(UIGestureRecognizer recognizer);
-  void removeGestureRecognizer(UIGestureRecognizer recognizer);
-
-  // Moves to another appearance: animated where an animation is being described.
+  // How the parts work together.
   void become(const ViewAppearance& appearance);
+  void resizeSubviews(CGSize oldSize);
+  bool layOut();
   void detach(UIView subview);
   void tellMovedToWindow();
-  bool layOut();
 
   ViewAppearance _own;
   Owned<UIColor> _tintColor;  // nil: inherited
   Owned<CALayer> _layer;
-  std::vector<Owned<UIView>> _subviews;
+  SubviewOrder _subviews;
   UIView _superview;        // borrowed
   UIResponder _controller;  // borrowed
-  std::vector<Owned<UIGestureRecognizer>> _gestureRecognizers;
+  ViewGestures _gestures;
   NSInteger _tag = 0;
   NSUInteger _autoresizingMask = 0;
   NSInteger _contentMode = 0;
@@ -158,8 +142,5 @@ class UIViewState : public Bound<UIViewState, UIResponderState, UIView> {
   bool _isUserInteractionEnabled = true;
   bool _needsLayout = true;
 };
-
-// The methods of animation, of the class.
-void addViewAnimations();
 
 }  // namespace desktop::uikit
