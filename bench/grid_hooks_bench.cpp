@@ -185,8 +185,8 @@ void pressWithLongPlace(benchmark::State& state) {
     const auto grid = makeGrid();
     Asset::of(Grid::of(grid.get()).selected->at(0)).place =
         Owned<NSString>::retain(NSString::make(place));
-    const auto window = makeView<UIWindow>(
-        desktop::uikit::rectOfSize(desktop::uikit::screen().size));
+    const auto window =
+        makeView<UIWindow>(desktop::uikit::rectOfSize(desktop::uikit::screen().size));
     window->setRootViewController(grid);
     window->makeKeyAndVisible();
     desktop::render::ScreenPicture screen;

@@ -86,7 +86,7 @@ void Presentation::finishPresenting(const std::shared_ptr<Above>& above) {
   if (_above != above) return;
   above->isComing = false;
   if (above->coversAll) _owner.view().removeFromSuperview();
-  above->controller.endAppearance();
+  above->controller->endAppearance();
   _owner.endAppearance();
 }
 
@@ -117,7 +117,7 @@ void Presentation::dismissAbove(bool animated, const Block<void()>& completion) 
   _above->isGoing = true;
   if (wasCovered) putViewBack();
   for (auto each = all.rbegin(); each != all.rend(); ++each)
-    beginAppearance((*each)->_owner, false, animated);
+    (*each)->_owner.beginAppearance(false, animated);
   if (wasCovered) _owner.beginAppearance(true, animated);
   move(all.back()->_owner, false, animated,
        [this, kept = Owned<UIViewController>::retain(_owner), above = _above, completion] {
@@ -132,7 +132,7 @@ void Presentation::finishDismissing(const std::shared_ptr<Above>& above) {
   for (const Presentation* each : allAbove())
     gone.push_back(Owned<UIViewController>::retain(each->_owner));
   _owner.endAppearance();
-  for (auto each = gone.rbegin(); each != gone.rend(); ++each) endAppearance(*each);
+  for (auto each = gone.rbegin(); each != gone.rend(); ++each) each->get().endAppearance();
   Presentation* presenter = this;
   for (const auto& each : gone) {
     Presentation* const presented = presenter->_above->presentation;

@@ -26,7 +26,7 @@ struct LabelLine {
 // How a label shows its text.
 struct LabelStyle {
   Color color = colors::black;     // of text that has none of its own
-  std::optional<Color> highlight;  // of all text, where there is one
+  std::optional<Color> highlight = std::nullopt;  // of all text, where there is one
   LineBreakMode lineBreakMode = LineBreakMode::byTruncatingTail;
   NSInteger numberOfLines = 1;  // 0: as many as there are
 };

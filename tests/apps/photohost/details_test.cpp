@@ -14,13 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 using testing::Contains;
 
-constexpr char domain[] = "preference net.korvu.lumifact ";
-constexpr char changed[] = "notify net.korvu.lumifact/preferences\n";
-
-std::string setting(const std::string& keyAndValue) {
-  return domain + keyAndValue + "\n" + changed;
-}
-
 std::string pressPhoto() {
   return "long-press 187 333\nwait 1\n";
 }

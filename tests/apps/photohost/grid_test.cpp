@@ -18,11 +18,6 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
-std::string setting(const std::string& keyAndValue) {
-  return "preference net.korvu.lumifact " + keyAndValue +
-         "\nnotify net.korvu.lumifact/preferences\n";
-}
-
 // A thumbnail's caption bar is known by its tag.
 std::vector<Json> barsOn(const Json& screen) {
   std::vector<Json> bars;

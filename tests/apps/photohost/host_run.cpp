@@ -73,6 +73,11 @@ Json Host::dumped(const std::string& name) const {
   return json;
 }
 
+std::string setting(const std::string& keyAndValue) {
+  return "preference net.korvu.lumifact " + keyAndValue +
+         "\nnotify net.korvu.lumifact/preferences\n";
+}
+
 std::string sampleLibrary() {
   return SAMPLE_LIBRARY;
 }

@@ -64,6 +64,9 @@ std::vector<std::string> textsOf(const Json& screen);
 // How many bar items on the right have a button of their own.
 int customButtons(const Json& screen);
 
+// The script's lines that change a setting of the extension: "viewType 1".
+std::string setting(const std::string& keyAndValue);
+
 // Presses the details button of the single photo, and waits for the page.
 inline constexpr char pressInfo[] = "tap 328 42\nwait 1\n";
 

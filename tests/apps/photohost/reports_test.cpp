@@ -46,8 +46,7 @@ std::vector<std::string> waysToItems(const std::string& folder) {
 
 // Opens the details of every item, and dumps each page under its number.
 std::string scriptFor(const std::vector<std::string>& ways, int viewType) {
-  std::string script = "preference net.korvu.lumifact viewType " + std::to_string(viewType) +
-                       "\nnotify net.korvu.lumifact/preferences\n";
+  std::string script = setting("viewType " + std::to_string(viewType));
   for (std::size_t item = 0; item < ways.size(); ++item)
     script += ways[item] + pressInfo + "dump " + std::to_string(item) +
               ".json\ntap \"Dismiss\"\nwait 1\nback\nwait 1\n";

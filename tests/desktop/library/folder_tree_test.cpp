@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 
 // Writes down all that it is told: "+a.jpg", "-a.jpg", "~a.jpg" for items, "open"/"close" for
 // folders, "!path: reason" and "ok path" for problems, "shared" and "private".

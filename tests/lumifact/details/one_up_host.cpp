@@ -11,6 +11,7 @@ namespace lumifact::host {
 namespace {
 
 using bridge::NSObject;
+using bridge::NSString;
 using bridge::Object;
 using bridge::Owned;
 using bridge::PUOneUpViewController;

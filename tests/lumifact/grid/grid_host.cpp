@@ -11,7 +11,6 @@ namespace lumifact::host {
 namespace {
 
 using bridge::ClassBuilder;
-using bridge::NSObject;
 using bridge::NSString;
 using bridge::Object;
 using bridge::Owned;

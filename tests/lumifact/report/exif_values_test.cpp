@@ -12,6 +12,8 @@
 namespace lumifact {
 namespace {
 
+using model::Array;
+using model::Dictionary;
 using model::Value;
 
 struct CodeRow {

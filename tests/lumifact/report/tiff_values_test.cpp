@@ -8,6 +8,7 @@
 namespace lumifact {
 namespace {
 
+using model::Array;
 using model::Value;
 
 struct Case {

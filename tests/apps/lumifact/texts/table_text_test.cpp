@@ -9,6 +9,8 @@
 namespace lumifact::tool {
 namespace {
 
+using model::Array;
+using model::Data;
 using model::Dictionary;
 
 std::string textOf(const Dictionary& record, const Dictionary& table) {

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <random>
 
+#include "desktop/uikit/base/weak_reference.h"
 #include "desktop/uikit/controls/ui_control.h"
 #include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "desktop/uikit/touch/ui_gesture_recognizer.h"
@@ -148,7 +149,8 @@ TEST_F(TouchSequencesTest, EndWell) {
       given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
   std::printf("seed %u\n", seed);
   random.seed(seed);
-  UIApplication::sharedApplication();  // once made, it stays
+  UIApplication::sharedApplication();   // once made, it stays
+  const WeakReference anchored(probe);  // as does what controls tell their targets by
   const long before = liveBoundObjects();
   for (std::size_t sequence = 0; sequence < sequences; ++sequence) {
     const AutoreleasePool pool;
