@@ -182,16 +182,23 @@ CGSize UITextViewState::sizeThatFits(CGSize size) const {
   return _text.sizeIn(size.width > 0 ? std::min(size.width, unlimited) : unlimited);
 }
 
+// A view that is as high as a long text is never seen whole.
+CGRect UITextViewState::partInSight() const {
+  const UIView shown = window();
+  if (!shown) return bounds();
+  return intersection(bounds(), self().convertFrom(shown.bounds(), shown));
+}
+
 // What comes into sight is laid out for good; what is in sight then stays where it is.
 void UITextViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
   if (arranged().layout().isExact()) return;
-  const CGRect seen = bounds();
+  const CGRect seen = partInSight();
   const double shift = _text.refine(seen);
   updateContentSize();
-  CGPoint offset = seen.origin;
+  CGPoint offset = contentOffset();
   if (shift != 0) offset = clamped({offset.x, offset.y + shift});
-  if (offset != seen.origin) self().setContentOffset(offset);
+  if (offset != contentOffset()) self().setContentOffset(offset);
   setNeedsDisplay();
 }
 
@@ -201,8 +208,8 @@ void UITextViewState::scrollRangeToVisible(NSRange range) {
 
 void UITextViewState::drawContent(Canvas* canvas) {
   const ShownText& text = arranged();
-  if (hasSelectedText()) text.drawSelection(*canvas, selectedRange(), bounds(), tint());
-  text.draw(*canvas, bounds());
+  if (hasSelectedText()) text.drawSelection(*canvas, selectedRange(), partInSight(), tint());
+  text.draw(*canvas, partInSight());
 }
 
 // The delegate hears of another selection only.

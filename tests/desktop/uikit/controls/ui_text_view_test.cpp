@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 
 #include "bridge/class_builder.h"
 #include "desktop/uikit/base/outside.h"
@@ -12,6 +13,7 @@
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_responder.h"
 #include "tests/desktop/uikit/application_test.h"
+#include "tests/desktop/uikit/slow_text_engine.h"
 
 namespace desktop::uikit {
 namespace {
@@ -318,6 +320,23 @@ TEST_F(UITextViewTest, AViewWithoutRoomShowsNoText) {
     view->setFrame({{0, 0}, {width, 10}});
     EXPECT_EQ(view->contentSize().height, 16) << width;
   }
+}
+
+TEST_F(UITextViewTest, LaysOutWhatIsSeenOfAViewAsHighAsALongText) {
+  auto engine = std::make_unique<SlowTextEngine>();
+  const SlowTextEngine& slow = *engine;
+  setTextEngine(std::move(engine));
+  constexpr std::size_t letters = 1'000'000;
+  show(std::u16string(letters, u'x'));
+  for (int layout = 0; layout < 3; ++layout) {
+    view->setFrame({{0, 0}, {130, view->contentSize().height}});
+    application().prepareFrame();
+  }
+  EXPECT_GT(view->contentSize().height, 100'000);
+  EXPECT_GT(slow.brokenUnits, 0U);
+  EXPECT_LT(slow.brokenUnits, letters / 10);
+  view->removeFromSuperview();
+  setTextEngine(nullptr);
 }
 
 TEST_F(UITextViewTest, LeavesNothingBehind) {
