@@ -182,14 +182,8 @@ CGSize UITextViewState::sizeThatFits(CGSize size) const {
   return _text.sizeIn(size.width > 0 ? std::min(size.width, unlimited) : unlimited);
 }
 
-// A view that is as high as a long text is never seen whole.
-CGRect UITextViewState::partInSight() const {
-  const UIView shown = window();
-  if (!shown) return bounds();
-  return intersection(bounds(), self().convertFrom(shown.bounds(), shown));
-}
-
-// What comes into sight is laid out for good; what is in sight then stays where it is.
+// What comes into sight is laid out for good; what is in sight then stays where it is. A view that
+// is as high as a long text is never seen whole.
 void UITextViewState::layoutSubviews() {
   super<void, "layoutSubviews">();
   if (arranged().layout().isExact()) return;

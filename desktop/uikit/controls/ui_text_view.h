@@ -50,7 +50,6 @@ class UITextViewState : public Bound<UITextViewState, UIScrollViewState, UITextV
   // Of where it stands.
   CGSize contentSize();
   CGSize sizeThatFits(CGSize size) const;
-  CGRect partInSight() const;
   void layoutSubviews();
   void scrollRangeToVisible(NSRange range);
   void drawContent(Canvas* canvas);

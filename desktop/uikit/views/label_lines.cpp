@@ -76,14 +76,18 @@ std::vector<PlacedLine> linesWithRoom(const TextLayout& layout, NSInteger atMost
 
 }  // namespace
 
-std::vector<LabelLine> labelLines(const SharedText& text, const LabelStyle& style, CGSize size) {
+std::vector<LabelLine> labelLines(const SharedText& text, const LabelStyle& style, CGSize size,
+                                  double seenTop, double seenBottom) {
   std::vector<LabelLine> made;
   if (text->text.empty() || isEmpty(rectOfSize(size))) return made;
   const TextLayout layout(text, style.numberOfLines == 1 ? unlimited : size.width);
-  const std::vector<PlacedLine> placed = linesWithRoom(layout, style.numberOfLines, size);
-  const bool isCut = placed.size() < layout.lineCount() || style.numberOfLines == 1;
+  const bool isPart = style.numberOfLines == 0 && !layout.isExact();
+  const std::vector<PlacedLine> placed =
+      isPart ? layout.lines(seenTop, seenBottom) : linesWithRoom(layout, style.numberOfLines, size);
+  const bool isCut = !isPart && (placed.size() < layout.lineCount() || style.numberOfLines == 1);
   const PlacedLine last = placed.empty() ? PlacedLine{} : placed.back();
-  const double top = nearestPixel((size.height - bottom(last.frame)) / 2);
+  const double end = isPart ? layout.size().height : bottom(last.frame);
+  const double top = nearestPixel((size.height - end) / 2);
   for (const PlacedLine& line : placed) {
     const TextRun& run = text->runAt(line.start);
     LabelLine shown{.text = text->text.substr(line.start, line.length),

@@ -21,6 +21,7 @@ namespace desktop::uikit {
 namespace {
 
 constexpr CGFloat standardSize = 17;
+constexpr NSUInteger longestWholeText = 10'000;  // in UTF-16 units; more than a screen has room for
 
 }  // namespace
 
@@ -188,17 +189,19 @@ CGSize UILabelState::intrinsicContentSize() const {
   return self().sizeThatFits(CGSize{});
 }
 
-std::vector<LabelLine> UILabelState::linesIn(CGSize size) const {
+std::vector<LabelLine> UILabelState::linesIn(CGSize size, CGRect seen) const {
   if (_text.get().length() == 0 || isEmpty(rectOfSize(size))) return {};
   FontFace face = UIFontState::faceOf(_font.get());
   face.size = shownFontSize();
-  return labelLines(textIn(face), _style, size);
+  return labelLines(textIn(face), _style, size, seen.origin.y, bottom(seen));
 }
 
 const std::vector<LabelLine>& UILabelState::lines() const {
   const CGSize size = bounds().size;
-  if (_shown.scale != screen().scale || _shown.size != size)
-    _shown = {size, screen().scale, linesIn(size)};
+  // Only what is seen of a text that fills many screens is laid out, anew wherever it scrolls to.
+  const CGRect seen = _text.get().length() > longestWholeText ? partInSight() : rectOfSize(size);
+  if (_shown.scale != screen().scale || _shown.size != size || _shown.seen != seen)
+    _shown = {size, seen, screen().scale, linesIn(size, seen)};
   return _shown.lines;
 }
 

@@ -62,6 +62,7 @@ class UILabelState : public Bound<UILabelState, UIViewState, UILabel> {
   // What is painted, and for which room.
   struct Shown {
     CGSize size;
+    CGRect seen;
     CGFloat scale = 0;  // pixels a point; 0 before anything was laid out
     std::vector<LabelLine> lines;
   };
@@ -69,7 +70,7 @@ class UILabelState : public Bound<UILabelState, UIViewState, UILabel> {
   void changed();
   void updateHighlight();
   SharedText textIn(const FontFace& face) const;
-  std::vector<LabelLine> linesIn(CGSize size) const;
+  std::vector<LabelLine> linesIn(CGSize size, CGRect seen) const;
 
   Owned<NSString> _text;                      // nil: none
   Owned<NSAttributedString> _attributedText;  // nil: plain

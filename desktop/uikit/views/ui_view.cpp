@@ -233,6 +233,11 @@ UIView UIViewState::window() const {
   return of(top.get())._isWindow ? top : UIView();
 }
 
+CGRect UIViewState::partInSight() const {
+  const UIView shown = window();
+  return shown ? intersection(bounds(), convertFrom(of(shown.get()).bounds(), shown)) : bounds();
+}
+
 bool UIViewState::isDescendantOf(UIView view) const {
   UIView at = self();
   while (at && at != view) at = of(at.get())._superview;

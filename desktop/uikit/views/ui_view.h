@@ -55,6 +55,8 @@ class UIViewState : public Bound<UIViewState, UIResponderState, UIView> {
   const ObjectList<UIView>& subviews() const { return _subviews.all(); }
   UIView superview() const { return _superview; }
   UIView window() const;
+  // Of its bounds what lies in its window; all of them outside one.
+  CGRect partInSight() const;
   // Says that this view is a window: the top of what is on screen.
   void standAsWindow() { _isWindow = true; }
   bool isDescendantOf(UIView view) const;

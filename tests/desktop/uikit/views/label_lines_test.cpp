@@ -4,7 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "tests/desktop/uikit/recording_canvas.h"
+#include "tests/desktop/uikit/slow_text_engine.h"
 
 namespace desktop::uikit {
 namespace {
@@ -83,6 +86,26 @@ TEST(LabelLines, PaintsWhereTheBoundsBegin) {
   drawLabelLines(labelLines(plain(u"one two"), {.numberOfLines = 0}, {24, 60}), {{0, 0}, {24, 60}},
                  canvas);
   EXPECT_THAT(canvas.texts, ElementsAre(u"one ", u"two"));
+}
+
+TEST(LabelLines, OfALongTextAreThoseThatAreSeen) {
+  auto engine = std::make_unique<SlowTextEngine>();
+  const SlowTextEngine& slow = *engine;
+  setTextEngine(std::move(engine));
+  constexpr std::size_t letters = 1'000'000;
+  const SharedText text = plain(std::u16string(letters, u'x'));
+  const LabelStyle style{.numberOfLines = 0};
+  const CGSize size = labelSize(text, style, text->runs[0].face, {100, 0});
+  const auto top = labelLines(text, style, size, 0, 100);
+  const auto later = labelLines(text, style, size, 50'000, 50'100);
+  EXPECT_GT(size.height, 100'000);
+  EXPECT_LT(top.size(), 100U);
+  ASSERT_FALSE(top.empty());
+  ASSERT_FALSE(later.empty());
+  EXPECT_LT(top[0].baseline.y, 100);
+  EXPECT_NEAR(later[0].baseline.y, 50'000, 100);
+  EXPECT_LT(slow.brokenUnits, letters / 4) << "in all three of them";
+  setTextEngine(nullptr);
 }
 
 }  // namespace
