@@ -28,10 +28,17 @@ constexpr std::string_view nameOf() {
   return text.substr(from, text.find_first_of(";]", from) - from);
 }
 
+// Compilers differ in where they leave blanks.
+inline std::string word(std::string_view name) {
+  std::string text(name);
+  std::erase(text, ' ');
+  return text;
+}
+
 inline bool record(std::string_view receiver, std::string_view selector, std::string_view encoding,
                    std::string_view result) {
-  lines().insert(std::string(receiver) + ' ' + std::string(selector) + ' ' + std::string(encoding) +
-                 ' ' + std::string(result));
+  lines().insert(word(receiver) + ' ' + std::string(selector) + ' ' + std::string(encoding) + ' ' +
+                 word(result));
   return true;
 }
 
