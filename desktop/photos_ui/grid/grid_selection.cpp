@@ -2,6 +2,7 @@
 #include "desktop/photos_ui/grid/grid_selection.h"
 
 #include <cmath>
+#include <utility>
 
 namespace desktop::photos_ui {
 
@@ -89,11 +90,12 @@ void GridSelection::swipeTo(UIGestureRecognizer recognizer) {
 
 // The recogniser is the one that was added, and stays as long as this.
 void GridSelection::scrollAtEdges(UIGestureRecognizer recognizer, std::function<void()> scrolled) {
-  _edges.follow(recognizer.locationIn(_grid.view()), [this, recognizer, scrolled] {
-    swipeTo(recognizer);
-    scrolled();
-    scrollAtEdges(recognizer, scrolled);
-  });
+  _edges.follow(recognizer.locationIn(_grid.view()),
+                [this, recognizer, scrolled = std::move(scrolled)] {
+                  swipeTo(recognizer);
+                  scrolled();
+                  scrollAtEdges(recognizer, scrolled);
+                });
 }
 
 bool GridSelection::follow(UIGestureRecognizer recognizer, std::function<void()> scrolled) {
