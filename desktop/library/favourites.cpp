@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/library/favourites.h"
 
-#include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <system_error>
+
+#include "io/file_replacement.h"
 
 namespace desktop::library {
 namespace {
@@ -21,24 +22,13 @@ Uuids readUuids(const std::string& path) {
   return uuids;
 }
 
-std::error_code writeUuids(const std::string& path, const Uuids& uuids) {
-  errno = 0;
-  std::ofstream file(path, std::ios::trunc);
-  for (const std::string& uuid : uuids) file << uuid << '\n';
-  file.close();
-  if (file) return {};
-  return {errno == 0 ? EIO : errno, std::generic_category()};
-}
-
-// The new file takes the old one's place as a whole.
-std::error_code replaceFile(const std::string& path, const Uuids& uuids) {
+std::optional<model::Error> writeUuids(const std::filesystem::path& path, const Uuids& uuids) {
   std::error_code failed;
-  std::filesystem::create_directories(std::filesystem::path(path).parent_path(), failed);
-  if (failed) return failed;
-  const std::string fresh = path + ".new";
-  if (const auto unwritten = writeUuids(fresh, uuids)) return unwritten;
-  std::filesystem::rename(fresh, path, failed);
-  return failed;
+  std::filesystem::create_directories(path.parent_path(), failed);
+  if (failed) return model::Error{failed.message()};
+  std::string lines;
+  for (const std::string& uuid : uuids) (lines += uuid) += '\n';
+  return io::replaceFile(path, lines);
 }
 
 }  // namespace
@@ -51,7 +41,7 @@ model::Result<bool> Favourites::set(const std::string& uuid, bool isFavourite) {
     next.insert(uuid);
   else
     next.erase(uuid);
-  if (const auto failed = replaceFile(_file, next)) return model::Error{failed.message()};
+  if (auto failure = writeUuids(_file, next)) return *std::move(failure);
   _uuids = std::move(next);
   return true;
 }

@@ -12,6 +12,8 @@
 #include <utility>
 
 #include "foundation/property_lists/property_list.h"
+#include "io/descriptor.h"
+#include "io/file_replacement.h"
 
 namespace foundation {
 namespace {
@@ -21,22 +23,6 @@ constexpr int mostLinks = 40;  // as the system follows them
 model::Error lastError() {
   return {std::generic_category().message(errno)};
 }
-
-// An open file, closed at its end.
-class Descriptor {
- public:
-  explicit Descriptor(int descriptor) : _descriptor(descriptor) {}
-  ~Descriptor() {
-    if (_descriptor >= 0) ::close(_descriptor);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  int get() const { return _descriptor; }
-  bool isOpen() const { return _descriptor >= 0; }
-
- private:
-  int _descriptor;
-};
 
 // Where the links of the path lead, whether or not a file is there.
 std::filesystem::path followingLinks(std::filesystem::path path) {
@@ -69,40 +55,6 @@ model::Result<PropertyList> readDictionary(const std::filesystem::path& path) {
   return list;
 }
 
-// Gives the new file what the old one had beside its bytes.
-bool takeOverAttributes(int descriptor, const std::filesystem::path& old) {
-  struct stat status {};
-  if (::stat(old.c_str(), &status) != 0) return true;
-  // Only a privileged user may give files away; the file is then the writer's own.
-  [[maybe_unused]] const int ignored = ::fchown(descriptor, status.st_uid, status.st_gid);
-  return ::fchmod(descriptor, status.st_mode & 07777U) == 0;
-}
-
-bool writeAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(count));
-  }
-  return true;
-}
-
-std::optional<model::Error> replaceFile(const std::filesystem::path& path, std::string_view bytes) {
-  const std::string name = "." + path.filename().native() + "." + std::to_string(::getpid());
-  const std::filesystem::path temporary = folderOf(path) / name;
-  constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW;
-  ::unlink(temporary.c_str());  // of a run with our number that was cut off
-  const Descriptor file(::open(temporary.c_str(), flags, 0644));
-  if (!file.isOpen()) return lastError();
-  const bool isWritten = takeOverAttributes(file.get(), path) && writeAll(file.get(), bytes) &&
-                         ::fsync(file.get()) == 0 && ::rename(temporary.c_str(), path.c_str()) == 0;
-  if (isWritten) return std::nullopt;
-  const model::Error error = lastError();
-  ::unlink(temporary.c_str());
-  return error;
-}
-
 std::optional<model::Error> removeFile(const std::filesystem::path& path) {
   if (::unlink(path.c_str()) == 0 || errno == ENOENT) return std::nullopt;
   return lastError();
@@ -122,7 +74,7 @@ std::optional<model::Error> editInFolder(const std::filesystem::path& path,
   if (settings.empty() && mayBeMissing) return removeFile(path);
   const auto bytes = serializePropertyList(list->root, list->format);
   if (!bytes) return bytes.error();
-  return replaceFile(path, *bytes);
+  return io::replaceFile(path, *bytes);
 }
 
 }  // namespace
@@ -135,10 +87,10 @@ std::optional<model::Error> editPropertyListFile(
   std::filesystem::create_directories(folder, error);
   if (error) return model::Error{error.message()};
   // The folder itself is the lock, so that no lock file is left behind.
-  const Descriptor lock(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!lock.isOpen() || ::flock(lock.get(), LOCK_EX) != 0) return lastError();
+  const io::Descriptor lock(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!lock || ::flock(lock.number(), LOCK_EX) != 0) return lastError();
   auto failure = editInFolder(target, edit, after);
-  if (!failure) ::fsync(lock.get());
+  if (!failure) ::fsync(lock.number());
   return failure;
 }
 

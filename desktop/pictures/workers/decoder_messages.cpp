@@ -63,12 +63,12 @@ template <typename Head>
 struct Message {
   Head head;
   std::string text;
-  Descriptor descriptor;
+  io::Descriptor descriptor;
 };
 
 // The descriptors that came with a message: the first is kept, the others are closed.
-Descriptor descriptorOf(msghdr& message) {
-  Descriptor first;
+io::Descriptor descriptorOf(msghdr& message) {
+  io::Descriptor first;
   for (cmsghdr* part = CMSG_FIRSTHDR(&message); part != nullptr;
        part = CMSG_NXTHDR(&message, part)) {
     if (part->cmsg_level != SOL_SOCKET || part->cmsg_type != SCM_RIGHTS) continue;
@@ -76,7 +76,7 @@ Descriptor descriptorOf(msghdr& message) {
     for (std::size_t index = 0; index < count; ++index) {
       int number = -1;
       std::memcpy(&number, CMSG_DATA(part) + index * sizeof(int), sizeof(int));
-      Descriptor received(number);
+      io::Descriptor received(number);
       if (!first) first = std::move(received);
     }
   }
@@ -120,10 +120,10 @@ bool transferAll(std::size_t size, Transfer transfer) {
 
 }  // namespace
 
-std::optional<std::pair<Descriptor, Descriptor>> socketPair() {
+std::optional<std::pair<io::Descriptor, io::Descriptor>> socketPair() {
   std::array<int, 2> ends{};
   if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) return std::nullopt;
-  return std::pair(Descriptor(ends[0]), Descriptor(ends[1]));
+  return std::pair(io::Descriptor(ends[0]), io::Descriptor(ends[1]));
 }
 
 bool sendOrder(int socket, const DecodeOrder& order) {
@@ -153,8 +153,8 @@ std::optional<DecodeAnswer> receiveAnswer(int socket) {
                       std::move(message->descriptor)};
 }
 
-model::Result<Descriptor> writePixels(const Picture& picture) {
-  Descriptor file(memfd_create("picture", MFD_CLOEXEC));
+model::Result<io::Descriptor> writePixels(const Picture& picture) {
+  io::Descriptor file(memfd_create("picture", MFD_CLOEXEC));
   if (!file) return model::Error{std::strerror(errno)};
   const auto* bytes = reinterpret_cast<const char*>(picture.pixels.data());
   const std::size_t size = picture.byteCount();

@@ -11,7 +11,7 @@
 #include <string>
 
 #include "desktop/pictures/pixels/picture.h"
-#include "desktop/pictures/workers/descriptor.h"
+#include "io/descriptor.h"
 #include "model/result.h"
 
 namespace desktop::pictures {
@@ -28,12 +28,12 @@ struct DecodeAnswer {
   Kind kind = Kind::failed;
   int width = 0;  // of the decoded picture
   int height = 0;
-  std::string reason = {};  // of a failure
-  Descriptor pixels = {};   // of the decoded picture: a file without a name
+  std::string reason = {};     // of a failure
+  io::Descriptor pixels = {};  // of the decoded picture: a file without a name
 };
 
 // A connected pair; both ends are closed on exec. None where the system has no more.
-std::optional<std::pair<Descriptor, Descriptor>> socketPair();
+std::optional<std::pair<io::Descriptor, io::Descriptor>> socketPair();
 
 // False where the other end is gone. Never raises SIGPIPE.
 bool sendOrder(int socket, const DecodeOrder& order);
@@ -45,7 +45,7 @@ std::optional<DecodeAnswer> receiveAnswer(int socket);
 
 // A picture's pixels as a file without a name, and back. Errors: the system has no memory; a file
 // that is shorter than the size says, or a size beyond the limits.
-model::Result<Descriptor> writePixels(const Picture& picture);
+model::Result<io::Descriptor> writePixels(const Picture& picture);
 model::Result<Picture> readPixels(const DecodeAnswer& answer);
 
 }  // namespace desktop::pictures

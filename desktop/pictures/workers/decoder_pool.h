@@ -16,6 +16,7 @@
 
 #include "desktop/pictures/workers/decoder_messages.h"
 #include "desktop/pictures/workers/outcome.h"
+#include "desktop/pictures/workers/wake_descriptor.h"
 #include "desktop/pictures/workers/worker_process.h"
 
 namespace desktop::pictures {

@@ -34,7 +34,7 @@ class WorkerProcess {
 
  private:
   pid_t _process = 0;
-  Descriptor _socket;
+  io::Descriptor _socket;
 };
 
 }  // namespace desktop::pictures

@@ -40,7 +40,7 @@ TEST_F(OneUpTest, TellsWhyAFavouriteCannotBeKept) {
   addPictures(1);
   show(0);
   const library::ItemPointer item = oneUp().currentItem();
-  std::filesystem::create_directories(library->root().folder() + "/favourites.new");
+  std::filesystem::create_directories(library->root().folder() + "/favourites");
   tap(favouriteTool);
   EXPECT_FALSE(library->isFavourite(*item));
   EXPECT_THAT(texts(), Contains("Favorite Not Saved"));

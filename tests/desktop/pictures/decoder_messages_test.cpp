@@ -68,7 +68,7 @@ TEST(DecoderMessages, AreRefusedWhereTheyAreTooShort) {
 
 // A worker that was taken over may send what it likes.
 TEST(DecoderMessages, DistrustSizesAndFiles) {
-  const auto answerOf = [](int width, int height, Descriptor pixels) {
+  const auto answerOf = [](int width, int height, io::Descriptor pixels) {
     return DecodeAnswer{.kind = DecodeAnswer::Kind::decoded,
                         .width = width,
                         .height = height,
@@ -80,8 +80,8 @@ TEST(DecoderMessages, DistrustSizesAndFiles) {
   EXPECT_FALSE(readPixels(answerOf(-1, -2, file())));
   EXPECT_FALSE(readPixels(answerOf(0, 0, file())));
   EXPECT_FALSE(readPixels(answerOf(2'000'000'000, 2'000'000'000, file())));
-  EXPECT_FALSE(readPixels(answerOf(1, 1, Descriptor())));
-  EXPECT_FALSE(readPixels(answerOf(1, 1, Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)))));
+  EXPECT_FALSE(readPixels(answerOf(1, 1, io::Descriptor())));
+  EXPECT_FALSE(readPixels(answerOf(1, 1, io::Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)))));
 }
 
 }  // namespace

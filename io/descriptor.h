@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// File descriptors that are closed by their owner, and one that wakes whoever polls it.
+// A file descriptor that is closed by its owner.
 #pragma once
 
 #include <utility>
 
-namespace desktop::pictures {
+namespace io {
 
 // Owns a file descriptor, or none.
 class Descriptor {
@@ -28,17 +28,4 @@ class Descriptor {
   int _number = -1;
 };
 
-// Readable from signal() to clear(). Both may be called from any thread.
-class WakeDescriptor {
- public:
-  WakeDescriptor();
-
-  int number() const { return _descriptor.number(); }
-  void signal();
-  void clear();
-
- private:
-  Descriptor _descriptor;
-};
-
-}  // namespace desktop::pictures
+}  // namespace io

@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/pictures/workers/descriptor.h"
+#include "desktop/pictures/workers/wake_descriptor.h"
 
 #include <sys/eventfd.h>
-#include <unistd.h>
 
 #include <cstdint>
 
 namespace desktop::pictures {
-
-void Descriptor::reset(int number) {
-  if (_number >= 0) close(_number);
-  _number = number;
-}
 
 WakeDescriptor::WakeDescriptor() : _descriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
 
