@@ -12,7 +12,8 @@
 namespace desktop::uikit {
 namespace {
 
-constexpr std::size_t eagerUnits = std::size_t{64} << 10;
+constexpr std::size_t longestWholeText = std::size_t{64} << 10;  // in UTF-16 units
+constexpr std::size_t wholeBeginning = std::size_t{4} << 10;     // of texts beyond
 constexpr double unlimitedWidth = 1e7;
 constexpr std::size_t keptPieces = 1024;  // whose lines are remembered
 
@@ -29,7 +30,8 @@ BrokenText::BrokenText(SharedText text, double width) : _text(std::move(text)) {
   _pieces = piecesOf(_text->text);
   _measured.resize(_pieces.size());
   std::vector<double> heights(_pieces.size());
-  std::size_t budget = eagerUnits;
+  const std::size_t length = _text->text.size();
+  std::size_t budget = length > longestWholeText ? wholeBeginning : length;
   for (std::size_t piece = 0; piece < _pieces.size(); ++piece) {
     _measured[piece] = measured(piece, budget);
     _lineCount += _measured[piece].lines;
