@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "samples/library/items.h"
 #include "tests/samples/sample_files.h"
@@ -59,6 +60,7 @@ TEST(Library, HoldsNothingBesideItsItems) {
 }
 
 TEST(Library, IsTheSameEachTimeItIsMade) {
+  if (std::string_view(SAMPLE_LIBRARY_AGAIN).empty()) GTEST_SKIP() << "it was made once";
   const std::vector<std::string> files = filesBelow(libraryPath(""));
   ASSERT_EQ(filesBelow(againPath("")), files);
   constexpr std::size_t most = 4000000;
