@@ -92,6 +92,7 @@ void UINavigationBarState::setItems(Items items) {
   itemsChanged();
 }
 
+// A bar's items change at once; what slides is told by the controller above.
 void UINavigationBarState::pushItem(UINavigationItem item, bool) {
   if (!item) return;
   Items next = _items;

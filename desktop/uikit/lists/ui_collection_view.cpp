@@ -125,6 +125,7 @@ void UICollectionViewState::setCollectionViewLayout(UICollectionViewLayout layou
   layoutBecameInvalid();
 }
 
+// The items do not travel: they are at their new places at once.
 void UICollectionViewState::setCollectionViewLayoutAnimated(UICollectionViewLayout layout, bool) {
   self().setCollectionViewLayout(layout);
 }
@@ -297,10 +298,12 @@ void UICollectionViewState::deleteItems(NSArray paths) {
   contentsChange();
 }
 
+// One item or all: everything in sight is asked for again.
 void UICollectionViewState::reloadItems(NSArray) {
   contentsChange();
 }
 
+// Sections that come and go are a reload: the selection goes, and nothing travels.
 void UICollectionViewState::sectionsChange(Object) {
   reloadData();
 }

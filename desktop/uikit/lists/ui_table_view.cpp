@@ -177,6 +177,7 @@ void UITableViewState::reloadData() {
   remeasure();
 }
 
+// Rows that come and go do not travel: the table is read again.
 void UITableViewState::rowsChange(NSArray, NSInteger) {
   reloadData();
 }

@@ -187,6 +187,7 @@ void UITableViewCellState::setSelectedAtOnce(bool selected) {
   self().setSelected(selected, false);
 }
 
+// Animated or not, the colour changes at once.
 void UITableViewCellState::setSelected(bool selected, bool) {
   if (selected == _isSelected) return;
   _isSelected = selected;

@@ -98,6 +98,7 @@ void UIMenuControllerState::setTargetRect(CGRect rect, UIView view) {
   _target = view.convertTo(rect, UIView());
 }
 
+// Animated or not, the menu is there, or gone, at once.
 void UIMenuControllerState::setMenuVisible(bool visible, bool) {
   if (!visible) return hide();
   if (!isVisible()) show(possibleCommands(), _target);

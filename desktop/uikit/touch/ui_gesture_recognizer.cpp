@@ -167,6 +167,7 @@ CGPoint UIGestureRecognizerState::locationIn(UIView view) const {
   return fromScreen(_location, view);
 }
 
+// One finger is all that there is.
 CGPoint UIGestureRecognizerState::locationOfTouch(NSUInteger, UIView view) const {
   return locationIn(view);
 }

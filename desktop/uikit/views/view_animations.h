@@ -5,6 +5,7 @@
 #pragma once
 
 #include "bridge/block.h"
+#include "bridge/geometry.h"
 #include "desktop/platform.h"
 
 namespace desktop::uikit {
