@@ -60,6 +60,9 @@ struct UIView : UIResponder {
   }
   CALayer layer() const { return send<CALayer, "layer">(*this); }
 
+  // What is said of it to those who do not see it; nil where nothing is.
+  NSString accessibilityLabel() const { return send<NSString, "accessibilityLabel">(*this); }
+
   NSArray subviews() const { return send<NSArray, "subviews">(*this); }
   void addSubview(UIView view) const { send<void, "addSubview:">(*this, view); }
   void bringSubviewToFront(UIView view) const { send<void, "bringSubviewToFront:">(*this, view); }

@@ -32,7 +32,7 @@ class Collector {
   // A picture has the name by which those know it who do not see it.
   static NSString textOf(UIView view) {
     if (respondsTo<"text">(view)) return UILabel(view.get()).text();
-    if (respondsTo<"accessibilityLabel">(view)) return send<NSString, "accessibilityLabel">(view);
+    if (respondsTo<"accessibilityLabel">(view)) return view.accessibilityLabel();
     return {};
   }
 

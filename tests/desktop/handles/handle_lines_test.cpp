@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// What the handles of bridge/ send is what the desktop's classes answer: the same selectors, with
-// arguments and results of the same types.
+// What the handles of bridge/ send is what the desktop's classes answer, and what the platform's
+// headers declare: the same selectors, with arguments and results of the same types.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <memory>
@@ -15,6 +16,7 @@
 #include "desktop/photos_ui/photos_ui.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/application/uikit.h"
+#include "tests/support/encoding_table.h"
 
 // The runtime's own, which nothing but this test asks for.
 extern "C" int objc_getClassList(Class* classes, int capacity);
@@ -103,6 +105,22 @@ std::set<std::string> answersTo(const Line& line) {
   return answers;
 }
 
+// The lines of the table that speak of what a handle sends: those of its class, or where a class is
+// asked or an object is made those of any.
+std::vector<support::EncodingTable::Line> declarationsOf(const Line& line,
+                                                         const support::EncodingTable& table) {
+  constexpr std::string_view space = "bridge::";
+  auto declared = table.linesOf(line.selector);
+  const bool isHandle = line.receiver.starts_with(space);
+  const bool isClass = line.receiver.starts_with("objc_class");
+  const std::string name = isHandle ? line.receiver.substr(space.size()) : "";
+  std::erase_if(declared, [&](const support::EncodingTable::Line& declaration) {
+    if (isHandle) return declaration.className != name;
+    return isClass && !declaration.className.starts_with('+');
+  });
+  return declared;
+}
+
 TEST(HandleLines, AreAnsweredWithTheTypesThatTheySend) {
   const AutoreleasePool pool;
   uikit::registerUIKit();
@@ -113,6 +131,24 @@ TEST(HandleLines, AreAnsweredWithTheTypesThatTheySend) {
   for (const Line& line : lines)
     EXPECT_THAT(answersTo(line), testing::Contains(plain(line.encoding)))
         << line.receiver << " " << line.selector;
+}
+
+TEST(HandleLines, HaveTheTypesOfThePublicHeaders) {
+  const support::EncodingTable table;
+  std::size_t unsure = 0;
+  for (const Line& line : handleLines()) {
+    const auto declared = declarationsOf(line, table);
+    const auto isNotSure = [](const auto& declaration) { return !declaration.isSure; };
+    if (std::ranges::any_of(declared, isNotSure)) {
+      ++unsure;
+      continue;
+    }
+    std::vector<std::string> encodings;
+    for (const auto& declaration : declared) encodings.push_back(declaration.encoding);
+    EXPECT_THAT(encodings, testing::Contains(support::onThePhone(line.encoding)))
+        << line.receiver << " " << line.selector;
+  }
+  EXPECT_LE(unsure, 3U);
 }
 
 }  // namespace
