@@ -3,6 +3,8 @@
 
 #include <string_view>
 
+#include "bridge/guard.h"
+
 namespace bridge {
 
 void applyHooks(HookList rows) {
@@ -13,7 +15,7 @@ void applyHooks(HookList rows) {
       className = row.className;
       aClass = objc_getClass(row.className);
     }
-    if (aClass) row.apply(aClass, row);
+    if (aClass) guarded([&] { row.apply(aClass, row); });
   }
 }
 

@@ -74,6 +74,39 @@ void HostCell_noSuchMethod(id self, SEL command) {
   stock<&HostCell_noSuchMethod>(self, command);
 }
 
+// A class that raises when it is asked for a method that it lacks.
+Class moodyHost() {
+  static const Class made = ClassMaker("MoodyHost")
+                                .classMethod(
+                                    "resolveInstanceMethod:",
+                                    +[](id self, SEL command, SEL) {
+                                      victims::raise(self, command);
+                                      return BOOL{};
+                                    })
+                                .method(
+                                    "calm", +[](id, SEL) { return 1; })
+                                .build();
+  return made;
+}
+
+void MoodyHost_missing(id self, SEL command) {
+  stock<&MoodyHost_missing>(self, command);
+}
+
+int MoodyHost_calm(id self, SEL command) {
+  return 10 * stock<&MoodyHost_calm>(self, command);
+}
+
+int MoodyHost_new(id, SEL) {
+  return 5;
+}
+
+constinit const HookRow moodyTable[] = {
+    replaced<"MoodyHost", "missing", &MoodyHost_missing>,
+    replaced<"MoodyHost", "calm", &MoodyHost_calm>,
+    added<"MoodyHost", "new", "i@:", &MoodyHost_new>,
+};
+
 constinit const HookRow table[] = {
     replaced<"HostCell", "setSize:", &HostCell_setSize>,
     replaced<"HostCell", "title", &HostCell_title>,
@@ -122,6 +155,22 @@ TEST_F(HookTest, HookingAnInheritedMethodLeavesSiblingsAlone) {
 TEST_F(HookTest, RowsAfterAMissingClassOrMethodAreApplied) {
   EXPECT_FALSE(respondsTo<"noSuchMethod">(cell));
   EXPECT_EQ((send<Object, "itself">(cell)), cell.get());
+}
+
+TEST(Hook, ARowThatTheHostRaisesAtStopsNoOther) {
+  const AutoreleasePool pool;
+  moodyHost();
+  bool raises = false;
+  try {
+    class_getInstanceMethod(moodyHost(), sel_registerName("missing"));
+  } catch (...) {
+    raises = true;
+  }
+  ASSERT_TRUE(raises);
+  applyHooks(moodyTable);
+  const auto host = victims::make(moodyHost());
+  EXPECT_EQ((send<int, "calm">(host)), 10);
+  EXPECT_EQ((send<int, "new">(host)), 5);
 }
 
 TEST_F(HookTest, AddingLeavesAMethodOfTheClassInPlace) {
