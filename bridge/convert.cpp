@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bridge/convert.h"
 
-#include <limits>
-
 #include "bridge/foundation/ns_data.h"
 #include "bridge/foundation/ns_number.h"
 #include "model/number_text.h"
@@ -22,9 +20,7 @@ model::Value numberValue(NSNumber number) {
   const char type = number.objCType()[0];
   if (type == 'f') return model::widenedByText(number.floatValue());
   if (type == 'd') return number.doubleValue();
-  constexpr auto largest =
-      static_cast<unsigned long long>(std::numeric_limits<std::int64_t>::max());
-  if (type == 'Q' && number.unsignedLongLongValue() > largest) return number.doubleValue();
+  if (type == 'Q') return number.unsignedLongLongValue();
   return number.longLongValue();
 }
 
@@ -117,6 +113,8 @@ Owned<Object> toObject(const model::Value& value) {
       return shared(NSNumber::withBool(*value.asBoolean()));
     case model::Kind::integer:
       return shared(NSNumber::withLongLong(*value.asInteger()));
+    case model::Kind::largeInteger:
+      return shared(NSNumber::withUnsignedLongLong(*value.asLargeInteger()));
     case model::Kind::real:
       return shared(NSNumber::withDouble(*value.asReal()));
     case model::Kind::string:

@@ -51,6 +51,7 @@ Integer truncated(double real) {
 
 std::int64_t integerValue(const Value& value) {
   if (const auto* integer = value.asInteger()) return *integer;
+  if (const auto* large = value.asLargeInteger()) return static_cast<std::int64_t>(*large);
   if (const auto* real = value.asReal()) return truncated<std::int64_t>(*real);
   if (const auto* boolean = value.asBoolean()) return *boolean ? 1 : 0;
   if (const auto* text = value.asString()) return leadingInteger<std::int64_t>(*text);
@@ -61,6 +62,7 @@ std::int32_t intValue(const Value& value) {
   if (const auto* integer = value.asInteger()) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(*integer));
   }
+  if (const auto* large = value.asLargeInteger()) return static_cast<std::int32_t>(*large);
   if (const auto* real = value.asReal()) return truncated<std::int32_t>(*real);
   if (const auto* boolean = value.asBoolean()) return *boolean ? 1 : 0;
   if (const auto* text = value.asString()) return leadingInteger<std::int32_t>(*text);
@@ -70,6 +72,7 @@ std::int32_t intValue(const Value& value) {
 bool boolValue(const Value& value) {
   if (const auto* boolean = value.asBoolean()) return *boolean;
   if (const auto* integer = value.asInteger()) return *integer != 0;
+  if (value.asLargeInteger() != nullptr) return true;
   if (const auto* real = value.asReal()) return *real != 0;
   const auto* text = value.asString();
   if (text == nullptr) return false;
@@ -86,6 +89,7 @@ bool boolValue(const Value& value) {
 float floatValue(const Value& value) {
   if (const auto* real = value.asReal()) return static_cast<float>(*real);
   if (const auto* integer = value.asInteger()) return static_cast<float>(*integer);
+  if (const auto* large = value.asLargeInteger()) return static_cast<float>(*large);
   if (const auto* boolean = value.asBoolean()) return *boolean ? 1.0F : 0.0F;
   if (const auto* text = value.asString()) return static_cast<float>(parseRealPrefix(*text));
   return 0;

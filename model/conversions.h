@@ -9,8 +9,9 @@
 
 namespace model {
 
-// What the tables compare: a number truncated toward zero (saturating at 64 bits, 0 for NaN), a
-// string holding a number read as that number, a boolean as 1 or 0, anything else 0.
+// What the tables compare: an integer's low 64 bits, signed; a real truncated toward zero
+// (saturating at 64 bits, 0 for NaN), a string holding a number read as that number, a boolean as 1
+// or 0, anything else 0.
 std::int64_t integerValue(const Value& value);
 
 // 32 bits: integers keep their low 32 bits, reals truncate and saturate, strings read as their

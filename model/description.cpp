@@ -130,6 +130,8 @@ std::string valueText(const Value& value) {
       return *value.asBoolean() ? "1" : "0";
     case Kind::integer:
       return integerText(*value.asInteger());
+    case Kind::largeInteger:
+      return largeIntegerText(*value.asLargeInteger());
     case Kind::real:
       return realText(*value.asReal());
     case Kind::string:

@@ -151,12 +151,21 @@ double plainNumber(std::string_view number, const NumberSpan& span) {
   return number.front() == '-' ? -magnitude : magnitude;
 }
 
-}  // namespace
-
-std::string integerText(std::int64_t value) {
+template <typename Integer>
+std::string decimalText(Integer value) {
   std::array<char, 24> text{};
   const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
   return {text.data(), end};
+}
+
+}  // namespace
+
+std::string integerText(std::int64_t value) {
+  return decimalText(value);
+}
+
+std::string largeIntegerText(std::uint64_t value) {
+  return decimalText(value);
 }
 
 std::string paddedIntegerText(std::int64_t value, int width) {

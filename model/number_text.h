@@ -12,6 +12,7 @@ namespace model {
 
 // The integer in decimal.
 std::string integerText(std::int64_t value);
+std::string largeIntegerText(std::uint64_t value);
 
 // The integer in decimal with leading zeros up to `width` digits ("%0*d"); the sign counts.
 std::string paddedIntegerText(std::int64_t value, int width);

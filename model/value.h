@@ -37,9 +37,21 @@ struct Date {
 };
 
 // What a value is. A boolean is no integer: settings tell them apart by kind.
-enum class Kind { null, boolean, integer, real, string, date, data, array, dictionary };
+enum class Kind {
+  null,
+  boolean,
+  integer,
+  largeInteger,
+  real,
+  string,
+  date,
+  data,
+  array,
+  dictionary
+};
 
-// A null, boolean, 64-bit integer, double, string (valid UTF-8), date, data, array or dictionary.
+// A null, boolean, 64-bit integer, integer from 2^63 to 2^64 - 1 (of its own kind, so that all else
+// deals with signed ones), double, string (valid UTF-8), date, data, array or dictionary.
 // Copying copies the whole tree. Readers bound the nesting (at most maximumNesting containers
 // inside each other), so walking a tree recursively is safe.
 class Value {
@@ -49,7 +61,7 @@ class Value {
   requires std::same_as<T, bool> Value(T boolean) : _storage(boolean) {}
   template <typename T>
   requires(std::integral<T> && !std::same_as<T, bool>) Value(T integer)
-      : _storage(static_cast<std::int64_t>(integer)) {}
+      : _storage(storageOf(integer)) {}
   Value(double real) : _storage(real) {}
   Value(std::string text) : _storage(std::move(text)) {}
   Value(std::string_view text) : _storage(std::string(text)) {}
@@ -66,6 +78,7 @@ class Value {
   // value is assigned to or destroyed.
   const bool* asBoolean() const { return std::get_if<bool>(&_storage); }
   const std::int64_t* asInteger() const { return std::get_if<std::int64_t>(&_storage); }
+  const std::uint64_t* asLargeInteger() const { return std::get_if<std::uint64_t>(&_storage); }
   const double* asReal() const { return std::get_if<double>(&_storage); }
   const std::string* asString() const { return std::get_if<std::string>(&_storage); }
   const Date* asDate() const { return std::get_if<Date>(&_storage); }
@@ -80,9 +93,17 @@ class Value {
 
  private:
   // The order of the alternatives is the order of Kind.
-  std::variant<std::monostate, bool, std::int64_t, double, std::string, Date, Data, Array,
-               Dictionary>
-      _storage;
+  using Storage = std::variant<std::monostate, bool, std::int64_t, std::uint64_t, double,
+                               std::string, Date, Data, Array, Dictionary>;
+
+  template <typename T>
+  static Storage storageOf(T integer) {
+    const auto number = static_cast<std::int64_t>(integer);
+    if (std::unsigned_integral<T> && number < 0) return static_cast<std::uint64_t>(integer);
+    return number;
+  }
+
+  Storage _storage;
 };
 
 // How many containers may stand inside each other in any tree that is read from a file or a line.

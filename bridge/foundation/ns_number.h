@@ -18,6 +18,9 @@ struct NSNumber : NSObject {
   static NSNumber withLongLong(long long value) {
     return send<NSNumber, "numberWithLongLong:">(classObject(), value);
   }
+  static NSNumber withUnsignedLongLong(unsigned long long value) {
+    return send<NSNumber, "numberWithUnsignedLongLong:">(classObject(), value);
+  }
   static NSNumber withDouble(double value) {
     return send<NSNumber, "numberWithDouble:">(classObject(), value);
   }

@@ -129,10 +129,9 @@ class Reader {
     const auto low = _bytes.u64(offset + 9, io::ByteOrder::big);
     if (!high || !low) return damaged();
     const auto number = static_cast<std::int64_t>(*low);
-    if (*high != (number < 0 ? ~std::uint64_t{0} : 0)) {
-      return model::Error{"property list with an integer beyond 64 bits"};
-    }
-    return model::Value(number);
+    if (*high == 0) return model::Value(*low);
+    if (*high == ~std::uint64_t{0} && number < 0) return model::Value(number);
+    return model::Error{"property list with an integer beyond 64 bits"};
   }
 
   model::Result<model::Value> real(std::uint64_t offset, std::uint8_t marker) const {

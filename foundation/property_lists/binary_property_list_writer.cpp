@@ -39,6 +39,13 @@ void appendInteger(std::string& bytes, std::int64_t integer) {
   appendNumber(bytes, number, std::size_t{1} << exponent);
 }
 
+// Eight bytes would be read as a negative one.
+void appendLargeInteger(std::string& bytes, std::uint64_t integer) {
+  bytes += '\x14';
+  appendNumber(bytes, 0, 8);
+  appendNumber(bytes, integer, 8);
+}
+
 void appendMarker(std::string& bytes, int kind, std::size_t count) {
   bytes += static_cast<char>(kind << 4 | static_cast<int>(count < 0xF ? count : 0xF));
   if (count >= 0xF) appendInteger(bytes, static_cast<std::int64_t>(count));
@@ -82,6 +89,7 @@ std::string scalarObject(const model::Value& value) {
   std::string bytes;
   if (const auto* boolean = value.asBoolean()) bytes = *boolean ? "\x09" : "\x08";
   if (const auto* integer = value.asInteger()) appendInteger(bytes, *integer);
+  if (const auto* large = value.asLargeInteger()) appendLargeInteger(bytes, *large);
   if (const auto* real = value.asReal()) appendReal(bytes, 0x23, *real);
   if (const auto* date = value.asDate()) {
     appendReal(bytes, 0x33, date->secondsSince1970 - secondsTo2001);

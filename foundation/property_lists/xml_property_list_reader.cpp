@@ -56,11 +56,12 @@ model::Result<model::Value> integerFrom(std::string_view text) {
   const char* end = text.data() + text.size();
   const auto parsed = std::from_chars(text.data(), end, magnitude, hexadecimal ? 16 : 10);
   if (parsed.ec == std::errc::invalid_argument || parsed.ptr != end) return damaged();
-  const std::uint64_t largest = (std::uint64_t{1} << 63) - (negative ? 0 : 1);
-  if (parsed.ec != std::errc() || magnitude > largest) {
+  const bool isTooSmall = negative && magnitude > std::uint64_t{1} << 63;
+  if (parsed.ec != std::errc() || isTooSmall) {
     return model::Error{"property list with an integer beyond 64 bits"};
   }
-  return model::Value(static_cast<std::int64_t>(negative ? 0 - magnitude : magnitude));
+  return negative ? model::Value(static_cast<std::int64_t>(0 - magnitude))
+                  : model::Value(magnitude);
 }
 
 // "nan" and the infinities count as numbers.

@@ -43,6 +43,9 @@ class Writer {
       case model::Kind::integer:
         element(level, "integer", model::integerText(*value.asInteger()));
         break;
+      case model::Kind::largeInteger:
+        element(level, "integer", model::largeIntegerText(*value.asLargeInteger()));
+        break;
       case model::Kind::real:
         element(level, "real", realText(*value.asReal()));
         break;

@@ -79,6 +79,7 @@ bool hasConversion(const model::Value& value) {
   switch (value.kind()) {
     case model::Kind::boolean:
     case model::Kind::integer:
+    case model::Kind::largeInteger:
     case model::Kind::real:
     case model::Kind::string:
       return true;

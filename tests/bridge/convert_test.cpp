@@ -28,6 +28,8 @@ TEST_F(ConvertTest, EveryKindGoesThereAndBack) {
       -5,
       std::numeric_limits<std::int64_t>::min(),
       std::numeric_limits<std::int64_t>::max(),
+      std::uint64_t{1} << 63,
+      std::numeric_limits<std::uint64_t>::max(),
       72.0,
       0.25,
       -1e300,
@@ -53,12 +55,6 @@ TEST_F(ConvertTest, NothingIsNull) {
 TEST_F(ConvertTest, SinglePrecisionNumbersAreTheirShortestDecimal) {
   const auto number = send<NSNumber, "numberWithFloat:">(NSNumber::classObject(), 0.1F);
   EXPECT_EQ(toValue(number), Value(0.1));
-}
-
-TEST_F(ConvertTest, UnsignedNumbersBeyondTheIntegersAreReals) {
-  const auto number = send<NSNumber, "numberWithUnsignedLongLong:">(
-      NSNumber::classObject(), std::numeric_limits<unsigned long long>::max());
-  EXPECT_EQ(toValue(number), Value(18446744073709551615.0));
 }
 
 TEST_F(ConvertTest, OtherObjectsBecomeTheirDescription) {

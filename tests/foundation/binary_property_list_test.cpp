@@ -109,7 +109,7 @@ TEST(BinaryPropertyListTest, refusesUidsAndIntegersBeyond64Bits) {
   ASSERT_FALSE(uid);
   EXPECT_EQ(uid.error().reason, "property list with a UID, which no settings hold");
   for (const auto& [high, low] : {std::pair<std::uint64_t, std::uint64_t>{1, 0},
-                                  {0, std::uint64_t{1} << 63},
+                                  {~std::uint64_t{0} - 1, ~std::uint64_t{0}},
                                   {~std::uint64_t{0}, 5}}) {
     const auto wide = parse(rawList({bytes({0x14}) + bigEndian(high, 8) + bigEndian(low, 8)}));
     ASSERT_FALSE(wide) << high << " " << low;
@@ -228,6 +228,16 @@ TEST(BinaryPropertyListTest, writesIntegersOfEveryWidth) {
         Limits::max()}) {
     const auto written = binaryPropertyList(Value(integer));
     ASSERT_TRUE(written);
+    EXPECT_EQ(*parse(*written), Value(integer)) << integer;
+  }
+}
+
+TEST(BinaryPropertyListTest, writesIntegersBeyondTheSignedOnesInSixteenBytes) {
+  for (const std::uint64_t integer :
+       {std::uint64_t{1} << 63, std::numeric_limits<std::uint64_t>::max()}) {
+    const auto written = binaryPropertyList(Value(integer));
+    ASSERT_TRUE(written);
+    EXPECT_EQ(written->substr(8, 17), bytes({0x14}) + bigEndian(0, 8) + bigEndian(integer, 8));
     EXPECT_EQ(*parse(*written), Value(integer)) << integer;
   }
 }

@@ -15,6 +15,8 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr auto most64 = std::numeric_limits<std::int64_t>::max();
 constexpr auto least64 = std::numeric_limits<std::int64_t>::min();
+constexpr std::uint64_t firstLarge = std::uint64_t{1} << 63;
+constexpr auto mostUnsigned = std::numeric_limits<std::uint64_t>::max();
 constexpr auto most32 = std::numeric_limits<std::int32_t>::max();
 constexpr auto least32 = std::numeric_limits<std::int32_t>::min();
 
@@ -28,6 +30,8 @@ TEST(Conversions, IntegerValueTruncatesAndSaturates) {
   const Row<std::int64_t> rows[] = {
       {16, 16},
       {most64, most64},
+      {firstLarge, least64},
+      {mostUnsigned, -1},
       {0.6, 0},
       {-0.6, 0},
       {4.9, 4},
@@ -71,6 +75,8 @@ TEST(Conversions, IntValueKeepsLowBitsOfIntegersAndSaturatesTheRest) {
       {(std::int64_t{1} << 32) + 7, 7},
       {std::int64_t{1} << 31, least32},
       {std::int64_t{0xFFFFFFFF}, -1},
+      {firstLarge, 0},
+      {mostUnsigned - 6, -7},
       {1e10, most32},
       {-1e10, least32},
       {2147483646.9, 2147483646},
@@ -100,18 +106,29 @@ TEST(Conversions, BoolValueReadsWordsAndDigits) {
       {"t", true},       {"1", true},      {"-9", true},     {" \t+007", true},  {"0", false},
       {"000", false},    {"no", false},    {"NO", false},    {"false", false},   {"on", false},
       {"", false},       {"-", false},     {"00y", true},    {"x1", false},      {Value(), false},
-      {Array{1}, false}, {Data{1}, false}, {Date{1}, false}, {notANumber, true},
+      {Array{1}, false}, {Data{1}, false}, {Date{1}, false}, {notANumber, true}, {firstLarge, true},
   };
   for (const auto& row : rows) EXPECT_EQ(boolValue(row.value), row.result) << valueText(row.value);
 }
 
 TEST(Conversions, FloatValueRoundsToSinglePrecision) {
   const Row<float> rows[] = {
-      {0.1, 0.1F},       {3, 3.0F},       {16777217, 16777216.0F},
-      {true, 1.0F},      {false, 0.0F},   {"0.008333", 0.008333F},
-      {" -2.5s", -2.5F}, {"1/2", 1.0F},   {"", 0.0F},
-      {"abc", 0.0F},     {1e-60, 0.0F},   {Value(), 0.0F},
-      {Array{1}, 0.0F},  {Data{1}, 0.0F},
+      {0.1, 0.1F},
+      {3, 3.0F},
+      {16777217, 16777216.0F},
+      {true, 1.0F},
+      {false, 0.0F},
+      {"0.008333", 0.008333F},
+      {" -2.5s", -2.5F},
+      {"1/2", 1.0F},
+      {"", 0.0F},
+      {"abc", 0.0F},
+      {1e-60, 0.0F},
+      {Value(), 0.0F},
+      {Array{1}, 0.0F},
+      {Data{1}, 0.0F},
+      {firstLarge, 0x1p63F},
+      {mostUnsigned, 0x1p64F},
   };
   for (const auto& row : rows) EXPECT_EQ(floatValue(row.value), row.result) << valueText(row.value);
   EXPECT_TRUE(std::isinf(floatValue(1e300)));

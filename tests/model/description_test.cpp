@@ -41,6 +41,7 @@ TEST(Description, OfADictionaryPutsAnEntryALine) {
 }
 
 TEST(Description, OfAnArrayPutsCommasBetweenElements) {
+  EXPECT_EQ(valueText(std::uint64_t{1} << 63), "9223372036854775808");
   EXPECT_EQ(description(Array{1, "two", 3.5}), "(\n    1,\n    two,\n    \"3.5\"\n)");
 }
 

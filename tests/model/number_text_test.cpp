@@ -33,6 +33,7 @@ TEST(NumberText, PrintsIntegersInDecimal) {
       {std::numeric_limits<std::int64_t>::min(), "-9223372036854775808"},
   };
   for (const auto& row : rows) EXPECT_EQ(integerText(row.number), row.text);
+  EXPECT_EQ(largeIntegerText(std::numeric_limits<std::uint64_t>::max()), "18446744073709551615");
 }
 
 TEST(NumberText, PadsIntegersWithZeros) {

@@ -10,12 +10,14 @@ namespace lumifact::tool {
 namespace {
 
 bool isNumber(const model::Value& value) {
-  return value.asInteger() != nullptr || value.asReal() != nullptr;
+  return value.asInteger() != nullptr || value.asLargeInteger() != nullptr ||
+         value.asReal() != nullptr;
 }
 
 double realOf(const model::Value& number) {
-  const std::int64_t* integer = number.asInteger();
-  return integer != nullptr ? static_cast<double>(*integer) : *number.asReal();
+  if (const auto* integer = number.asInteger()) return static_cast<double>(*integer);
+  if (const auto* large = number.asLargeInteger()) return static_cast<double>(*large);
+  return *number.asReal();
 }
 
 std::optional<model::FourCharCode> codeOfText(std::string_view text) {

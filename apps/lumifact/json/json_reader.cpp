@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <utility>
@@ -18,11 +17,7 @@ class TreeBuilder {
   bool null() { return add({}); }
   bool boolean(bool value) { return add(value); }
   bool number_integer(std::int64_t value) { return add(value); }
-  bool number_unsigned(std::uint64_t value) {
-    constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    if (value > largest) return add(static_cast<double>(value));
-    return add(value);
-  }
+  bool number_unsigned(std::uint64_t value) { return add(value); }
   bool number_float(double value, const std::string& /*text*/) { return add(value); }
   bool string(std::string& value) { return add(std::move(value)); }
   bool binary(std::vector<std::uint8_t>& /*bytes*/) { return fail("binary value"); }

@@ -117,6 +117,9 @@ void appendJson(std::string& text, const model::Value& value) {
     case model::Kind::integer:
       text += model::integerText(*value.asInteger());
       return;
+    case model::Kind::largeInteger:
+      text += model::largeIntegerText(*value.asLargeInteger());
+      return;
     case model::Kind::real:
       appendReal(text, *value.asReal());
       return;

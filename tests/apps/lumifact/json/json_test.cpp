@@ -42,6 +42,7 @@ const Pair pairs[] = {
     {1e-05, "1e-05"},
     {1.7976931348623157e308, "1.7976931348623157e+308"},
     {std::numeric_limits<std::int64_t>::min(), "-9223372036854775808"},
+    {std::numeric_limits<std::uint64_t>::max(), "18446744073709551615"},
     {std::numeric_limits<std::int64_t>::max(), "9223372036854775807"},
     {std::numeric_limits<double>::infinity(), R"({"$real":"inf"})"},
     {-std::numeric_limits<double>::infinity(), R"({"$real":"-inf"})"},
@@ -96,7 +97,8 @@ TEST(Json, ReadsNumbersByHowTheyAreWritten) {
   const Pair numbers[] = {{1e2, "1e2"},
                           {1.0, "1.0"},
                           {-5, "-5"},
-                          {9223372036854775808.0, "9223372036854775808"},
+                          {std::uint64_t{1} << 63, "9223372036854775808"},
+                          {18446744073709551616.0, "18446744073709551616"},
                           {-9223372036854775808.0 * 4, "-36893488147419103232"},
                           {1e-320, "1e-320"}};
   for (const auto& [value, json] : numbers) {
