@@ -41,5 +41,52 @@ TEST(PainterText, PaintsLinesOfEveryLength) {
   }
 }
 
+// Where glyphs are painted one by one: a line that is too long to be kept, but for these letters
+// all blank.
+std::u16string notKept(std::u16string_view letters) {
+  return std::u16string(letters) + std::u16string(300, u' ');
+}
+
+QImage painted(std::u16string_view line, QColor color, QColor background, double scale,
+               QPointF baseline) {
+  QImage image(200, 60, QImage::Format_ARGB32_Premultiplied);
+  image.fill(background);
+  QPainter painter(&image);
+  painter.scale(scale, scale);
+  paintText(painter, line, {.size = 15}, color, baseline);
+  return image;
+}
+
+TEST(PainterText, LooksTheSameWhetherItIsKeptOrNot) {
+  constexpr std::u16string_view line = u"4032x3024, jpg Éq";
+  for (const double scale : {1.0, 2.0, 3.0})
+    for (const double x : {0.0, 4.25, 7.5, 9.75}) {
+      const QPointF baseline(x / scale, 40 / scale);
+      for (const auto& [color, background] :
+           {std::pair(Qt::black, Qt::white), std::pair(Qt::white, Qt::black)}) {
+        const QImage once = painted(line, color, background, scale, baseline);
+        EXPECT_EQ(once, painted(notKept(line), color, background, scale, baseline))
+            << scale << " " << x;
+        EXPECT_EQ(once, painted(line, color, background, scale, baseline));
+      }
+    }
+}
+
+TEST(PainterText, TurnedTextIsPaintedToo) {
+  QImage image = whitePicture();
+  QPainter painter(&image);
+  painter.rotate(20);
+  paintText(painter, u"turned", courier, Qt::black, {5, 5});
+  EXPECT_NE(image, whitePicture());
+}
+
+TEST(PainterText, ColorsAndTransparencyAreKeptApart) {
+  const QImage red = painted(u"color", Qt::red, Qt::white, 2, {4, 20});
+  const QImage blue = painted(u"color", Qt::blue, Qt::white, 2, {4, 20});
+  const QImage pale = painted(u"color", QColor(255, 0, 0, 60), Qt::white, 2, {4, 20});
+  EXPECT_NE(red, blue);
+  EXPECT_NE(red, pale);
+}
+
 }  // namespace
 }  // namespace desktop::render
