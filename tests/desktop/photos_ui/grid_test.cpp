@@ -5,6 +5,7 @@
 #include <map>
 
 #include "bridge/class_builder.h"
+#include "bridge/hook.h"
 #include "bridge/runtime/fields.h"
 #include "desktop/photos_ui/base/photos_host.h"
 #include "desktop/photos_ui/cells/item_badge.h"
@@ -30,6 +31,27 @@ using testing::Not;
 using uikit::application;
 using uikit::screen;
 using uikit::touches;
+
+// The items whose cells were asked for, by their paths, from the first grid on.
+std::vector<uikit::ItemPath> askedPaths;
+
+id cellForItem(id self, SEL command, id view, id path) {
+  askedPaths.push_back(*uikit::itemPathOf(NSIndexPath(path)));
+  return stock<&cellForItem>(self, command, view, path);
+}
+
+constinit const HookRow watchedCells[] = {
+    replaced<"PUPhotosGridViewController", "collectionView:cellForItemAtIndexPath:", &cellForItem>,
+};
+
+void watchCells() {
+  [[maybe_unused]] static const bool isWatching = [] {
+    PUPhotosGridViewControllerState::classObject();
+    applyHooks(watchedCells);
+    return true;
+  }();
+  askedPaths.clear();
+}
 
 class GridTest : public LibraryScreenTest {
  protected:
@@ -60,6 +82,27 @@ TEST_F(GridTest, GroupsMomentsByDayWithTheNewestInSight) {
   EXPECT_EQ(grid().list()->sections().size(), 30U);
   EXPECT_THAT(texts(), Contains("Jan 30, 1970"));
   EXPECT_THAT(texts(), Not(Contains("Jan 1, 1970")));
+}
+
+TEST_F(GridTest, AsksOnceForTheCellsInSightAndForNoOthers) {
+  for (const int count : {5, 30, 100}) {
+    for (int index = 0; index < count; ++index) addPhoto("Album", index);
+    watchCells();
+    open();
+    const auto asksForVisible = [] {
+      return askedPaths.size() == send<NSArray, "visibleCells">(grid().collectionView()).count();
+    };
+    EXPECT_GE(askedPaths.size(), 5U);
+    EXPECT_TRUE(asksForVisible()) << count;
+    for (const char* album : {"Album", "All Photos"}) {
+      watchCells();
+      ASSERT_FALSE(openAlbum(album));
+      settle();
+      EXPECT_GE(askedPaths.size(), 5U);
+      EXPECT_TRUE(asksForVisible()) << count << " " << album << " " << askedPaths.size();
+    }
+    uikit::resetApplication();
+  }
 }
 
 TEST_F(GridTest, ShowsFourColumnsOneApart) {
