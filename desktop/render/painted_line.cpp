@@ -13,18 +13,18 @@
 namespace desktop::render {
 namespace {
 
-constexpr std::size_t longestLine = 64;  // in UTF-16 units
+constexpr std::size_t longestKept = 64;  // in UTF-16 units
 constexpr int mostPixels = 1 << 17;      // of one line
 constexpr qsizetype mostBytes = 16 << 20;
 
-struct Key {
+struct PaintedKey {
   LinePaint paint;
   std::u16string line;
-  bool operator==(const Key&) const = default;
+  bool operator==(const PaintedKey&) const = default;
 };
 
-struct KeyHash {
-  std::size_t operator()(const Key& key) const {
+struct PaintedKeyHash {
+  std::size_t operator()(const PaintedKey& key) const {
     const LinePaint& paint = key.paint;
     return std::hash<std::u16string>()(key.line) ^ std::hash<double>()(paint.face.size) * 31 ^
            std::hash<double>()(paint.scale) * 7 ^ paint.color * 5 ^
@@ -34,13 +34,13 @@ struct KeyHash {
   }
 };
 
-struct Memory {
-  std::unordered_map<Key, PaintedLine, KeyHash> lines;
+struct KeptPixels {
+  std::unordered_map<PaintedKey, PaintedLine, PaintedKeyHash> lines;
   qsizetype bytes = 0;
 };
 
-Memory& memory() {
-  static auto& kept = *new Memory;
+KeptPixels& keptPixels() {
+  static auto& kept = *new KeptPixels;
   return kept;
 }
 
@@ -95,13 +95,13 @@ std::optional<PaintedLine> painted(const LinePaint& paint, std::u16string_view l
 }  // namespace
 
 std::optional<PaintedLine> paintedLine(const LinePaint& paint, std::u16string_view line) {
-  if (line.size() > longestLine) return {};
-  Key key{paint, std::u16string(line)};
-  auto& [lines, bytes] = memory();
+  if (line.size() > longestKept) return {};
+  PaintedKey key{paint, std::u16string(line)};
+  auto& [lines, bytes] = keptPixels();
   if (const auto known = lines.find(key); known != lines.end()) return known->second;
   auto made = painted(paint, line);
   if (!made) return {};
-  if (bytes > mostBytes) memory() = {};
+  if (bytes > mostBytes) keptPixels() = {};
   bytes += made->image.sizeInBytes();
   return lines.emplace(std::move(key), *std::move(made)).first->second;
 }
