@@ -56,6 +56,7 @@ QGlyphRun scaled(QGlyphRun run, double size, double baseline) {
   for (QPointF& position : positions)
     position = QPointF(position.x() * scale, (position.y() - baseline) * scale);
   run.setPositions(positions);
+  run.setBoundingRect({});  // the design size's: found anew where it is asked for
   run.setRawFont(atSize(run.rawFont(), size));
   return run;
 }

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <string>
 
+#include "desktop/render/painted_line.h"
+
 namespace desktop::render {
 namespace {
 
@@ -70,6 +72,20 @@ TEST(PainterText, LooksTheSameWhetherItIsKeptOrNot) {
         EXPECT_EQ(once, painted(line, color, background, scale, baseline));
       }
     }
+}
+
+TEST(PainterText, KeepsLinesOfAnInterface) {
+  const LinePaint paint{.face = {.size = 12}, .color = qRgb(255, 255, 255), .scale = 2};
+  const auto kept = paintedLine(paint, u"4032x3024, jpg");
+  ASSERT_TRUE(kept);
+  EXPECT_GT(kept->image.width(), 100);
+  EXPECT_LT(kept->image.width(), 300);
+  EXPECT_LT(kept->image.height(), 60);
+  EXPECT_EQ(paintedLine(paint, u"4032x3024, jpg")->image.cacheKey(), kept->image.cacheKey());
+  EXPECT_FALSE(paintedLine(paint, std::u16string(65, u'x')));
+  LinePaint huge = paint;
+  huge.face.size = 1'000;
+  EXPECT_FALSE(paintedLine(huge, u"huge"));
 }
 
 TEST(PainterText, TurnedTextIsPaintedToo) {
