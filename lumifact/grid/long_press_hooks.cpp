@@ -22,13 +22,15 @@ bool hasItemsToPress(PUPhotosGridViewController grid) {
   return !zoomable || isKindOf(zoomable.zoomLevelInfo(), PUFullMomentsZoomLevelInfo::classObject());
 }
 
-// Of a view that loads again. From the last one on: what is taken away moves none that is still to
-// be looked at.
+// Of a view that loads again. The list may be the view's own: where it gets shorter under the walk,
+// the next one has come to the place of the one that went.
 void removeLongPress(UIView view) {
   const NSArray recognizers = view.gestureRecognizers();
-  for (NSUInteger index = recognizers.count(); index-- > 0;) {
+  for (NSUInteger index = 0; index < recognizers.count();) {
+    const NSUInteger before = recognizers.count();
     const UIGestureRecognizer recognizer(recognizers.at(index).get());
     if (sendsAction(recognizer, pressAction())) view.removeGestureRecognizer(recognizer);
+    if (recognizers.count() >= before) ++index;
   }
 }
 

@@ -4,14 +4,17 @@
 // while the application runs.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
-#include <filesystem>
+#include <cstdlib>
+#include <thread>
 
 #include "tests/apps/photohost/host_run.h"
 
 namespace photohost {
 namespace {
 
+using testing::Contains;
 using testing::Each;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -46,6 +49,14 @@ constexpr char openCity[] = "open album City\nwait 1\n";
 
 class GridTest : public testing::Test {
  protected:
+  // A pipe for the application to dump to: it waits there for awaitPipe, and that for it.
+  void makePipe(const std::string& name) const {
+    ASSERT_EQ(::mkfifo(host.file(name).c_str(), S_IRUSR | S_IWUSR), 0);
+  }
+  void awaitPipe(const std::string& name) const {
+    EXPECT_EQ(std::system(("timeout 60 cat '" + host.file(name) + "' >/dev/null").c_str()), 0);
+  }
+
   Host host;
 };
 
@@ -56,6 +67,22 @@ TEST_F(GridTest, ACaptionKeepsItsTextUntilItsItemIsAskedForAgain) {
   EXPECT_EQ(captionsOn(host.dumped("same")), captionsOn(host.dumped("before")));
   EXPECT_THAT(captionsOn(host.dumped("after")), Each(HasSubstr("B")));
   EXPECT_THAT(captionsOn(host.dumped("before")), Not(Each(HasSubstr("B"))));
+}
+
+TEST_F(GridTest, WhatTheToolSetsMeanwhileHoldsFromThenOn) {
+  makePipe("reached");
+  makePipe("go");
+  std::thread tool([this] {
+    awaitPipe("reached");
+    toolOutput("settings --root '" + host.root() + "' set thumbnailInfoDisplay 3");
+    awaitPipe("go");
+  });
+  host.run(openCity + std::string("dump before.json\ndump reached\ndump go\nwait 1\n") +
+           "dump same.json\nback\nwait 1\n" + openCity + "dump after.json\n");
+  tool.join();
+  EXPECT_EQ(captionsOn(host.dumped("same")), captionsOn(host.dumped("before")));
+  EXPECT_THAT(captionsOn(host.dumped("before")), Not(Contains(HasSubstr("B"))));
+  EXPECT_THAT(captionsOn(host.dumped("after")), Each(HasSubstr("B")));
 }
 
 TEST_F(GridTest, ACellMadeWithoutACaptionNeverGetsOne) {

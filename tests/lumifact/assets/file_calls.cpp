@@ -19,7 +19,8 @@ FileCalls& keptCalls() {
 Stock<BOOL(id, SEL, id)> stockExists;
 BOOL fileExistsAtPath(id self, SEL command, id path) {
   keptCalls().existence.push_back(NSString(path).utf8());
-  return keptCalls().sizeOfAll ? BOOL{1} : stockExists(self, command, path);
+  const bool areAllThere = keptCalls().sizeOfAll || keptCalls().areUnreadable;
+  return areAllThere ? BOOL{1} : stockExists(self, command, path);
 }
 
 id attributesWithSize(std::uint64_t size) {
@@ -33,6 +34,8 @@ id attributesWithSize(std::uint64_t size) {
 Stock<id(id, SEL, id, void*)> stockAttributes;
 id attributesOfItem(id self, SEL command, id path, void* error) {
   keptCalls().attributes.push_back(NSString(path).utf8());
+  keptCalls().reasons += error ? 1 : 0;
+  if (keptCalls().areUnreadable) return nullptr;
   const auto& size = keptCalls().sizeOfAll;
   return size ? attributesWithSize(*size) : stockAttributes(self, command, path, error);
 }

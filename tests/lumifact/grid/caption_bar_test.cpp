@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "lumifact/grid/caption_bar.h"
 
+#include <gmock/gmock.h>
+
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ca_gradient_layer.h"
 #include "tests/lumifact/grid/grid_host_test.h"
@@ -93,6 +95,8 @@ TEST_F(CaptionBarTest, AFadingBarHasAGradientAndAShadow) {
   EXPECT_EQ(CALayerState::of(sublayers[0].get()).frame(), (CGRect{{0, 0}, {93, 20}}));
   const auto& gradient = desktop::uikit::CAGradientLayerState::of(sublayers[0].get());
   EXPECT_EQ(gradient.colors(), (std::vector<Color>{{0, 0, 0, 0}, {0, 0, 0, 1}}));
+  EXPECT_EQ(gradient.startPoint(), (CGPoint{0.5, 0}));
+  EXPECT_EQ(gradient.endPoint(), (CGPoint{0.5, 1}));
 }
 
 TEST_F(CaptionBarTest, AFadingBarsShadowLagsOneLayoutAndItsGradientForGood) {
@@ -128,6 +132,16 @@ TEST_F(CaptionBarTest, StandsOnTheLowerEdgeOfThePhoto) {
   EXPECT_EQ(bar.frame(), (CGRect{{0, 99}, {93, 21}}));
 }
 
+TEST_F(CaptionBarTest, EveryLayoutAsksThePhotoToBringItToTheFront) {
+  const UIView bar = makeCellWithBar();
+  layOut();
+  layOut();
+  EXPECT_THAT(photo().broughtToFront, testing::ElementsAre(bar.get(), bar.get()));
+  settings.thumbnailInfoDisplay = 0;
+  layOut();
+  EXPECT_THAT(photo().broughtToFront, testing::SizeIs(2));
+}
+
 TEST_F(CaptionBarTest, TheTextStandsOnePointAboveTheBarsEdge) {
   makeCellWithBar();
   layOut();
@@ -161,6 +175,15 @@ TEST_F(CaptionBarTest, ABannersTextMayBeAnything) {
     EXPECT_EQ(bar.frame().origin.y, 0);
     host::setHelperField(helper, "_textBannerView", {});
   }
+}
+
+TEST_F(CaptionBarTest, ABannerThatKnowsOfNoTextDoesNoHarm) {
+  const UIView bar = makeCellWithBar();
+  const auto banner = makeView<UIView>({});
+  host::setHelperField(helper, "_textBannerView", banner);
+  layOut();
+  EXPECT_EQ(bar.frame().size.width, 93);
+  host::setHelperField(helper, "_textBannerView", {});
 }
 
 TEST_F(CaptionBarTest, AHelperWithoutTheFieldHasNoBanner) {

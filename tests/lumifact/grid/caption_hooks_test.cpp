@@ -15,12 +15,6 @@ using host::fileCalls;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const AssetFacts photo = {.mainFile = "file:///photos/IMG_0001.JPG",
-                          .pixelWidth = 4032,
-                          .pixelHeight = 3024,
-                          .uuid = "A",
-                          .uniformTypeIdentifier = "public.jpeg"};
-
 class CaptionHooksTest : public GridHostTest {
  protected:
   CaptionHooksTest() { setUp("PUPhotosGridViewController"); }
@@ -29,7 +23,7 @@ class CaptionHooksTest : public GridHostTest {
     grid = host::makeGrid(gridClass);
     cell = host::makeCell({{0, 0}, {93, 93}});
     stateOf(grid).use(cell);
-    giveAsset(grid, photo);
+    giveAsset(grid, samplePhoto);
     host::gridCalls().clear();
   }
   // Asks the grid for the cell of an item, as a collection view does.
@@ -60,40 +54,48 @@ TEST_F(CaptionHooksTest, TheHostMakesItsCellAndLaysItOutAsBefore) {
 
 TEST_F(CaptionHooksTest, PixelSizeAndTypeNeedNoFile) {
   settings.thumbnailInfoDisplay = 1;
-  EXPECT_EQ(captionOf(photo), "4032x3024, jpg");
+  EXPECT_EQ(captionOf(samplePhoto), "4032x3024, jpg");
   EXPECT_THAT(fileCalls().attributes, IsEmpty());
   EXPECT_THAT(fileCalls().existence, IsEmpty());
 }
 
 TEST_F(CaptionHooksTest, AnUnnamedTypeIsLeftEmpty) {
-  AssetFacts heif = photo;
+  AssetFacts heif = samplePhoto;
   heif.uniformTypeIdentifier = "public.heic";
   EXPECT_EQ(captionOf(heif), "4032x3024, ");
+}
+
+TEST_F(CaptionHooksTest, APixelSizeIsSigned) {
+  AssetFacts strange = samplePhoto;
+  strange.pixelWidth = std::numeric_limits<unsigned long>::max();
+  strange.pixelHeight = std::numeric_limits<long>::max();
+  EXPECT_EQ(captionOf(strange), "-1x9223372036854775807, jpg");
 }
 
 TEST_F(CaptionHooksTest, FileSizeStandsBeforeTheTypeOrBehindThePixelSize) {
   fileCalls().sizeOfAll = 2'400'000;
   settings.thumbnailInfoDisplay = 2;
-  EXPECT_EQ(captionOf(photo), "2.4 MB, jpg");
+  EXPECT_EQ(captionOf(samplePhoto), "2.4 MB, jpg");
   settings.thumbnailInfoDisplay = 3;
-  EXPECT_EQ(captionOf(photo), "4032x3024, 2.4 MB");
+  EXPECT_EQ(captionOf(samplePhoto), "4032x3024, 2.4 MB");
 }
 
 TEST_F(CaptionHooksTest, TheFileIsReadOnceAndNoOtherIsLookedFor) {
   fileCalls().sizeOfAll = 2'400'000;
   settings.thumbnailInfoDisplay = 3;
-  AssetFacts withPreviews = photo;
+  AssetFacts withPreviews = samplePhoto;
   withPreviews.mediumPreview = "file:///photos/IMG_0001medium.JPG";
   for (int count = 0; count < 3; ++count) captionOf(withPreviews);
   EXPECT_THAT(fileCalls().attributes, ElementsAre("/photos/IMG_0001.JPG"));
   EXPECT_THAT(fileCalls().existence, IsEmpty());
+  EXPECT_EQ(fileCalls().reasons, 0);
 }
 
 TEST_F(CaptionHooksTest, ALargeFileIsTrueOnceAndNegativeFromTheCache) {
   fileCalls().sizeOfAll = 3'000'000'000;
   settings.thumbnailInfoDisplay = 3;
-  EXPECT_EQ(captionOf(photo), "4032x3024, 3 GB");
-  EXPECT_EQ(captionOf(photo), "4032x3024, -1.29 GB");
+  EXPECT_EQ(captionOf(samplePhoto), "4032x3024, 3 GB");
+  EXPECT_EQ(captionOf(samplePhoto), "4032x3024, -1.29 GB");
 }
 
 TEST_F(CaptionHooksTest, SizesOfAllLengthsAreWorded) {
@@ -111,20 +113,20 @@ TEST_F(CaptionHooksTest, SizesOfAllLengthsAreWorded) {
   for (const auto& row : rows) {
     createFileSizeCache();
     fileCalls().sizeOfAll = row.bytes;
-    EXPECT_EQ(captionOf(photo), row.first) << row.bytes;
-    EXPECT_EQ(captionOf(photo), row.later) << row.bytes;
+    EXPECT_EQ(captionOf(samplePhoto), row.first) << row.bytes;
+    EXPECT_EQ(captionOf(samplePhoto), row.later) << row.bytes;
   }
 }
 
 TEST_F(CaptionHooksTest, AFileThatCannotBeReadCountsNoBytesAndIsReadAgain) {
   settings.thumbnailInfoDisplay = 2;
-  EXPECT_EQ(captionOf(photo), "Zero KB, jpg");
+  EXPECT_EQ(captionOf(samplePhoto), "Zero KB, jpg");
   fileCalls().sizeOfAll = 5'000;
-  EXPECT_EQ(captionOf(photo), "5 KB, jpg");
+  EXPECT_EQ(captionOf(samplePhoto), "5 KB, jpg");
 }
 
 TEST_F(CaptionHooksTest, AnyOtherValueLeavesTheTextAsItWas) {
-  captionOf(photo);
+  captionOf(samplePhoto);
   for (const int value : {4, -1, 1000}) {
     settings.thumbnailInfoDisplay = value;
     EXPECT_EQ(captionOf({}), "4032x3024, jpg") << value;
@@ -151,7 +153,7 @@ TEST_F(CaptionHooksTest, TheTypeIsAskedForWhateverTheTextShows) {
 }
 
 TEST_F(CaptionHooksTest, TurnedOffItLeavesTheTextAsItWas) {
-  captionOf(photo);
+  captionOf(samplePhoto);
   settings.thumbnailInfoDisplay = 0;
   EXPECT_EQ(captionOf({}), "4032x3024, jpg");
 }
@@ -186,6 +188,23 @@ TEST_F(CaptionHooksTest, TheLastCellOfASharedAlbumHasNoneAndNeverShowsItAgain) {
   EXPECT_EQ(caption(), "4032x3024, jpg");
 }
 
+TEST_F(CaptionHooksTest, OfTheLastCellOfASharedAlbumNothingIsAsked) {
+  setUp("PUCloudSharedAlbumViewController");
+  const int before = host::questionsForType();
+  ask(2);
+  EXPECT_EQ(host::questionsForType(), before);
+}
+
+TEST_F(CaptionHooksTest, TheLastCellOfASharedAlbumHasNoneWhateverIsShownElsewhere) {
+  for (const auto& [value, alpha] : {std::pair(4, 0), std::pair(0, 1)}) {
+    setUp("PUCloudSharedAlbumViewController");
+    settings.thumbnailInfoDisplay = value;
+    ask(2);
+    EXPECT_EQ(barAlpha(), alpha) << value;
+    settings = {};
+  }
+}
+
 TEST_F(CaptionHooksTest, TheLastCellOfAnotherAlbumHasOne) {
   setUp("PUPhotosAlbumViewController");
   ask(2);
@@ -212,6 +231,19 @@ TEST_F(CaptionHooksTest, WhatIsMissingIsNothing) {
   const auto other = makeView<UIView>({});
   stateOf(grid).use(other);
   EXPECT_EQ(ask(), other.get()) << "a cell of another class";
+}
+
+TEST_F(CaptionHooksTest, ACellMayBeAskedForWithoutItsPlace) {
+  for (const char* className : {"PUPhotosGridViewController", "PUCloudSharedAlbumViewController"}) {
+    setUp(className);
+    EXPECT_EQ((send<Object, "collectionView:cellForItemAtIndexPath:">(grid, Object(), Object())),
+              cell.get());
+    EXPECT_EQ(caption(), "4032x3024, jpg") << className;
+  }
+}
+
+TEST_F(CaptionHooksTest, ACellThatTheHostDoesNotMakeHasNone) {
+  EXPECT_FALSE(host::makeCell({{0, 0}, {-1, 93}}));
 }
 
 TEST_F(CaptionHooksTest, WhereThereIsNoAssetTheTextIsThatOfNothing) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "bridge/class_builder.h"
+#include "lumifact/grid/visibility.h"
 #include "lumifact/loader/hook_table.h"
 #include "tests/bridge/victims.h"
 
@@ -45,14 +46,27 @@ void registerHelpers() {
       .build();
 }
 
+// What the host does of its own as one of its controllers comes and goes: "viewWillAppear:", and
+// whether the extension takes either of the two to be on screen by then.
+void comeOrGo(id, SEL command, BOOL animated) {
+  std::string call = sel_getName(command);
+  if (animated) call += " animated";
+  if (isAlbumListVisible()) call += ", list on screen";
+  if (isPanoramaVisible()) call += ", panorama on screen";
+  gridCalls().push_back(call);
+}
+
 void registerControllers() {
   HostGrid::classObject();
   HostAlbum::classObject();
   HostZoomableGrid::classObject();
   ClassMaker("PUCloudSharedAlbumViewController", "PUPhotosAlbumViewController").build();
   ClassMaker("PUFullMomentsZoomLevelInfo").build();
-  ClassMaker("PUAlbumListViewController", "UIViewController").build();
-  ClassMaker("PUPhotosPanoramaViewController", "UIViewController").build();
+  for (const char* name : {"PUAlbumListViewController", "PUPhotosPanoramaViewController"})
+    ClassMaker(name, "UIViewController")
+        .method("viewWillAppear:", &comeOrGo)
+        .method("viewWillDisappear:", &comeOrGo)
+        .build();
 }
 
 // Host methods are hooked as in life: by the rows of the table.
@@ -122,6 +136,7 @@ Owned<UIView> makeBanner(Object text) {
 Class HostPhotoView::classObject() {
   static const Class made = ClassBuilder<HostPhotoView>("PUPhotoView")
                                 .method<"contentHelper", &HostPhotoView::contentHelper>()
+                                .method<"bringSubviewToFront:", &HostPhotoView::bringToFront>()
                                 .build();
   return made;
 }
@@ -138,6 +153,10 @@ Class HostCell::classObject() {
 
 UIView HostCell::initWithFrame(CGRect frame) {
   gridCalls().emplace_back("initWithFrame:");
+  if (frame.size.width < 0) {
+    Owned<UIView>::adopt(self()).reset();
+    return {};
+  }
   if (!super<UIView, "initWithFrame:">(frame)) return {};
   const CGRect room = {{0, 0}, frame.size};
   content = bridge::makeView<UIView>(room);
@@ -191,6 +210,12 @@ NSString HostGrid::selectionTitle() const {
 void HostGrid::setEditing(bool editing, bool animated) {
   gridCalls().push_back(std::string("setEditing:animated: ") + (editing ? "on" : "off") +
                         (animated ? " animated" : ""));
+  if (atWork) atWork();
+}
+
+void HostGrid::handleSwipe(Object) {
+  gridCalls().emplace_back("_handleSwipeSelectionGesture:");
+  if (atWork) atWork();
 }
 
 Owned<bridge::PUPhotosGridViewController> makeGrid(const char* className) {
@@ -233,9 +258,10 @@ Class HostGesture::classObject() {
   return made;
 }
 
-bridge::UIGestureRecognizer gestureIn(bridge::UIGestureRecognizer::State state) {
+bridge::UIGestureRecognizer gestureIn(bridge::UIGestureRecognizer::State state, UIView view) {
   auto made = bridge::makeNew<bridge::UIGestureRecognizer>(HostGesture::classObject());
   HostGesture::of(made.get()).step = state;
+  HostGesture::of(made.get()).view = view;
   return made.autorelease();
 }
 

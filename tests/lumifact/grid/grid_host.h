@@ -4,6 +4,7 @@
 // controllers that answer what a test puts into them.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -46,11 +47,14 @@ class HostPhotoView : public bridge::Bound<HostPhotoView, bridge::UIView> {
   static Class classObject();
 
   bridge::Owned<bridge::PUPhotoViewContentHelper> helper;
+  std::vector<id> broughtToFront;
 
   bridge::PUPhotoViewContentHelper contentHelper() const { return helper; }
+  void bringToFront(bridge::UIView view) { broughtToFront.push_back(view.get()); }
 };
 
-// PUPhotosGridCell. Its photo view fills it until a test moves it.
+// PUPhotosGridCell. Its photo view fills it until a test moves it. There is none of a negative
+// width.
 class HostCell : public bridge::Bound<HostCell, bridge::UIView> {
  public:
   using Bound::Bound;
@@ -67,7 +71,7 @@ class HostCell : public bridge::Bound<HostCell, bridge::UIView> {
 
 bridge::Owned<bridge::PUPhotosGridCell> makeCell(CGRect frame);
 
-// What stands for a collection view: three items a section, and one item at every point.
+// What stands for a collection view: three items a section, and one item wherever somebody asks.
 class HostCollection : public bridge::Bound<HostCollection, bridge::UIView> {
  public:
   using Bound::Bound;
@@ -75,9 +79,13 @@ class HostCollection : public bridge::Bound<HostCollection, bridge::UIView> {
 
   NSInteger items = 3;
   bridge::Owned<bridge::NSIndexPath> pathAtPoint;
+  CGPoint askedAt;  // the last time
 
   NSInteger numberOfItems(NSInteger) const { return items; }
-  bridge::NSIndexPath pathAt(CGPoint) const { return pathAtPoint; }
+  bridge::NSIndexPath pathAt(CGPoint point) {
+    askedAt = point;
+    return pathAtPoint;
+  }
 };
 
 // PUPhotosGridViewController.
@@ -91,6 +99,7 @@ class HostGrid : public bridge::Bound<HostGrid, bridge::UIViewController> {
   bridge::Owned<bridge::NSArray> selected;
   bridge::Owned<bridge::NSString> stockTitle;
   bool isAnySelected = true;
+  std::function<void()> atWork;  // called while the host changes its mode or follows a swipe
 
   // Has it answer this cell for every item.
   void use(bridge::Object cell) { _cell = bridge::Owned<bridge::Object>::retain(cell); }
@@ -102,7 +111,7 @@ class HostGrid : public bridge::Bound<HostGrid, bridge::UIViewController> {
   bridge::NSArray selectedAssets() const { return selected; }
   bridge::NSString selectionTitle() const;
   void setEditing(bool editing, bool animated);
-  void handleSwipe(bridge::Object) { gridCalls().emplace_back("_handleSwipeSelectionGesture:"); }
+  void handleSwipe(bridge::Object);
   bridge::Object cellForItem(bridge::Object, bridge::NSIndexPath) const { return _cell; }
 
  private:
@@ -157,20 +166,22 @@ class HostLayout : public bridge::Bound<HostLayout, bridge::NSObject> {
   void setItemSize(CGSize size) { sizes.push_back(size); }
 };
 
-// A gesture in a state, at a point.
+// A gesture in a state, at a point of the view that is named, and of no other.
 class HostGesture : public bridge::Bound<HostGesture, bridge::NSObject> {
  public:
   using Bound::Bound;
   static Class classObject();
 
   NSInteger step = 1;
+  bridge::UIView view;  // borrowed
 
   NSInteger state() const { return step; }
-  CGPoint locationIn(bridge::UIView) const { return {5, 5}; }
+  CGPoint locationIn(bridge::UIView of) const { return of == view ? CGPoint{5, 700} : CGPoint{}; }
 };
 
 // Autoreleased.
-bridge::UIGestureRecognizer gestureIn(bridge::UIGestureRecognizer::State state);
+bridge::UIGestureRecognizer gestureIn(bridge::UIGestureRecognizer::State state,
+                                      bridge::UIView view = {});
 bridge::NSIndexPath pathOf(NSInteger section, NSInteger row);
 
 }  // namespace lumifact::host

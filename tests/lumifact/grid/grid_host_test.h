@@ -13,6 +13,15 @@
 
 namespace lumifact {
 
+// A photo that knows everything but where it was taken.
+inline const host::AssetFacts samplePhoto = {.mainFile = "file:///photos/IMG_0001.JPG",
+                                             .pixelWidth = 4032,
+                                             .pixelHeight = 3024,
+                                             .uuid = "A",
+                                             .uniformTypeIdentifier = "public.jpeg",
+                                             .exifOrientation = 6,
+                                             .creationDate = 1538309000};
+
 class GridHostTest : public desktop::uikit::ApplicationTest {
  protected:
   GridHostTest() {

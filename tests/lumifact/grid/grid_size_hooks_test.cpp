@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include "desktop/uikit/bars/ui_bar_button_item.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/views/ca_layer.h"
 #include "lumifact/grid/grid_size_button.h"
+#include "tests/bridge/victims.h"
 #include "tests/lumifact/grid/grid_host_test.h"
 #include "tests/lumifact/views/shown_views.h"
 
@@ -13,6 +15,11 @@ namespace {
 using host::gridCalls;
 using host::HostLayout;
 using testing::ElementsAre;
+
+// Of all albums but those that a test colours otherwise.
+UIColor ownTint() {
+  return UIColor::white(0.25, 1);
+}
 
 class GridSizeTest : public GridHostTest {
  protected:
@@ -35,7 +42,7 @@ class GridSizeTest : public GridHostTest {
     const auto select =
         UIBarButtonItem::withTitle(text("Select"), UIBarButtonItem::plain, {}, nullptr);
     made->navigationItem().setRightBarButtonItems(NSArray::of(select.get()));
-    made->view();
+    send<void, "setTintColor:">(made->view(), ownTint());
     _albums.push_back(made);
     return made;
   }
@@ -70,10 +77,18 @@ TEST_F(GridSizeTest, TheButtonStandsLeftOfTheHostsItems) {
   updateFooter();
   ASSERT_EQ(items().count(), 3U);
   EXPECT_EQ((send<NSString, "title">(items().at(0)).utf8()), "Select");
-  EXPECT_EQ((send<CGFloat, "width">(items().at(1))), 10);
   EXPECT_EQ((send<NSInteger, "tag">(items().at(2))), 95433);
   EXPECT_EQ(items().at(2), gridSizeItem());
   EXPECT_THAT(gridCalls(), ElementsAre("updateGlobalFooter"));
+}
+
+TEST_F(GridSizeTest, ASpaceOfAFixedWidthStandsBetween) {
+  updateFooter();
+  const auto& spacer = desktop::uikit::UIBarButtonItemState::of(items().at(1).get());
+  EXPECT_EQ(spacer.systemItem(), 6);
+  EXPECT_EQ(spacer.width(), 10);
+  EXPECT_FALSE(spacer.target());
+  EXPECT_FALSE(spacer.action());
 }
 
 TEST_F(GridSizeTest, TheButtonIsASmallCircleWithALetter) {
@@ -83,6 +98,7 @@ TEST_F(GridSizeTest, TheButtonIsASmallCircleWithALetter) {
   EXPECT_EQ(button.frame().size, (CGSize{20, 20}));
   for (const NSUInteger state : {0UL, 1UL})
     EXPECT_EQ((send<NSString, "titleForState:">(button, state)).utf8(), "G");
+  EXPECT_TRUE((send<NSObject, "titleColorForState:">(button, NSUInteger{0})).isEqual(ownTint()));
   EXPECT_TRUE(
       (send<NSObject, "titleColorForState:">(button, NSUInteger{1})).isEqual(UIColor::grayColor()));
   EXPECT_EQ((send<NSInteger, "numberOfLines">(button.titleLabel())), 1);
@@ -101,15 +117,13 @@ TEST_F(GridSizeTest, TheButtonIsASmallCircleWithALetter) {
 TEST_F(GridSizeTest, TheButtonKeepsTheTintOfTheAlbumItWasMadeIn) {
   updateFooter();
   const auto button = send<UIButton, "customView">(items().at(2));
-  const auto tint = send<NSObject, "titleColorForState:">(button, NSUInteger{0});
   const auto other = makeAlbum("PUPhotosAlbumViewController");
   send<void, "setTintColor:">(other->view(), UIColor::greenColor());
   send<void, "addGridSizeButton">(other);
   const NSArray otherItems = other->navigationItem().rightBarButtonItems();
   EXPECT_EQ(otherItems.at(2), items().at(2)) << "one button for all";
   EXPECT_EQ(otherItems.at(1), items().at(1));
-  EXPECT_TRUE(tint.isEqual(send<Object, "titleColorForState:">(button, NSUInteger{0})));
-  EXPECT_FALSE(tint.isEqual(UIColor::greenColor()));
+  EXPECT_TRUE((send<NSObject, "titleColorForState:">(button, NSUInteger{0})).isEqual(ownTint()));
 }
 
 TEST_F(GridSizeTest, TheButtonIsAddedOnce) {
@@ -128,6 +142,16 @@ TEST_F(GridSizeTest, ABarWithoutItemsGetsNoButton) {
   album->navigationItem().setRightBarButtonItems({});
   updateFooter();
   EXPECT_EQ(items().count(), 0U);
+}
+
+TEST_F(GridSizeTest, TheFooterAsksTheAlbumForItsButtonByMessage) {
+  static int asked = 0;
+  const Class busy = victims::ClassMaker("BusyAlbum", "PUPhotosAlbumViewController")
+                         .method(
+                             "addGridSizeButton", +[](id, SEL) { ++asked; })
+                         .build();
+  send<void, "updateGlobalFooter">(makeNew<PUPhotosAlbumViewController>(busy));
+  EXPECT_EQ(asked, 1);
 }
 
 TEST_F(GridSizeTest, WhereTheSettingIsOffThereIsNoButton) {
@@ -151,7 +175,10 @@ TEST_F(GridSizeTest, ThePressMeasuresTheGridAnew) {
 
 TEST_F(GridSizeTest, ATapOnTheButtonIsAPress) {
   updateFooter();
-  send<void, "sendActionsForControlEvents:">(gridSizeButton({}).button, NSUInteger{touchUpInside});
+  const auto button = send<UIButton, "customView">(gridSizeItem());
+  send<void, "sendActionsForControlEvents:">(button, ~NSUInteger{touchUpInside});
+  EXPECT_FALSE(isReduced());
+  send<void, "sendActionsForControlEvents:">(button, NSUInteger{touchUpInside});
   EXPECT_TRUE(isReduced());
 }
 

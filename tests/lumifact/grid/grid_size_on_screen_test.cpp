@@ -5,12 +5,15 @@
 
 #include "desktop/photos_ui/navigation/navigation.h"
 #include "desktop/uikit/application/application.h"
+#include "desktop/uikit/scrolling/ui_scroll_view.h"
 #include "lumifact/grid/grid_size_button.h"
 #include "tests/lumifact/grid/grid_screen.h"
 #include "tests/lumifact/views/shown_views.h"
 
 namespace lumifact {
 namespace {
+
+using desktop::uikit::application;
 
 class GridSizeOnScreenTest : public GridScreenTest {
  protected:
@@ -28,6 +31,22 @@ class GridSizeOnScreenTest : public GridScreenTest {
     ++_presses;
   }
   static CGFloat widthOf(NSInteger item) { return cellOf(item).frame().size.width; }
+  static void scrollTo(CGFloat y) { send<void, "setContentOffset:">(collection(), CGPoint{0, y}); }
+  // The next picture and no more, in which every caption fills its thumbnail but for a margin.
+  static void expectCaptionsToFitNow(const char* when) {
+    application().prepareFrame();
+    const auto cells = send<NSArray, "visibleCells">(collection());
+    ASSERT_GT(cells.count(), 0U);
+    for (NSUInteger index = 0; index < cells.count(); ++index) {
+      const PUPhotosGridCell cell(cells.at(index).get());
+      const CGSize size = cell.bounds().size;
+      EXPECT_EQ((send<UIView, "sizeLabelView">(cell).frame()),
+                (CGRect{{0, size.height - 16}, {size.width, 16}}))
+          << when;
+      EXPECT_EQ((send<UIView, "sizeLabel">(cell).frame()), (CGRect{{2, -1}, {size.width - 4, 16}}))
+          << when;
+    }
+  }
 
  private:
   int _presses = 0;
@@ -54,6 +73,69 @@ TEST_F(GridSizeOnScreenTest, TogglesBetweenFourColumnsAndTwo) {
   EXPECT_EQ(cellOf(2).frame().origin.y, 187.5);
   press();
   EXPECT_EQ(widthOf(0), 93);
+}
+
+TEST_F(GridSizeOnScreenTest, LetsCaptionsFillTheirThumbnailsAtEverySize) {
+  openAlbumOf(90);
+  const AutoreleasePool pool;
+  const auto toggle = [] { send<void, "LFChangeGridsize:">(top(), Object()); };
+  toggle();
+  expectCaptionsToFitNow("large");
+  scrollTo(1'500);
+  expectCaptionsToFitNow("large, used again");
+  toggle();
+  expectCaptionsToFitNow("small again");
+  scrollTo(0);
+  expectCaptionsToFitNow("small, used again");
+  application().resize({667, 375});
+  expectCaptionsToFitNow("on its side");
+  scrollTo(500);
+  expectCaptionsToFitNow("on its side, used again");
+  application().resize({375, 667});
+  expectCaptionsToFitNow("upright again");
+  settle();
+}
+
+TEST_F(GridSizeOnScreenTest, KeepsThePlaceInTheAlbum) {
+  openAlbumOf(90);
+  scrollTo(500);
+  settle();
+  const auto place = [] {
+    const auto& scroll = desktop::uikit::UIScrollViewState::of(collection().get());
+    return grid().layout().frameOfItem({0, 24}).origin.y - scroll.contentOffset().y;
+  };
+  const CGFloat before = place();
+  press();
+  EXPECT_EQ(place(), before);
+  press();
+  EXPECT_EQ(place(), before);
+}
+
+TEST_F(GridSizeOnScreenTest, OnePressIsOnePressInEveryAlbum) {
+  folder.photo("Other/0.jpg", 0);
+  const auto show = [](const char* album) {
+    const AutoreleasePool pool;
+    ASSERT_FALSE(desktop::photos_ui::openAlbum(album));
+    settle();
+  };
+  const auto width = [] {
+    const AutoreleasePool pool;
+    return widthOf(0);
+  };
+  {
+    const AutoreleasePool pool;
+    openAlbumOf(5);
+  }
+  press();
+  EXPECT_EQ(width(), 186.5);
+  show("Other");
+  EXPECT_EQ(width(), 186.5);
+  press();
+  EXPECT_EQ(width(), 93);
+  show("Album");
+  EXPECT_EQ(width(), 93);
+  press();
+  EXPECT_EQ(width(), 186.5);
 }
 
 TEST_F(GridSizeOnScreenTest, HoldsForTheNextAlbumAndNotForMoments) {
@@ -90,13 +172,13 @@ TEST_F(GridSizeOnScreenTest, FollowsTheFormulaAtEveryWidth) {
               {{1270, 900}, 13, 105.45454406738281},
               {{1920, 1080}, 20, 89.666664123535156}};
   for (const auto& row : rows) {
-    desktop::uikit::application().resize(row.screen);
+    application().resize(row.screen);
     settle();
     const PUPhotosAlbumViewController album(controller().get());
     EXPECT_EQ(album.mainGridLayout().columnsPerRow(), row.columns) << row.screen.width;
     EXPECT_EQ(widthOf(0), row.side) << row.screen.width;
   }
-  desktop::uikit::application().resize({375, 667});
+  application().resize({375, 667});
   settle();
 }
 

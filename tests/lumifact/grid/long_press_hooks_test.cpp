@@ -2,8 +2,10 @@
 #include <gmock/gmock.h>
 
 #include "bridge/class_builder.h"
+#include "bridge/hook.h"
 #include "bridge/uikit/gesture_actions.h"
 #include "desktop/runtime/debug_log.h"
+#include "desktop/runtime/method_hooks.h"
 #include "lumifact/views/lumifact_pop_up_view_controller.h"
 #include "tests/bridge/victims.h"
 #include "tests/lumifact/grid/grid_host_test.h"
@@ -31,9 +33,13 @@ class LiveView : public Bound<LiveView, UIView> {
 
   NSArray list() const { return recognizers; }
   void add(Object recognizer) { recognizers->add(recognizer); }
-  void remove(Object recognizer) { send<void, "removeObject:">(recognizers, recognizer); }
+  void remove(Object recognizer) {
+    removed.push_back(recognizer.get());
+    send<void, "removeObject:">(recognizers, recognizer);
+  }
 
   Owned<NSMutableArray> recognizers;
+  std::vector<id> removed;
 };
 
 class LongPressTest : public GridHostTest {
@@ -47,13 +53,13 @@ class LongPressTest : public GridHostTest {
 
   void setUp(const char* className) {
     grid = host::makeGrid(className);
-    giveAsset(grid, {.mainFile = "file:///photos/IMG_0001.JPG", .uuid = "A"});
+    giveAsset(grid, samplePhoto);
     window().setRootViewController(grid);
     gridCalls().clear();
   }
   void load() const { send<void, "viewDidLoad">(grid); }
   void press(UIGestureRecognizer::State state = UIGestureRecognizer::began) const {
-    send<void, "lumifactLongPress:">(grid, host::gestureIn(state));
+    send<void, "lumifactLongPress:">(grid, host::gestureIn(state, collection()));
   }
   void pressItem(NSInteger row) const {
     host::HostCollection::of(collection()).pathAtPoint =
@@ -95,6 +101,22 @@ TEST_F(LongPressTest, AGridThatLoadsGetsOne) {
   EXPECT_EQ((send<double, "minimumPressDuration">(recognizer)), 0.5);
 }
 
+// What long presses are told about delays: whether touches shall wait, each time.
+std::vector<bool> delays;
+Stock<void(id, SEL, BOOL)> stockSetDelays;
+void noteDelay(id self, SEL command, BOOL delaysTouches) {
+  delays.push_back(delaysTouches != 0);
+  stockSetDelays(self, command, delaysTouches);
+}
+
+TEST_F(LongPressTest, TouchesAreNotToWaitForIt) {
+  desktop::runtime::replaceMethod(UILongPressGestureRecognizer::classObject(),
+                                  selector<"setDelaysTouchesBegan:">(),
+                                  reinterpret_cast<IMP>(&noteDelay), stockSetDelays.slot());
+  load();
+  EXPECT_THAT(delays, ElementsAre(false));
+}
+
 TEST_F(LongPressTest, AGridThatLoadsAgainHasOneStill) {
   for (int count = 0; count < 3; ++count) load();
   EXPECT_EQ(longPresses(), 1U);
@@ -112,15 +134,20 @@ TEST_F(LongPressTest, RecognizersOfOthersAreLeftAlone) {
 TEST_F(LongPressTest, AListThatChangesUnderTheWalkLosesAllOfThem) {
   const auto live = makeView<UIView>({}, LiveView::classObject());
   stateOf(grid).collection = live;
+  std::vector<Owned<UILongPressGestureRecognizer>> own;
   const auto add = [&](SEL action) {
-    collection().addGestureRecognizer(UILongPressGestureRecognizer::make(grid.get(), action));
+    auto made = UILongPressGestureRecognizer::make(grid.get(), action);
+    collection().addGestureRecognizer(made);
+    return made;
   };
-  for (int count = 0; count < 3; ++count) add(selector<"lumifactLongPress:">());
+  for (int count = 0; count < 3; ++count) own.push_back(add(selector<"lumifactLongPress:">()));
   add(selector<"somebodyElsesPress:">());
-  add(selector<"lumifactLongPress:">());
+  own.push_back(add(selector<"lumifactLongPress:">()));
   load();
   EXPECT_EQ(longPresses(), 1U);
   EXPECT_EQ(collection().gestureRecognizers().count(), 2U);
+  EXPECT_THAT(LiveView::of(live.get()).removed,
+              ElementsAre(own[0]->get(), own[1]->get(), own[2]->get(), own[3]->get()));
 }
 
 TEST_F(LongPressTest, RecognizersWithoutTheFieldsArePassedOver) {
@@ -178,6 +205,11 @@ TEST_F(LongPressTest, OnePressIsOneSummary) {
   EXPECT_THAT(lines, IsEmpty());
 }
 
+TEST_F(LongPressTest, TheItemIsLookedForWhereTheFingerIsInTheView) {
+  press();
+  EXPECT_EQ(host::HostCollection::of(collection()).askedAt, (CGPoint{5, 700}));
+}
+
 TEST_F(LongPressTest, APressThatFindsNothingIsLogged) {
   host::HostCollection::of(collection()).pathAtPoint.reset();
   press(UIGestureRecognizer::changed);
@@ -197,6 +229,13 @@ TEST_F(LongPressTest, TheLastCellOfASharedAlbumDoesNotAnswer) {
   pressItem(1);
   EXPECT_EQ(boxes(), 1U);
   EXPECT_THAT(lines, IsEmpty());
+}
+
+TEST_F(LongPressTest, AnEmptySectionOfASharedAlbumDoesNotAnswer) {
+  setUp("PUCloudSharedAlbumViewController");
+  host::HostCollection::of(collection()).items = 0;
+  pressItem(0);
+  EXPECT_EQ(boxes(), 0U);
 }
 
 TEST_F(LongPressTest, TheLastCellOfAnotherGridAnswers) {

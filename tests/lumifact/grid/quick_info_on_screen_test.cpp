@@ -76,18 +76,50 @@ TEST_F(QuickInfoOnScreenTest, TheOtherFormIsAnAlert) {
 }
 
 TEST_F(QuickInfoOnScreenTest, ALargeFileIsTrueOnTheFirstPressOnly) {
-  addPhoto("Album/0.jpg", 0, 3'000'000'000);
+  const struct {
+    std::uintmax_t bytes;
+    const char* first;
+    const char* later;
+  } rows[] = {{3'000'000'000, "3 GB", "-1.29 GB"}, {16'000'000'000'000, "16 TB", "1.25 GB"}};
+  for (int item = 0; item < 2; ++item)
+    addPhoto("Album/" + std::to_string(item) + ".jpg", item, rows[item].bytes);
+  openAlbum("Album");
+  for (int item = 0; item < 2; ++item) {
+    fileCalls() = {};
+    for (const char* size : {rows[item].first, rows[item].later, rows[item].later}) {
+      pressItem(item);
+      EXPECT_THAT(summary(), HasSubstr("File Size: " + std::string(size) + "\n"));
+      closeBox();
+    }
+    EXPECT_THAT(fileCalls().attributes, SizeIs(1));
+    EXPECT_THAT(fileCalls().existence, SizeIs(1));
+  }
+}
+
+TEST_F(QuickInfoOnScreenTest, AFileWithoutBytesHasNone) {
+  addPhoto("Album/0.jpg", 0, 0);
   openAlbum("Album");
   pressItem(0);
-  EXPECT_THAT(summary(), HasSubstr("File Size: 3 GB\n"));
+  EXPECT_THAT(summary(), HasSubstr("File Size: Zero KB\n"));
   closeBox();
-  for (int count = 0; count < 2; ++count) {
-    pressItem(0);
-    EXPECT_THAT(summary(), HasSubstr("File Size: -1.29 GB\n"));
-    closeBox();
-  }
-  EXPECT_THAT(fileCalls().attributes, SizeIs(1));
-  EXPECT_THAT(fileCalls().existence, SizeIs(1));
+}
+
+TEST_F(QuickInfoOnScreenTest, WhatACaptionHasReadIsNotLookedForAgain) {
+  settings.thumbnailInfoDisplay = 2;
+  openAlbumOf(2);
+  EXPECT_THAT(fileCalls().attributes, SizeIs(2));
+  pressItem(1);
+  EXPECT_NE(summary(), "");
+  closeBox();
+  EXPECT_THAT(fileCalls().attributes, SizeIs(2));
+  EXPECT_THAT(fileCalls().existence, IsEmpty());
+}
+
+TEST_F(QuickInfoOnScreenTest, TellsOfTheItemUnderTheFingerWhereTheGridIsScrolled) {
+  openAlbumOf(60);
+  pressItem(57);
+  EXPECT_THAT(summary(), testing::StartsWith(folder.file("Album/57.jpg") + "\n"));
+  closeBox();
 }
 
 TEST_F(QuickInfoOnScreenTest, AFileThatVanishedHasNoBytes) {
@@ -135,6 +167,24 @@ TEST_F(QuickInfoOnScreenTest, AnAlbumOpenedWhileItIsOffIsWithout) {
   EXPECT_EQ(longPresses(), 0);
   settings.thumbnailQuickInfo = 1;
   EXPECT_EQ(longPresses(), 0);
+}
+
+TEST_F(QuickInfoOnScreenTest, AThousandPressesLeaveNothingBehind) {
+  openAlbumOf(4);
+  const auto pressAndClose = [](int value) {
+    const AutoreleasePool pool;
+    settings.thumbnailQuickInfo = value;
+    pressItem(2);
+    ASSERT_EQ(static_cast<bool>(box()), value == 1);
+    tap(value == 1 ? CGPoint{5, 100} : middleOf(labelWith(alert().view(), "Ok")));
+    ASSERT_FALSE(box());
+    ASSERT_FALSE(alert());
+  };
+  for (const int value : {1, 2}) pressAndClose(value);
+  const long before = liveBoundObjects();
+  for (int count = 0; count < 500 && !HasFatalFailure(); ++count)
+    for (const int value : {1, 2}) pressAndClose(value);
+  EXPECT_EQ(liveBoundObjects(), before);
 }
 
 TEST_F(QuickInfoOnScreenTest, ScrollingAndTapsReachTheGrid) {

@@ -25,7 +25,10 @@ class SelectionTest : public GridHostTest {
     setEditing(true);
     gridCalls().clear();
   }
-  ~SelectionTest() override { setEditing(false); }
+  ~SelectionTest() override {
+    stateOf(grid).atWork = nullptr;
+    setEditing(false);
+  }
 
   // Selects so many assets, "0" and so on.
   void select(int count) const {
@@ -120,13 +123,33 @@ TEST_F(SelectionTest, SizesOnAScreenOfCaptionsAreShared) {
   EXPECT_EQ((send<UILabel, "sizeLabel">(cell).text().utf8()), "2 MB, ");
 }
 
-TEST_F(SelectionTest, ModeAndSwipeAreKnownBeforeTheHostIsTold) {
+TEST_F(SelectionTest, TheModeIsFollowedWhereTheSettingIsOff) {
   setEditing(false);
   EXPECT_THAT(gridCalls(), ElementsAre("setEditing:animated: off"));
   settings.showSelectedSize = false;
   setEditing(true);
   settings.showSelectedSize = true;
-  EXPECT_EQ(title(), "2 Photos Selected (4 MB) ") << "followed while it was off";
+  EXPECT_EQ(title(), "2 Photos Selected (4 MB) ");
+}
+
+TEST_F(SelectionTest, TheModeIsKnownWhileTheHostChangesIt) {
+  std::vector<std::string> titles;
+  stateOf(grid).atWork = [&] { titles.push_back(title()); };
+  setEditing(false);
+  setEditing(true);
+  swipe(UIGestureRecognizer::began);
+  titles.clear();
+  setEditing(true);
+  EXPECT_THAT(titles, ElementsAre("2 Photos Selected (4 MB) ")) << "no swipe outlives a change";
+  setEditing(false);
+  EXPECT_EQ(titles.back(), stock);
+}
+
+TEST_F(SelectionTest, TheHostFollowsASwipeBeforeTheTitleDoes) {
+  std::vector<std::string> titles;
+  stateOf(grid).atWork = [&] { titles.push_back(title()); };
+  for (const auto state : {UIGestureRecognizer::began, UIGestureRecognizer::ended}) swipe(state);
+  EXPECT_THAT(titles, ElementsAre("2 Photos Selected (4 MB) ", stock));
 }
 
 TEST_F(SelectionTest, TheModeIsThatOfTheGridThatChangedLast) {
@@ -196,68 +219,6 @@ TEST_F(SelectionTest, AssetsWithoutUuidOrFileAddNothingOrThemselves) {
   all->add(host::makeAsset({.mainFile = "file:///photos/nameless"}));
   stateOf(grid).selected = Owned<NSArray>::retain(all.get());
   EXPECT_EQ(title(), "2 Photos Selected (4 MB) ");
-}
-
-// The bar's two views with a title, each with a label and a view that is none.
-class BarTitleTest : public SelectionTest {
- protected:
-  static void setTitle(UIView view) {
-    send<void, "setTitle:">(view, text("A title that is far too long for any bar to hold (4 MB) "));
-  }
-  static Owned<UIView> titleView(const char* className) {
-    auto made = makeView<UIView>({{0, 0}, {375, 44}}, objc_getClass(className));
-    made->addSubview(makeView<UIView>({}));
-    made->addSubview(makeView<UILabel>({}));
-    return made;
-  }
-  static std::vector<bool> fits(UIView view) {
-    std::vector<bool> all;
-    for (NSUInteger index = 0; index < view.subviews().count(); ++index)
-      if (const auto label = as<UILabel>(view.subviews().at(index)))
-        all.push_back(send<bool, "adjustsFontSizeToFitWidth">(label) &&
-                      send<CGFloat, "minimumFontSize">(label) == 4);
-    return all;
-  }
-
-  static constexpr const char* classes[] = {"_UINavigationBarLargeTitleView",
-                                            "_UINavigationBarContentView"};
-};
-
-TEST_F(BarTitleTest, LongTitlesShrinkWhileSizesAreShown) {
-  for (const char* className : classes) {
-    const auto view = titleView(className);
-    setTitle(view);
-    EXPECT_THAT(fits(view), testing::Each(true)) << className;
-    EXPECT_GE(fits(view).size(), 2U) << "the view's own label and another one";
-    EXPECT_TRUE((send<NSString, "title">(view).utf8()).starts_with("A title")) << className;
-  }
-}
-
-TEST_F(BarTitleTest, OtherTitlesKeepTheirFont) {
-  const auto expectUntouched = [](const char* when) {
-    for (const char* className : classes) {
-      const auto view = titleView(className);
-      setTitle(view);
-      EXPECT_THAT(fits(view), testing::Each(false)) << when;
-    }
-  };
-  swipe(UIGestureRecognizer::began);
-  expectUntouched("during a swipe");
-  setEditing(false);
-  expectUntouched("outside select mode");
-  setEditing(true);
-  settings.showSelectedSize = false;
-  expectUntouched("where the setting is off");
-}
-
-TEST_F(BarTitleTest, LabelsFurtherDownAreLeftAlone) {
-  const auto view = titleView(classes[1]);
-  const auto between = makeView<UIView>({});
-  const auto inner = makeView<UILabel>({});
-  between->addSubview(inner);
-  view->addSubview(between);
-  setTitle(view);
-  EXPECT_FALSE((send<bool, "adjustsFontSizeToFitWidth">(inner)));
 }
 
 }  // namespace

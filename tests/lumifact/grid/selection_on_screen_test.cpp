@@ -3,6 +3,8 @@
 // The size of a selection in the photo application's own grids.
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "tests/lumifact/grid/grid_screen.h"
 #include "tests/lumifact/views/shown_views.h"
@@ -63,13 +65,38 @@ TEST_F(SelectionOnScreenTest, IsAddedUpFromFilesOfAllSizes) {
 
 TEST_F(SelectionOnScreenTest, OfALargeFileIsTrueOnce) {
   addPhoto("Album/0.jpg", 0, 3'000'000'000);
+  addPhoto("Album/1.jpg", 1, 16'000'000'000'000);
+  openAlbum("Album");
+  setEditing(true);
+  const auto titleAfterTapping = [](long item) {
+    tapItem(item);
+    return title();
+  };
+  EXPECT_EQ(titleAfterTapping(0), "1 Photo Selected (3 GB) ");
+  titleAfterTapping(0);
+  EXPECT_EQ(titleAfterTapping(0), "1 Photo Selected (-1.29 GB) ");
+  EXPECT_EQ(titleAfterTapping(1), "2 Photos Selected (16 TB) ");
+  EXPECT_EQ(titleAfterTapping(0), "1 Photo Selected (1.25 GB) ");
+}
+
+TEST_F(SelectionOnScreenTest, CountsNothingOfFilesThatVanish) {
+  openSelecting();
+  std::filesystem::remove(folder.file("Album/2.jpg"));
+  tapItem(2);
+  EXPECT_EQ(title(), "1 Photo Selected");
+  tapItem(3);
+  EXPECT_EQ(title(), "2 Photos Selected (1.5 MB) ");
+}
+
+TEST_F(SelectionOnScreenTest, CountsNothingOfEmptyFiles) {
+  addPhoto("Album/0.jpg", 0, 0);
+  addPhoto("Album/1.jpg", 1, 1'500'000);
   openAlbum("Album");
   setEditing(true);
   tapItem(0);
-  EXPECT_EQ(title(), "1 Photo Selected (3 GB) ");
-  tapItem(0);
-  tapItem(0);
-  EXPECT_EQ(title(), "1 Photo Selected (-1.29 GB) ");
+  EXPECT_EQ(title(), "1 Photo Selected");
+  tapItem(1);
+  EXPECT_EQ(title(), "2 Photos Selected (1.5 MB) ");
 }
 
 TEST_F(SelectionOnScreenTest, GoesWithSelectMode) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "desktop/uikit/graphics/ui_bezier_path.h"
+#include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/animator.h"
 #include "desktop/uikit/views/ca_layer.h"
@@ -58,6 +59,10 @@ class PopUpTest : public desktop::uikit::ApplicationTest {
     return CALayerState::of(view.layer()).style();
   }
 
+  static CGRect shadowOf(UIView view) {
+    return send<CGRect, "bounds">(style(view).shadowPath.get());
+  }
+
   static void expectCentred(UIView view) {
     const CGSize size = view.bounds().size;
     const CGRect box = boxOf(view).frame();
@@ -81,6 +86,9 @@ TEST_F(PopUpTest, ItsTextViewCanBecomeFirstResponder) {
   EXPECT_TRUE(bridge::isKindOf(box, UITextView::classObject()));
   EXPECT_TRUE((send<bool, "canBecomeFirstResponder">(box)));
   EXPECT_FALSE((send<bool, "isEditable">(box)));
+  EXPECT_TRUE((send<bool, "isSelectable">(box)));
+  EXPECT_EQ((send<NSInteger, "textAlignment">(box)), 0);
+  EXPECT_FALSE((send<bool, "translatesAutoresizingMaskIntoConstraints">(box)));
 }
 
 TEST_F(PopUpTest, TheBoxBeginsInTheMiddleOfADimmedBackdrop) {
@@ -99,7 +107,8 @@ TEST_F(PopUpTest, TheBoxHasRoundCornersAndAShadowThatIsNotCut) {
   EXPECT_EQ(style(box).cornerRadius, 5.0);
   EXPECT_EQ(style(box).shadowOffset, (CGSize{-1, -1}));
   EXPECT_EQ(style(box).shadowOpacity, 0.3F);
-  EXPECT_TRUE(style(box).shadowPath);
+  EXPECT_EQ(desktop::uikit::UIColorState::valueOf(style(box).shadowColor), (Color{0, 0, 0, 1}));
+  EXPECT_EQ(shadowOf(box), (CGRect{{0, 0}, {325, 325}}));
   EXPECT_FALSE(style(box).masksToBounds);
 }
 
@@ -109,6 +118,8 @@ TEST_F(PopUpTest, AShortMessageShrinksTheBoxAroundItself) {
   EXPECT_LT(box.frame().size.width, 200);
   EXPECT_LT(box.frame().size.height, 60);
   EXPECT_EQ(box.frame().size.height, box.contentSize().height);
+  const CGSize size = box.bounds().size;
+  EXPECT_EQ(shadowOf(box), (CGRect{{0, 0}, {size.width + 5, size.height + 5}}));
   expectCentred(view);
 }
 
@@ -194,6 +205,8 @@ TEST_F(PopUpTest, StaysUnseenWhereItsLeavingIsCutShort) {
   settle();
   EXPECT_EQ(overlay(), view);
   EXPECT_EQ(look(view).shown().alpha, 0.0);
+  EXPECT_EQ(look(view).shown().transform.a, 1.75);
+  EXPECT_EQ(look(view).shown().transform.d, 1.75);
 }
 
 TEST_F(PopUpTest, ATouchThatWandersStillEndsIt) {
