@@ -43,11 +43,12 @@ Outcome open(Arguments words) {
   script::settle();
   if (words.size() == 1 && words[0].text == "photos") return settled(photos_ui::openPhotos());
   if (words.size() == 1 && words[0].text == "albums") return settled(photos_ui::openAlbums());
+  if (words.size() == 1 && words[0].text == "settings") return settled(photos_ui::openSettings());
   if (words.size() == 2 && words[0].text == "album")
     return settled(photos_ui::openAlbum(words[1].text));
   const auto item = itemOf(words);
   if (item) return settled(photos_ui::openItem(*item));
-  return model::Error{"open takes photos, albums, album NAME or item N"};
+  return model::Error{"open takes photos, albums, settings, album NAME or item N"};
 }
 
 Outcome peek(Arguments words) {

@@ -128,6 +128,7 @@ bool pressKey(const QKeyEvent& event, QWindow& window) {
   if (is(event, Qt::Key_Escape)) return goBackOrLeaveFullScreen(window);
   if (is(event, Qt::Key_C, Qt::ControlModifier)) return copySelection();
   if (is(event, Qt::Key_Q, Qt::ControlModifier)) return window.close();
+  if (is(event, Qt::Key_Comma, Qt::ControlModifier)) return !photos_ui::openSettings();
   if (is(event, Qt::Key_I) || is(event, Qt::Key_Return, Qt::AltModifier) ||
       is(event, Qt::Key_Enter, Qt::AltModifier))
     return pressInfoButton();

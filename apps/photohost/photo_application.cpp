@@ -85,6 +85,8 @@ PhotoApplication::~PhotoApplication() {
 
 void PhotoApplication::loadExtensions() {
   if (_options.extensions.empty()) return;
+  photos_ui::host().settingsFolder = _options.extensions + "/Preferences";
+  photos_ui::host().deviceRoot = _root;
   loader::loadExtensions(
       _options.extensions, _options.bundleIdentifier,
       [](const std::string& path, const std::string& reason) { complain(path + ": " + reason); });

@@ -23,6 +23,13 @@
 #include "desktop/photos_ui/one_up/pu_one_up_tiling_layout.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
 #include "desktop/photos_ui/one_up/pu_tiling_view.h"
+#include "desktop/photos_ui/settings/choice_list.h"
+#include "desktop/photos_ui/settings/segments_cell.h"
+#include "desktop/photos_ui/settings/settings_list.h"
+#include "desktop/photos_ui/settings/settings_page.h"
+#include "desktop/photos_ui/settings/settings_screen.h"
+#include "desktop/photos_ui/settings/slider_cell.h"
+#include "desktop/photos_ui/settings/toggle_cell.h"
 
 namespace desktop::photos_ui {
 namespace {
@@ -56,6 +63,13 @@ constexpr Class (*classes[])() = {
     &PUOneUpTilingLayoutState::classObject,
     &PUOneUpViewControllerState::classObject,
     &PUTilingView::classObject,
+    &SegmentsCell::classObject,
+    &SliderCell::classObject,
+    &ToggleCell::classObject,
+    &ChoiceList::classObject,
+    &SettingsPage::classObject,
+    &SettingsList::classObject,
+    &SettingsScreen::classObject,
     // clang-format on
 };
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/script/node_parts.h"
 
+#include "desktop/uikit/controls/ui_segmented_control.h"
+#include "desktop/uikit/controls/ui_slider.h"
+#include "desktop/uikit/controls/ui_switch.h"
 #include "desktop/uikit/graphics/ui_color.h"
 #include "desktop/uikit/lists/ui_table_view_cell.h"
 
@@ -55,6 +58,27 @@ void addButton(UIView view, Json& node) {
   addText("text", UIButton(view.get()).currentTitle(), node);
 }
 
+// What a control with a value is called, and whether it can be used.
+void addControl(UIView view, Json& node) {
+  addText("name", uikit::UIControlState::of(view).accessibilityLabel(), node);
+  node["enabled"] = UIControl(view.get()).isEnabled();
+}
+
+void addSwitch(UIView view, Json& node) {
+  addControl(view, node);
+  node["on"] = uikit::UISwitch::of(view).isOn();
+}
+
+void addSlider(UIView view, Json& node) {
+  addControl(view, node);
+  node["value"] = uikit::UISlider::of(view).value();
+}
+
+void addSegments(UIView view, Json& node) {
+  addControl(view, node);
+  node["selected"] = uikit::UISegmentedControl::of(view).selected();
+}
+
 void addCell(UIView view, Json& node) {
   addText("text", uikit::UITableViewCellState::of(view.get()).text(), node);
   addText("detail", uikit::UITableViewCellState::of(view.get()).detailText(), node);
@@ -67,9 +91,9 @@ struct Row {
   void (*add)(UIView view, Json& node);
 };
 constexpr Row rows[] = {
-    {"UILabel", &addLabel},
-    {"UITextView", &addTextView},
-    {"UIButton", &addButton},
+    {"UILabel", &addLabel},        {"UITextView", &addTextView},
+    {"UIButton", &addButton},      {"UISwitch", &addSwitch},
+    {"UISlider", &addSlider},      {"UISegmentedControl", &addSegments},
     {"UITableViewCell", &addCell},
 };
 

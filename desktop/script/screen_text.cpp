@@ -38,7 +38,7 @@ class Collector {
 
   void collect(UIView view, CGRect place) {
     const NSString text = textOf(view);
-    if (text && text.length() > 0) _found.push_back({text.utf8(), place});
+    if (text && text.length() > 0) _found.push_back({text.utf8(), place, view});
   }
 
   std::vector<ScreenText>& _found;

@@ -16,6 +16,7 @@ namespace desktop::script {
 struct ScreenText {
   std::string text;  // UTF-8
   CGRect place;      // of the view that shows it, in points of the screen
+  UIView view;       // borrowed
 };
 
 // The texts of all views that can be seen, from back to front. A text view that is on screen

@@ -54,7 +54,7 @@ void settle();
 
 // The commands that every application has.
 void addTouchCommands(
-    ScriptRunner& runner);  // tap, long-press, touch-..., menu, type, scroll, wait
+    ScriptRunner& runner);  // tap, long-press, slide, touch-..., menu, type, scroll, wait
 void addScreenCommands(ScriptRunner& runner);  // dump, screenshot, expect, expect-not
 
 }  // namespace desktop::script

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "desktop/runtime/darwin_notifications.h"
+#include "desktop/settings/preferences.h"
 #include "foundation/notification_core.h"
 #include "foundation/property_lists/property_list_edit.h"
 
@@ -27,10 +28,9 @@ model::Value preferenceValue(const Word& word) {
 
 Outcome preference(const foundation::DeviceRoot& root, Arguments words) {
   if (words.size() != 3) return model::Error{"preference takes DOMAIN KEY VALUE"};
-  if (words[0].text.empty() || words[0].text.find('/') != std::string::npos)
+  if (!settings::isDomain(words[0].text))
     return model::Error{"'" + words[0].text + "' is not a preference domain"};
-  const std::string file =
-      root.onDisk("/var/mobile/Library/Preferences/" + words[0].text + ".plist");
+  const std::string file = settings::preferenceFile(root, words[0].text);
   auto failed = foundation::editPropertyListFile(file, [&](model::Dictionary& preferences) {
     preferences.insert_or_assign(words[1].text, preferenceValue(words[2]));
   });

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// Fingers on the screen, and time.
+// Fingers on the screen, and time. What names its target by a text waits for the screen to come to
+// rest, finds the text and then touches; the touch-... commands go where and when they are told to.
 #include <algorithm>
 
 #include "desktop/script/screen_text.h"
 #include "desktop/script/script_runner.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/screen.h"
+#include "desktop/uikit/controls/ui_slider.h"
 #include "desktop/uikit/overlays/ui_menu_controller.h"
 #include "desktop/uikit/touch/touch_dispatcher.h"
 #include "desktop/uikit/views/ui_responder.h"
@@ -45,6 +47,34 @@ Outcome press(Finger& finger, Arguments words, uikit::Seconds time) {
   const auto at = targetOf(words);
   if (!at) return at.error();
   finger.down(*at, time);
+  finger.up();
+  return std::nullopt;
+}
+
+// The slider of that name in sight, or nil.
+UIView sliderNamed(std::string_view name) {
+  const auto texts = textsOnScreen();
+  const auto found = std::ranges::find_if(texts, [&](const ScreenText& each) {
+    return each.text == name && isKindOf(each.view, uikit::UISlider::classObject());
+  });
+  return found == texts.end() ? UIView() : found->view;
+}
+
+// Drags a slider's knob to a part of its way. Content that scrolls leaves a finger that rests first
+// to the slider.
+Outcome slide(Finger& finger, Arguments words) {
+  constexpr uikit::Seconds rest = 0.2;
+  if (words.size() != 2) return model::Error{"slide takes a slider's name and 0 to 1"};
+  const auto part = numberOf(words[1]);
+  if (!part) return part.error();
+  if (*part < 0 || *part > 1) return model::Error{"slide takes a slider's name and 0 to 1"};
+  settle();
+  const UIView view = sliderNamed(words[0].text);
+  if (!view) return model::Error{"no slider \"" + words[0].text + "\" is on screen"};
+  const auto& slider = uikit::UISlider::of(view);
+  const auto toScreen = slider.toScreen();
+  finger.down(uikit::apply(toScreen, slider.knob()), rest);
+  finger.move(uikit::apply(toScreen, slider.knobAt(*part)));
   finger.up();
   return std::nullopt;
 }
@@ -120,6 +150,7 @@ void addTouchCommands(ScriptRunner& runner) {
   runner.add("tap", [&finger](Arguments words) { return press(finger, words, tapTime); });
   runner.add("long-press",
              [&finger](Arguments words) { return press(finger, words, longPressTime); });
+  runner.add("slide", [&finger](Arguments words) { return slide(finger, words); });
   runner.add("touch-down", [&finger](Arguments words) { return touchDown(finger, words); });
   runner.add("touch-move", [&finger](Arguments words) { return touchMove(finger, words); });
   runner.add("touch-up", [&finger](Arguments words) { return touchUp(finger, words); });

@@ -7,7 +7,9 @@
 #include "desktop/photos_ui/albums/problem_list.h"
 #include "desktop/photos_ui/base/large_title.h"
 #include "desktop/photos_ui/base/photos_host.h"
+#include "desktop/photos_ui/settings/settings_screen.h"
 #include "desktop/platform.h"
+#include "desktop/uikit/bars/bar_glyphs.h"
 #include "desktop/uikit/controllers/ui_view_controller.h"
 #include "desktop/uikit/views/ui_view.h"
 
@@ -16,6 +18,7 @@ namespace desktop::photos_ui {
 namespace {
 
 constexpr CGFloat problemsHeight = 44;  // points
+constexpr auto settingsItem = static_cast<UIBarButtonItem::SystemItem>(uikit::Glyph::settings);
 
 void push(UIViewController from, UIViewController controller) {
   from.navigationController().push(controller, UIViewController::animated);
@@ -29,6 +32,7 @@ Class PUAlbumListViewController::classObject() {
                                 .method<"viewDidLoad", &Self::viewDidLoad>()
                                 .method<"viewWillAppear:", &Self::viewWillAppear>()
                                 .method<"viewWillDisappear:", &Self::viewWillDisappear>()
+                                .method<"settings:", &Self::settings>()
                                 .method<"tableView:numberOfRowsInSection:", &Self::numberOfRows>()
                                 .method<"tableView:heightForRowAtIndexPath:", &Self::heightForRow>()
                                 .method<"tableView:cellForRowAtIndexPath:", &Self::cellForRow>()
@@ -41,6 +45,9 @@ Owned<UIViewController> PUAlbumListViewController::make() {
   auto made = makeNew<UIViewController>(classObject());
   made->setTitle(NSString::make("Albums"));
   useLargeTitle(made, true);
+  const auto settings =
+      UIBarButtonItem::withSystemItem(settingsItem, made, selector<"settings:">());
+  made->navigationItem().setRightBarButtonItems(NSArray::of(settings.get()));
   return made;
 }
 
@@ -71,6 +78,10 @@ void PUAlbumListViewController::refresh() {
 void PUAlbumListViewController::libraryChanged(const library::LibraryChange&) {
   const UIView view = viewIfLoaded();
   if (view && uikit::UIViewState::of(view).window()) refresh();
+}
+
+void PUAlbumListViewController::settings(NSObject) {
+  SettingsScreen::presentOver(self(), UIViewController::animated);
 }
 
 NSInteger PUAlbumListViewController::numberOfRows(UITableView, NSInteger) const {

@@ -30,6 +30,7 @@ class PUAlbumListViewController
   void didSelectRow(UITableView table, NSIndexPath path);
   void libraryChanged(const library::LibraryChange& change);
 
+  void settings(NSObject sender);
   UITableViewCell problemsCell(UITableView table) const;
   void refresh();
 

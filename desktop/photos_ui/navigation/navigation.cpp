@@ -14,6 +14,7 @@
 #include "desktop/photos_ui/grid/pu_zoomable_grid_view_controller.h"
 #include "desktop/photos_ui/navigation/way_back.h"
 #include "desktop/photos_ui/one_up/pu_one_up_view_controller.h"
+#include "desktop/photos_ui/settings/settings_screen.h"
 #include "desktop/platform.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/bars/ui_tab_bar_item.h"
@@ -199,6 +200,17 @@ Outcome openAlbum(std::string_view title) {
   const auto controller = makeAlbumController(*found);
   if (auto failed = openAlbums()) return failed;
   navigation().push(controller, UIViewController::immediately);
+  prepare();
+  return std::nullopt;
+}
+
+Outcome openSettings() {
+  if (!tabs()) return model::Error{"nothing is on show"};
+  const UIViewController last = lastPresented();
+  if (isKindOf(last, SettingsScreen::classObject())) return std::nullopt;
+  if (isKindOf(last, UIAlertController::classObject()))
+    return model::Error{"an alert waits for its answer"};
+  SettingsScreen::presentOver(last ? last : tabs(), UIViewController::animated);
   prepare();
   return std::nullopt;
 }

@@ -22,6 +22,8 @@ Outcome openPhotos();
 Outcome openAlbums();
 // By its title, from wherever the user is.
 Outcome openAlbum(std::string_view title);
+// The settings of extensions, over whatever is on show but an alert, which wants its answer first.
+Outcome openSettings();
 // Shows an item of the grid on screen, or of the moments where none is, by itself.
 Outcome openItem(long index);
 // The same as a preview: a light touch that looks without opening.

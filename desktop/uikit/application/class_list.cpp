@@ -24,6 +24,9 @@
 #include "desktop/uikit/controls/action_control.h"
 #include "desktop/uikit/controls/ui_button.h"
 #include "desktop/uikit/controls/ui_control.h"
+#include "desktop/uikit/controls/ui_segmented_control.h"
+#include "desktop/uikit/controls/ui_slider.h"
+#include "desktop/uikit/controls/ui_switch.h"
 #include "desktop/uikit/controls/ui_text_position.h"
 #include "desktop/uikit/controls/ui_text_view.h"
 #include "desktop/uikit/graphics/ui_bezier_path.h"
@@ -93,6 +96,9 @@ constexpr Class (*classes[])() = {
     &UIControlState::classObject,
     &UIImageViewState::classObject,
     &UIButtonState::classObject,
+    &UISegmentedControl::classObject,
+    &UISlider::classObject,
+    &UISwitch::classObject,
     &UILabelState::classObject,
     &ActionControl::classObject,
     &MenuOverlay::classObject,

@@ -35,6 +35,7 @@ enum class Glyph : NSInteger {
   heart = 102,
   filledHeart = 103,
   livePhoto = 104,
+  settings = 105,
 };
 
 // The side of the square that a picture is drawn in, in points.

@@ -65,6 +65,8 @@ Class UIControlState::classObject() {
           .method<"setHighlighted:", &UIControlState::setHighlighted>()
           .method<"isSelected", &UIControlState::isSelected>()
           .method<"setSelected:", &UIControlState::setSelected>()
+          .method<"accessibilityLabel", &UIControlState::accessibilityLabel>()
+          .method<"setAccessibilityLabel:", &UIControlState::setAccessibilityLabel>()
           .method<"isTracking", &UIControlState::isTracking>()
           .method<"isTouchInside", &UIControlState::isTouchInside>()
           .method<"beginTrackingWithTouch:withEvent:", &UIControlState::beginTracking>()

@@ -53,6 +53,9 @@ class UIControlState : public Bound<UIControlState, UIViewState, UIControl> {
   bool isEnabled() const { return (_state & disabled) == 0; }
   bool isHighlighted() const { return (_state & highlighted) != 0; }
   bool isSelected() const { return (_state & selected) != 0; }
+  // What it is called by those who do not see it, where its own texts do not say; nil: nothing.
+  NSString accessibilityLabel() const { return _accessibilityLabel; }
+  void setAccessibilityLabel(NSString label) { _accessibilityLabel = copy(label); }
   bool isTracking() const { return _isTracking; }
   bool isTouchInside() const { return _isTouchInside; }
 
@@ -80,6 +83,7 @@ class UIControlState : public Bound<UIControlState, UIViewState, UIControl> {
   void stopTracking();
 
   std::vector<Target> _targets;
+  Owned<NSString> _accessibilityLabel;
   NSUInteger _state = normal;
   bool _isTracking = false;
   bool _isTouchInside = false;

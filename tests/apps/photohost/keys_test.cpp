@@ -257,6 +257,16 @@ TEST_F(KeysTest, SpaceOpensAVideoOutside) {
   EXPECT_EQ(uikit::application().opened.size(), 1U);
 }
 
+TEST_F(KeysTest, ControlAndCommaOpenTheSettingsOverWhatIsOnShow) {
+  showPhoto(5);
+  EXPECT_TRUE(press(Qt::Key_Comma, Qt::ControlModifier));
+  EXPECT_THAT(texts(), testing::Contains("Settings"));
+  EXPECT_TRUE(press(Qt::Key_Escape));
+  EXPECT_THAT(texts(), testing::Not(testing::Contains("Settings")));
+  EXPECT_EQ(index(), 5U);
+  EXPECT_FALSE(press(Qt::Key_Comma)) << "without Control it is no key";
+}
+
 TEST_F(KeysTest, IAndAltReturnPressTheInfoButton) {
   showPhoto(0);
   const auto presses = makePresses();

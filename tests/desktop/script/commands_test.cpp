@@ -10,6 +10,7 @@
 #include "desktop/script/system_commands.h"
 #include "desktop/uikit/base/scheduler.h"
 #include "desktop/uikit/base/screen.h"
+#include "desktop/uikit/controls/ui_slider.h"
 #include "foundation/property_lists/property_list.h"
 #include "tests/desktop/uikit/application_test.h"
 #include "tests/desktop/uikit/touch_probes.h"
@@ -79,9 +80,9 @@ TEST_F(CommandsTest, ExpectingLooksAtTheScreen) {
 }
 
 TEST_F(CommandsTest, AWrongLineIsAnError) {
-  for (const char* line :
-       {"tap", "tap 1", "tap x y", "tap \"nowhere\"", "touch-down", "menu \"Copy\"", "type paste",
-        "scroll", "dump a b", "expect", "notify", "preference a b"})
+  for (const char* line : {"tap", "tap 1", "tap x y", "tap \"nowhere\"", "touch-down",
+                           "menu \"Copy\"", "type paste", "scroll", "slide", "slide \"Speed\" 2",
+                           "slide \"Speed\" 0.5", "dump a b", "expect", "notify", "preference a b"})
     EXPECT_TRUE(runner.runLine(line)) << line;
 }
 
@@ -101,6 +102,18 @@ TEST_F(CommandsTest, AFingerLeavesFromWhereverItWasMoved) {
   expectDone("touch-up");
   EXPECT_EQ(probe.last, (CGPoint{50, 60}));
   EXPECT_THAT(probe.touches, testing::ElementsAre("began", "ended", "began", "moved", "ended"));
+}
+
+TEST_F(CommandsTest, SlidesTheKnobOfTheSliderOfThatName) {
+  const auto slider = uikit::UISlider::make();
+  slider->setFrame({{20, 100}, {200, 31}});
+  auto& state = uikit::UISlider::of(slider.get());
+  state.setAccessibilityLabel(NSString::make("Speed"));
+  window().addSubview(slider);
+  expectDone("slide \"Speed\" 0.75");
+  EXPECT_FLOAT_EQ(state.value(), 0.75F);
+  expectDone("slide \"Speed\" 0");
+  EXPECT_FLOAT_EQ(state.value(), 0);
 }
 
 }  // namespace

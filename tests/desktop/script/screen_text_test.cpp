@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "desktop/uikit/controls/ui_switch.h"
 #include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::script {
@@ -35,6 +36,15 @@ TEST_F(ScreenTextTest, FindsPicturesByTheirNames) {
   uikit::application().prepareFrame();
   EXPECT_TRUE(isOnScreen("Share"));
   EXPECT_LT(placeOf("Share")->x, 60);
+}
+
+TEST_F(ScreenTextTest, FindsControlsByTheirNamesInFrontOfTheLabelsBesideThem) {
+  addLabel(window(), {{10, 20}, {100, 20}}, "Colours");
+  const auto control = uikit::UISwitch::make();
+  control->setFrame({{300, 20}, {51, 31}});
+  window().addSubview(control);
+  uikit::UISwitch::of(control.get()).setAccessibilityLabel(NSString::make("Colours"));
+  EXPECT_EQ(placeOf("Colours"), (CGPoint{325.5, 35.5}));
 }
 
 TEST_F(ScreenTextTest, DoesNotFindWhatIsHiddenTransparentOrOutside) {

@@ -9,6 +9,9 @@
 #include "desktop/script/view_dump.h"
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/base/scheduler.h"
+#include "desktop/uikit/controls/ui_segmented_control.h"
+#include "desktop/uikit/controls/ui_slider.h"
+#include "desktop/uikit/controls/ui_switch.h"
 #include "tests/desktop/uikit/application_test.h"
 
 namespace desktop::script {
@@ -41,6 +44,24 @@ TEST_F(TreeDumpTest, TellsOfLayersWhatIsNotPlain) {
   EXPECT_EQ(layer["shadowOpacity"], 0.5);
   EXPECT_EQ(layer["shadowPath"], (Json{0.0, 0.0, 15.0, 15.0}));
   EXPECT_FALSE(layer.contains("borderWidth"));
+}
+
+TEST_F(TreeDumpTest, TellsTheNamesAndValuesOfControls) {
+  const auto toggle = uikit::UISwitch::make();
+  uikit::UISwitch::of(toggle.get()).setAccessibilityLabel(NSString::make("Colours"));
+  uikit::UISwitch::of(toggle.get()).setOn(true, false);
+  toggle->setEnabled(false);
+  const Json node = dumpView(toggle.get());
+  EXPECT_EQ(node["name"], "Colours");
+  EXPECT_EQ(node["on"], true);
+  EXPECT_EQ(node["enabled"], false);
+  const auto slider = uikit::UISlider::make();
+  uikit::UISlider::of(slider.get()).setValue(0.5F);
+  EXPECT_EQ(dumpView(slider.get())["value"], 0.5);
+  const auto segments = uikit::UISegmentedControl::make();
+  uikit::UISegmentedControl::of(segments.get()).setTitles({"a", "b"});
+  uikit::UISegmentedControl::of(segments.get()).select(1);
+  EXPECT_EQ(dumpView(segments.get())["selected"], 1);
 }
 
 TEST_F(TreeDumpTest, ShowsWhatIsAnimatedAsItIsNow) {
