@@ -10,6 +10,7 @@
 #include "apps/photohost/host_commands.h"
 #include "apps/photohost/main_loop.h"
 #include "apps/photohost/outside.h"
+#include "bridge/corefoundation.h"
 #include "bridge/foundation.h"
 #include "bridge/uikit.h"
 #include "desktop/faces/foundation/foundation_runtime.h"
@@ -86,7 +87,7 @@ PhotoApplication::~PhotoApplication() {
 void PhotoApplication::loadExtensions() {
   if (_options.extensions.empty()) return;
   loader::loadExtensions(
-      _options.extensions, _options.bundleIdentifier,
+      _options.extensions, {_options.bundleIdentifier, kCFCoreFoundationVersionNumber},
       [](const std::string& path, const std::string& reason) { complain(path + ": " + reason); });
 }
 
