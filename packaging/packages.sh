@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# Sourced by ./run, ./test and .ci/run: installs the Debian packages that are missing, by name.
+# Sourced by ./run, ./test, ./package and .ci/run: installs the Debian packages that are missing, by
+# name.
 
 # What building and testing need.
 build_packages=(
