@@ -30,6 +30,8 @@ need_tool(llvm-ar-19 llvm-19)
 file(GLOB cxx_headers ${llvm}/include/c++/v1/vector)
 need("libc++ 19's headers" libc++-19-dev "${cxx_headers}")
 need("musl's headers" musl-dev "${musl_headers}")
+file(GLOB openssl_headers /usr/include/openssl/sha.h)
+need("OpenSSL's headers" libssl-dev "${openssl_headers}")
 
 string(JOIN " " CMAKE_CXX_FLAGS_INIT
     -target arm64-apple-ios12.0

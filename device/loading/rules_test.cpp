@@ -14,7 +14,6 @@
 
 #include "device/loading/file_bytes.h"
 #include "device/loading/link_edit_tables.h"
-#include "device/loading/sha256.h"
 
 namespace {
 
@@ -265,19 +264,6 @@ void testDamagedCommandsAreRefused(const Bytes& sound, const LibraryVersions& ve
   }
 }
 
-void testHash() {
-  const std::pair<std::string_view, std::array<std::uint8_t, 4>> known[] = {
-      {"", {0xE3, 0xB0, 0xC4, 0x42}},
-      {"abc", {0xBA, 0x78, 0x16, 0xBF}},
-      {"abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq", {0x24, 0x8D, 0x6A, 0x61}},
-  };
-  for (const auto& [text, start] : known) {
-    const auto hash = sha256({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
-    if (!std::equal(start.begin(), start.end(), hash.begin()))
-      fail("another hash of '" + std::string(text) + "' is due");
-  }
-}
-
 void testVersionsAreRead() {
   const auto versions = parseLibraryVersions("# Comment\n/a\t150.2.3\n/b\t0.0.0\n");
   if (!versions || versions->at("/a") != (150 << 16 | 2 << 8 | 3) || versions->at("/b") != 0)
@@ -299,7 +285,6 @@ int main(int count, char** arguments) {
   testEachRuleIsBroken();
   testCutFilesAreRefused(*sound, *versions);
   testDamagedCommandsAreRefused(*sound, *versions);
-  testHash();
   testVersionsAreRead();
   return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -2,11 +2,13 @@
 //
 // A code signature is a list of blobs, of which the code directory is the one that counts here: a
 // hash of each page of all that lies before the signature. Its numbers are big-endian.
+#include <openssl/sha.h>
+
 #include <algorithm>
+#include <array>
 
 #include "device/loading/link_edit_tables.h"
 #include "device/loading/rules.h"
-#include "device/loading/sha256.h"
 
 namespace device::loading::signature_rules {
 namespace {
@@ -41,7 +43,9 @@ bool isHashedBySha256(io::ByteView directory) {
 }
 
 bool isHashOf(io::ByteView stated, io::ByteView page) {
-  return std::ranges::equal(stated.bytes(), sha256(page.bytes()));
+  std::array<std::uint8_t, sha256Size> hash{};
+  SHA256(page.bytes().data(), page.bytes().size(), hash.data());
+  return std::ranges::equal(stated.bytes(), hash);
 }
 
 }  // namespace
