@@ -9,8 +9,30 @@ set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 
 set(LUMIFACT_DEVICE ON CACHE BOOL "Build the extension for the phone" FORCE)
 
-file(GLOB musl_headers /usr/include/*-linux-musl)
 set(llvm /usr/lib/llvm-19)
+file(GLOB musl_headers /usr/include/*-linux-musl)
+
+# need(WHAT PACKAGE FOUND): one line says what is missing; nothing else stands in for it.
+function(need what package found)
+  if(NOT found)
+    message(FATAL_ERROR "${what} was not found. Install it: apt-get install ${package}")
+  endif()
+endfunction()
+function(need_tool tool package)
+  find_program(path_of_${tool} ${tool})
+  mark_as_advanced(path_of_${tool})
+  need(${tool} ${package} "${path_of_${tool}}")
+endfunction()
+
+need_tool(clang++-19 clang-19)
+need_tool(ld64.lld-19 lld-19)
+need_tool(llvm-ar-19 llvm-19)
+file(GLOB cxx_headers ${llvm}/include/c++/v1/vector)
+need("libc++ 19's headers" libc++-19-dev "${cxx_headers}")
+need("musl's headers" musl-dev "${musl_headers}")
+file(GLOB openssl_headers /usr/include/openssl/sha.h)
+need("OpenSSL's headers" libssl-dev "${openssl_headers}")
+
 string(JOIN " " CMAKE_CXX_FLAGS_INIT
     -target arm64-apple-ios12.0
     -nostdinc

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# Sourced by ./run, ./test and .ci/run: installs the Debian packages that are missing, by name.
+# Sourced by ./run, ./test, ./package and .ci/run: installs the Debian packages that are missing, by
+# name.
 
 # What building and testing need.
 build_packages=(
@@ -15,7 +16,7 @@ build_packages=(
 )
 
 # What the device build needs.
-device_packages=(clang-19 libc++-19-dev lld-19 llvm-19 musl-dev)
+device_packages=(clang-19 libc++-19-dev libssl-dev lld-19 llvm-19 musl-dev)
 
 # What .ci/run needs besides: formatting, static checks, sanitizers and fuzzers, the device build, and
 # the peers it compares with.

@@ -10,6 +10,7 @@
 #include "apps/photohost/host_commands.h"
 #include "apps/photohost/main_loop.h"
 #include "apps/photohost/outside.h"
+#include "bridge/corefoundation.h"
 #include "bridge/foundation.h"
 #include "bridge/uikit.h"
 #include "desktop/faces/foundation/foundation_runtime.h"
@@ -88,7 +89,7 @@ void PhotoApplication::loadExtensions() {
   photos_ui::host().settingsFolder = _options.extensions + "/Preferences";
   photos_ui::host().deviceRoot = _root;
   loader::loadExtensions(
-      _options.extensions, _options.bundleIdentifier,
+      _options.extensions, {_options.bundleIdentifier, kCFCoreFoundationVersionNumber},
       [](const std::string& path, const std::string& reason) { complain(path + ": " + reason); });
 }
 

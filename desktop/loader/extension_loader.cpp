@@ -7,8 +7,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "desktop/loader/extension_filter.h"
-
 namespace desktop::loader {
 namespace {
 
@@ -51,8 +49,7 @@ bool load(const fs::path& library, const LoadProblem& problem) {
 
 }  // namespace
 
-std::vector<std::string> loadExtensions(const std::string& folder,
-                                        std::string_view bundleIdentifier,
+std::vector<std::string> loadExtensions(const std::string& folder, const Host& host,
                                         const LoadProblem& problem) {
   std::vector<std::string> loaded;
   std::error_code error;
@@ -63,7 +60,7 @@ std::vector<std::string> loadExtensions(const std::string& folder,
       problem(path.string(), filter.error().reason);
       continue;
     }
-    if (!filter->matches(bundleIdentifier)) continue;
+    if (!filter->matches(host)) continue;
     fs::path library = path;
     library.replace_extension(".so");
     if (load(library, problem)) loaded.push_back(library.string());

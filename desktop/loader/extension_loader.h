@@ -6,8 +6,9 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
+
+#include "desktop/loader/extension_filter.h"
 
 namespace desktop::loader {
 
@@ -21,8 +22,7 @@ using LoadProblem = std::function<void(const std::string& path, const std::strin
 // A filter or library that is broken (or a filter without its library) is told to `problem` and
 // passed over; a library without a filter is for nobody. A folder that does not exist holds no
 // extensions; one that cannot be read is told.
-std::vector<std::string> loadExtensions(const std::string& folder,
-                                        std::string_view bundleIdentifier,
+std::vector<std::string> loadExtensions(const std::string& folder, const Host& host,
                                         const LoadProblem& problem);
 
 }  // namespace desktop::loader

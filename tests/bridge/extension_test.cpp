@@ -40,7 +40,7 @@ class ExtensionTest : public testing::Test {
     std::ofstream(root() + "/Hooking.plist") << filter;
     desktop::runtime::openDarwinNotifications(foundation::notificationFolder(root()));
     const auto loaded = desktop::loader::loadExtensions(
-        root(), "com.example.host",
+        root(), {"com.example.host"},
         [](const std::string& path, const std::string& reason) { FAIL() << path << reason; });
     ASSERT_THAT(loaded, testing::SizeIs(1));
   }

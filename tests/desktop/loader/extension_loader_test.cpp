@@ -46,8 +46,8 @@ class ExtensionLoaderTest : public testing::Test {
     fs::copy_file(SAMPLE_EXTENSION, folder / (name + ".so"));
   }
 
-  std::vector<std::string> load(std::string_view bundle = "com.example.host") {
-    return loadExtensions(folder.string(), bundle,
+  std::vector<std::string> load(std::string_view bundle = "com.example.host", double version = 0) {
+    return loadExtensions(folder.string(), {bundle, version},
                           [this](const std::string& path, const std::string& reason) {
                             problems.push_back(fs::path(path).filename().string() + ": " + reason);
                           });
@@ -119,6 +119,13 @@ TEST_F(ExtensionLoaderTest, AFolderThatIsNoneIsTold) {
   folder = folder.parent_path();
 }
 
+model::Value filterOf(model::Value versions) {
+  model::Value list = filterFor("com.example.host");
+  (*find(*list.asDictionary(), "Filter")->asDictionary())["CoreFoundationVersion"] =
+      std::move(versions);
+  return list;
+}
+
 TEST(ExtensionFilter, IsRefusedUnlessItListsBundles) {
   const model::Value refused[] = {
       {},
@@ -136,11 +143,58 @@ TEST(ExtensionFilter, IsRefusedUnlessItListsBundles) {
 TEST(ExtensionFilter, MatchesWholeIdentifiersOnly) {
   const auto filter = parseFilter(filterFor("com.example.host"));
   ASSERT_TRUE(filter);
-  EXPECT_TRUE(filter->matches("com.example.host"));
-  EXPECT_TRUE(filter->matches("com.example.other"));
-  EXPECT_FALSE(filter->matches("com.example"));
-  EXPECT_FALSE(filter->matches("COM.EXAMPLE.HOST"));
-  EXPECT_FALSE(filter->matches(""));
+  EXPECT_TRUE(filter->matches({"com.example.host"}));
+  EXPECT_TRUE(filter->matches({"com.example.other"}));
+  EXPECT_FALSE(filter->matches({"com.example"}));
+  EXPECT_FALSE(filter->matches({"COM.EXAMPLE.HOST"}));
+  EXPECT_FALSE(filter->matches({""}));
+}
+
+TEST(ExtensionFilter, MatchesVersionsFromTheFirstToBelowTheSecond) {
+  const struct {
+    model::Array versions;
+    double version;
+    bool isMatched;
+  } rows[] = {
+      {{1556.0, 1600.0}, 1556.0, true},
+      {{1556.0, 1600.0}, 1575.5, true},
+      {{1556.0, 1600.0}, 1555.9, false},
+      {{1556.0, 1600.0}, 1600.0, false},
+      {{1556, 1600}, 1556.0, true},
+      {{1556, 1600}, 1600.0, false},
+      {{1556.0}, 1e6, true},
+      {{1556.0}, 1348.0, false},
+      {{1600.0, 1556.0}, 1575.5, false},
+  };
+  for (const auto& row : rows) {
+    const auto filter = parseFilter(filterOf(row.versions));
+    ASSERT_TRUE(filter) << row.version;
+    EXPECT_EQ(filter->matches({"com.example.host", row.version}), row.isMatched) << row.version;
+    EXPECT_FALSE(filter->matches({"com.example", row.version})) << row.version;
+  }
+}
+
+TEST(ExtensionFilter, IsRefusedWithVersionsThatAreNoRange) {
+  const model::Value refused[] = {
+      1556.0,
+      "1556",
+      model::Array{},
+      model::Array{"1556"},
+      model::Array{1556.0, true},
+      model::Array{1.0, 2.0, 3.0},
+      model::Dictionary{},
+  };
+  for (const model::Value& versions : refused)
+    EXPECT_FALSE(parseFilter(filterOf(versions))) << static_cast<int>(versions.kind());
+}
+
+TEST_F(ExtensionLoaderTest, LeavesWhatIsForOtherSystems) {
+  addLibrary("Older");
+  writeFilter("Older", filterOf(model::Array{1.0, 1556.0}));
+  addLibrary("Sample");
+  writeFilter("Sample", filterOf(model::Array{1556.0, 1600.0}));
+  EXPECT_THAT(load("com.example.host", 1575.5), ElementsAre(path("Sample.so")));
+  EXPECT_THAT(problems, IsEmpty());
 }
 
 }  // namespace

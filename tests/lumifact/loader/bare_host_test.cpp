@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "bridge/corefoundation.h"
 #include "desktop/loader/extension_loader.h"
 #include "desktop/runtime/method_hooks.h"
 #include "tests/lumifact/loader/extension_host.h"
@@ -45,9 +46,18 @@ TEST(BareHost, KeepsTheHeightOfALineThatTheExtensionStartsWith) {
 
 TEST(BareHost, IsNotNamedByTheFilter) {
   const auto loaded = desktop::loader::loadExtensions(
-      EXTENSIONS_FOLDER, "com.example.other",
+      EXTENSIONS_FOLDER, {"com.example.other", kCFCoreFoundationVersionNumber},
       [](const std::string& path, const std::string& reason) { FAIL() << path << reason; });
   EXPECT_THAT(loaded, testing::IsEmpty());
+}
+
+TEST(BareHost, IsOlderOrNewerThanTheFilterSays) {
+  for (const double version : {1555.5, 1600.0}) {
+    const auto loaded = desktop::loader::loadExtensions(
+        EXTENSIONS_FOLDER, {"com.apple.mobileslideshow", version},
+        [](const std::string& path, const std::string& reason) { FAIL() << path << reason; });
+    EXPECT_THAT(loaded, testing::IsEmpty()) << version;
+  }
 }
 
 }  // namespace

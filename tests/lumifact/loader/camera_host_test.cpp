@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "bridge/corefoundation.h"
 #include "desktop/loader/extension_loader.h"
 #include "desktop/runtime/method_hooks.h"
 #include "tests/lumifact/loader/extension_host.h"
@@ -24,11 +25,11 @@ const Camera& camera() {
     static Camera camera;
     onFrameworkLoad([] { registerHostClasses(); });
     camera.events = camera.host.eventsOf([&] {
-      camera.loaded =
-          desktop::loader::loadExtensions(EXTENSIONS_FOLDER, "com.apple.camera",
-                                          [](const std::string& path, const std::string& reason) {
-                                            camera.problems.push_back(path + ": " + reason);
-                                          });
+      camera.loaded = desktop::loader::loadExtensions(
+          EXTENSIONS_FOLDER, {"com.apple.camera", kCFCoreFoundationVersionNumber},
+          [](const std::string& path, const std::string& reason) {
+            camera.problems.push_back(path + ": " + reason);
+          });
     });
     return camera;
   }();
