@@ -55,6 +55,8 @@ void watchCells() {
 
 class GridTest : public LibraryScreenTest {
  protected:
+  GridTest() { watchCells(); }
+
   // Photos "00.jpg" and so on, in an album.
   void openAlbumOf(int count, const std::string& album = "Album") {
     for (int index = 0; index < count; ++index) addPhoto(album, index);
