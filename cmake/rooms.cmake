@@ -162,6 +162,7 @@ function(room_test_suites name labels fixtures)
   set(script ${PROJECT_SOURCE_DIR}/cmake/test_suites.cmake)
   add_custom_command(TARGET ${name} POST_BUILD VERBATIM COMMAND ${CMAKE_COMMAND}
     -D NAME=${name} -D PROGRAM=$<TARGET_FILE:${name}> -D LIST=${list}
+    -D "EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
     -D "LABELS=${labels}" -D "FIXTURES=${fixtures}" -P ${script})
   set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${script})
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${list})

@@ -3,25 +3,34 @@
 # Sourced by ./run, ./test, ./package and .ci/run: installs the Debian packages that are missing, by
 # name.
 
-# What building and testing need.
-build_packages=(
-  cmake g++ git ninja-build pkg-config
+# The libraries that programs and tests are made of.
+library_packages=(
   libavcodec-dev libavformat-dev libavutil-dev libswscale-dev
-  libbenchmark-dev libgmock-dev libgtest-dev
-  fonts-inter fonts-urw-base35
+  libgmock-dev libgtest-dev
   libcli11-dev libheif-dev libicu-dev libjpeg62-turbo-dev libpugixml-dev nlohmann-json3-dev
   libgnustep-base-dev libobjc-12-dev
   qt6-base-dev qt6-image-formats-plugins
   tzdata zlib1g-dev
 )
 
+# What building and testing need.
+build_packages=(
+  cmake g++ git ninja-build pkg-config
+  fonts-inter fonts-urw-base35
+  libbenchmark-dev
+  "${library_packages[@]}"
+)
+
 # What the device build needs.
 device_packages=(clang-19 libc++-19-dev libssl-dev lld-19 llvm-19 musl-dev)
 
-# What .ci/run needs besides: formatting, static checks, sanitizers and fuzzers, the device build, and
-# the peers it compares with.
+# What running the phone's library needs besides; its host's libraries are unpacked for arm64.
+emulated_packages=(qemu-user "${device_packages[@]}")
+
+# What .ci/run needs besides: formatting, static checks, sanitizers and fuzzers, the device build and
+# its run, and the peers it compares with.
 ci_packages=(clang-19 clang-format clang-tidy libclang-rt-19-dev libimage-exiftool-perl mediainfo
-  "${device_packages[@]}")
+  "${emulated_packages[@]}")
 
 # install_packages NAME...: installs those that are missing, with sudo where not root, and says so.
 # Quick when nothing is missing.

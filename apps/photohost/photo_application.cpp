@@ -64,7 +64,7 @@ PhotoApplication::PhotoApplication(int& argumentCount, char** arguments, const O
     : _options(options),
       _root(rootOf(options)),
       _renderer(argumentCount, arguments, displayOf(options)),
-      _pictures({.command = {"/proc/self/exe", decoderArgument}}) {
+      _pictures({.command = {PHOTOHOST_DECODER, decoderArgument}}) {
   faces::correctFoundation({.root = _root, .bundleIdentifier = options.bundleIdentifier});
   runtime::openDarwinNotifications(foundation::notificationFolder(_root.folder()));
   runtime::setDebugLogSink(
