@@ -5,8 +5,8 @@
 #include "apps/lumifact/json/json.h"
 #include "apps/lumifact/json/json_marks.h"
 #include "apps/lumifact/json/json_object.h"
-#include "apps/lumifact/terminal/terminal_text.h"
 #include "foundation/property_lists/base64.h"
+#include "foundation/terminal_text.h"
 #include "model/number_text.h"
 #include "model/utf8.h"
 
@@ -47,7 +47,7 @@ std::size_t appendSpecial(std::string& text, std::string_view characters, std::s
   const model::CodePoint character = model::codePointAt(characters, offset);
   if (!character.valid) {
     model::appendUtf8(text, U'\uFFFD');
-  } else if (character.value < 0x80 || controlsTerminal(character.value)) {
+  } else if (character.value < 0x80 || foundation::controlsTerminal(character.value)) {
     appendEscape(text, character.value);
   } else {
     text += characters.substr(offset, character.bytes);

@@ -7,8 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "apps/lumifact/terminal/terminal_text.h"
-
 namespace lumifact::tool {
 
 // How a run ends; the numbers are the process's exit status.

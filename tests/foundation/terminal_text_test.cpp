@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "apps/lumifact/terminal/terminal_text.h"
+#include "foundation/terminal_text.h"
 
 #include <gtest/gtest.h>
 
 #include "model/utf8.h"
 
-namespace lumifact::tool {
+namespace foundation {
 namespace {
 
 struct Case {
@@ -56,4 +56,4 @@ TEST(TerminalText, IsValidUtf8WhateverTheBytes) {
 }
 
 }  // namespace
-}  // namespace lumifact::tool
+}  // namespace foundation

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace lumifact::tool {
+namespace foundation {
 
 // Whether a terminal could take the character for a command: C0, DEL and C1 control characters,
 // and the characters that embed, override or isolate a direction of writing (U+202A to U+202E,
@@ -24,4 +24,4 @@ enum class Keep {
 // UTF-8 as "\x9b". Always valid UTF-8.
 std::string terminalSafe(std::string_view text, Keep keep);
 
-}  // namespace lumifact::tool
+}  // namespace foundation

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "apps/lumifact/terminal/terminal_text.h"
+#include "foundation/terminal_text.h"
 
 #include "model/utf8.h"
 
-namespace lumifact::tool {
+namespace foundation {
 
 namespace {
 
@@ -53,4 +53,4 @@ std::string terminalSafe(std::string_view text, Keep keep) {
   return safe;
 }
 
-}  // namespace lumifact::tool
+}  // namespace foundation
