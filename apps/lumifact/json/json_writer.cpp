@@ -21,8 +21,13 @@ constexpr auto plainBytes = [] {
   return plain;
 }();
 
-void appendEscape(std::string& text, char32_t codePoint) {
+void appendUnit(std::string& text, char32_t unit) {
   constexpr std::string_view hexDigits = "0123456789abcdef";
+  text += "\\u";
+  for (int shift = 12; shift >= 0; shift -= 4) text += hexDigits[(unit >> shift) & 15];
+}
+
+void appendEscape(std::string& text, char32_t codePoint) {
   switch (codePoint) {
     case U'"':
       text += "\\\"";
@@ -37,8 +42,9 @@ void appendEscape(std::string& text, char32_t codePoint) {
       text += "\\t";
       return;
     default:
-      text += "\\u";
-      for (int shift = 12; shift >= 0; shift -= 4) text += hexDigits[(codePoint >> shift) & 15];
+      // Beyond U+FFFF there are two of UTF-16.
+      if (codePoint > 0xFFFF) appendUnit(text, 0xD7C0 + (codePoint >> 10));
+      appendUnit(text, codePoint > 0xFFFF ? 0xDC00 | (codePoint & 0x3FF) : codePoint);
   }
 }
 
