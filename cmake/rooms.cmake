@@ -1,13 +1,15 @@
 # The few helpers that every room's CMakeLists.txt is written with.
 
 # What our own code is compiled with; never exported, so nobody else inherits our warnings.
-add_library(room_flags INTERFACE)
-target_compile_features(room_flags INTERFACE cxx_std_20)
-target_compile_options(room_flags INTERFACE
+add_library(room_warnings INTERFACE)
+target_compile_features(room_warnings INTERFACE cxx_std_20)
+target_compile_options(room_warnings INTERFACE
     -Wall -Wextra -Wconversion -Wshadow -Werror -fvisibility=hidden
     # Where it optimises, GCC 12 sees overlaps in string concatenation and uninitialised variants
     # where there are none (GCC bugs 105329 and 105562); the other builds keep both warnings.
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict;-Wno-maybe-uninitialized>)
+add_library(room_flags INTERFACE)
+target_link_libraries(room_flags INTERFACE room_warnings room_hardening)
 
 # room_rule(NAME [SOURCES a.cpp ...] [FOLDERS folder ...] [MAY_INCLUDE path ...])
 # What the files of the current folder may include: each other, and the folders and single headers
@@ -73,11 +75,13 @@ set(ROOM_MODULE_DIR ${CMAKE_INSTALL_LIBDIR}/desktop-modules)
 
 # room_module(NAME SOURCES a.cpp ... [DEPENDS lib ...])
 # NAME.so, which programs map when they first need it, and with it the libraries that it links (see
-# io/on_demand_module.h). It shows no symbol but its own.
+# io/on_demand_module.h). It shows no symbol but its own, and states the version of the project.
 function(room_module name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;DEPENDS" ${ARGN})
-  add_library(${name} MODULE ${ROOM_SOURCES})
-  room_join_sources(${name} "" ${ROOM_SOURCES})
+  set(version ${CMAKE_CURRENT_BINARY_DIR}/${name}_version.cpp)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/module_version.cpp.in ${version} @ONLY)
+  add_library(${name} MODULE ${ROOM_SOURCES} ${version})
+  room_join_sources(${name} ${version} ${ROOM_SOURCES})
   set_target_properties(${name} PROPERTIES
     PREFIX "" SUFFIX ".so" LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ROOM_MODULE_DIR})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
@@ -112,7 +116,7 @@ endfunction()
 # compile twice as fast; some libraries want position-independent code of whoever uses them, and
 # precompiled headers serve one kind of code only.
 add_library(room_test_flags INTERFACE)
-target_link_libraries(room_test_flags INTERFACE room_flags)
+target_link_libraries(room_test_flags INTERFACE room_warnings)
 target_compile_options(room_test_flags INTERFACE -O0 -fPIC)
 
 # room_test_support(NAME SOURCES a.cpp ... [HEADERS name] [DEPENDS lib ...])

@@ -47,6 +47,11 @@ bool isRegion(std::string_view part) {
          (part.size() == 3 && std::ranges::all_of(part, isDigit));
 }
 
+bool isVariant(std::string_view part) {
+  return part.size() >= 4 && part.size() <= 8 &&
+         std::ranges::all_of(part, [](char c) { return isLetter(c) || isDigit(c); });
+}
+
 // Takes the front of the text up to the next "_" or "-".
 std::string_view takePart(std::string_view& text) {
   const std::size_t end = std::min(text.find_first_of("_-"), text.size());
@@ -55,10 +60,14 @@ std::string_view takePart(std::string_view& text) {
   return part;
 }
 
+std::string_view withoutEncoding(std::string_view name) {
+  return name.substr(0, name.find_first_of(".@"));
+}
+
 // "de_DE.UTF-8@euro" as "de_DE". A name of another make, "C" and "POSIX" among them, counts as
 // none, so that nothing odd from the environment reaches the locale data.
 std::string normalised(std::string_view name) {
-  name = name.substr(0, name.find_first_of(".@"));
+  name = withoutEncoding(name);
   std::string_view part = takePart(name);
   if (!isLanguage(part)) return std::string(fallback);
   std::string result = lowered(part);
@@ -74,6 +83,17 @@ std::string normalised(std::string_view name) {
 }  // namespace
 
 Locale::Locale(std::string_view name) : _name(normalised(name)) {}
+
+bool Locale::isName(std::string_view text) {
+  text = withoutEncoding(text);
+  if (text == "C" || text == "POSIX") return true;
+  if (text.ends_with('_') || text.ends_with('-') || !isLanguage(takePart(text))) return false;
+  std::string_view part = takePart(text);
+  if (isScript(part)) part = takePart(text);
+  if (isRegion(part)) part = takePart(text);
+  while (isVariant(part)) part = takePart(text);
+  return part.empty() && text.empty();
+}
 
 Locale Locale::ofUser(const char* category) {
   for (const char* variable : {"LC_ALL", category, "LANG"}) {

@@ -14,6 +14,10 @@ class Locale {
  public:
   explicit Locale(std::string_view name = {});
 
+  // Whether the text is a name: a language, then perhaps a script, a region and variants, as above;
+  // or "C" or "POSIX".
+  static bool isName(std::string_view text);
+
   // The user's, from LC_ALL, else `category` ("LC_TIME", "LC_COLLATE", ...), else LANG.
   static Locale ofUser(const char* category);
 

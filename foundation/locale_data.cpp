@@ -20,4 +20,10 @@ const LocaleData* localeData() {
   return data;
 }
 
+bool localeExists(std::string_view name) {
+  const Locale locale(name);
+  return Locale::isName(name) &&
+         (locale.isEnUS() || localeData() == nullptr || localeData()->knows(locale));
+}
+
 }  // namespace foundation

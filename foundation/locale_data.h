@@ -38,6 +38,9 @@ class LocaleData {
   virtual std::optional<std::string> byteCountText(const std::string& decimal, ByteUnit unit,
                                                    const Locale& locale) const = 0;
 
+  // Whether there is data for its language.
+  virtual bool knows(const Locale& locale) const = 0;
+
   // What clocks show, in the style and the customs of the locale. Blanks are plain where newer data
   // has narrow ones.
   virtual std::optional<std::string> dateText(const model::CivilTime& time, DateStyle style,
@@ -53,6 +56,10 @@ class LocaleData {
 
 // Maps ICU when it is first called. Null where it is not installed: then texts are en_US's.
 const LocaleData* localeData();
+
+// Whether a name is that of a locale whose customs are known. Where ICU is not installed, whether
+// it is made like one.
+bool localeExists(std::string_view name);
 
 // The module and its one function, under its C name. What it answers lives as long as the process.
 inline constexpr char localeDataModule[] = "foundation_locale_data.so";

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // Makes the seed corpus: make_corpus FOLDER SAMPLES writes every sample cut at each structural
-// boundary, with each count set to 0, 1 and the largest, and each offset pointing to itself.
-// Prints how many files it wrote; fails below the number given as a third argument.
+// boundary, with each count set to 0, 1 and the largest, and each offset pointing to itself; and
+// what the readers of texts are given. Prints how many files it wrote; fails below the number given
+// as a third argument.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "fuzz/structure.h"
+#include "fuzz/text_seeds.h"
 
 namespace {
 
@@ -56,6 +58,13 @@ class Corpus {
       write(Bytes(original.begin(), original.begin() + static_cast<std::ptrdiff_t>(length)));
     }
     for (const Field& field : structure.fields) addDamaged(original, field);
+  }
+
+  void addText(const std::string& text, const std::string& name) {
+    _name = name;
+    _seed = 0;
+    _stride = 1;
+    write(Bytes(text.begin(), text.end()));
   }
 
   std::size_t written() const { return _written; }
@@ -116,6 +125,7 @@ int main(int count, char** arguments) {
     const Bytes bytes = readSample(entry.path());
     if (!bytes.empty()) corpus.addFile(bytes, entry.path().filename().string());
   }
+  for (const auto& [name, text] : fuzz::textSeeds()) corpus.addText(text, name);
   std::printf("%zu seeds\n", corpus.written());
   return corpus.written() < std::strtoul(arguments[3], nullptr, 10) ? 1 : 0;
 }

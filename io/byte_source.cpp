@@ -9,7 +9,9 @@
 #include <cerrno>
 #include <cstring>
 #include <limits>
+#include <optional>
 #include <system_error>
+#include <utility>
 
 namespace io {
 
@@ -17,6 +19,13 @@ namespace {
 
 model::Error systemError(int code) {
   return {std::generic_category().message(code)};
+}
+
+// Why a file is not read; none for a regular one.
+std::optional<model::Error> refusal(const struct stat& status) {
+  if (S_ISREG(status.st_mode)) return std::nullopt;
+  if (S_ISDIR(status.st_mode)) return systemError(EISDIR);
+  return model::Error{"not a regular file"};
 }
 
 // Copies what lies between `offset` and `end` of the bytes.
@@ -38,28 +47,18 @@ model::Result<std::size_t> ByteSource::readAt(std::uint64_t offset, std::span<st
 }
 
 model::Result<std::unique_ptr<FileSource>> FileSource::open(const std::string& path) {
-  // Non-blocking, so that opening a FIFO does not wait for a writer.
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (descriptor < 0) return systemError(errno);
   struct stat status {};
-  if (::fstat(descriptor, &status) != 0) {
-    const int code = errno;
-    ::close(descriptor);
-    return systemError(code);
-  }
-  if (!S_ISREG(status.st_mode)) {
-    ::close(descriptor);
-    if (S_ISDIR(status.st_mode)) return systemError(EISDIR);
-    return model::Error{"not a regular file"};
-  }
+  // Opening a FIFO lets its writer go on, and a device may do anything.
+  if (::stat(path.c_str(), &status) != 0) return systemError(errno);
+  if (auto refused = refusal(status)) return *std::move(refused);
+  // The file may be another one by now: nothing is waited for, and its kind is looked at again.
+  Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  if (!file || ::fstat(file.number(), &status) != 0) return systemError(errno);
+  if (auto refused = refusal(status)) return *std::move(refused);
   const double modified = static_cast<double>(status.st_mtim.tv_sec) +
                           static_cast<double>(status.st_mtim.tv_nsec) / 1e9;
   return std::unique_ptr<FileSource>(
-      new FileSource(descriptor, static_cast<std::uint64_t>(status.st_size), modified));
-}
-
-FileSource::~FileSource() {
-  ::close(_descriptor);
+      new FileSource(std::move(file), static_cast<std::uint64_t>(status.st_size), modified));
 }
 
 model::Result<std::size_t> FileSource::doReadAt(std::uint64_t offset,
@@ -68,8 +67,8 @@ model::Result<std::size_t> FileSource::doReadAt(std::uint64_t offset,
   while (done < into.size()) {
     const std::uint64_t position = offset + done;
     if (position > static_cast<std::uint64_t>(std::numeric_limits<off_t>::max())) break;
-    const ssize_t count =
-        ::pread(_descriptor, into.data() + done, into.size() - done, static_cast<off_t>(position));
+    const ssize_t count = ::pread(_descriptor.number(), into.data() + done, into.size() - done,
+                                  static_cast<off_t>(position));
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return systemError(errno);
     if (count == 0) break;

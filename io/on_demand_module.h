@@ -5,12 +5,25 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "model/result.h"
 
 namespace io {
 
-// The function of a module, or null where the module, or a library that it needs, is not
-// installed. The module is looked for in the module folder of the tree that the program lies in
-// (the installed or the build tree), then where it was to be installed; it stays mapped.
+// The function of a module, or null where the module, or a library that it needs, is not installed
+// as it should be; takeModuleProblems() says why. The module is one of the program's own files (see
+// own_files.h); it stays mapped. Callable from several threads at once.
 void* functionOfModule(const std::string& moduleName, const char* functionName);
+
+// The same for the module in a file. Errors: a file that is no whole library, or no module; a
+// module of another version, of which nothing has run then; what the dynamic loader says.
+model::Result<void*> functionOfModuleAt(const std::string& path, const char* functionName);
+
+// The path of a program that lies beside the modules; empty where it is not installed.
+std::string fileBesideModules(const std::string& name);
+
+// What kept modules from being mapped since the last call: a line a module, with its name or path.
+std::vector<std::string> takeModuleProblems();
 
 }  // namespace io

@@ -13,6 +13,7 @@
 #include "apps/lumifact/command_line/time_zone.h"
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/terminal/console.h"
+#include "io/on_demand_module.h"
 
 namespace {
 
@@ -40,6 +41,7 @@ ExitStatus run(const std::vector<std::string>& arguments) {
   } else {
     if (line.options.timeZone) lumifact::tool::setTimeZone(*line.options.timeZone);
     line.command->run(line.options, console);
+    for (const std::string& problem : io::takeModuleProblems()) console.note(problem);
   }
   console.flush();
   return console.status();
@@ -48,8 +50,9 @@ ExitStatus run(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  // A reader that goes away is seen by the write that fails.
+  // A reader that goes away and a file that may not grow are seen by the write that fails.
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
   openStandardDescriptors();
   try {
     return static_cast<int>(run({arguments + 1, arguments + count}));

@@ -4,15 +4,14 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QUrl>
 
 #include "bridge/block.h"
 #include "bridge/uikit.h"
 #include "desktop/uikit/application/application.h"
+#include "io/file_replacement.h"
 
 namespace photohost {
 namespace {
@@ -70,13 +69,10 @@ QString freeName(const QDir& folder) {
 void saveText(const std::string& text) {
   const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   folder.mkpath(".");
-  QSaveFile file(freeName(folder));
-  const bool isSaved = file.open(QIODevice::WriteOnly) &&
-                       file.write(text.data(), static_cast<qint64>(text.size())) >= 0 &&
-                       file.commit();
-  const std::string name = file.fileName().toStdString();
-  if (isSaved) return tell("Saved", name);
-  tell("Not Saved", name + ": " + file.errorString().toStdString());
+  const std::string name = freeName(folder).toStdString();
+  const auto failure = io::replaceFile(name, text);
+  if (!failure) return tell("Saved", name);
+  tell("Not Saved", name + ": " + failure->reason);
 }
 
 }  // namespace

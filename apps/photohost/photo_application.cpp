@@ -5,10 +5,9 @@
 // anything shown. A window's main loop takes over, or a script on a clock of its own.
 #include "apps/photohost/photo_application.h"
 
-#include <iostream>
-
 #include "apps/photohost/host_commands.h"
 #include "apps/photohost/main_loop.h"
+#include "apps/photohost/messages.h"
 #include "apps/photohost/outside.h"
 #include "bridge/corefoundation.h"
 #include "bridge/foundation.h"
@@ -31,6 +30,7 @@
 #include "desktop/uikit/base/platform_log.h"
 #include "desktop/uikit/base/screen.h"
 #include "foundation/notification_core.h"
+#include "io/on_demand_module.h"
 
 namespace photohost {
 namespace {
@@ -50,10 +50,6 @@ foundation::DeviceRoot rootOf(const Options& options) {
 
 render::Display displayOf(const Options& options) {
   return options.isHeadless ? render::Display::none : render::Display::real;
-}
-
-void complain(const std::string& text) {
-  std::cerr << "photohost: " << text << "\n";
 }
 
 }  // namespace
@@ -115,10 +111,15 @@ void PhotoApplication::showWindow() {
   window->makeKeyAndVisible();
 }
 
+void PhotoApplication::tellModuleProblems() {
+  for (const std::string& problem : io::takeModuleProblems()) complain(problem);
+}
+
 void PhotoApplication::deliver() {
   if (_library) _library->deliverChanges();
   _pictures.deliverFinished();
   runtime::deliverDarwinNotifications();
+  tellModuleProblems();
 }
 
 void PhotoApplication::deliverAll() {
@@ -127,6 +128,7 @@ void PhotoApplication::deliverAll() {
   application().prepareFrame();
   _pictures.waitUntilIdle(longestWait);
   application().prepareFrame();
+  tellModuleProblems();
 }
 
 int PhotoApplication::run() {

@@ -30,6 +30,7 @@ class PhotoApplication {
   void openLibrary();
   void loadExtensions();
   void showWindow();
+  static void tellModuleProblems();
   // What waits outside the views: changes of the library, pictures, notifications.
   void deliver();
   // The same, and waits for what is under way: for scripts, which see nothing half done.

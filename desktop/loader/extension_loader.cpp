@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "io/library_file.h"
+
 namespace desktop::loader {
 namespace {
 
@@ -40,6 +42,10 @@ bool load(const fs::path& library, const LoadProblem& problem) {
   std::error_code error;
   if (!fs::is_regular_file(library, error)) {
     problem(library.string(), "no such library beside its filter");
+    return false;
+  }
+  if (const auto facts = io::readLibraryFacts(library.string()); !facts) {
+    problem(library.string(), facts.error().reason);
     return false;
   }
   if (dlopen(library.c_str(), RTLD_NOW | RTLD_LOCAL)) return true;

@@ -3,14 +3,14 @@
 
 #include <QString>
 
-#include "desktop/uikit/text/utf16.h"
+#include "desktop/uikit/text/visible_text.h"
 
 namespace desktop::render {
 
-// The text as Qt takes it, lone surrogates replaced; of the same length.
-inline QString validString(std::u16string_view text) {
-  const std::u16string valid = uikit::withoutLoneSurrogates(text);
-  return QString::fromUtf16(valid.data(), static_cast<qsizetype>(valid.size()));
+// The text as it is painted, as Qt takes it; of the same length.
+inline QString visibleString(std::u16string_view text) {
+  const std::u16string visible = uikit::visibleText(text);
+  return QString::fromUtf16(visible.data(), static_cast<qsizetype>(visible.size()));
 }
 
 }  // namespace desktop::render

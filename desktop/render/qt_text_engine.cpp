@@ -150,7 +150,7 @@ class QtTextEngine : public uikit::TextEngine {
     if (const double advance = fixedAdvance(face, line); advance > 0)
       return static_cast<std::size_t>(
           std::clamp(std::round(x / advance), 0.0, static_cast<double>(line.size())));
-    QTextLayout layout(validString(line.substr(0, longestPiece)), designFontOf(face));
+    QTextLayout layout(visibleString(line.substr(0, longestPiece)), designFontOf(face));
     layOutLine(layout);
     const double limited = std::clamp(x / face.size * designSize, -widestRoom, widestRoom);
     return static_cast<std::size_t>(std::max(layout.lineAt(0).xToCursor(limited), 0));
@@ -161,7 +161,7 @@ class QtTextEngine : public uikit::TextEngine {
     index = std::min(index, line.size());
     if (const double advance = fixedAdvance(face, line); advance > 0)
       return static_cast<double>(index) * advance;
-    QTextLayout layout(validString(line.substr(0, longestPiece)), designFontOf(face));
+    QTextLayout layout(visibleString(line.substr(0, longestPiece)), designFontOf(face));
     layOutLine(layout);
     return layout.lineAt(0).cursorToX(static_cast<int>(index)) * face.size / designSize;
   }
@@ -176,7 +176,7 @@ class QtTextEngine : public uikit::TextEngine {
   static void addLines(std::vector<TextLine>& lines, const FontFace& face, std::size_t start,
                        std::u16string_view text, const ParagraphRoom& room) {
     const double scale = face.size / designSize;
-    QTextLayout layout(validString(text), designFontOf(face));
+    QTextLayout layout(visibleString(text), designFontOf(face));
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/render/screen_picture.h"
 
+#include <QBuffer>
 #include <QImageWriter>
 #include <algorithm>
 #include <cmath>
@@ -11,6 +12,7 @@
 #include "desktop/uikit/application/window_painter.h"
 #include "desktop/uikit/base/screen.h"
 #include "desktop/uikit/views/view_painter.h"
+#include "io/file_replacement.h"
 
 namespace desktop::render {
 namespace {
@@ -67,9 +69,11 @@ std::optional<model::Error> writeScreenshot(const std::string& path, double scal
   QImage image = blankScreen(scale);
   ShadowCache shadows;
   paintScreen(image, scale, uikit::rectOfSize(uikit::screen().size), shadows);
-  QImageWriter writer(QString::fromStdString(path), "png");
-  if (writer.write(image.convertToFormat(QImage::Format_RGB32))) return std::nullopt;
-  return model::Error{writer.errorString().toStdString()};
+  QBuffer bytes;
+  QImageWriter writer(&bytes, "png");
+  if (!writer.write(image.convertToFormat(QImage::Format_RGB32)))
+    return model::Error{writer.errorString().toStdString()};
+  return io::replaceFile(path, bytes.data().toStdString());
 }
 
 }  // namespace desktop::render

@@ -64,7 +64,7 @@ QGlyphRun scaled(QGlyphRun run, double size, double baseline) {
 ShapedLine shaped(const uikit::FontFace& face, std::u16string_view line) {
   ShapedLine made;
   if (!(std::isfinite(face.size) && face.size > 0) || line.empty()) return made;
-  QTextLayout layout(validString(line), designFontOf(face));
+  QTextLayout layout(visibleString(line), designFontOf(face));
   QTextOption option;
   option.setWrapMode(QTextOption::NoWrap);
   option.setFlags(QTextOption::IncludeTrailingSpaces);

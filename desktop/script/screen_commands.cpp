@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
 // What is on the screen: written down, pictured, expected.
-#include <fstream>
 #include <iostream>
 
 #include "desktop/render/screen_picture.h"
@@ -10,6 +9,7 @@
 #include "desktop/script/tree_dump.h"
 #include "desktop/uikit/application/application.h"
 #include "desktop/uikit/base/screen.h"
+#include "io/file_replacement.h"
 
 namespace desktop::script {
 namespace {
@@ -17,25 +17,27 @@ namespace {
 using Arguments = ScriptRunner::Arguments;
 using Outcome = ScriptRunner::Outcome;
 
+// What failed, with the file that it is about.
+Outcome named(const std::string& file, const Outcome& failed) {
+  if (!failed) return std::nullopt;
+  return model::Error{file + ": " + failed->reason};
+}
+
 Outcome dump(Arguments words) {
   if (words.size() > 1) return model::Error{"dump takes one file at most"};
   uikit::application().prepareFrame();
   const std::string text = dumpScreen() + "\n";
   if (words.empty()) {
-    std::cout << text << std::flush;
-    return std::nullopt;
+    if (std::cout << text << std::flush) return std::nullopt;
+    return model::Error{"standard output: cannot be written"};
   }
-  std::ofstream file(words[0].text, std::ios::binary);
-  if (file << text << std::flush) return std::nullopt;
-  return model::Error{words[0].text + ": cannot be written"};
+  return named(words[0].text, io::replaceFile(words[0].text, text));
 }
 
 Outcome screenshot(Arguments words) {
   if (words.size() != 1) return model::Error{"screenshot takes a file"};
   uikit::application().prepareFrame();
-  if (const auto failed = render::writeScreenshot(words[0].text, uikit::screen().scale))
-    return model::Error{words[0].text + ": " + failed->reason};
-  return std::nullopt;
+  return named(words[0].text, render::writeScreenshot(words[0].text, uikit::screen().scale));
 }
 
 Outcome expect(Arguments words) {

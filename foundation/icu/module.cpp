@@ -4,6 +4,7 @@
 // stays here.
 #include <exception>
 
+#include "foundation/icu/icu_locale.h"
 #include "foundation/icu/locale_collator.h"
 #include "foundation/icu/localised_byte_count.h"
 #include "foundation/icu/localised_date_text.h"
@@ -28,6 +29,9 @@ class IcuLocaleData : public LocaleData {
   std::optional<std::string> byteCountText(const std::string& decimal, ByteUnit unit,
                                            const Locale& locale) const override {
     return guarded([&] { return localisedByteCount(decimal, unit, locale); });
+  }
+  bool knows(const Locale& locale) const override {
+    return guarded([&] { return icuLocaleOf(locale).has_value(); });
   }
   std::optional<std::string> dateText(const model::CivilTime& time, DateStyle style,
                                       const Locale& locale) const override {

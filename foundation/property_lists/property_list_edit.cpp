@@ -18,19 +18,8 @@
 namespace foundation {
 namespace {
 
-constexpr int mostLinks = 40;  // as the system follows them
-
 model::Error lastError() {
   return {std::generic_category().message(errno)};
-}
-
-// Where the links of the path lead, whether or not a file is there.
-std::filesystem::path followingLinks(std::filesystem::path path) {
-  std::error_code error;
-  for (int links = 0; links < mostLinks && std::filesystem::is_symlink(path, error); ++links) {
-    path = path.parent_path() / std::filesystem::read_symlink(path, error);
-  }
-  return path;
 }
 
 std::filesystem::path folderOf(const std::filesystem::path& path) {
@@ -81,7 +70,7 @@ std::optional<model::Error> editInFolder(const std::filesystem::path& path,
 
 std::optional<model::Error> editPropertyListFile(
     const std::string& path, const std::function<void(model::Dictionary&)>& edit, AfterEdit after) {
-  const std::filesystem::path target = followingLinks(path);
+  const std::filesystem::path target = io::targetOfLinks(path);
   const std::filesystem::path folder = folderOf(target);
   std::error_code error;
   std::filesystem::create_directories(folder, error);

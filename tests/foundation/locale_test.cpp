@@ -38,6 +38,17 @@ TEST(LocaleTest, namesAreReducedToLanguageScriptAndRegion) {
   for (const auto& row : cases) EXPECT_EQ(Locale(row.name).name(), row.expected) << row.name;
 }
 
+TEST(LocaleTest, aNameIsALanguageAndWhatNarrowsIt) {
+  for (const char* name :
+       {"de", "de_DE", "de-ch", "zh_Hant_TW", "es_419", "fil_PH", "sr@latin", "de_DE.UTF-8@euro",
+        "en_US_POSIX", "ca_ES_valencia", "de_DE_1996", "sl_rozaj_biske", "C", "POSIX", "C.UTF-8"})
+    EXPECT_TRUE(Locale::isName(name)) << name;
+  for (const char* name :
+       {"", "d", "klingon", "_DE", "de_", "de-", "de__DE", "de_DE_", "d3", "de_D", "de_DEU_DE",
+        "../../etc/passwd", "de/../../x", "de DE", ".UTF-8", "@euro", "d\u00e9", "de_DE_a\nb"})
+    EXPECT_FALSE(Locale::isName(name)) << name;
+}
+
 TEST(LocaleTest, onlyAmericanEnglishNeedsNoData) {
   EXPECT_TRUE(Locale().isEnUS());
   EXPECT_TRUE(Locale("en_US.UTF-8").isEnUS());

@@ -14,6 +14,8 @@
 #include <fstream>
 #include <limits>
 
+#include "tests/support/opened_names.h"
+
 namespace io {
 namespace {
 
@@ -158,6 +160,18 @@ TEST_F(FileSourceTest, RefusesFifosWithoutWaitingForAWriter) {
   const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(reasonOf(path("fifo")), "not a regular file");
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+}
+
+TEST_F(FileSourceTest, TellsFifosBeforeItOpensThem) {
+  ASSERT_EQ(mkfifo(path("fifo").c_str(), 0600), 0);
+  fs::create_symlink("fifo", path("link"));
+  write("file", {});
+  support::OpenedNames opened(path("."));
+  EXPECT_EQ(reasonOf(path("fifo")), "not a regular file");
+  EXPECT_EQ(reasonOf(path("link")), "not a regular file");
+  EXPECT_EQ(reasonOf(path("file")), "opened");
+  EXPECT_EQ(opened.count("fifo"), 0);
+  EXPECT_EQ(opened.count("file"), 1);
 }
 
 TEST_F(FileSourceTest, RefusesDevicesAndSockets) {

@@ -4,6 +4,7 @@
 #include "apps/lumifact/command_line/number_text.h"
 #include "apps/lumifact/command_line/option_store.h"
 #include "apps/lumifact/command_line/time_zone.h"
+#include "foundation/locale_data.h"
 
 namespace lumifact::tool {
 
@@ -21,6 +22,12 @@ std::optional<model::Error> readTimeZone(const Given& given, std::string& into) 
   into = given.values[0];
   if (timeZoneExists(into)) return std::nullopt;
   return model::Error{"unknown time zone \"" + into + "\""};
+}
+
+std::optional<model::Error> readLocale(const Given& given, std::string& into) {
+  into = given.values[0];
+  if (foundation::localeExists(into)) return std::nullopt;
+  return model::Error{"unknown locale \"" + into + "\""};
 }
 
 }  // namespace
@@ -97,7 +104,7 @@ constinit const Option locale{.section = Section::general,
                               .help =
                                   "language and region of texts, such as de_DE\n"
                                   "(default: LC_ALL, LC_TIME and the like, LANG; then en_US)",
-                              .store = value<&Options::locale>};
+                              .store = value<&Options::locale, readLocale>};
 
 constinit const Option timeZone{.section = Section::general,
                                 .name = "time-zone",

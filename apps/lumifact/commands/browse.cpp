@@ -9,44 +9,25 @@
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/terminal/console.h"
 #include "apps/lumifact/texts/environment.h"
+#include "io/own_files.h"
 
 namespace lumifact::tool {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr const Option* takenOptions[] = {&option::locale, &option::timeZone, &option::root};
 
-// How many folders above the tool's the root of its tree is looked for: an installed tool lies in
-// "bin", one of the build tree deeper.
-constexpr int longestWayUp = 4;
-
-// The first of the places where there is a file, below a folder at or above the tool's own; empty
-// where there is none.
-std::string findAbove(std::initializer_list<const char*> places) {
-  std::error_code error;
-  fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-  for (int step = 0; step <= longestWayUp && !folder.empty(); ++step) {
-    for (const char* place : places)
-      if (fs::is_regular_file(folder / place, error)) return folder / place;
-    if (!folder.has_relative_path()) break;
-    folder = folder.parent_path();
-  }
-  return {};
-}
-
 std::string photoApplication() {
-  return findAbove({"photohost", "bin/photohost", "apps/photohost/photohost"});
+  return io::ownFile("apps/photohost/photohost", LUMIFACT_PROGRAM_DIR "/photohost");
 }
 
-std::string extensionFolder() {
-  return findAbove({"extensions/lumifact.so", LUMIFACT_EXTENSION_DIR "/lumifact.so"});
+std::string extension() {
+  return io::ownFile("extensions/lumifact.so", LUMIFACT_EXTENSION_DIR "/lumifact.so");
 }
 
 std::vector<std::string> argumentsOf(const Options& options, const std::string& application) {
   std::vector<std::string> arguments = {application, "--extensions",
-                                        fs::path(extensionFolder()).parent_path(), "--root",
+                                        std::filesystem::path(extension()).parent_path(), "--root",
                                         rootOf(options).folder()};
   if (!options.words.empty())
     arguments.insert(arguments.end(), {"--library", options.words.front()});
@@ -62,7 +43,7 @@ std::optional<model::Error> check(const Options& options) {
 void run(const Options& options, Console& console) {
   const std::string application = photoApplication();
   if (application.empty()) return console.fail("photohost", "the photo application is missing");
-  if (extensionFolder().empty()) return console.fail("lumifact.so", "the extension is missing");
+  if (extension().empty()) return console.fail("lumifact.so", "the extension is missing");
   // The application takes its customs from its variables.
   if (options.locale) ::setenv("LC_ALL", options.locale->c_str(), 1);
   std::vector<std::string> arguments = argumentsOf(options, application);

@@ -8,6 +8,7 @@
 #include "apps/lumifact/files/chosen_files.h"
 #include "apps/lumifact/terminal/console.h"
 #include "apps/lumifact/texts/asset_texts.h"
+#include "foundation/terminal_text.h"
 
 namespace lumifact::tool {
 
@@ -35,7 +36,7 @@ bool namesPlace(const Options& options) {
 
 void printLink(const std::string& link, Console& console) {
   const bool isForTerminal = console.resultsAreOnTerminal();
-  console.write((isForTerminal ? terminalSafe(link, Keep::nothing) : link) + "\n");
+  console.write((isForTerminal ? terminalSafe(link, foundation::Keep::nothing) : link) + "\n");
 }
 
 model::Result<std::string> linkOfFile(const std::string& path, const Environment& environment) {

@@ -4,6 +4,7 @@
 #include "apps/lumifact/files/chosen_files.h"
 #include "apps/lumifact/files/file_scan.h"
 #include "apps/lumifact/texts/asset_texts.h"
+#include "foundation/terminal_text.h"
 
 namespace lumifact::tool {
 
@@ -23,7 +24,7 @@ void run(const Options& options, Console& console) {
     const auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     std::string text = asLines(quickInfoOf(*facts, form, environment));
-    return console.resultsAreOnTerminal() ? terminalSafe(text, Keep::lineBreaks) : text;
+    return console.resultsAreOnTerminal() ? terminalSafe(text, foundation::Keep::lineBreaks) : text;
   };
   scanFiles(options, console, {.work = work, .separator = "\n"});
 }

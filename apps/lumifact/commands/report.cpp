@@ -7,6 +7,7 @@
 #include "apps/lumifact/files/file_scan.h"
 #include "apps/lumifact/json/json_object.h"
 #include "apps/lumifact/texts/asset_texts.h"
+#include "foundation/terminal_text.h"
 
 namespace lumifact::tool {
 
@@ -39,10 +40,10 @@ std::string jsonLine(const std::string& path, const AssetReport& report) {
 // As the text presenter shows it: the header followed directly by the report.
 std::string message(media::facts::AssetFacts facts, const Environment& environment,
                     bool isForTerminal) {
-  if (isForTerminal) facts.path = terminalSafe(facts.path, Keep::nothing);
+  if (isForTerminal) facts.path = terminalSafe(facts.path, foundation::Keep::nothing);
   const AssetReport report = reportOf(std::move(facts), environment);
   std::string text = asLines(report.header + report.text);
-  return isForTerminal ? terminalSafe(text, Keep::lineBreaks) : text;
+  return isForTerminal ? terminalSafe(text, foundation::Keep::lineBreaks) : text;
 }
 
 void run(const Options& options, Console& console) {

@@ -6,6 +6,7 @@
 #include "apps/lumifact/files/file_scan.h"
 #include "apps/lumifact/texts/asset_texts.h"
 #include "apps/lumifact/texts/table_text.h"
+#include "foundation/terminal_text.h"
 
 namespace lumifact::tool {
 
@@ -20,11 +21,11 @@ void run(const Options& options, Console& console) {
     auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     if (!facts->properties) return model::Error{"a video has no table (report shows its text)"};
-    if (isForTerminal) facts->path = terminalSafe(facts->path, Keep::nothing);
+    if (isForTerminal) facts->path = terminalSafe(facts->path, foundation::Keep::nothing);
     const model::Dictionary record = summaryRecordOf(*facts, environment);
     const AssetReport report = reportOf(*std::move(facts), environment);
     std::string text = tableText(record, *report.table, environment.keyOrder, environment.dates);
-    return isForTerminal ? terminalSafe(text, Keep::lineBreaks) : text;
+    return isForTerminal ? terminalSafe(text, foundation::Keep::lineBreaks) : text;
   };
   scanFiles(options, console, {.work = work});
 }

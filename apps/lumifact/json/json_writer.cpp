@@ -5,8 +5,8 @@
 #include "apps/lumifact/json/json.h"
 #include "apps/lumifact/json/json_marks.h"
 #include "apps/lumifact/json/json_object.h"
-#include "apps/lumifact/terminal/terminal_text.h"
 #include "foundation/property_lists/base64.h"
+#include "foundation/terminal_text.h"
 #include "model/number_text.h"
 #include "model/utf8.h"
 
@@ -21,8 +21,13 @@ constexpr auto plainBytes = [] {
   return plain;
 }();
 
-void appendEscape(std::string& text, char32_t codePoint) {
+void appendUnit(std::string& text, char32_t unit) {
   constexpr std::string_view hexDigits = "0123456789abcdef";
+  text += "\\u";
+  for (int shift = 12; shift >= 0; shift -= 4) text += hexDigits[(unit >> shift) & 15];
+}
+
+void appendEscape(std::string& text, char32_t codePoint) {
   switch (codePoint) {
     case U'"':
       text += "\\\"";
@@ -37,8 +42,9 @@ void appendEscape(std::string& text, char32_t codePoint) {
       text += "\\t";
       return;
     default:
-      text += "\\u";
-      for (int shift = 12; shift >= 0; shift -= 4) text += hexDigits[(codePoint >> shift) & 15];
+      // Beyond U+FFFF there are two of UTF-16.
+      if (codePoint > 0xFFFF) appendUnit(text, 0xD7C0 + (codePoint >> 10));
+      appendUnit(text, codePoint > 0xFFFF ? 0xDC00 | (codePoint & 0x3FF) : codePoint);
   }
 }
 
@@ -47,7 +53,7 @@ std::size_t appendSpecial(std::string& text, std::string_view characters, std::s
   const model::CodePoint character = model::codePointAt(characters, offset);
   if (!character.valid) {
     model::appendUtf8(text, U'\uFFFD');
-  } else if (character.value < 0x80 || controlsTerminal(character.value)) {
+  } else if (character.value < 0x80 || foundation::controlsTerminal(character.value)) {
     appendEscape(text, character.value);
   } else {
     text += characters.substr(offset, character.bytes);

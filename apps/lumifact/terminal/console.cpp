@@ -9,6 +9,8 @@
 #include <cstring>
 #include <system_error>
 
+#include "foundation/terminal_text.h"
+
 namespace lumifact::tool {
 
 namespace {
@@ -84,7 +86,7 @@ void Console::failUsage(std::string_view reason) {
 void Console::report(std::string_view reason) {
   flush();  // so that results and messages stand in their order where both are seen
   showStatus({});
-  writeMessage("lumifact: " + terminalSafe(reason, Keep::nothing) + "\n");
+  writeMessage("lumifact: " + terminalSafe(reason, foundation::Keep::nothing) + "\n");
 }
 
 void Console::fail(std::string_view file, std::string_view reason) {

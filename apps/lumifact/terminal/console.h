@@ -7,8 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "apps/lumifact/terminal/terminal_text.h"
-
 namespace lumifact::tool {
 
 // How a run ends; the numbers are the process's exit status.
@@ -39,6 +37,8 @@ class Console {
   // Reports a failure: "lumifact: reason", or "lumifact: FILE: reason", always safe.
   void fail(std::string_view reason);
   void fail(std::string_view file, std::string_view reason);
+  // Tells what is no failure, in the same way.
+  void note(std::string_view text) { report(text); }
   // Counts as a failure what the results themselves tell.
   void noteFailure() { _status = std::max(_status, ExitStatus::failed); }
   // Reports that the command line asks for something that does not exist.

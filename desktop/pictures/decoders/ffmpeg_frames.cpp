@@ -9,7 +9,8 @@ model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource&
                                         const Request& request) {
   static const auto decode = reinterpret_cast<DecodeFrameWithFfmpeg>(
       io::functionOfModule(ffmpegFramesModule, ffmpegFramesFunction));
-  if (decode == nullptr) return model::Error{"no reader for videos is installed"};
+  if (decode == nullptr)
+    return model::Error{std::string("no reader for videos is installed: ") + ffmpegFramesModule};
   Picture picture;
   if (decode(name.c_str(), &source, &request, &picture) != 0)
     return model::Error{"no frame of the video can be decoded"};

@@ -41,7 +41,8 @@ std::optional<model::Value> timeValue(const TiffField& field) {
   std::string text;
   for (std::size_t index = 0; index < 3; ++index) {
     const auto part = field.real(index);
-    if (!part || *part < 0 || *part >= 100) return std::nullopt;
+    // Written so that NaN is refused too.
+    if (!part || !(*part >= 0 && *part < 100)) return std::nullopt;
     if (index > 0) text += ':';
     text += model::paddedIntegerText(static_cast<std::int64_t>(*part), 2);
   }

@@ -72,7 +72,9 @@ void flash(const XmpValue& value, const XmpRow& row, model::Dictionary& properti
     return text == "True" || text == "true" || text == "1" ? 1 : 0;
   };
   const auto twoBits = [&](std::string_view name) {
-    return static_cast<int>(xmpReal(field(name)).value_or(0)) & 3;
+    const XmpValue* found = value.field({XmpNamespace::exif, name});
+    const auto number = found ? xmpInteger(*found) : std::nullopt;
+    return number ? static_cast<int>(*number->asInteger() & 3) : 0;
   };
   if (value.fields.empty()) return as<xmpInteger>(value, row, properties);
   const int bits = bit("Fired") | twoBits("Return") << 1 | twoBits("Mode") << 3 |

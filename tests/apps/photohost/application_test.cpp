@@ -86,6 +86,44 @@ TEST(Application, TakesItsScreenshotAtTheScale) {
   EXPECT_EQ(head.substr(16, 8), std::string("\0\0\x01\x77\0\0\x02\x9B", 8)) << "375 x 667";
 }
 
+TEST(Application, AFullDiskFailsAScriptAndLeavesWhatWasThere) {
+  Host host;
+  host.run("screenshot screen.png\ndump screen.json\n");
+  for (const char* name : {"screen.png", "screen.json"}) {
+    const std::string before = support::contentsOf(host.file(name));
+    const std::string command = std::string(name).ends_with("png") ? "screenshot " : "dump ";
+    const HostResult result = Host().fileLimit(1).tryToRun(command + host.file(name) + "\n");
+    EXPECT_EQ(result.status, 1) << name;
+    EXPECT_THAT(result.messages, HasSubstr(std::string(name) + ": File too large\n"));
+    EXPECT_EQ(support::contentsOf(host.file(name)), before);
+  }
+  for (const auto& entry : fs::directory_iterator(fs::path(host.file("screen.png")).parent_path()))
+    EXPECT_FALSE(entry.path().filename().string().starts_with(".screen")) << entry.path();
+}
+
+// What names, paths, options and scripts may do to the terminal that shows them.
+TEST(Application, ItsMessagesCommandNoTerminal) {
+  const std::string hostile = "x\x1b[2J\x07\u202e\u2028\u200e\xff";
+  const std::string safe = "x\\u001b[2J\\u0007\\u202e\\u2028\\u200e\\xff";
+  Host host;
+  const std::string extensions = host.file("extensions");
+  fs::create_directory(extensions);
+  std::ofstream(extensions + "/" + hostile + ".plist") << "no list";
+  host.library("/nowhere/" + hostile).withoutExtensions();
+  const HostResult result =
+      host.tryToRun("open album \"" + hostile + "\"\n", "--extensions '" + extensions + "'");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.messages, HasSubstr("photohost: /nowhere/" + safe + ": No such file"));
+  EXPECT_THAT(result.messages, HasSubstr("/extensions/" + safe + ".plist: "));
+  EXPECT_THAT(result.messages, HasSubstr("script:1: "));
+  const HostResult usage = host.tryToRun("", "'--" + hostile + "'");
+  EXPECT_EQ(usage.status, 2);
+  EXPECT_THAT(usage.messages, HasSubstr(safe));
+  for (const std::string& messages : {result.messages, usage.messages})
+    for (const char* raw : {"\x1b", "\x07", "\u202e", "\u2028", "\u200e", "\xff"})
+      EXPECT_EQ(messages.find(raw), std::string::npos) << messages;
+}
+
 TEST(Application, AScriptEndsAtItsFirstError) {
   Host host;
   const HostResult result = host.tryToRun("expect \"no such text\"\nscreenshot late.png\n");

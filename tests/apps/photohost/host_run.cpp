@@ -48,10 +48,15 @@ Host& Host::size(int width, int height) {
   return *this;
 }
 
+Host& Host::fileLimit(int blocks) {
+  _limits = "ulimit -f " + std::to_string(blocks) + " && ";
+  return *this;
+}
+
 HostResult Host::tryToRun(const std::string& script, const std::string& options) {
   _folder.write("script", script);
-  std::string command = plainEnvironment(_folder.path()) + inQuotes(PHOTOHOST_PATH) + " --root " +
-                        inQuotes(root()) + " --library " + inQuotes(_library);
+  std::string command = _limits + plainEnvironment(_folder.path()) + inQuotes(PHOTOHOST_PATH) +
+                        " --root " + inQuotes(root()) + " --library " + inQuotes(_library);
   if (_hasExtensions) command += " --extensions " + inQuotes(EXTENSIONS_FOLDER);
   if (!_size.empty()) command += " --size " + _size;
   command += " --headless --script script " + options + " >output 2>messages";

@@ -29,6 +29,8 @@ class Host {
   Host& withoutExtensions();
   Host& library(std::string folder);
   Host& size(int width, int height);
+  // Files may not grow beyond so many blocks, as on a full disk.
+  Host& fileLimit(int blocks);
 
   // Runs the lines of a script and expects them all to succeed.
   HostResult run(const std::string& script);
@@ -45,6 +47,7 @@ class Host {
   std::string _library;
   bool _hasExtensions = true;
   std::string _size;
+  std::string _limits;
 };
 
 // The program's own sample library.

@@ -11,6 +11,8 @@
 
 #include "desktop/loader/extension_filter.h"
 #include "foundation/property_lists/property_list.h"
+#include "tests/support/library_cuts.h"
+#include "tests/support/temporary_folder.h"
 
 namespace desktop::loader {
 namespace {
@@ -103,6 +105,21 @@ TEST_F(ExtensionLoaderTest, NamesWhatIsBrokenAndGoesOn) {
                                     HasSubstr("e.plist: "), HasSubstr("f.plist: "),
                                     "g.so: no such library beside its filter"));
   EXPECT_THAT(problems[3], testing::Not(HasSubstr(folder.string())));
+}
+
+// Mapping what is cut off would end the process with a signal.
+TEST_F(ExtensionLoaderTest, AnExtensionThatIsCutOffIsToldBeforeItIsMapped) {
+  const std::string whole = support::contentsOf(SAMPLE_EXTENSION);
+  for (const std::size_t size : support::cutsOfLibrary(whole)) {
+    write("cut.so", whole.substr(0, size));
+    writeFilter("cut", filterFor("com.example.host"));
+    problems.clear();
+    EXPECT_THAT(load(), IsEmpty()) << size;
+    EXPECT_THAT(problems, ElementsAre(testing::AnyOf("cut.so: no shared library",
+                                                     "cut.so: a shared library that is cut off")))
+        << size;
+  }
+  EXPECT_EQ(std::getenv("SAMPLE_EXTENSION_RUNS"), nullptr);
 }
 
 TEST_F(ExtensionLoaderTest, AFolderThatIsMissingHoldsNothing) {

@@ -210,6 +210,12 @@ TEST_F(QtTextEngineTest, RightToLeftTextBeginsAtItsRight) {
   EXPECT_NEAR(engine->positionOf(system13, text, 4), 0, 0.01);
 }
 
+TEST_F(QtTextEngineTest, AnOverrideIsSeenAndTurnsNothingAround) {
+  EXPECT_GT(engine->width(system13, u"\u202E"), 0);
+  EXPECT_LT(engine->positionOf(system13, u"\u202Egpj", 1),
+            engine->positionOf(system13, u"\u202Egpj", 2));
+}
+
 TEST_F(QtTextEngineTest, OnlyPlainTextOfOneAdvanceIsQuick) {
   EXPECT_TRUE(engine->breaksQuickly(courier, u"Exposure Time = 1/120"));
   EXPECT_TRUE(engine->breaksQuickly(system13, u""));

@@ -69,6 +69,21 @@ TEST_F(CommandsTest, AScreenshotHasTheScalesPixels) {
   EXPECT_TRUE(runner.runLine("screenshot /does/not/exist.png"));
 }
 
+TEST_F(CommandsTest, WhatCannotBeWrittenIsToldAndLeavesNothing) {
+  for (const std::string command : {"dump", "screenshot"}) {
+    EXPECT_EQ(runner.runLine(command + " /does/not/exist")->reason,
+              "/does/not/exist: No such file or directory");
+    EXPECT_EQ(runner.runLine(command + " /dev/null")->reason, "/dev/null: not a regular file");
+    EXPECT_EQ(runner.runLine(command + " " + folder.path())->reason,
+              folder.path() + ": Is a directory");
+    expectDone(command + " " + folder.file(command));
+  }
+  int files = 0;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.path()))
+    ++files;
+  EXPECT_EQ(files, 2);
+}
+
 TEST_F(CommandsTest, ExpectingLooksAtTheScreen) {
   const auto label = bridge::makeView<UILabel>({{0, 0}, {100, 20}});
   label->setText(NSString::make("hello"));

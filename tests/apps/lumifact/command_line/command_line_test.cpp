@@ -66,7 +66,7 @@ TEST(CommandLine, StoresEveryOption) {
       readCommandLine({"report",     "a",          "--json",   "-r",         "--files-from",
                        "F",          "-0",         "--jobs",   "256",        "--settings",
                        "S",          "--map-type", "1",        "--map-zoom", "+2.5",
-                       "--map-view", "3",          "--locale", "L",          "--time-zone",
+                       "--map-view", "3",          "--locale", "de-CH",      "--time-zone",
                        "UTC",        "--root",     "R"})
           .options;
   EXPECT_TRUE(report.json);
@@ -78,7 +78,7 @@ TEST(CommandLine, StoresEveryOption) {
   EXPECT_EQ(report.mapType, 1);
   EXPECT_EQ(report.mapZoomLevel, 2.5);
   EXPECT_EQ(report.mapViewType, 3);
-  EXPECT_EQ(report.locale, "L");
+  EXPECT_EQ(report.locale, "de-CH");
   EXPECT_EQ(report.timeZone, "UTC");
   EXPECT_EQ(report.root, "R");
   EXPECT_TRUE(readCommandLine({"quick-info", "--compact"}).options.compact);
@@ -124,6 +124,10 @@ TEST(CommandLine, TellsWhatMakesNoSense) {
       {{"report", "x", "--json=yes"}, "report: --json takes no value"},
       {{"report", "x", "--null"}, "report: --null goes with --files-from"},
       {{"report", "x", "--time-zone", "Mars/Base"}, "report: unknown time zone \"Mars/Base\""},
+      {{"report", "x", "--locale", ""}, "report: unknown locale \"\""},
+      {{"report", "x", "--locale", "klingon"}, "report: unknown locale \"klingon\""},
+      {{"report", "x", "--locale", "tlh"}, "report: unknown locale \"tlh\""},
+      {{"report", "x", "--locale=../de"}, "report: unknown locale \"../de\""},
       {{"table", "a", "b"}, "table: takes one FILE"},
       {{"table", "-r", "a"}, "table: does not take -r"},
       {{"--json", "caption", "a"}, "caption: does not take --json"},

@@ -12,6 +12,7 @@
 #include "model/utf8.h"
 #include "tests/apps/lumifact/sample_folder.h"
 #include "tests/apps/lumifact/tool_runner.h"
+#include "tests/support/opened_names.h"
 #include "tests/support/sample_photo.h"
 
 namespace lumifact::tool {
@@ -109,6 +110,60 @@ TEST(BadInput, ResultsThatCannotBeWrittenAreAFailure) {
   EXPECT_EQ(closed.status, 1);
   EXPECT_EQ(closed.messages, "lumifact: standard output: Bad file descriptor\n");
   EXPECT_EQ(runShell("$TOOL report " + samples.plain + " >/dev/null 2>&- <&-").status, 0);
+}
+
+TEST(BadInput, SixteenDescriptorsAndASmallStackAreEnough) {
+  const SampleFolder samples;
+  for (int number = 0; number < 40; ++number) {
+    samples.writePhoto("in/" + std::to_string(number) + ".jpg");
+  }
+  const std::string command = "$TOOL report --jobs 4 -r " + samples.path();
+  const std::string expected = runShell(command).output;
+  for (const char* limit : {"ulimit -n 16; ", "ulimit -s 256; "}) {
+    const ToolResult result = runShell(limit + command);
+    EXPECT_EQ(result.status, 0) << limit << result.messages;
+    EXPECT_EQ(result.output, expected) << limit;
+  }
+}
+
+TEST(BadInput, AFileThatMayNotGrowIsAFullDisk) {
+  const SampleFolder samples;
+  for (int number = 0; number < 20; ++number) {
+    samples.writePhoto("in/" + std::to_string(number) + ".jpg");
+  }
+  const std::string results = samples.file("results");
+  const ToolResult result =
+      runShell("ulimit -f 1; $TOOL properties -r " + samples.file("in") + " > " + results);
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.messages, "lumifact: standard output: File too large\n");
+  const std::string settings = samples.file("settings.plist");
+  // The messages go through a pipe, as no file can take them.
+  const ToolResult set = runShell("(ulimit -f 0; $TOOL settings --settings " + settings +
+                                  " set fontSize 14; echo $?) 2>&1 | cat");
+  EXPECT_EQ(set.output, "lumifact: " + settings + ": File too large\n1\n");
+  EXPECT_FALSE(std::filesystem::exists(settings));
+}
+
+// Whoever opens a FIFO for reading lets its writer go on, and some devices act when they are
+// opened.
+TEST(BadInput, WhatIsNoFileIsNeverOpened) {
+  const SampleFolder samples;
+  samples.write("in/file.jpg", "");
+  for (const char* name : {"in/a.jpg", "in/b.mov", "in/c"}) {
+    ASSERT_EQ(::mkfifo(samples.file(name).c_str(), 0600), 0);
+  }
+  support::OpenedNames opened(samples.file("in"));
+  for (const char* command : {"report", "properties", "quick-info", "caption", "size"}) {
+    const ToolResult result = runTool({command, "-r", samples.file("in")});
+    EXPECT_EQ(result.status, 1) << command;
+    EXPECT_NE(result.messages.find("/in/c: not a regular file\n"), std::string::npos);
+  }
+  for (const char* name : {"a.jpg", "b.mov", "c"}) {
+    EXPECT_EQ(opened.count(name), 0) << name;
+    runTool({"report", samples.file(std::string("in/") + name)});
+    EXPECT_EQ(opened.count(name), 0) << name;
+  }
+  EXPECT_GT(opened.count("file.jpg"), 0);
 }
 
 TEST(FileArguments, FoldersAreWalkedInOrder) {

@@ -3,7 +3,7 @@
 // What reaches a terminal.
 #include <gtest/gtest.h>
 
-#include "apps/lumifact/terminal/terminal_text.h"
+#include "foundation/terminal_text.h"
 #include "tests/apps/lumifact/sample_folder.h"
 #include "tests/apps/lumifact/tool_runner.h"
 #include "tests/support/sample_photo.h"
@@ -27,7 +27,7 @@ TEST(Terminal, SeesNoCommandsOfAFile) {
     std::string output = runToolOnTerminal({.arguments = {command, path}}).output;
     std::erase(output, '\r');  // the terminal's own line ends
     EXPECT_NE(output, "");
-    EXPECT_EQ(output, terminalSafe(output, Keep::lineBreaks)) << command;
+    EXPECT_EQ(output, terminalSafe(output, foundation::Keep::lineBreaks)) << command;
   }
 }
 

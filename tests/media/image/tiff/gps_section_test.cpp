@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <limits>
+
 #include "tests/media/image/tag_rows.h"
 
 namespace media::image {
@@ -63,6 +66,30 @@ TEST(GpsSection, coordinatesAreDegreesWithoutASign) {
       {"Latitude", rationals(0x02, {{41, 0}, {30, 1}, {0, 1}}), std::nullopt},
       {"Altitude", signedRationals(0x06, {{-12, 1}}), 12.0},
       {"Altitude", rationals(0x06, {{12, 0}}), std::nullopt},
+  };
+  expectGps(cases);
+}
+
+FieldToWrite reals(std::uint16_t tag, const std::vector<double>& values) {
+  FieldToWrite field{.tag = tag,
+                     .type = FieldType::doubleFloat,
+                     .count = static_cast<std::uint32_t>(values.size()),
+                     .width = 8};
+  for (const double value : values) field.numbers.push_back(std::bit_cast<std::uint64_t>(value));
+  return field;
+}
+
+TEST(GpsSection, timesAreNumbersFromZeroToNinetyNine) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  const TagCase cases[] = {
+      {"TimeStamp", reals(0x07, {8, 20, 41.5}), "08:20:41"},
+      {"TimeStamp", reals(0x07, {none, 20, 41}), std::nullopt},
+      {"TimeStamp", reals(0x07, {8, none, 41}), std::nullopt},
+      {"TimeStamp", reals(0x07, {8, 20, none}), std::nullopt},
+      {"TimeStamp", reals(0x07, {8, 20, infinity}), std::nullopt},
+      {"TimeStamp", reals(0x07, {-infinity, 20, 41}), std::nullopt},
+      {"TimeStamp", reals(0x07, {8, 20, 100}), std::nullopt},
   };
   expectGps(cases);
 }

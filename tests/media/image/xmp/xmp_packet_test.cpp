@@ -93,6 +93,8 @@ TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
        "<rdf:Description exif:Fired='True' exif:Return='3' exif:Mode='1' exif:Function='False'"
        " exif:RedEyeMode='True'/>",
        "{Exif}", "Flash", 1 + (3 << 1) + (1 << 3) + (1 << 6)},
+      {"exif:Flash", "<rdf:Description exif:Fired='True' exif:Return='1e300' exif:Mode='-1e300'/>",
+       "{Exif}", "Flash", 1},
       {"exif:Flash", "16", "{Exif}", "Flash", 16},
       {"exifEX:LensModel", "50mm", "{Exif}", "LensModel", "50mm"},
       {"exifEX:LensSpecification", list("Seq", {"24/1", "70/1", "28/10", "28/10"}), "{Exif}",

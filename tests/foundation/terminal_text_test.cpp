@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "apps/lumifact/terminal/terminal_text.h"
+#include "foundation/terminal_text.h"
 
 #include <gtest/gtest.h>
 
 #include "model/utf8.h"
 
-namespace lumifact::tool {
+namespace foundation {
 namespace {
 
 struct Case {
@@ -27,6 +27,12 @@ constexpr Case cases[] = {
      "\\u009b31m", "\\u009b31m"},
     {"\xe2\x80\xaegnp.exe", "\\u202egnp.exe", "\\u202egnp.exe"},
     {"\xe2\x81\xa6x\xe2\x81\xa9", "\\u2066x\\u2069", "\\u2066x\\u2069"},
+    {"a\u200eb\u200fc\u061cd", "a\\u200eb\\u200fc\\u061cd", "a\\u200eb\\u200fc\\u061cd"},
+    {"a\u2028b\u2029c", "a\\u2028b\\u2029c", "a\\u2028b\\u2029c"},
+    {"\u200b\u200c\u200d\u2060\ufeff", "\\u200b\\u200c\\u200d\\u2060\\ufeff",
+     "\\u200b\\u200c\\u200d\\u2060\\ufeff"},
+    {"\u180e\u206f\ufff9", "\\u180e\\u206f\\ufff9", "\\u180e\\u206f\\ufff9"},
+    {"tag\U000e0041", "tag\\U000e0041", "tag\\U000e0041"},
     {"\x9b"
      "31m \xff",
      "\\x9b31m \\xff", "\\x9b31m \\xff"},
@@ -39,8 +45,9 @@ TEST(TerminalText, WritesOutWhatATerminalCouldObey) {
   }
 }
 
-TEST(TerminalText, KeepsTheMarksThatOrdinaryRightToLeftTextUses) {
-  const std::string text = "\xe2\x80\x8f\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d";  // U+200F and a word
+TEST(TerminalText, KeepsWhatStandsBesideTheCharactersThatItWritesOut) {
+  const std::string text =
+      "\u00a0\u061b\u061d\u180d\u180f\u200a\u2010\u2027\u202f\u205f\u2070\ufefe\uffff\U000e0100";
   EXPECT_EQ(terminalSafe(text, Keep::nothing), text);
 }
 
@@ -56,4 +63,4 @@ TEST(TerminalText, IsValidUtf8WhateverTheBytes) {
 }
 
 }  // namespace
-}  // namespace lumifact::tool
+}  // namespace foundation

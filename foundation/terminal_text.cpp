@@ -1,11 +1,31 @@
 // SPDX-License-Identifier: MIT
-#include "apps/lumifact/terminal/terminal_text.h"
+#include "foundation/terminal_text.h"
+
+#include <algorithm>
 
 #include "model/utf8.h"
 
-namespace lumifact::tool {
+namespace foundation {
 
 namespace {
+
+struct CodePoints {
+  char32_t first;
+  char32_t last;
+};
+
+constexpr CodePoints controls[] = {
+    {0x0000, 0x001F},    // C0
+    {0x007F, 0x009F},    // DEL and C1
+    {0x061C, 0x061C},    // a mark of direction
+    {0x180E, 0x180E},    // a separator of vowels, without width
+    {0x200B, 0x200F},    // a blank and joiners without width, marks of direction
+    {0x2028, 0x202E},    // separators of lines and paragraphs, embeddings and overrides
+    {0x2060, 0x206F},    // joiners and operators without width, isolates
+    {0xFEFF, 0xFEFF},    // a blank without width, the byte order mark
+    {0xFFF9, 0xFFFB},    // marks of annotations
+    {0xE0000, 0xE007F},  // tags
+};
 
 constexpr std::string_view hexDigits = "0123456789abcdef";
 
@@ -20,8 +40,9 @@ void appendSafe(std::string& safe, const model::CodePoint& character, std::strin
     safe += "\\x";
     appendHex(safe, static_cast<unsigned char>(bytes[0]), 2);
   } else if (controlsTerminal(character.value)) {
-    safe += "\\u";
-    appendHex(safe, character.value, 4);
+    const bool isLong = character.value > 0xFFFF;
+    safe += isLong ? "\\U" : "\\u";
+    appendHex(safe, character.value, isLong ? 8 : 4);
   } else {
     safe += bytes;
   }
@@ -30,9 +51,8 @@ void appendSafe(std::string& safe, const model::CodePoint& character, std::strin
 }  // namespace
 
 bool controlsTerminal(char32_t codePoint) {
-  return codePoint < 0x20 || (codePoint >= 0x7F && codePoint <= 0x9F) ||
-         (codePoint >= 0x202A && codePoint <= 0x202E) ||
-         (codePoint >= 0x2066 && codePoint <= 0x2069);
+  const auto* const row = std::ranges::lower_bound(controls, codePoint, {}, &CodePoints::last);
+  return row != std::end(controls) && codePoint >= row->first;
 }
 
 std::string terminalSafe(std::string_view text, Keep keep) {
@@ -53,4 +73,4 @@ std::string terminalSafe(std::string_view text, Keep keep) {
   return safe;
 }
 
-}  // namespace lumifact::tool
+}  // namespace foundation
