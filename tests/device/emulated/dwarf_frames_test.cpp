@@ -4,10 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "device/emulated/byte_cursor.h"
+#include "device/loading/byte_cursor.h"
 
 namespace device::emulated {
 namespace {
+
+using loading::ByteCursor;
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
