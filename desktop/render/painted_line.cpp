@@ -27,7 +27,7 @@ struct PaintedKeyHash {
   std::size_t operator()(const PaintedKey& key) const {
     const LinePaint& paint = key.paint;
     return std::hash<std::u16string>()(key.line) ^ std::hash<double>()(paint.face.size) * 31 ^
-           std::hash<double>()(paint.scale) * 7 ^ paint.color * 5 ^
+           std::hash<double>()(paint.scale) * 7 ^ std::size_t{paint.color} * 5 ^
            static_cast<std::size_t>(paint.quarters) ^
            static_cast<std::size_t>(paint.face.weight) * 11 ^
            static_cast<std::size_t>(paint.face.family) * 3;

@@ -8,10 +8,12 @@
 
 #include <map>
 
-#include "device/emulated/byte_cursor.h"
+#include "device/loading/byte_cursor.h"
 
 namespace device::emulated {
 namespace {
+
+using loading::ByteCursor;
 
 constexpr std::uint32_t knownVersion = 1;
 constexpr std::uint64_t indexRowSize = 12;  // bytes

@@ -3,10 +3,12 @@
 
 #include <algorithm>
 
-#include "device/emulated/byte_cursor.h"
+#include "device/loading/byte_cursor.h"
 
 namespace device::emulated {
 namespace {
+
+using loading::ByteCursor;
 
 // Of the first byte: whether some argument is private, and whether some is no number.
 constexpr std::uint8_t hasPrivate = 1;

@@ -4,65 +4,13 @@
 // follow it. A reader that has gone wrong answers zeros, and is asked for that once, at the end.
 #include "device/loading/fixups.h"
 
+#include "device/loading/byte_cursor.h"
+
 namespace device::loading {
 namespace {
 
 constexpr std::size_t pointerSize = 8;
 constexpr std::size_t mostPlaces = 1 << 20;
-
-class OpcodeReader {
- public:
-  explicit OpcodeReader(io::ByteView bytes) : _bytes(bytes) {}
-
-  bool isAtEnd() const { return _at >= _bytes.size(); }
-  bool isCut() const { return _isCut; }
-
-  std::uint8_t byte() {
-    const auto next = _bytes.u8(_at++);
-    _isCut |= !next;
-    return next.value_or(0);
-  }
-
-  // Seven bits a byte, the lowest first; the eighth says that more follow.
-  std::uint64_t number() { return bits().value; }
-
-  std::int64_t signedNumber() {
-    const auto [value, width] = bits();
-    const bool isNegative = width < 64 && (value >> (width - 1) & 1) != 0;
-    return static_cast<std::int64_t>(isNegative ? value | ~std::uint64_t{0} << width : value);
-  }
-
-  std::string text() {
-    const std::string_view rest = _bytes.from(_at).text();
-    const std::size_t length = rest.find('\0');
-    _isCut |= length == std::string_view::npos;
-    const std::string_view text = rest.substr(0, length);
-    _at += text.size() + 1;
-    return std::string(text);
-  }
-
- private:
-  struct Bits {
-    std::uint64_t value;
-    unsigned width;
-  };
-
-  Bits bits() {
-    std::uint64_t value = 0;
-    unsigned width = 0;
-    std::uint8_t next = 0;
-    do {
-      next = byte();
-      if (width < 64) value |= std::uint64_t{next & 0x7FU} << width;
-      width += 7;
-    } while ((next & 0x80) != 0);
-    return {value, width};
-  }
-
-  io::ByteView _bytes;
-  std::size_t _at = 0;
-  bool _isCut = false;
-};
 
 // Places one behind another: `count` pointers, each followed by `gap` bytes that stay as they are.
 struct Run {
@@ -81,9 +29,9 @@ bool writeRun(Place& place, Run run, std::size_t before, const auto& write) {
   return true;
 }
 
-Run readRun(OpcodeReader& reader) {
-  const std::uint64_t count = reader.number();
-  return {count, reader.number()};
+Run readRun(ByteCursor& reader) {
+  const std::uint64_t count = reader.unsignedLeb();
+  return {count, reader.unsignedLeb()};
 }
 
 model::Error cutShort() {
@@ -102,11 +50,11 @@ model::Error tooMany() {
 
 model::Result<std::vector<Place>> readRebases(io::ByteView opcodes) {
   std::vector<Place> places;
-  OpcodeReader reader(opcodes);
+  ByteCursor reader(opcodes);
   Place place;
   bool isDone = false;
   while (!isDone && !reader.isAtEnd()) {
-    const std::uint8_t byte = reader.byte();
+    const std::uint8_t byte = reader.u8();
     const std::uint8_t small = byte & 0x0F;
     Run run{.count = 0};
     switch (byte & 0xF0) {
@@ -116,10 +64,10 @@ model::Result<std::vector<Place>> readRebases(io::ByteView opcodes) {
       case 0x10:
         break;  // what is written: a pointer, in all that we link
       case 0x20:
-        place = {small, reader.number()};
+        place = {small, reader.unsignedLeb()};
         break;
       case 0x30:
-        place.offset += reader.number();
+        place.offset += reader.unsignedLeb();
         break;
       case 0x40:
         place.offset += small * pointerSize;
@@ -128,10 +76,10 @@ model::Result<std::vector<Place>> readRebases(io::ByteView opcodes) {
         run = {.count = small};
         break;
       case 0x60:
-        run = {.count = reader.number()};
+        run = {.count = reader.unsignedLeb()};
         break;
       case 0x70:
-        run = {.gap = reader.number()};
+        run = {.gap = reader.unsignedLeb()};
         break;
       case 0x80:
         run = readRun(reader);
@@ -142,17 +90,17 @@ model::Result<std::vector<Place>> readRebases(io::ByteView opcodes) {
     if (!writeRun(place, run, places.size(), [&](Place at) { places.push_back(at); }))
       return tooMany();
   }
-  if (reader.isCut()) return cutShort();
+  if (reader.ranOut()) return cutShort();
   return places;
 }
 
 model::Result<std::vector<Bind>> readBinds(io::ByteView opcodes, BindTime time) {
   std::vector<Bind> binds;
-  OpcodeReader reader(opcodes);
+  ByteCursor reader(opcodes);
   Bind next;
   bool isDone = false;
   while (!isDone && !reader.isAtEnd()) {
-    const std::uint8_t byte = reader.byte();
+    const std::uint8_t byte = reader.u8();
     const std::uint8_t small = byte & 0x0F;
     Run run{.count = 0};
     switch (byte & 0xF0) {
@@ -163,30 +111,30 @@ model::Result<std::vector<Bind>> readBinds(io::ByteView opcodes, BindTime time) 
         next.ordinal = small;
         break;
       case 0x20:
-        next.ordinal = static_cast<std::int64_t>(reader.number());
+        next.ordinal = static_cast<std::int64_t>(reader.unsignedLeb());
         break;
       case 0x30:
         next.ordinal = small == 0 ? 0 : small - 16;
         break;
       case 0x40:
-        next.isWeak = (small & 1) != 0, next.symbol = reader.text();
+        next.isWeak = (small & 1) != 0, next.symbol = std::string(reader.terminatedText());
         break;
       case 0x50:
         break;  // what is written, as above
       case 0x60:
-        next.addend = reader.signedNumber();
+        next.addend = reader.signedLeb();
         break;
       case 0x70:
-        next.place = {small, reader.number()};
+        next.place = {small, reader.unsignedLeb()};
         break;
       case 0x80:
-        next.place.offset += reader.number();
+        next.place.offset += reader.unsignedLeb();
         break;
       case 0x90:
         run = {};
         break;
       case 0xA0:
-        run = {.gap = reader.number()};
+        run = {.gap = reader.unsignedLeb()};
         break;
       case 0xB0:
         run = {.gap = small * pointerSize};
@@ -203,7 +151,7 @@ model::Result<std::vector<Bind>> readBinds(io::ByteView opcodes, BindTime time) 
     };
     if (!writeRun(next.place, run, binds.size(), bind)) return tooMany();
   }
-  if (reader.isCut()) return cutShort();
+  if (reader.ranOut()) return cutShort();
   return binds;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "device/emulated/byte_cursor.h"
+#include "device/loading/byte_cursor.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,8 @@
 
 namespace device::emulated {
 namespace {
+
+using loading::ByteCursor;
 
 using Bytes = std::vector<std::uint8_t>;
 

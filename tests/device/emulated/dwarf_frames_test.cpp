@@ -4,15 +4,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "device/emulated/byte_cursor.h"
+#include "device/loading/byte_cursor.h"
 
 namespace device::emulated {
 namespace {
 
+using loading::ByteCursor;
+
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 
-constexpr std::uint64_t image = 0x10'0000;
+constexpr std::uint64_t imageAddress = 0x10'0000;
 constexpr std::uint64_t personality = 0x7777;
 
 // An entry as it lies between its length and the next one.
@@ -31,12 +33,12 @@ std::vector<std::vector<std::uint8_t>> entriesOf(const std::vector<std::uint8_t>
 
 std::vector<std::vector<std::uint8_t>> entriesOf(const CompactUnwind& unwind) {
   const std::vector<std::uint64_t> personalities(unwind.personalities.size(), personality);
-  const auto frames = dwarfFrames(unwind, image, personalities);
+  const auto frames = dwarfFrames(unwind, imageAddress, personalities);
   return frames ? entriesOf(*frames) : std::vector<std::vector<std::uint8_t>>();
 }
 
 std::string refusal(const CompactUnwind& unwind) {
-  const auto frames = dwarfFrames(unwind, image, {});
+  const auto frames = dwarfFrames(unwind, imageAddress, {});
   return frames ? "" : frames.error().reason;
 }
 

@@ -7,11 +7,11 @@
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <sstream>
 
 #include "tests/lumifact/loader/loaded_extension.h"
 #include "tests/support/encoding_table.h"
+#include "tests/support/temporary_folder.h"
 
 extern "C" Method* class_copyMethodList(Class aClass, unsigned* count);
 extern "C" SEL method_getName(Method method);
@@ -69,14 +69,9 @@ std::string classText() {
   return text;
 }
 
-std::string contentsOf(const std::string& path) {
-  std::ifstream file(path);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 TEST(Interface, IsTheOneThatIsWrittenDown) {
   const std::string actual = hookText() + classText();
-  EXPECT_EQ(actual, contentsOf(INTERFACE_TEXT));
+  EXPECT_EQ(actual, support::contentsOf(INTERFACE_TEXT));
   if (!HasFailure()) return;
   const std::string path = testing::TempDir() + "interface_actual.txt";
   std::ofstream(path) << actual;

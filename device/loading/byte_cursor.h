@@ -8,7 +8,7 @@
 
 #include "io/byte_view.h"
 
-namespace device::emulated {
+namespace device::loading {
 
 // Reads on from where it stands. What the bytes do not have reads as zero or as no text, and is
 // remembered: whoever reads asks ranOut() once, behind the last of it.
@@ -93,4 +93,4 @@ class ByteCursor {
   bool _ranOut = false;
 };
 
-}  // namespace device::emulated
+}  // namespace device::loading
