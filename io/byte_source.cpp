@@ -10,6 +10,7 @@
 #include <cstring>
 #include <limits>
 #include <system_error>
+#include <utility>
 
 namespace io {
 
@@ -39,27 +40,21 @@ model::Result<std::size_t> ByteSource::readAt(std::uint64_t offset, std::span<st
 
 model::Result<std::unique_ptr<FileSource>> FileSource::open(const std::string& path) {
   // Non-blocking, so that opening a FIFO does not wait for a writer.
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (descriptor < 0) return systemError(errno);
+  Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  if (!descriptor) return systemError(errno);
   struct stat status {};
-  if (::fstat(descriptor, &status) != 0) {
-    const int code = errno;
-    ::close(descriptor);
-    return systemError(code);
-  }
-  if (!S_ISREG(status.st_mode)) {
-    ::close(descriptor);
-    if (S_ISDIR(status.st_mode)) return systemError(EISDIR);
-    return model::Error{"not a regular file"};
-  }
+  if (::fstat(descriptor.number(), &status) != 0) return systemError(errno);
+  if (S_ISDIR(status.st_mode)) return systemError(EISDIR);
+  if (!S_ISREG(status.st_mode)) return model::Error{"not a regular file"};
   const double modified = static_cast<double>(status.st_mtim.tv_sec) +
                           static_cast<double>(status.st_mtim.tv_nsec) / 1e9;
   return std::unique_ptr<FileSource>(
-      new FileSource(descriptor, static_cast<std::uint64_t>(status.st_size), modified));
+      new FileSource(std::move(descriptor), static_cast<std::uint64_t>(status.st_size), modified));
 }
 
-FileSource::~FileSource() {
-  ::close(_descriptor);
+FileSource::FileSource(Descriptor descriptor) : _descriptor(std::move(descriptor)) {
+  const off_t end = ::lseek(_descriptor.number(), 0, SEEK_END);
+  _size = end < 0 ? 0 : static_cast<std::uint64_t>(end);
 }
 
 model::Result<std::size_t> FileSource::doReadAt(std::uint64_t offset,
@@ -68,8 +63,8 @@ model::Result<std::size_t> FileSource::doReadAt(std::uint64_t offset,
   while (done < into.size()) {
     const std::uint64_t position = offset + done;
     if (position > static_cast<std::uint64_t>(std::numeric_limits<off_t>::max())) break;
-    const ssize_t count =
-        ::pread(_descriptor, into.data() + done, into.size() - done, static_cast<off_t>(position));
+    const ssize_t count = ::pread(_descriptor.number(), into.data() + done, into.size() - done,
+                                  static_cast<off_t>(position));
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return systemError(errno);
     if (count == 0) break;

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "io/descriptor.h"
 #include "model/result.h"
 
 namespace io {
@@ -49,22 +50,24 @@ class FileSource : public ByteSource {
   // Opens for reading. Errors: what the system says ("No such file or directory"); "Is a
   // directory"; "not a regular file" for FIFOs, sockets and devices, which are never read.
   static model::Result<std::unique_ptr<FileSource>> open(const std::string& path);
-  ~FileSource() override;
-  FileSource(const FileSource&) = delete;
-  FileSource& operator=(const FileSource&) = delete;
+  // The file that somebody else has opened so. It asks nothing of it but its size, since a process
+  // that was handed a file may be allowed no more; its modification time is 0.
+  explicit FileSource(Descriptor descriptor);
 
   std::uint64_t size() const override { return _size; }
   // The modification time in seconds since 1970, as of opening.
   double modificationTime() const { return _modificationTime; }
+  // To be handed to another process; owned by the source.
+  int descriptor() const { return _descriptor.number(); }
 
  private:
-  FileSource(int descriptor, std::uint64_t size, double modificationTime)
-      : _descriptor(descriptor), _size(size), _modificationTime(modificationTime) {}
+  FileSource(Descriptor descriptor, std::uint64_t size, double modificationTime)
+      : _descriptor(std::move(descriptor)), _size(size), _modificationTime(modificationTime) {}
   model::Result<std::size_t> doReadAt(std::uint64_t offset, std::span<std::uint8_t> into) override;
 
-  int _descriptor;
+  Descriptor _descriptor;
   std::uint64_t _size;
-  double _modificationTime;
+  double _modificationTime = 0;
 };
 
 // Bytes in memory, owned.

@@ -41,4 +41,11 @@ void* functionOfModule(const std::string& moduleName, const char* functionName) 
   return nullptr;
 }
 
+std::string fileBesideModules(const std::string& name) {
+  std::error_code error;
+  for (const fs::path& place : modulePlaces(name))
+    if (fs::is_regular_file(place, error)) return place;
+  return {};
+}
+
 }  // namespace io

@@ -13,4 +13,7 @@ namespace io {
 // (the installed or the build tree), then where it was to be installed; it stays mapped.
 void* functionOfModule(const std::string& moduleName, const char* functionName);
 
+// The path of a program that lies beside the modules; empty where it is not installed.
+std::string fileBesideModules(const std::string& name);
+
 }  // namespace io
