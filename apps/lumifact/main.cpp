@@ -13,6 +13,7 @@
 #include "apps/lumifact/command_line/time_zone.h"
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/terminal/console.h"
+#include "workers/greeting.h"
 
 namespace {
 
@@ -40,6 +41,8 @@ ExitStatus run(const std::vector<std::string>& arguments) {
   } else {
     if (line.options.timeZone) lumifact::tool::setTimeZone(*line.options.timeZone);
     line.command->run(line.options, console);
+    if (const auto refused = workers::takeRefusedProtections())
+      console.note("readers of other containers", "this system refuses them: " + *refused);
   }
   console.flush();
   return console.status();

@@ -39,6 +39,8 @@ class Console {
   // Reports a failure: "lumifact: reason", or "lumifact: FILE: reason", always safe.
   void fail(std::string_view reason);
   void fail(std::string_view file, std::string_view reason);
+  // Tells what does not change how the run ends, in the same form.
+  void note(std::string_view file, std::string_view text);
   // Counts as a failure what the results themselves tell.
   void noteFailure() { _status = std::max(_status, ExitStatus::failed); }
   // Reports that the command line asks for something that does not exist.

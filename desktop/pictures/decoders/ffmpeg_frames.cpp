@@ -1,14 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/pictures/decoders/ffmpeg_frames.h"
 
+#include "desktop/pictures/decoders/tile_decoder.h"
 #include "io/on_demand_module.h"
 
 namespace desktop::pictures {
 
-model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
-                                        const Request& request) {
+namespace {
+
+DecodeFrameWithFfmpeg frameDecoder() {
   static const auto decode = reinterpret_cast<DecodeFrameWithFfmpeg>(
       io::functionOfModule(ffmpegFramesModule, ffmpegFramesFunction));
+  return decode;
+}
+
+}  // namespace
+
+void loadVideoDecoders() {
+  static_cast<void>(frameDecoder());
+  static_cast<void>(tileDecoderMaker());
+}
+
+model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
+                                        const Request& request) {
+  const DecodeFrameWithFfmpeg decode = frameDecoder();
   if (decode == nullptr) return model::Error{"no reader for videos is installed"};
   Picture picture;
   if (decode(name.c_str(), &source, &request, &picture) != 0)
