@@ -13,13 +13,14 @@ namespace {
 
 constexpr char containerReaderProgram[] = "media_container_reader";
 
-// Null where the reader is not installed.
+// Null where the reader is not installed. Never destroyed, since threads may still ask when the
+// program ends; the readers end with it.
 workers::WorkerPool* readers() {
   static const std::string program = io::fileBesideModules(containerReaderProgram);
-  static workers::WorkerPool pool({.command = {program},
-                                   .workers = containerLimits.readers,
-                                   .processorTime = containerLimits.processorTime,
-                                   .longestAnswer = containerLimits.answerBytes});
+  static auto& pool = *new workers::WorkerPool({.command = {program},
+                                                .workers = containerLimits.readers,
+                                                .processorTime = containerLimits.processorTime,
+                                                .longestAnswer = containerLimits.answerBytes});
   return program.empty() ? nullptr : &pool;
 }
 
