@@ -3,17 +3,11 @@
 // What a worker process gives up before it reads the first byte of a stranger's file.
 #pragma once
 
-#include <cstddef>
 #include <string>
 
-namespace workers {
+#include "workers/confinement/allowance.h"
 
-// What a worker may have. All of it holds for the process as a whole, to its end.
-struct Confinement {
-  std::size_t memory = 0;      // bytes of addresses, beyond those that its libraries take
-  std::size_t frameBytes = 0;  // of the frame; without one it writes nothing
-  bool hasThreads = false;
-};
+namespace workers {
 
 // Confines the calling process: no files but those that are handed to it, no network, no other
 // processes, no new privileges, nothing that another process may look into, no memory that is

@@ -3,7 +3,7 @@
 // How much a worker may take, as the system's limits on a process.
 #pragma once
 
-#include "workers/confinement/confinement.h"
+#include "workers/confinement/allowance.h"
 
 namespace workers {
 

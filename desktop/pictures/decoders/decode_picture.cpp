@@ -12,6 +12,7 @@
 #include "desktop/pictures/decoders/jpeg_decoder.h"
 #include "desktop/pictures/decoders/qt_decoder.h"
 #include "desktop/pictures/decoders/raw_decoder.h"
+#include "desktop/pictures/decoders/tile_decoder.h"
 #include "io/byte_source.h"
 #include "media/image/image_type.h"
 #include "media/movie/other/other_containers.h"
@@ -106,6 +107,7 @@ void loadDecoders() {
   loadHeifDecoders();
   loadQtDecoders();
   loadVideoDecoders();
+  static_cast<void>(tileDecoderMaker());
 }
 
 model::Result<Picture> decodeSource(const std::string& name, io::ByteSource& source,

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/pictures/decoders/ffmpeg_frames.h"
 
-#include "desktop/pictures/decoders/tile_decoder.h"
 #include "io/on_demand_module.h"
 
 namespace desktop::pictures {
@@ -18,7 +17,6 @@ DecodeFrameWithFfmpeg frameDecoder() {
 
 void loadVideoDecoders() {
   static_cast<void>(frameDecoder());
-  static_cast<void>(tileDecoderMaker());
 }
 
 model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,

@@ -19,7 +19,7 @@ namespace desktop::pictures {
 model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
                                         const Request& request);
 
-// Loads the module, where it is installed, and with it what makeTileDecoder needs.
+// Loads the module, where it is installed.
 void loadVideoDecoders();
 
 // The module's function, under its C name. Fills the picture and returns 0, or returns another
