@@ -17,6 +17,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <string>
@@ -157,7 +158,7 @@ std::string takeMemory() {
     void* const memory =
         mmap(nullptr, megabyte, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED) break;
-    *static_cast<volatile char*>(memory) = 1;
+    *static_cast<char*>(memory) = 1;
     ++count;
   }
   return std::to_string(count);
@@ -182,7 +183,7 @@ std::string turnAway() {
 }
 
 std::string spin() {
-  for (volatile unsigned turn = 0;; turn = turn + 1) continue;
+  for (std::atomic<unsigned> turn = 0;; ++turn) continue;
 }
 
 std::string sayTooMuch() {

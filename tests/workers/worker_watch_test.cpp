@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
 #include <thread>
 
@@ -36,7 +37,7 @@ class Child {
 };
 
 void work() {
-  for (volatile int turn = 0; turn < 1000; turn = turn + 1) continue;
+  for (std::atomic<int> turn = 0; turn < 1000; ++turn) continue;
 }
 
 void rest() {
