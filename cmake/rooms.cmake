@@ -94,6 +94,20 @@ function(room_module name)
   install(TARGETS ${name} LIBRARY DESTINATION ${ROOM_MODULE_DIR})
 endfunction()
 
+# room_worker(NAME SOURCES a.cpp ... [DEPENDS lib ...])
+# A program that others start and talk to (see workers/): it lies beside the modules and confines
+# itself.
+function(room_worker name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_executable(${name} ${ROOM_SOURCES})
+  room_join_sources(${name} "" ${ROOM_SOURCES})
+  set_target_properties(${name} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ROOM_MODULE_DIR})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE room_flags workers::confinement ${ROOM_DEPENDS})
+  install(TARGETS ${name} RUNTIME DESTINATION ${ROOM_MODULE_DIR})
+endfunction()
+
 # Headers that take longer to read than most of what includes them are compiled once for all targets
 # that are compiled alike. A compiler cache has no use for that, and makes up for it.
 if(CMAKE_CXX_COMPILER_LAUNCHER)

@@ -61,6 +61,11 @@ model::Result<std::unique_ptr<FileSource>> FileSource::open(const std::string& p
       new FileSource(std::move(file), static_cast<std::uint64_t>(status.st_size), modified));
 }
 
+FileSource::FileSource(Descriptor descriptor) : _descriptor(std::move(descriptor)) {
+  const off_t end = ::lseek(_descriptor.number(), 0, SEEK_END);
+  _size = end < 0 ? 0 : static_cast<std::uint64_t>(end);
+}
+
 model::Result<std::size_t> FileSource::doReadAt(std::uint64_t offset,
                                                 std::span<std::uint8_t> into) {
   std::size_t done = 0;

@@ -51,10 +51,15 @@ class FileSource : public ByteSource {
   // directory"; "not a regular file" for FIFOs, sockets and devices, which are never
   // opened.
   static model::Result<std::unique_ptr<FileSource>> open(const std::string& path);
+  // The file that somebody else has opened so. It asks nothing of it but its size, since a process
+  // that was handed a file may be allowed no more; its modification time is 0.
+  explicit FileSource(Descriptor descriptor);
 
   std::uint64_t size() const override { return _size; }
   // The modification time in seconds since 1970, as of opening.
   double modificationTime() const { return _modificationTime; }
+  // To be handed to another process; owned by the source.
+  int descriptor() const { return _descriptor.number(); }
 
  private:
   FileSource(Descriptor descriptor, std::uint64_t size, double modificationTime)
@@ -63,7 +68,7 @@ class FileSource : public ByteSource {
 
   Descriptor _descriptor;
   std::uint64_t _size;
-  double _modificationTime;
+  double _modificationTime = 0;
 };
 
 // Bytes in memory, owned.

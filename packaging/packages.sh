@@ -7,7 +7,8 @@
 library_packages=(
   libavcodec-dev libavformat-dev libavutil-dev libswscale-dev
   libgmock-dev libgtest-dev
-  libcli11-dev libheif-dev libicu-dev libjpeg62-turbo-dev libpugixml-dev nlohmann-json3-dev
+  libcli11-dev libheif-dev libicu-dev libjpeg62-turbo-dev libpugixml-dev libseccomp-dev
+  nlohmann-json3-dev
   libgnustep-base-dev libobjc-12-dev
   qt6-base-dev qt6-image-formats-plugins
   tzdata zlib1g-dev

@@ -14,6 +14,7 @@
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/terminal/console.h"
 #include "io/on_demand_module.h"
+#include "workers/greeting.h"
 
 namespace {
 
@@ -42,6 +43,8 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     if (line.options.timeZone) lumifact::tool::setTimeZone(*line.options.timeZone);
     line.command->run(line.options, console);
     for (const std::string& problem : io::takeModuleProblems()) console.note(problem);
+    if (const auto refused = workers::takeRefusedProtections())
+      console.note("readers of other containers", "this system refuses them: " + *refused);
   }
   console.flush();
   return console.status();

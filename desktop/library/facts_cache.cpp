@@ -9,7 +9,7 @@ namespace desktop::library {
 namespace {
 
 FactsCache::Facts readFacts(const std::string& path, const foundation::DeviceRoot& root) {
-  auto facts = media::facts::readAssetFacts(path, root);
+  auto facts = media::facts::readAssetFacts(path, root, media::movie::Waiting::refused);
   if (!facts) return facts.error();
   facts->properties.reset();
   facts->asset.reset();
@@ -18,6 +18,10 @@ FactsCache::Facts readFacts(const std::string& path, const foundation::DeviceRoo
 
 }  // namespace
 
+bool isBeingRead(const FactsCache::Facts& facts) {
+  return !facts && media::movie::isBeingRead(facts.error());
+}
+
 FactsCache::FactsCache(foundation::DeviceRoot root, std::size_t mostItems)
     : _root(std::move(root)), _mostItems(std::max<std::size_t>(mostItems, 1)) {}
 
@@ -25,7 +29,7 @@ const FactsCache::Facts* FactsCache::known(const LibraryItem& item) {
   const auto found = _entryOfPath.find(item.path);
   if (found == _entryOfPath.end()) return nullptr;
   const auto entry = found->second;
-  if (entry->fileSize != item.fileSize ||
+  if (isBeingRead(entry->facts) || entry->fileSize != item.fileSize ||
       entry->modificationDate != item.modificationDate.secondsSince1970) {
     _entryOfPath.erase(found);
     _entries.erase(entry);

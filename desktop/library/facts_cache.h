@@ -25,7 +25,8 @@ class FactsCache {
 
   FactsCache(foundation::DeviceRoot root, std::size_t mostItems);
 
-  // Reads the file unless this item's facts, or why it has none, are kept: about 0.05 ms.
+  // Reads the file unless this item's facts, or why it has none, are kept: about 0.05 ms. Never
+  // waits for a worker process: while one reads the file, the error is media::movie::isBeingRead.
   const Facts& read(const LibraryItem& item);
   // Null where they are not kept. Both are valid until the next call of read.
   const Facts* known(const LibraryItem& item);
@@ -43,5 +44,8 @@ class FactsCache {
   std::list<Entry> _entries;  // the last used first
   std::unordered_map<std::string_view, std::list<Entry>::iterator> _entryOfPath;
 };
+
+// Whether the facts come later.
+bool isBeingRead(const FactsCache::Facts& facts);
 
 }  // namespace desktop::library

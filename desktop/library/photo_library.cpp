@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "foundation/paths.h"
+#include "media/movie/other/container_shelf.h"
 
 namespace desktop::library {
 
@@ -46,9 +47,13 @@ PhotoLibrary::PhotoLibrary(std::string folder, foundation::DeviceRoot root,
       _root(std::move(root)),
       _facts(_root, factsKept),
       _favourites(_root.folder() + "/favourites"),
-      _worker(_folder, limits, _box) {}
+      _worker(_folder, limits, _box) {
+  media::movie::ContainerShelf::ofProcess().setOnNews([this] { _box.wake(); });
+}
 
-PhotoLibrary::~PhotoLibrary() = default;
+PhotoLibrary::~PhotoLibrary() {
+  media::movie::ContainerShelf::ofProcess().setOnNews({});
+}
 
 std::optional<std::size_t> PhotoLibrary::indexOf(const ItemPointer& item) const {
   const auto place = std::ranges::lower_bound(_items, item, comesBefore);
@@ -81,7 +86,13 @@ void PhotoLibrary::findPanoramas() {
 
 const FactsCache::Facts& PhotoLibrary::facts(const LibraryItem& item) {
   const FactsCache::Facts& facts = _facts.read(item);
-  if (!facts) noteProblem(item.path, facts.error().reason);
+  if (isBeingRead(facts)) {
+    _awaitedFacts.insert(item.uuid);
+  } else if (!facts) {
+    noteProblem(item.path, facts.error().reason);
+  } else if (!(*facts)->shortfall.empty()) {
+    noteProblem(item.path, (*facts)->shortfall);
+  }
   return facts;
 }
 
@@ -109,6 +120,7 @@ bool PhotoLibrary::deliverChanges() {
   applyProblems(news.problems);
   applySharing(news.sharing, change);
   applyPanoramas(news.panoramas, change);
+  applyAwaitedFacts(change);
   change.areProblemsChanged = std::exchange(_areProblemsChanged, false);
   change.areFavouritesChanged = std::exchange(_areFavouritesChanged, false);
   const LoadingState state = stateAfter(news.isWalkComplete);
@@ -122,7 +134,11 @@ bool PhotoLibrary::deliverChanges() {
 
 bool PhotoLibrary::waitAndDeliver() {
   _worker.readNow();
-  const bool isDifferent = deliverChanges();
+  bool isDifferent = deliverChanges();
+  if (!_awaitedFacts.empty()) {
+    media::movie::ContainerShelf::ofProcess().finish();
+    isDifferent |= deliverChanges();
+  }
   if (!_panoramaFinder) return isDifferent;
   _panoramaFinder->finish();
   return deliverChanges() || isDifferent;
@@ -209,6 +225,17 @@ void PhotoLibrary::applyPanoramas(const std::vector<ItemPointer>& panoramas,
     _panoramas.insert(item);
     change.areAlbumsChanged = true;
   }
+}
+
+void PhotoLibrary::applyAwaitedFacts(LibraryChange& change) {
+  for (const std::string& uuid : std::exchange(_awaitedFacts, {})) {
+    const ItemPointer item = itemOf(uuid);
+    // Where they are still being read, they are awaited again.
+    if (!item || isBeingRead(facts(*item)) || std::ranges::count(change.updated, item) > 0)
+      continue;
+    change.updated.push_back(item);
+  }
+  std::ranges::sort(change.updated, comesBefore);
 }
 
 LoadingState PhotoLibrary::stateAfter(bool isWalkComplete) const {

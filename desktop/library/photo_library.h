@@ -88,7 +88,8 @@ class PhotoLibrary {
   // Told by the next deliverChanges. Errors: what the system says of the file that keeps it.
   model::Result<bool> setFavourite(const LibraryItem& item, bool isFavourite);
 
-  // The facts of an item that is seen; a failure is noted as a problem.
+  // The facts of an item that is seen; a failure is noted as a problem, and so is what a limit cut.
+  // Where the facts are being read, the item is among the updated ones of a later delivery.
   const FactsCache::Facts& facts(const LibraryItem& item);
   FactsCache& factsCache() { return _facts; }
 
@@ -122,6 +123,7 @@ class PhotoLibrary {
   void applyProblems(const std::vector<LibraryNews::ProblemChange>& changes);
   void applySharing(const std::vector<LibraryNews::SharingChange>& changes, LibraryChange& change);
   void applyPanoramas(const std::vector<ItemPointer>& panoramas, LibraryChange& change);
+  void applyAwaitedFacts(LibraryChange& change);
   LoadingState stateAfter(bool isWalkComplete) const;
 
   // Owns nothing; it ends with the library, and all references with it.
@@ -136,6 +138,7 @@ class PhotoLibrary {
   std::set<std::string, std::less<>> _sharedFolders;
   std::unordered_set<ItemPointer> _panoramas;
   FactsCache _facts;
+  std::set<std::string> _awaitedFacts;  // uuids of items whose facts are being read
   std::map<std::string, std::string> _problems;
   bool _areProblemsChanged = false;
   Favourites _favourites;

@@ -24,7 +24,8 @@ PictureLoader::PictureLoader(Settings settings)
     : _cache(settings.cacheBytes),
       _pool({.command = std::move(settings.command),
              .workers = std::clamp(settings.workers, 1, mostWorkers),
-             .timeLimit = settings.timeLimit},
+             .processorTime = settings.processorTime,
+             .sleepyLooks = settings.sleepyLooks},
             _news) {}
 
 Ticket PictureLoader::request(const std::string& path, const Request& request, Priority priority,

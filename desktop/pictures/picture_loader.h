@@ -40,8 +40,9 @@ class PictureLoader {
     // How a worker is started: a path, which may be "/proc/self/exe", and arguments that make the
     // program call serveDecoder(decoderSocket).
     std::vector<std::string> command;
-    int workers = defaultWorkerCount();         // 1 to 4
-    std::chrono::milliseconds timeLimit{2000};  // for one picture, once its worker has it
+    int workers = defaultWorkerCount();               // 1 to 4
+    std::chrono::milliseconds processorTime{10'000};  // of a worker, for one picture
+    int sleepyLooks = workers::WorkerWatch::sleepyLooks;
     std::size_t cacheBytes = std::size_t{96} << 20;
   };
   // One fewer than there are processors, 1 or 2.

@@ -11,7 +11,6 @@
 #include "media/facts/location.h"
 #include "media/image/image_source.h"
 #include "media/image/image_type.h"
-#include "media/movie/media_source.h"
 #include "model/conversions.h"
 
 namespace media::facts {
@@ -80,7 +79,8 @@ std::string_view typeOf(io::ByteSource& source, const std::string& path) {
 }  // namespace
 
 model::Result<AssetFacts> readAssetFacts(const std::string& path,
-                                         const foundation::DeviceRoot& root) {
+                                         const foundation::DeviceRoot& root,
+                                         movie::Waiting waiting) {
   const std::string absolute = foundation::absolutePath(path);
   const std::string onDisk = root.onDisk(absolute);
   // A path that is not redirected is opened as given: shorter, and independent of the folders
@@ -99,10 +99,11 @@ model::Result<AssetFacts> readAssetFacts(const std::string& path,
     describeStill(facts, **std::move(image));
     return facts;
   }
-  auto asset = movie::copyAssetOfFile(onDisk, **source);
+  auto asset = movie::copyAssetOfFile(onDisk, **source, waiting);
   if (!asset) return asset.error();
   if (!*asset) return model::Error{"not a photo or video"};
-  describeVideo(facts, **std::move(asset));
+  facts.shortfall = std::move((*asset)->shortfall);
+  describeVideo(facts, std::move((*asset)->asset));
   return facts;
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "foundation/device_root.h"
+#include "media/movie/media_source.h"
 #include "model/geometry.h"
 #include "model/media_asset.h"
 #include "model/result.h"
@@ -38,12 +39,16 @@ struct AssetFacts {
   // What the facts were taken from: a still has properties, a video an asset.
   std::optional<model::Dictionary> properties;
   std::optional<model::MediaAsset> asset;
+
+  // What a limit cut, to be told beside the facts: can stand behind "FILE: "; empty where nothing.
+  std::string shortfall;
 };
 
 // Reads the file at a path, below the root where the path is one of the device's. Callable from
 // several threads at once. Errors: cannot be opened or read; "empty file"; truncated; "not a photo
-// or video".
+// or video"; those of movie::readOtherContainer; where waiting is refused, movie::isBeingRead.
 model::Result<AssetFacts> readAssetFacts(const std::string& path,
-                                         const foundation::DeviceRoot& root);
+                                         const foundation::DeviceRoot& root,
+                                         movie::Waiting waiting = movie::Waiting::allowed);
 
 }  // namespace media::facts

@@ -2,11 +2,17 @@
 #include "media/movie/media_source.h"
 
 #include "media/movie/boxes/movie_layout.h"
-#include "media/movie/ffmpeg_module.h"
 #include "media/movie/movie_reader.h"
-#include "media/movie/other_containers.h"
+#include "media/movie/other/container_shelf.h"
+#include "media/movie/other/other_containers.h"
 
 namespace media::movie {
+
+namespace {
+
+constexpr char beingRead[] = "being read";
+
+}  // namespace
 
 using MaybeAsset = std::optional<model::MediaAsset>;
 
@@ -20,12 +26,20 @@ model::Result<MaybeAsset> copyAsset(io::ByteSource& source) {
   return MaybeAsset(std::move(*asset));
 }
 
-model::Result<MaybeAsset> copyAssetOfFile(const std::string& path, io::ByteSource& source) {
-  auto asset = copyAsset(source);
-  if (!asset || *asset) return asset;
-  const auto isOther = isOtherContainer(source);
+model::Result<std::optional<MovieFile>> copyAssetOfFile(const std::string& path,
+                                                        io::FileSource& file, Waiting waiting) {
+  auto asset = copyAsset(file);
+  if (!asset) return asset.error();
+  if (*asset) return std::optional(MovieFile{**std::move(asset)});
+  const auto isOther = isOtherContainer(file);
   if (!isOther) return isOther.error();
-  return *isOther ? readWithFfmpeg(path, source) : MaybeAsset();
+  if (!*isOther) return std::optional<MovieFile>();
+  if (waiting == Waiting::allowed) return readOtherContainer(path, file);
+  return ContainerShelf::ofProcess().find(path, file).value_or(model::Error{beingRead});
+}
+
+bool isBeingRead(const model::Error& error) {
+  return error.reason == beingRead;
 }
 
 }  // namespace media::movie

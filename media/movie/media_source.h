@@ -8,6 +8,7 @@
 #include <string>
 
 #include "io/byte_source.h"
+#include "media/movie/other/container_reader.h"
 #include "model/media_asset.h"
 #include "model/result.h"
 
@@ -21,10 +22,17 @@ namespace media::movie {
 // Damaged tracks and metadata are left out; a movie that is only cut off in its samples is whole.
 model::Result<std::optional<model::MediaAsset>> copyAsset(io::ByteSource& source);
 
-// As copyAsset, for the file at a path, and for the other containers (MKV, AVI, ...) too, for
-// which FFmpeg is mapped when one is met. None where it is no video FFmpeg knows, or FFmpeg is
-// not installed.
-model::Result<std::optional<model::MediaAsset>> copyAssetOfFile(const std::string& path,
-                                                                io::ByteSource& source);
+// Whether a thread may wait for a worker process to read a file. One that may not has the file read
+// in the background (see ContainerShelf), is told so by an error, and asks again after the news.
+enum class Waiting { allowed, refused };
+bool isBeingRead(const model::Error& error);
+
+// As copyAsset, for a file, and for the other containers (MKV, AVI, ...) too, which a worker
+// process reads by FFmpeg. `path` tells the kind where the bytes do not; it is not opened. None
+// where it is no video that FFmpeg knows, or the reader is not installed. Errors: those of
+// readOtherContainer too.
+model::Result<std::optional<MovieFile>> copyAssetOfFile(const std::string& path,
+                                                        io::FileSource& file,
+                                                        Waiting waiting = Waiting::allowed);
 
 }  // namespace media::movie

@@ -24,10 +24,10 @@ constexpr const Option* takenOptions[] = {&displayOption,  &option::recursive, &
 void run(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   const std::int32_t display = options.display.value_or(environment.settings.thumbnailInfoDisplay);
-  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+  const auto work = [&](const std::string& path) -> model::Result<FileText> {
     const auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
-    return captionOf(*facts, display, environment) + "\n";
+    return FileText{captionOf(*facts, display, environment) + "\n", facts->shortfall};
   };
   scanFiles(options, console, {.work = work});
 }

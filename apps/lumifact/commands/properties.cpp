@@ -27,10 +27,10 @@ std::string jsonLine(const std::string& path, const media::facts::AssetFacts& fa
 
 void run(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::program);
-  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+  const auto work = [&](const std::string& path) -> model::Result<FileText> {
     const auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
-    return jsonLine(path, *facts);
+    return FileText{jsonLine(path, *facts), facts->shortfall};
   };
   scanFiles(options, console, {.work = work});
 }

@@ -20,11 +20,12 @@ constexpr const Option* takenOptions[] = {&compactOption,    &option::recursive,
 void run(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   const QuickInfoForm form = options.compact ? QuickInfoForm::compact : QuickInfoForm::labelled;
-  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+  const auto work = [&](const std::string& path) -> model::Result<FileText> {
     const auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     std::string text = asLines(quickInfoOf(*facts, form, environment));
-    return console.resultsAreOnTerminal() ? terminalSafe(text, foundation::Keep::lineBreaks) : text;
+    if (console.resultsAreOnTerminal()) text = terminalSafe(text, foundation::Keep::lineBreaks);
+    return FileText{std::move(text), facts->shortfall};
   };
   scanFiles(options, console, {.work = work, .separator = "\n"});
 }

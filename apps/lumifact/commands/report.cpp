@@ -49,11 +49,14 @@ std::string message(media::facts::AssetFacts facts, const Environment& environme
 void run(const Options& options, Console& console) {
   const Environment environment =
       environmentOf(options, options.json ? Reader::program : Reader::person);
-  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+  const auto work = [&](const std::string& path) -> model::Result<FileText> {
     auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
-    if (options.json) return jsonLine(path, reportOf(*std::move(facts), environment));
-    return message(*std::move(facts), environment, console.resultsAreOnTerminal());
+    std::string shortfall = facts->shortfall;
+    if (options.json)
+      return FileText{jsonLine(path, reportOf(*std::move(facts), environment)), shortfall};
+    return FileText{message(*std::move(facts), environment, console.resultsAreOnTerminal()),
+                    shortfall};
   };
   scanFiles(options, console, {.work = work, .separator = options.json ? "" : "\n"});
 }

@@ -17,7 +17,7 @@ constexpr const Option* takenOptions[] = {&option::locale, &option::timeZone, &o
 void run(const Options& options, Console& console) {
   const Environment environment = environmentOf(options, Reader::person);
   const bool isForTerminal = console.resultsAreOnTerminal();
-  const auto work = [&](const std::string& path) -> model::Result<std::string> {
+  const auto work = [&](const std::string& path) -> model::Result<FileText> {
     auto facts = media::facts::readAssetFacts(path, environment.root);
     if (!facts) return facts.error();
     if (!facts->properties) return model::Error{"a video has no table (report shows its text)"};
@@ -25,7 +25,8 @@ void run(const Options& options, Console& console) {
     const model::Dictionary record = summaryRecordOf(*facts, environment);
     const AssetReport report = reportOf(*std::move(facts), environment);
     std::string text = tableText(record, *report.table, environment.keyOrder, environment.dates);
-    return isForTerminal ? terminalSafe(text, foundation::Keep::lineBreaks) : text;
+    if (isForTerminal) text = terminalSafe(text, foundation::Keep::lineBreaks);
+    return FileText{std::move(text)};
   };
   scanFiles(options, console, {.work = work});
 }

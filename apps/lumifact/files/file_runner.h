@@ -12,17 +12,23 @@
 
 namespace lumifact::tool {
 
-// What became of one file: its result as text, or why there is none.
+// What is said of one file.
+struct FileText {
+  std::string text;
+  std::string shortfall = {};  // what a limit cut of it; empty where it is whole
+};
+
+// What became of one file: its result, or why there is none.
 struct FileOutcome {
   std::string path;
-  model::Result<std::string> result;
+  model::Result<FileText> result;
 };
 
 struct FileRun {
   // Gives the files, on the calling thread.
   std::function<std::optional<FileItem>()> next;
   // Makes a file's result, on any thread, several files at once.
-  std::function<model::Result<std::string>(const std::string& path)> work;
+  std::function<model::Result<FileText>(const std::string& path)> work;
   // Takes the outcomes in the order of the files, on the calling thread; false to stop early.
   std::function<bool(const FileOutcome& outcome)> emit;
   unsigned threads = 1;

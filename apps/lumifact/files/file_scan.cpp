@@ -36,7 +36,9 @@ void scanFiles(const Options& options, Console& console, const FileScan& scan) {
     if (outcome.result) {
       if (!isFirst) console.write(scan.separator);
       isFirst = false;
-      console.write(*outcome.result);
+      console.write(outcome.result->text);
+      if (const auto& shortfall = outcome.result->shortfall; !shortfall.empty())
+        console.note(outcome.path, shortfall);
     } else {
       console.fail(outcome.path, outcome.result.error().reason);
     }

@@ -16,7 +16,7 @@ namespace lumifact::tool {
 // What is done with every file that the options name.
 struct FileScan {
   // Makes a file's result; on any thread.
-  std::function<model::Result<std::string>(const std::string& path)> work;
+  std::function<model::Result<FileText>(const std::string& path)> work;
   // What stands between two results.
   std::string_view separator = {};
 };

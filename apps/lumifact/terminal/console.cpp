@@ -93,6 +93,10 @@ void Console::fail(std::string_view file, std::string_view reason) {
   fail(std::string(file).append(": ").append(reason));
 }
 
+void Console::note(std::string_view file, std::string_view text) {
+  report(std::string(file).append(": ").append(text));
+}
+
 void Console::showStatus(std::string_view line) {
   if (!_statusIsShown && line.empty()) return;
   _statusIsShown = !line.empty();

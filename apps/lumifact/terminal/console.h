@@ -37,8 +37,9 @@ class Console {
   // Reports a failure: "lumifact: reason", or "lumifact: FILE: reason", always safe.
   void fail(std::string_view reason);
   void fail(std::string_view file, std::string_view reason);
-  // Tells what is no failure, in the same way.
+  // Tells what does not change how the run ends, in the same form.
   void note(std::string_view text) { report(text); }
+  void note(std::string_view file, std::string_view text);
   // Counts as a failure what the results themselves tell.
   void noteFailure() { _status = std::max(_status, ExitStatus::failed); }
   // Reports that the command line asks for something that does not exist.

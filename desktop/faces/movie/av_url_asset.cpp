@@ -14,14 +14,17 @@ namespace desktop::faces {
 
 namespace {
 
-model::MediaAsset assetAt(NSURL url) {
+// Whoever asks may not wait for another process: where one reads the file, there is nothing for
+// now, and `isRead` is false.
+model::MediaAsset assetAt(NSURL url, bool& isRead) {
   const auto path = fileOnDisk(url);
   if (!path) return {};
   const auto source = io::FileSource::open(*path);
   if (!source) return {};
-  auto asset = media::movie::copyAssetOfFile(*path, **source);
-  if (!asset || !*asset) return {};
-  return **std::move(asset);
+  auto movie = media::movie::copyAssetOfFile(*path, **source, media::movie::Waiting::refused);
+  if (!movie) isRead = !media::movie::isBeingRead(movie.error());
+  if (!movie || !*movie) return {};
+  return std::move((*movie)->asset);
 }
 
 }  // namespace
@@ -61,8 +64,9 @@ CMTime AVURLAssetState::duration() {
 }
 
 void AVURLAssetState::readOnce() {
-  if (_tracks) return;
-  const model::MediaAsset asset = assetAt(_url);
+  if (_isRead) return;
+  _isRead = true;
+  const model::MediaAsset asset = assetAt(_url, _isRead);
   _tracks = AVAssetTrackState::makeAll(asset.tracks);
   _commonMetadata = AVMetadataItemState::makeAll(asset.commonMetadata);
   _duration = asset.duration;

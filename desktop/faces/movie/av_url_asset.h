@@ -18,7 +18,8 @@ class AVURLAssetState : public Bound<AVURLAssetState, NSObject, AVURLAsset> {
   // Autoreleased; of any link, and nil of nil.
   static NSObject withURL(NSURL url, NSDictionary options);
   NSURL url() const { return _url; }
-  // Empty where the file is no video or cannot be read.
+  // Empty where the file is no video or cannot be read; and while another process reads it, which
+  // takes containers that are not the phone's.
   NSArray tracks();
   NSArray commonMetadata();
   // Zero then.
@@ -26,7 +27,8 @@ class AVURLAssetState : public Bound<AVURLAssetState, NSObject, AVURLAsset> {
   void readOnce();
 
   Owned<NSURL> _url;
-  Owned<NSArray> _tracks;  // nil until the file has been read
+  bool _isRead = false;
+  Owned<NSArray> _tracks;
   Owned<NSArray> _commonMetadata;
   double _duration = 0;  // seconds
 };

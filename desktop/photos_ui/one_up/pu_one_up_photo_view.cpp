@@ -184,12 +184,24 @@ void PUOneUpPhotoView::show(const pictures::Outcome& outcome) {
   _pictureSize = {static_cast<CGFloat>(outcome.picture->width),
                   static_cast<CGFloat>(outcome.picture->height)};
   _imageView->setImage(imageOf(outcome.picture));
+  tellShortfall();
   arrange();
   if (_laidOut.width > 0) loadForRoom();
 }
 
+// What a limit cut of the file's facts is told below the picture's middle, as failures are.
+void PUOneUpPhotoView::tellShortfall() {
+  if (!host().library) return;
+  const auto& facts = host().library->facts(*_item);
+  if (facts && !(*facts)->shortfall.empty()) showWords((*facts)->shortfall);
+}
+
 void PUOneUpPhotoView::showFailure(const std::string& reason) {
   if (host().library) host().library->noteProblem(_item->path, reason);
+  showWords("cannot be shown: " + reason);
+}
+
+void PUOneUpPhotoView::showWords(const std::string& words) {
   if (!_failure) {
     _failure = bridge::makeView<UILabel>({});
     _failure->setTextAlignment(alignCenter);
@@ -198,7 +210,7 @@ void PUOneUpPhotoView::showFailure(const std::string& reason) {
     _failure->setTextColor(uikit::UIColorState::make(uikit::colors::secondaryText));
     self().addSubview(_failure);
   }
-  _failure->setText(NSString::make(_item->shownName() + "\ncannot be shown: " + reason));
+  _failure->setText(NSString::make(_item->shownName() + "\n" + words));
   arrange();
 }
 

@@ -43,7 +43,9 @@ class PUOneUpPhotoView : public Bound<PUOneUpPhotoView, uikit::UIScrollViewState
   void loadForRoom();
   void loadForZoom();
   void show(const pictures::Outcome& outcome);
+  void tellShortfall();
   void showFailure(const std::string& reason);
+  void showWords(const std::string& words);
   void arrange();
   CGSize fittedSize() const;
   CGSize room() const;

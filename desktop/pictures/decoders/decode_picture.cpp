@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <new>
 #include <string_view>
 
 #include "desktop/pictures/decoders/ffmpeg_frames.h"
@@ -11,9 +12,10 @@
 #include "desktop/pictures/decoders/jpeg_decoder.h"
 #include "desktop/pictures/decoders/qt_decoder.h"
 #include "desktop/pictures/decoders/raw_decoder.h"
+#include "desktop/pictures/decoders/tile_decoder.h"
 #include "io/byte_source.h"
 #include "media/image/image_type.h"
-#include "media/movie/other_containers.h"
+#include "media/movie/other/other_containers.h"
 
 namespace desktop::pictures {
 
@@ -21,7 +23,7 @@ namespace {
 
 // A file that is being decoded.
 struct File {
-  const std::string& path;
+  const std::string& name;
   io::ByteSource& source;
   const Request& request;
 };
@@ -42,7 +44,7 @@ model::Result<Picture> withQt(const File& file) {
 }
 
 model::Result<Picture> asVideo(const File& file) {
-  return decodeVideoFrame(file.path, file.source, file.request);
+  return decodeVideoFrame(file.name, file.source, file.request);
 }
 
 struct Kind {
@@ -85,7 +87,7 @@ model::Result<Picture> decodeFile(const File& file) {
   if (!count) return count.error();
   if (*count == 0) return model::Error{"empty file"};
   const io::ByteView bytes(std::span<const std::uint8_t>(head).first(*count));
-  const auto type = media::image::uniformTypeIdentifier(bytes, file.path);
+  const auto type = media::image::uniformTypeIdentifier(bytes, file.name);
   const auto* kind = std::ranges::find(kinds, type, &Kind::type);
   if (kind != std::end(kinds)) return kind->decode(file);
   const auto isVideo = media::movie::isOtherContainer(file.source);
@@ -96,11 +98,25 @@ model::Result<Picture> decodeFile(const File& file) {
 }  // namespace
 
 model::Result<Picture> decodePicture(const std::string& path, const Request& request) {
-  if (request.maxWidth <= 0 || request.maxHeight <= 0) return model::Error{"no size asked for"};
   const auto source = io::FileSource::open(path);
   if (!source) return source.error();
+  return decodeSource(path, **source, request);
+}
+
+void loadDecoders() {
+  loadHeifDecoders();
+  loadQtDecoders();
+  loadVideoDecoders();
+  static_cast<void>(tileDecoderMaker());
+}
+
+model::Result<Picture> decodeSource(const std::string& name, io::ByteSource& source,
+                                    const Request& request) {
+  if (request.maxWidth <= 0 || request.maxHeight <= 0) return model::Error{"no size asked for"};
   try {
-    return decodeFile({path, **source, request});
+    return decodeFile({name, source, request});
+  } catch (const std::bad_alloc&) {
+    return model::Error{"not enough memory"};
   } catch (const std::exception& exception) {
     return model::Error{exception.what()};
   }

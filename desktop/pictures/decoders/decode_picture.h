@@ -6,6 +6,7 @@
 #include <string>
 
 #include "desktop/pictures/pixels/picture.h"
+#include "io/byte_source.h"
 #include "model/result.h"
 
 namespace desktop::pictures {
@@ -18,5 +19,13 @@ namespace desktop::pictures {
 // video"; else what its reader says. The decoders are libraries that a hostile file may crash or
 // keep busy: programs that must not end with them use PictureLoader.
 model::Result<Picture> decodePicture(const std::string& path, const Request& request);
+
+// The same for a source. `name` tells its kind where the bytes do not; it is not opened. Errors:
+// from "empty file" on.
+model::Result<Picture> decodeSource(const std::string& name, io::ByteSource& source,
+                                    const Request& request);
+
+// Loads the libraries of all decoders, as a process that may not open files later has to.
+void loadDecoders();
 
 }  // namespace desktop::pictures

@@ -5,10 +5,23 @@
 
 namespace desktop::pictures {
 
-model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
-                                        const Request& request) {
+namespace {
+
+DecodeFrameWithFfmpeg frameDecoder() {
   static const auto decode = reinterpret_cast<DecodeFrameWithFfmpeg>(
       io::functionOfModule(ffmpegFramesModule, ffmpegFramesFunction));
+  return decode;
+}
+
+}  // namespace
+
+void loadVideoDecoders() {
+  static_cast<void>(frameDecoder());
+}
+
+model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
+                                        const Request& request) {
+  const DecodeFrameWithFfmpeg decode = frameDecoder();
   if (decode == nullptr)
     return model::Error{std::string("no reader for videos is installed: ") + ffmpegFramesModule};
   Picture picture;

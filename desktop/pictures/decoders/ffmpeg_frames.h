@@ -19,6 +19,9 @@ namespace desktop::pictures {
 model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
                                         const Request& request);
 
+// Loads the module, where it is installed.
+void loadVideoDecoders();
+
 // The module's function, under its C name. Fills the picture and returns 0, or returns another
 // number and leaves it as it is.
 extern "C" {

@@ -167,6 +167,10 @@ void convertColours(const Handle& primary, Picture& picture) {
 
 }  // namespace
 
+void loadHeifDecoders() {
+  heif_init(nullptr);
+}
+
 model::Result<Picture> decodeHeif(io::ByteSource& source, const Request& request) {
   Input input{source};
   const Owned<heif_context> context(heif_context_alloc());

@@ -12,4 +12,7 @@ namespace desktop::pictures {
 // REQUIRES: the request is not empty.
 model::Result<Picture> decodeHeif(io::ByteSource& source, const Request& request);
 
+// Loads libheif's decoders.
+void loadHeifDecoders();
+
 }  // namespace desktop::pictures

@@ -70,6 +70,11 @@ Picture scaledTo(PixelSize target, const QImage& image) {
 
 }  // namespace
 
+// To list what they read Qt asks each of them.
+void loadQtDecoders() {
+  static_cast<void>(QImageReader::supportedImageFormats());
+}
+
 model::Result<Picture> decodeWithQt(const char* format, io::ByteSource& source,
                                     const Request& request) {
   SourceDevice device(source);

@@ -15,4 +15,7 @@ namespace desktop::pictures {
 model::Result<Picture> decodeWithQt(const char* format, io::ByteSource& source,
                                     const Request& request);
 
+// Loads Qt's readers.
+void loadQtDecoders();
+
 }  // namespace desktop::pictures

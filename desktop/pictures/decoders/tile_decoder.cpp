@@ -6,9 +6,14 @@
 
 namespace desktop::pictures {
 
-std::unique_ptr<TileDecoder> makeTileDecoder(const TileFormat& format) {
+MakeTileDecoderWithFfmpeg tileDecoderMaker() {
   static const auto make = reinterpret_cast<MakeTileDecoderWithFfmpeg>(
       io::functionOfModule(ffmpegFramesModule, ffmpegTilesFunction));
+  return make;
+}
+
+std::unique_ptr<TileDecoder> makeTileDecoder(const TileFormat& format) {
+  const MakeTileDecoderWithFfmpeg make = tileDecoderMaker();
   return std::unique_ptr<TileDecoder>(make == nullptr ? nullptr : make(&format));
 }
 

@@ -38,4 +38,7 @@ using MakeTileDecoderWithFfmpeg = TileDecoder* (*)(const TileFormat* format);
 }
 inline constexpr char ffmpegTilesFunction[] = "desktopMakeTileDecoderWithFfmpeg";
 
+// That function, loaded with its module; null where it is not installed.
+MakeTileDecoderWithFfmpeg tileDecoderMaker();
+
 }  // namespace desktop::pictures

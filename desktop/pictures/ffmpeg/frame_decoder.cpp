@@ -28,7 +28,7 @@ Frame firstFrame(media::movie::Demuxer& demuxer, const AVStream& stream) {
   const Packet packet(av_packet_alloc());
   Frame frame(av_frame_alloc());
   if (!codec || !packet || !frame) return nullptr;
-  for (int count = 0; count < limits.framesUntilPicture && !demuxer.isLate(); ++count) {
+  for (int count = 0; count < limits.framesUntilPicture; ++count) {
     const bool isAtEnd = av_read_frame(&demuxer.context(), packet.get()) < 0;
     // A packet that cannot be decoded is passed over. None at all asks for what is held back.
     if (isAtEnd || packet->stream_index == stream.index)

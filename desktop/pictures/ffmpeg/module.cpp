@@ -16,7 +16,9 @@ bool decode(const char* name, io::ByteSource& source, const Request& request, Pi
   const auto demuxer = media::movie::Demuxer::open(
       name, source,
       {.containers = "mov,matroska,webm,avi,mpeg,mpegts,mpegvideo,flv,asf,ogg,rm,mxf,nut",
-       .time = limits.videoTime,
+       .bytes = limits.videoBytes,
+       .packets = limits.videoPackets,
+       .streams = limits.videoStreams,
        .largestAllocation = limits.videoAllocation});
   if (!demuxer) return false;
   AVFormatContext& context = demuxer->context();

@@ -3,7 +3,6 @@
 // How much decoding may take: the one table of this room.
 #pragma once
 
-#include <chrono>
 #include <cstddef>
 #include <cstdint>
 
@@ -19,14 +18,15 @@ struct Limits {
   int jpegScans;                   // of a progressive JPEG, each as costly as the image
   int heifThumbnails;              // looked at in one file
   int decoderThreads;              // for the tiles of a HEIF picture, or for a video
-  std::uint64_t configurationBytes;       // of a coder's configuration record
-  int framesUntilPicture;                 // packets of a video read until a frame comes out
-  std::chrono::milliseconds videoTime;    // for one frame
-  std::size_t videoAllocation;            // bytes, of one piece of memory
-  std::size_t workerAddressSpace;         // bytes, of a worker process
-  std::chrono::milliseconds workerStart;  // until a worker is ready
+  std::uint64_t configurationBytes;  // of a coder's configuration record
+  int framesUntilPicture;            // packets of a video read until a frame comes out
+  std::uint64_t videoBytes;          // read of a video for one frame
+  int videoPackets;                  // looked at to tell what its streams hold
+  int videoStreams;                  // a video of more has no picture
+  std::size_t videoAllocation;       // bytes, of one piece of memory
+  std::size_t workerMemory;  // bytes, of a worker process beside its libraries and its frame
   std::size_t untakenBytes;  // of finished pictures that nobody takes, until decoding pauses
-  std::size_t pathBytes;     // of a file's path
+  std::size_t nameBytes;     // of a file's name
   std::size_t reasonBytes;   // of the reason of a failure
 };
 
@@ -42,12 +42,13 @@ inline constexpr Limits limits = {
     .decoderThreads = 2,
     .configurationBytes = 65'536,
     .framesUntilPicture = 300,
-    .videoTime = std::chrono::milliseconds(1800),
+    .videoBytes = 256u << 20,
+    .videoPackets = 5'000,
+    .videoStreams = 256,
     .videoAllocation = 256u << 20,
-    .workerAddressSpace = std::size_t{3} << 30,
-    .workerStart = std::chrono::seconds(10),
+    .workerMemory = 1280u << 20,
     .untakenBytes = 128u << 20,
-    .pathBytes = 4096,
+    .nameBytes = 255,
     .reasonBytes = 512,
 };
 

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// What a loader and its worker processes say to each other: one message each way a picture, over a
-// socket that keeps messages apart. Both ends are the same program on the same machine, so numbers
-// are sent as they lie in memory. What a worker sends is distrusted all the same: its decoder may
-// have been taken over by a file.
+// What a loader and its worker processes say to each other: one message each way a picture. The
+// file travels with the order as an open descriptor; the pixels are too many for a message and lie
+// in the frame, a file without a name that the loader gave its worker. What a worker says is
+// distrusted: its decoder may have been taken over by a file.
 #pragma once
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "desktop/pictures/pixels/picture.h"
 #include "io/descriptor.h"
@@ -17,35 +19,36 @@
 namespace desktop::pictures {
 
 struct DecodeOrder {
-  std::string path;
+  std::string name;  // of the file, without its folder: a hint to its kind
   Request request;
+  io::Descriptor file = {};  // received with it
 };
 
-// A worker's first message says that it is ready; each further one answers an order.
 struct DecodeAnswer {
-  enum class Kind : std::int32_t { ready, decoded, failed };
+  enum class Kind : std::uint8_t { decoded, failed };
 
   Kind kind = Kind::failed;
   int width = 0;  // of the decoded picture
   int height = 0;
-  std::string reason = {};     // of a failure
-  io::Descriptor pixels = {};  // of the decoded picture: a file without a name
+  std::string reason = {};  // of a failure
 };
 
-// A connected pair; both ends are closed on exec. None where the system has no more.
-std::optional<std::pair<io::Descriptor, io::Descriptor>> socketPair();
-
-// False where the other end is gone. Never raises SIGPIPE.
-bool sendOrder(int socket, const DecodeOrder& order);
+// False where the other end is gone. `file` is borrowed.
+bool sendOrder(int socket, const DecodeOrder& order, int file);
 bool sendAnswer(int socket, const DecodeAnswer& answer);
 
-// Waits for a message. None where the other end is gone or sends what is no message.
+// Wait for a message. None where the other end is gone or sends what is no message.
 std::optional<DecodeOrder> receiveOrder(int socket);
 std::optional<DecodeAnswer> receiveAnswer(int socket);
 
-// A picture's pixels as a file without a name, and back. Errors: the system has no memory; a file
-// that is shorter than the size says, or a size beyond the limits.
-model::Result<io::Descriptor> writePixels(const Picture& picture);
-model::Result<Picture> readPixels(const DecodeAnswer& answer);
+// None where these bytes are no answer. The size of a picture that is accepted is within the
+// limits.
+std::optional<DecodeAnswer> answerOfBytes(std::span<const std::uint8_t> bytes);
+std::vector<std::uint8_t> bytesOfAnswer(const DecodeAnswer& answer);
+
+// A picture's pixels into the frame, and back. Errors: no memory is left; a frame that is shorter
+// than the answer says.
+std::optional<model::Error> writePixels(const Picture& picture, int frame);
+model::Result<Picture> readPixels(const DecodeAnswer& answer, int frame);
 
 }  // namespace desktop::pictures

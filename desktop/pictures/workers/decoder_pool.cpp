@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
-// A worker is sent its job at once and says that it is ready before it begins, so that the time it
+// A worker is sent its job at once and says that it is ready before it begins, so that what it
 // takes to start does not count as the picture's. A worker that dies has its job done once more by
 // a fresh one: what killed it may have been the file before, or somebody from outside. The second
-// death is the file's.
+// death is the file's. The thread looks at the workers that have jobs many times a second; how long
+// they take by the clock on the wall does not matter.
 #include "desktop/pictures/workers/decoder_pool.h"
 
 #include <poll.h>
@@ -14,6 +15,10 @@
 #include <utility>
 
 #include "desktop/pictures/pixels/limits.h"
+#include "desktop/pictures/workers/decoder_messages.h"
+#include "io/byte_source.h"
+#include "workers/greeting.h"
+#include "workers/message.h"
 
 namespace desktop::pictures {
 
@@ -38,7 +43,7 @@ DecoderPool::~DecoderPool() {
   _thread.join();
 }
 
-void DecoderPool::submit(JobNumber job, DecodeOrder order, int urgency) {
+void DecoderPool::submit(JobNumber job, PictureOrder order, int urgency) {
   {
     const std::lock_guard lock(_mutex);
     _waiting.insert_or_assign(job, Waiting{std::move(order), urgency});
@@ -86,7 +91,7 @@ void DecoderPool::run() {
   while (!isStopping()) {
     assignJobs();
     wait();
-    stopLate();
+    watchAll();
   }
   // Workers die with the thread that started them, so they end here.
   _workers.clear();
@@ -111,31 +116,38 @@ std::optional<DecoderPool::Job> DecoderPool::nextJob() {
 
 void DecoderPool::begin(Worker& worker, Job job) {
   worker.job = std::move(job);
-  const auto now = Clock::now();
-  if (worker.isReady) worker.deadline = now + _settings.timeLimit;
-  if (!worker.process.isRunning()) {
-    worker.isReady = false;
-    worker.deadline = now + limits.workerStart;
-    if (const auto error = worker.process.start(_settings.command)) {
-      finish(worker, {.reason = "the decoder cannot be started: " + error->reason});
-      return;
-    }
-  }
-  if (!sendOrder(worker.process.socket(), worker.job->order)) replaceCrashed(worker);
+  const PictureOrder& order = worker.job->order;
+  // Workers get open files: a path is none of theirs.
+  const auto file = io::FileSource::open(order.path);
+  if (!file) return finish(worker, {.reason = file.error().reason});
+  if (!worker.process.isRunning() && !start(worker)) return;
+  watchOver(worker);
+  const std::string name = order.path.substr(order.path.rfind('/') + 1);
+  const bool isSent = sendOrder(worker.process.socket(), {.name = name, .request = order.request},
+                                (*file)->descriptor());
+  if (!isSent) replaceCrashed(worker);
+}
+
+bool DecoderPool::start(Worker& worker) {
+  worker.isReady = false;
+  const auto error = worker.process.start(_settings.command, workers::Frame::given);
+  if (error) finish(worker, {.reason = "the decoder cannot be started: " + error->reason});
+  return !error;
+}
+
+void DecoderPool::watchOver(Worker& worker) const {
+  worker.watch =
+      workers::WorkerWatch(worker.process.number(), _settings.processorTime, _settings.sleepyLooks);
 }
 
 void DecoderPool::wait() {
   std::vector<pollfd> sources{{_wake.number(), POLLIN, 0}};
-  auto deadline = Clock::time_point::max();
+  bool isAnyAtWork = false;
   for (const Worker& worker : _workers) {
     sources.push_back({worker.process.socket(), POLLIN, 0});
-    if (worker.job) deadline = std::min(deadline, worker.deadline);
+    isAnyAtWork |= worker.job.has_value();
   }
-  int timeout = -1;
-  if (deadline != Clock::time_point::max()) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
-    timeout = static_cast<int>(std::max<std::int64_t>(0, left.count()));
-  }
+  const int timeout = isAnyAtWork ? static_cast<int>(workers::WorkerWatch::interval.count()) : -1;
   if (poll(sources.data(), sources.size(), timeout) <= 0) return;
   if (sources[0].revents != 0) _wake.clear();
   for (std::size_t index = 0; index < _workers.size(); ++index) {
@@ -144,21 +156,22 @@ void DecoderPool::wait() {
 }
 
 void DecoderPool::hear(Worker& worker) {
-  const auto answer = receiveAnswer(worker.process.socket());
-  if (answer && answer->kind == DecodeAnswer::Kind::ready && !worker.isReady) {
-    worker.isReady = true;
-    worker.deadline = Clock::now() + _settings.timeLimit;
-  } else if (answer && worker.isReady && worker.job) {
-    takeAnswer(worker, *answer);
-  } else {
-    replaceCrashed(worker);
-  }
+  if (worker.isReady) return hearAnswer(worker);
+  const auto message = workers::receiveMessage(worker.process.socket(), workers::longestGreeting,
+                                               workers::Guests::refused);
+  if (!message || !workers::acceptGreeting(message->bytes)) return replaceCrashed(worker);
+  worker.isReady = true;
+  watchOver(worker);
 }
 
-void DecoderPool::takeAnswer(Worker& worker, const DecodeAnswer& answer) {
-  if (answer.kind != DecodeAnswer::Kind::decoded) return finish(worker, {.reason = answer.reason});
-  auto picture = readPixels(answer);
-  if (!picture) return finish(worker, {.reason = picture.error().reason});
+void DecoderPool::hearAnswer(Worker& worker) {
+  const auto answer = receiveAnswer(worker.process.socket());
+  if (!answer || !worker.job) return replaceCrashed(worker);
+  if (answer->kind != DecodeAnswer::Kind::decoded)
+    return finish(worker, {.reason = answer->reason});
+  auto picture = readPixels(*answer, worker.process.frame());
+  if (!picture) return fail(worker, "damaged answer");
+  worker.process.emptyFrame();
   finish(worker, {.kind = Outcome::Kind::decoded,
                   .picture = std::make_shared<const Picture>(*std::move(picture))});
 }
@@ -173,6 +186,12 @@ void DecoderPool::replaceCrashed(Worker& worker) {
   begin(worker, *std::exchange(worker.job, std::nullopt));
 }
 
+void DecoderPool::fail(Worker& worker, const char* reason, Outcome::Kind kind) {
+  worker.process.stop();
+  worker.isReady = false;
+  finish(worker, {.kind = kind, .reason = reason});
+}
+
 void DecoderPool::finish(Worker& worker, Outcome outcome) {
   {
     const std::lock_guard lock(_mutex);
@@ -183,17 +202,21 @@ void DecoderPool::finish(Worker& worker, Outcome outcome) {
   _news.signal();
 }
 
-void DecoderPool::stopLate() {
+void DecoderPool::watchAll() {
+  using Finding = workers::WorkerWatch::Finding;
   const auto now = Clock::now();
+  if (now < _nextLook) return;
+  _nextLook = now + workers::WorkerWatch::interval;
   for (Worker& worker : _workers) {
-    if (!worker.job || now < worker.deadline) continue;
-    worker.process.stop();
-    if (worker.isReady) {
-      finish(worker, {.kind = Outcome::Kind::timedOut, .reason = "decoding took too long"});
+    const Finding finding = worker.job ? worker.watch.look() : Finding::atWork;
+    if (finding == Finding::atWork) continue;
+    if (!worker.isReady) {
+      fail(worker, "the decoder does not start");
+    } else if (finding == Finding::spent) {
+      fail(worker, "decoding took too long", Outcome::Kind::timedOut);
     } else {
-      finish(worker, {.reason = "the decoder does not start"});
+      fail(worker, "the decoder fell asleep", Outcome::Kind::timedOut);
     }
-    worker.isReady = false;
   }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A few worker processes and the thread that feeds them: each has one job at a time, and is killed
-// and replaced when it crashes or takes too long.
+// and replaced when it crashes, takes too much of the processor or falls asleep.
 #pragma once
 
 #include <chrono>
@@ -17,14 +17,22 @@
 #include "desktop/pictures/workers/decoder_messages.h"
 #include "desktop/pictures/workers/outcome.h"
 #include "desktop/pictures/workers/wake_descriptor.h"
-#include "desktop/pictures/workers/worker_process.h"
+#include "workers/worker_process.h"
+#include "workers/worker_watch.h"
 
 namespace desktop::pictures {
 
 struct PoolSettings {
-  std::vector<std::string> command;     // of a worker; the first word is a path
-  int workers;                          // processes at most
-  std::chrono::milliseconds timeLimit;  // for one picture
+  std::vector<std::string> command;         // of a worker; the first word is a path
+  int workers;                              // processes at most
+  std::chrono::milliseconds processorTime;  // for one picture, and for starting
+  int sleepyLooks;                          // see workers::WorkerWatch
+};
+
+// A picture that somebody wants.
+struct PictureOrder {
+  std::string path;
+  Request request;
 };
 
 // All public functions may be called from one other thread.
@@ -45,7 +53,7 @@ class DecoderPool {
   DecoderPool& operator=(const DecoderPool&) = delete;
 
   // Jobs of a smaller urgency number come first, then those with a smaller job number.
-  void submit(JobNumber job, DecodeOrder order, int urgency);
+  void submit(JobNumber job, PictureOrder order, int urgency);
   // No effect on jobs that were begun.
   void setUrgency(JobNumber job, int urgency);
   // Whether the job was taken out; false where it was begun already.
@@ -57,19 +65,19 @@ class DecoderPool {
  private:
   using Clock = std::chrono::steady_clock;
   struct Waiting {
-    DecodeOrder order;
+    PictureOrder order;
     int urgency;
   };
   struct Job {
     JobNumber number;
-    DecodeOrder order;
+    PictureOrder order;
     bool isSecondTry = false;
   };
   struct Worker {
-    WorkerProcess process = {};
+    workers::WorkerProcess process = {};
     bool isReady = false;  // said so
     std::optional<Job> job = {};
-    Clock::time_point deadline = {};  // for becoming ready, then for the job
+    workers::WorkerWatch watch = {};  // on becoming ready, then on the job
   };
 
   // All below run on the pool's own thread.
@@ -77,18 +85,22 @@ class DecoderPool {
   void assignJobs();
   std::optional<Job> nextJob();
   void begin(Worker& worker, Job job);
+  bool start(Worker& worker);
   void wait();
   void hear(Worker& worker);
-  void takeAnswer(Worker& worker, const DecodeAnswer& answer);
+  void hearAnswer(Worker& worker);
   void replaceCrashed(Worker& worker);
+  void fail(Worker& worker, const char* reason, Outcome::Kind kind = Outcome::Kind::failed);
   void finish(Worker& worker, Outcome outcome);
-  void stopLate();
+  void watchAll();
+  void watchOver(Worker& worker) const;
   bool isStopping();
 
   const PoolSettings _settings;
   WakeDescriptor& _news;
   WakeDescriptor _wake;  // of the thread
   std::vector<Worker> _workers;
+  Clock::time_point _nextLook;  // at those at work
 
   std::mutex _mutex;  // guards what follows
   std::map<JobNumber, Waiting> _waiting;

@@ -13,7 +13,7 @@ struct Outcome {
   enum class Kind {
     decoded,   // there is a picture
     failed,    // the file cannot be decoded, the decoder crashed twice, or cannot be run
-    timedOut,  // the decoder was stopped because it took too long
+    timedOut,  // the decoder was stopped: it took too much processor time, or fell asleep
   };
 
   Kind kind = Kind::failed;

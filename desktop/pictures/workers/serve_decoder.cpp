@@ -1,39 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/pictures/workers/serve_decoder.h"
 
-#include <fcntl.h>
-#include <sys/prctl.h>
-#include <sys/resource.h>
+#include <unistd.h>
 
 #include <QtGlobal>
-#include <csignal>
 #include <exception>
 #include <new>
 
 #include "desktop/pictures/decoders/decode_picture.h"
 #include "desktop/pictures/pixels/limits.h"
 #include "desktop/pictures/workers/decoder_messages.h"
-#include "desktop/pictures/workers/sanitizer.h"
+#include "workers/confinement/confinement.h"
+#include "workers/greeting.h"
+#include "workers/message.h"
 
 namespace desktop::pictures {
 
 namespace {
 
-void setLimit(__rlimit_resource resource, std::size_t amount) {
-  const rlimit limit{amount, amount};
-  setrlimit(resource, &limit);
-}
-
-void confine() {
-  prctl(PR_SET_PDEATHSIG, SIGKILL);
-  setLimit(RLIMIT_CORE, 0);
-  if (!needsAllAddresses) setLimit(RLIMIT_AS, limits.workerAddressSpace);
+std::string prepare() {
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  loadDecoders();
+  return workers::confine(
+      {.memory = limits.workerMemory, .frameBytes = limits.pictureBytes, .hasThreads = true});
 }
 
-model::Result<Picture> decodeGuarded(DecodeFunction decode, const DecodeOrder& order) {
+model::Result<Picture> decodeGuarded(DecodeFunction decode, DecodeOrder& order) {
   try {
-    return decode(order.path, order.request);
+    io::FileSource source(std::move(order.file));
+    return decode(order.name, source, order.request);
   } catch (const std::bad_alloc&) {
     return model::Error{"not enough memory"};
   } catch (const std::exception& exception) {
@@ -41,31 +36,25 @@ model::Result<Picture> decodeGuarded(DecodeFunction decode, const DecodeOrder& o
   }
 }
 
-DecodeAnswer answerTo(const DecodeOrder& order, DecodeFunction decode) {
+DecodeAnswer answerTo(DecodeOrder order, DecodeFunction decode) {
   const auto picture = decodeGuarded(decode, order);
   if (!picture) return {.kind = DecodeAnswer::Kind::failed, .reason = picture.error().reason};
-  auto pixels = writePixels(*picture);
-  if (!pixels) return {.kind = DecodeAnswer::Kind::failed, .reason = pixels.error().reason};
-  return {.kind = DecodeAnswer::Kind::decoded,
-          .width = picture->width,
-          .height = picture->height,
-          .reason = {},
-          .pixels = *std::move(pixels)};
+  if (const auto error = writePixels(*picture, workers::frameOfWorker))
+    return {.kind = DecodeAnswer::Kind::failed, .reason = error->reason};
+  return {.kind = DecodeAnswer::Kind::decoded, .width = picture->width, .height = picture->height};
 }
 
 }  // namespace
 
 int serveDecoder(int socket, DecodeFunction decode) {
-  if (decode == nullptr) decode = decodePicture;
-  // Not for processes that a decoder might start.
-  fcntl(socket, F_SETFD, FD_CLOEXEC);
-  confine();
-  bool isConnected = sendAnswer(socket, {.kind = DecodeAnswer::Kind::ready});
+  if (decode == nullptr) decode = decodeSource;
+  bool isConnected = workers::sendMessage(socket, workers::greetingOf(prepare()));
   while (isConnected) {
-    const auto order = receiveOrder(socket);
-    isConnected = order && sendAnswer(socket, answerTo(*order, decode));
+    auto order = receiveOrder(socket);
+    isConnected = order && sendAnswer(socket, answerTo(*std::move(order), decode));
   }
-  return 0;
+  // At once: what runs at a usual end may do what the process may not any more.
+  _exit(0);
 }
 
 }  // namespace desktop::pictures

@@ -6,21 +6,24 @@
 #include <string>
 
 #include "desktop/pictures/pixels/picture.h"
+#include "io/byte_source.h"
 #include "model/result.h"
+#include "workers/worker_process.h"
 
 namespace desktop::pictures {
 
 // Where a loader leaves the socket of a worker that it starts.
-inline constexpr int decoderSocket = 3;
+inline constexpr int decoderSocket = workers::socketOfWorker;
 
-using DecodeFunction = model::Result<Picture> (*)(const std::string& path, const Request& request);
+using DecodeFunction = model::Result<Picture> (*)(const std::string& name, io::ByteSource& source,
+                                                  const Request& request);
 
-// Answers the orders that come over the socket until its other end is closed; returns the exit
-// status. Limits the memory of the process, silences the libraries' messages, and lets the process
-// end with the one that started it. `decode` is another function in tests only.
+// Loads the decoders' libraries, confines the process, and answers the orders that come over the
+// socket until its other end is closed; then the process ends. `decode` is another function in
+// tests only. REQUIRES: one thread.
 //
 //   if (argc > 1 && std::string_view(argv[1]) == "--decode-pictures")
 //     return desktop::pictures::serveDecoder(desktop::pictures::decoderSocket);
-int serveDecoder(int socket, DecodeFunction decode = nullptr);
+[[noreturn]] int serveDecoder(int socket, DecodeFunction decode = nullptr);
 
 }  // namespace desktop::pictures

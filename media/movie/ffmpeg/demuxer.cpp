@@ -6,6 +6,8 @@ extern "C" {
 #include <libavutil/mem.h>
 }
 
+#include <algorithm>
+
 namespace media::movie {
 
 namespace {
@@ -15,8 +17,10 @@ constexpr int bufferSize = 64 << 10;  // bytes
 // The options of opening; FFmpeg takes out what it uses.
 class Options {
  public:
-  explicit Options(const char* containers) {
-    av_dict_set(&_options, "format_whitelist", containers, 0);
+  explicit Options(const DemuxerLimits& limits) {
+    av_dict_set(&_options, "format_whitelist", limits.containers, 0);
+    av_dict_set(&_options, "codec_whitelist", limits.codecs, 0);
+    av_dict_set_int(&_options, "max_streams", limits.streams, 0);
     av_dict_set(&_options, "protocol_whitelist", "none", 0);
     av_dict_set(&_options, "probesize", "1000000", 0);        // bytes
     av_dict_set(&_options, "formatprobesize", "65536", 0);    // bytes
@@ -34,16 +38,15 @@ class Options {
 
 }  // namespace
 
-Demuxer::Demuxer(io::ByteSource& source, const DemuxerLimits& limits)
-    : _source(source), _deadline(std::chrono::steady_clock::now() + limits.time) {}
-
 std::unique_ptr<Demuxer> Demuxer::open(const char* name, io::ByteSource& source,
-                                       const DemuxerLimits& limits) {
+                                       const DemuxerLimits& limits, Refusal* refusal) {
   av_log_set_level(AV_LOG_QUIET);
   av_max_alloc(limits.largestAllocation);
   std::unique_ptr<Demuxer> demuxer(new Demuxer(source, limits));
-  if (!demuxer->openInput(name, limits.containers)) return nullptr;
-  return demuxer;
+  Refusal reason{};
+  if (demuxer->openInput(name, reason)) return demuxer;
+  if (refusal != nullptr) *refusal = reason;
+  return nullptr;
 }
 
 Demuxer::~Demuxer() {
@@ -52,7 +55,8 @@ Demuxer::~Demuxer() {
   avio_context_free(&_io);
 }
 
-bool Demuxer::openInput(const char* name, const char* containers) {
+bool Demuxer::openInput(const char* name, Refusal& refusal) {
+  refusal = Refusal::tooMuch;
   auto* buffer = static_cast<std::uint8_t*>(av_malloc(bufferSize));
   if (buffer == nullptr) return false;
   _io = avio_alloc_context(buffer, bufferSize, 0, this, read, nullptr, seek);
@@ -60,20 +64,29 @@ bool Demuxer::openInput(const char* name, const char* containers) {
   _context = avformat_alloc_context();
   if (_io == nullptr || _context == nullptr) return false;
   _context->pb = _io;
-  _context->interrupt_callback = {isInterrupted, this};
-  Options options(containers);
+  _context->interrupt_callback = {countPacket, this};
+  // Packets that were looked at are dropped; who wants them reads them again.
+  if (_limits.codecs != nullptr) _context->flags |= AVFMT_FLAG_NOBUFFER;
+  Options options(_limits);
   // A failed opening frees the context itself.
-  return avformat_open_input(&_context, name, nullptr, options.get()) == 0 &&
-         avformat_find_stream_info(_context, nullptr) >= 0;
+  int result = avformat_open_input(&_context, name, nullptr, options.get());
+  if (result == 0) result = avformat_find_stream_info(_context, nullptr);
+  // FFmpeg says so of too many streams too.
+  if (result != AVERROR(ENOMEM)) refusal = Refusal::unknown;
+  return result >= 0;
 }
 
 int Demuxer::read(void* opaque, std::uint8_t* bytes, int length) {
   auto& self = *static_cast<Demuxer*>(opaque);
-  if (length <= 0 || self.isLate()) return AVERROR_EXIT;
-  const auto count = self._source.readAt(self._offset, {bytes, static_cast<std::size_t>(length)});
+  if (length <= 0) return AVERROR_EXIT;
+  const std::uint64_t left = self._limits.bytes - self._bytes;
+  if (left == 0) self._areBytesCut = true;
+  const auto size = std::min(static_cast<std::uint64_t>(length), left);
+  const auto count = self._source.readAt(self._offset, {bytes, static_cast<std::size_t>(size)});
   if (!count) return AVERROR(EIO);
   if (*count == 0) return AVERROR_EOF;
   self._offset += *count;
+  self._bytes += *count;
   return static_cast<int>(*count);
 }
 
@@ -90,8 +103,11 @@ std::int64_t Demuxer::seek(void* opaque, std::int64_t offset, int whence) {
   return target;
 }
 
-int Demuxer::isInterrupted(void* opaque) {
-  return static_cast<Demuxer*>(opaque)->isLate() ? 1 : 0;
+// FFmpeg asks before each packet that it looks at whether it is to go on.
+int Demuxer::countPacket(void* opaque) {
+  auto& self = *static_cast<Demuxer*>(opaque);
+  ++self._packets;
+  return self.arePacketsCut() ? 1 : 0;
 }
 
 }  // namespace media::movie

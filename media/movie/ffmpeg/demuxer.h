@@ -1,53 +1,67 @@
 // SPDX-License-Identifier: MIT
 //
 // A byte source opened by FFmpeg, which reads through the source only: it opens no file and no
-// network address of its own, knows the containers of a short list only, is silent, and is stopped
-// when it takes too long.
+// network address of its own, knows the containers of a short list only, is silent, and reads so
+// many bytes and packets and no more.
 #pragma once
 
 extern "C" {
 #include <libavformat/avformat.h>
 }
 
-#include <chrono>
 #include <memory>
 
 #include "io/byte_source.h"
 
 namespace media::movie {
 
-// How FFmpeg may read.
+// How FFmpeg may read. What is cut depends on the file alone, never on how fast it is read.
 struct DemuxerLimits {
   const char* containers;             // FFmpeg's names, parted by commas
-  std::chrono::milliseconds time;     // from opening to the last packet
+  const char* codecs = nullptr;       // that may be opened to learn more of a stream; null for all
+  std::uint64_t bytes;                // of the source, those read twice counted twice
+  int packets;                        // that are looked at to learn what the streams are
+  int streams;                        // a file of more is refused
   std::size_t largestAllocation = 0;  // bytes
 };
 
 class Demuxer {
  public:
-  // Opens the source and looks at its streams. Null where FFmpeg knows nothing of it. `name` is a
-  // hint to the kind of the file. REQUIRES: the source outlives the demuxer.
+  // Why nothing was opened.
+  enum class Refusal { unknown, tooMuch };
+
+  // Opens the source and looks at its streams. Null where FFmpeg knows nothing of it, or where
+  // there are too many streams or too little memory: `refusal` says which. `name` is a hint to the
+  // kind of the file. REQUIRES: the source outlives the demuxer.
   static std::unique_ptr<Demuxer> open(const char* name, io::ByteSource& source,
-                                       const DemuxerLimits& limits);
+                                       const DemuxerLimits& limits, Refusal* refusal = nullptr);
   ~Demuxer();
   Demuxer(const Demuxer&) = delete;
   Demuxer& operator=(const Demuxer&) = delete;
 
   AVFormatContext& context() { return *_context; }
-  // Whether the time is over. Reading ends by itself then; decoding has to ask.
-  bool isLate() const { return std::chrono::steady_clock::now() > _deadline; }
+
+  // The next packet of any stream; false at the end, or where a limit is met.
+  bool readPacket(AVPacket& packet) { return av_read_frame(_context, &packet) >= 0; }
+
+  // Whether a limit kept FFmpeg from reading on.
+  bool areBytesCut() const { return _areBytesCut; }
+  bool arePacketsCut() const { return _packets > _limits.packets; }
 
  private:
-  Demuxer(io::ByteSource& source, const DemuxerLimits& limits);
-  bool openInput(const char* name, const char* containers);
+  Demuxer(io::ByteSource& source, const DemuxerLimits& limits) : _source(source), _limits(limits) {}
+  bool openInput(const char* name, Refusal& refusal);
 
   static int read(void* opaque, std::uint8_t* bytes, int length);
   static std::int64_t seek(void* opaque, std::int64_t offset, int whence);
-  static int isInterrupted(void* opaque);
+  static int countPacket(void* opaque);
 
   io::ByteSource& _source;
+  const DemuxerLimits _limits;
   std::uint64_t _offset = 0;
-  std::chrono::steady_clock::time_point _deadline;
+  std::uint64_t _bytes = 0;  // read
+  int _packets = 0;
+  bool _areBytesCut = false;
   AVIOContext* _io = nullptr;
   AVFormatContext* _context = nullptr;
 };

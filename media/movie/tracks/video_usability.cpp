@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <string_view>
 #include <vector>
 
 #include "media/movie/boxes/bit_reader.h"
@@ -31,11 +33,30 @@ std::vector<std::uint8_t> rawPayload(io::ByteView unit, std::size_t headerSize) 
   return raw;
 }
 
+// Shapes of pixels by number. H.264, table E-1.
+void readPixelShape(BitReader& reader, VideoUsability& usability) {
+  struct Shape {
+    std::uint8_t width;
+    std::uint8_t height;
+  };
+  constexpr Shape shapes[] = {{0, 0},   {1, 1},    {12, 11}, {10, 11}, {16, 11}, {40, 33},
+                              {24, 11}, {20, 11},  {32, 11}, {80, 33}, {18, 11}, {15, 11},
+                              {64, 33}, {160, 99}, {4, 3},   {3, 2},   {2, 1}};
+  constexpr std::uint32_t stated = 255;
+  const std::uint32_t number = reader.bits(8);
+  if (number == stated) {
+    usability.pixelWidth = reader.bits(16);
+    usability.pixelHeight = reader.bits(16);
+  } else if (number < std::size(shapes)) {
+    usability.pixelWidth = shapes[number].width;
+    usability.pixelHeight = shapes[number].height;
+  }
+}
+
 // vui_parameters() up to the chroma location; the same in both standards.
 VideoUsability readUsability(BitReader& reader) {
-  constexpr std::uint32_t extendedAspectRatio = 255;
   VideoUsability usability;
-  if (reader.flag() && reader.bits(8) == extendedAspectRatio) reader.skip(32);
+  if (reader.flag()) readPixelShape(reader, usability);
   if (reader.flag()) reader.skip(1);  // overscan
   if (reader.flag()) {                // video signal type
     reader.skip(3);
@@ -218,7 +239,31 @@ VideoUsability readHevcParameterSet(const std::vector<std::uint8_t>& raw) {
   return reader.flag() && !reader.isOverrun() ? readUsability(reader) : VideoUsability();
 }
 
+// The first unit whose header's first byte, under the mask, is of that type; empty where there is
+// none. It is taken as up to the end, or to the largest size that is read: what follows it there is
+// never asked for.
+io::ByteView findUnit(io::ByteView stream, std::uint8_t mask, std::uint8_t type) {
+  for (std::uint64_t offset = 0; offset + 4 <= stream.size(); ++offset) {
+    const io::ByteView rest = stream.from(offset);
+    if (!rest.startsWith(std::string_view("\0\0\1", 3))) continue;
+    const io::ByteView unit = rest.from(3);
+    if ((unit.u8(0).value_or(0) & mask) == type)
+      return *unit.sub(0, std::min<std::uint64_t>(unit.size(), limits.parameterSetBytes));
+  }
+  return {};
+}
+
 }  // namespace
+
+VideoUsability usabilityOfAvcStream(io::ByteView stream) {
+  const io::ByteView unit = findUnit(stream, 0x1F, 7);
+  return unit.isEmpty() ? VideoUsability() : readAvcParameterSet(rawPayload(unit, 1));
+}
+
+VideoUsability usabilityOfHevcStream(io::ByteView stream) {
+  const io::ByteView unit = findUnit(stream, 0x7E, 33 << 1);
+  return unit.isEmpty() ? VideoUsability() : readHevcParameterSet(rawPayload(unit, 2));
+}
 
 VideoUsability usabilityOfAvcConfiguration(io::ByteView configuration) {
   const bool hasSet = (configuration.u8(5).value_or(0) & 0x1F) > 0;

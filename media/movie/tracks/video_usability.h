@@ -18,6 +18,8 @@ struct VideoUsability {
   std::optional<ColourCodes> colour;
   std::uint32_t chromaTopField = 0;
   std::uint32_t chromaBottomField = 0;
+  std::uint32_t pixelWidth = 0;  // of a pixel's shape; 0 where it is not stated
+  std::uint32_t pixelHeight = 0;
 
   bool operator==(const VideoUsability&) const = default;
 };
@@ -26,5 +28,9 @@ struct VideoUsability {
 // set is missing or damaged.
 VideoUsability usabilityOfAvcConfiguration(io::ByteView configuration);
 VideoUsability usabilityOfHevcConfiguration(io::ByteView configuration);
+
+// From a bare stream: units behind marks, H.264 and H.265, annex B.
+VideoUsability usabilityOfAvcStream(io::ByteView stream);
+VideoUsability usabilityOfHevcStream(io::ByteView stream);
 
 }  // namespace media::movie

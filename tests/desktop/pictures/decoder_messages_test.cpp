@@ -3,85 +3,117 @@
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/socket.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include "desktop/pictures/pixels/limits.h"
+#include "workers/message.h"
 
 namespace desktop::pictures {
 
 namespace {
 
-TEST(DecoderMessages, CarryOrders) {
-  const auto ends = socketPair();
+using Kind = DecodeAnswer::Kind;
+
+io::Descriptor emptyFrame() {
+  return io::Descriptor(memfd_create("frame", MFD_CLOEXEC));
+}
+
+TEST(DecoderMessages, CarryOrdersAndTheirFiles) {
+  const auto ends = workers::socketPair();
   ASSERT_TRUE(ends);
-  const DecodeOrder order{"/a folder/\xFF.jpg", {300, 200, Request::Fit::fill}};
-  ASSERT_TRUE(sendOrder(ends->first.number(), order));
-  const auto received = receiveOrder(ends->second.number());
-  ASSERT_TRUE(received);
-  EXPECT_EQ(received->path, order.path);
-  EXPECT_EQ(received->request, order.request);
+  const io::Descriptor file(open("/proc/self/exe", O_RDONLY | O_CLOEXEC));
+  for (const auto fit : {Request::Fit::fit, Request::Fit::fill}) {
+    const DecodeOrder order{.name = "\xFF.jpg", .request = {300, 200, fit}};
+    ASSERT_TRUE(sendOrder(ends->first.number(), order, file.number()));
+    const auto received = receiveOrder(ends->second.number());
+    ASSERT_TRUE(received);
+    EXPECT_EQ(received->name, order.name);
+    EXPECT_EQ(received->request, order.request);
+    char byte = 0;
+    EXPECT_EQ(pread(received->file.number(), &byte, 1, 0), 1);
+    EXPECT_EQ(byte, '\x7F');
+  }
 }
 
 TEST(DecoderMessages, CarryPictures) {
-  const auto ends = socketPair();
-  ASSERT_TRUE(ends);
+  const io::Descriptor frame = emptyFrame();
   const Picture picture{2, 3, {1, 2, 3, 4, 5, 6}};
-  auto pixels = writePixels(picture);
-  ASSERT_TRUE(pixels);
-  ASSERT_TRUE(sendAnswer(ends->first.number(), {.kind = DecodeAnswer::Kind::decoded,
-                                                .width = 2,
-                                                .height = 3,
-                                                .pixels = *std::move(pixels)}));
-  const auto answer = receiveAnswer(ends->second.number());
+  ASSERT_FALSE(writePixels(picture, frame.number()));
+  const auto answer =
+      answerOfBytes(bytesOfAnswer({.kind = Kind::decoded, .width = 2, .height = 3}));
   ASSERT_TRUE(answer);
-  EXPECT_NE(fcntl(answer->pixels.number(), F_GETFD) & FD_CLOEXEC, 0);
-  const auto received = readPixels(*answer);
+  const auto received = readPixels(*answer, frame.number());
   ASSERT_TRUE(received);
   EXPECT_EQ(received->pixels, picture.pixels);
   EXPECT_EQ(received->width, 2);
 }
 
 TEST(DecoderMessages, CutLongReasons) {
-  const auto ends = socketPair();
-  ASSERT_TRUE(ends);
-  ASSERT_TRUE(sendAnswer(ends->first.number(), {.reason = std::string(100'000, 'x')}));
-  const auto answer = receiveAnswer(ends->second.number());
+  const auto answer = answerOfBytes(bytesOfAnswer({.reason = std::string(100'000, 'x')}));
   ASSERT_TRUE(answer);
   EXPECT_EQ(answer->reason.size(), limits.reasonBytes);
 }
 
 TEST(DecoderMessages, EndWithTheOtherEnd) {
-  auto ends = socketPair();
+  auto ends = workers::socketPair();
   ASSERT_TRUE(ends);
   ends->second.reset();
-  EXPECT_FALSE(sendOrder(ends->first.number(), {"a", {}}));
+  EXPECT_FALSE(sendOrder(ends->first.number(), {.name = "a", .request = {}}, -1));
   EXPECT_FALSE(receiveAnswer(ends->first.number()));
 }
 
-TEST(DecoderMessages, AreRefusedWhereTheyAreTooShort) {
-  const auto ends = socketPair();
-  ASSERT_TRUE(ends);
-  ASSERT_EQ(send(ends->first.number(), "abc", 3, 0), 3);
-  EXPECT_FALSE(receiveAnswer(ends->second.number()));
+// A worker that was taken over may send what it likes.
+TEST(DecoderMessages, AreRefusedWhereTheyAreCut) {
+  const auto whole = bytesOfAnswer({.kind = Kind::failed, .reason = "cut"});
+  EXPECT_TRUE(answerOfBytes(whole));
+  for (std::size_t length = 0; length < whole.size(); ++length)
+    EXPECT_FALSE(answerOfBytes(std::span(whole).first(length))) << length;
+  auto longer = whole;
+  longer.push_back(0);
+  EXPECT_FALSE(answerOfBytes(longer));
 }
 
-// A worker that was taken over may send what it likes.
-TEST(DecoderMessages, DistrustSizesAndFiles) {
-  const auto answerOf = [](int width, int height, io::Descriptor pixels) {
-    return DecodeAnswer{.kind = DecodeAnswer::Kind::decoded,
-                        .width = width,
-                        .height = height,
-                        .pixels = std::move(pixels)};
+TEST(DecoderMessages, DistrustSizes) {
+  const auto isAccepted = [](int width, int height) {
+    return answerOfBytes(bytesOfAnswer({.kind = Kind::decoded, .width = width, .height = height}))
+        .has_value();
   };
-  const auto file = [] { return *writePixels({1, 2, {1, 2}}); };
-  EXPECT_TRUE(readPixels(answerOf(1, 2, file())));
-  EXPECT_FALSE(readPixels(answerOf(2, 2, file()))) << "fewer pixels than that";
-  EXPECT_FALSE(readPixels(answerOf(-1, -2, file())));
-  EXPECT_FALSE(readPixels(answerOf(0, 0, file())));
-  EXPECT_FALSE(readPixels(answerOf(2'000'000'000, 2'000'000'000, file())));
-  EXPECT_FALSE(readPixels(answerOf(1, 1, io::Descriptor())));
-  EXPECT_FALSE(readPixels(answerOf(1, 1, io::Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)))));
+  EXPECT_TRUE(isAccepted(1, 2));
+  EXPECT_FALSE(isAccepted(0, 0));
+  EXPECT_FALSE(isAccepted(-1, -2));
+  EXPECT_FALSE(isAccepted(65'535, 65'535));
+  EXPECT_FALSE(isAccepted(2'000'000'000, 2'000'000'000));
+}
+
+TEST(DecoderMessages, AcceptNoByteBeyondItsRange) {
+  const auto whole = bytesOfAnswer({.kind = Kind::decoded, .width = 20, .height = 30});
+  for (std::size_t place = 0; place < whole.size(); ++place) {
+    for (int value = 0; value < 256; ++value) {
+      auto bytes = whole;
+      bytes[place] = static_cast<std::uint8_t>(value);
+      const auto answer = answerOfBytes(bytes);
+      if (!answer || answer->kind != Kind::decoded) continue;
+      EXPECT_GT(answer->width, 0);
+      EXPECT_GT(answer->height, 0);
+      EXPECT_LE(std::uint64_t{4} * static_cast<unsigned>(answer->width) *
+                    static_cast<unsigned>(answer->height),
+                limits.pictureBytes);
+    }
+  }
+}
+
+TEST(DecoderMessages, DistrustFrames) {
+  const io::Descriptor frame = emptyFrame();
+  ASSERT_FALSE(writePixels({1, 2, {1, 2}}, frame.number()));
+  const auto readAs = [&](int width, int height) {
+    return static_cast<bool>(
+        readPixels({.kind = Kind::decoded, .width = width, .height = height}, frame.number()));
+  };
+  EXPECT_TRUE(readAs(1, 2));
+  EXPECT_FALSE(readAs(2, 2)) << "fewer pixels than that";
+  ASSERT_EQ(ftruncate(frame.number(), 0), 0);
+  EXPECT_FALSE(readAs(1, 2));
 }
 
 }  // namespace

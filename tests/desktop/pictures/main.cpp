@@ -7,11 +7,11 @@
 #include <atomic>
 #include <chrono>
 #include <csignal>
-#include <filesystem>
 #include <fstream>
 #include <new>
+#include <stdexcept>
+#include <string>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 #include "desktop/pictures/decoders/decode_picture.h"
@@ -21,35 +21,35 @@ namespace desktop::pictures {
 
 namespace {
 
-// Dies at the first try only.
-void dieOnce(const std::string& path) {
-  const std::string mark = path + ".tried";
-  if (std::filesystem::exists(mark)) return;
-  std::ofstream(mark).put('x');
-  raise(SIGKILL);
-}
-
 // Takes memory until there is none, without touching it.
 void takeMemory() {
   std::vector<void*> pieces;
   while (true) pieces.push_back(::operator new (std::size_t{64} << 20));
 }
 
-model::Result<Picture> misbehave(const std::string& path, const Request& request) {
-  const std::string name = std::filesystem::path(path).filename();
-  if (name.starts_with("hang")) {
-    while (true) pause();
-  }
-  if (name.starts_with("spin")) {
-    for (std::atomic<unsigned> turn = 0;; ++turn) continue;
-  }
-  if (name.starts_with("die-once")) dieOnce(path);
+void work(std::chrono::milliseconds time) {
+  const auto end = std::chrono::steady_clock::now() + time;
+  while (std::chrono::steady_clock::now() < end) continue;
+}
+
+// Waits for a lock that nobody opens.
+void sleepForEver() {
+  std::atomic<int> lock = 0;
+  lock.wait(0);
+}
+
+model::Result<Picture> misbehave(const std::string& name, io::ByteSource& source,
+                                 const Request& request) {
+  if (name.starts_with("hang")) sleepForEver();
+  if (name.starts_with("spin")) work(std::chrono::hours(1));
   if (name.starts_with("crash")) std::raise(SIGSEGV);
   if (name.starts_with("exit")) _exit(0);
   if (name.starts_with("throw")) throw std::runtime_error("thrown");
   if (name.starts_with("memory")) takeMemory();
-  if (name.starts_with("slow")) std::this_thread::sleep_for(std::chrono::milliseconds(400));
-  return decodePicture(path, request);
+  if (name.starts_with("open"))
+    return model::Error{std::ifstream("/etc/passwd") ? "opened" : "refused"};
+  if (name.starts_with("slow")) work(std::chrono::milliseconds(400));
+  return decodeSource(name, source, request);
 }
 
 }  // namespace

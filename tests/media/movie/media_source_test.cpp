@@ -78,10 +78,9 @@ TEST(MediaSource, PassesOnWhatTheSystemSaysOfAFailedRead) {
 }
 
 TEST(MediaSource, ReadsAMovieFileWithoutFfmpeg) {
-  io::MemorySource source(webMovie());
-  const auto asset = copyAssetOfFile("web.mp4", source);
-  ASSERT_TRUE(asset && *asset);
-  EXPECT_EQ((*asset)->tracks.size(), 2U);
+  const auto movie = readFile("web.mp4", webMovie());
+  ASSERT_TRUE(movie && *movie);
+  EXPECT_EQ((*movie)->asset.tracks.size(), 2U);
 }
 
 TEST(MediaSource, LeavesFilesAloneThatAreNoVideo) {
@@ -92,20 +91,19 @@ TEST(MediaSource, LeavesFilesAloneThatAreNoVideo) {
       Writer().text("\x1A\x45\xDF\xA3 but no Matroska behind it").zeros(4000),
   };
   for (const Bytes& bytes : others) {
-    io::MemorySource source(bytes);
-    const auto asset = copyAssetOfFile("file", source);
-    ASSERT_TRUE(asset);
-    EXPECT_FALSE(*asset) << std::string(bytes.begin(), bytes.begin() + 9);
+    const auto movie = readFile("file", bytes);
+    ASSERT_TRUE(movie);
+    EXPECT_FALSE(*movie) << std::string(bytes.begin(), bytes.begin() + 9);
   }
 }
 
 TEST(MediaSource, ReadsAnotherContainerThroughFfmpeg) {
-  io::MemorySource source(smallAvi());
-  const auto asset = copyAssetOfFile("small.avi", source);
-  ASSERT_TRUE(asset);
-#ifdef HAS_FFMPEG_READER
-  ASSERT_TRUE(*asset);
-  EXPECT_EQ(assetText(**asset), R"(track = 1 vide
+  const auto movie = readFile("small.avi", smallAvi());
+  ASSERT_TRUE(movie);
+#ifdef HAS_CONTAINER_READER
+  ASSERT_TRUE(*movie);
+  EXPECT_EQ((*movie)->shortfall, "");
+  EXPECT_EQ(assetText((*movie)->asset), R"(track = 1 vide
   naturalSize = 16 x 8
   preferredTransform = 1 0 0 1 0 0
   duration = 0.4
@@ -131,18 +129,17 @@ asset duration = 0.4
 asset creationDate = (none)
 )");
 #else
-  EXPECT_FALSE(*asset);
+  EXPECT_FALSE(*movie);
 #endif
 }
 
 TEST(MediaSource, GivesNoAssetForADamagedOtherContainer) {
   const Bytes whole = smallAvi();
   for (const std::size_t length : {12U, 60U, 200U, 300U}) {
-    io::MemorySource source(
-        Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)));
-    const auto asset = copyAssetOfFile("cut.avi", source);
-    ASSERT_TRUE(asset) << length;
-    EXPECT_TRUE(!*asset || !(*asset)->tracks.empty()) << length;
+    const auto movie = readFile(
+        "cut.avi", Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)));
+    ASSERT_TRUE(movie) << length;
+    EXPECT_TRUE(!*movie || !(*movie)->asset.tracks.empty()) << length;
   }
 }
 

@@ -7,6 +7,7 @@
 
 #include "media/movie/media_source.h"
 #include "tests/support/movie_builder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace media::movie {
 
@@ -22,6 +23,14 @@ inline Reading readBytes(const Bytes& bytes) {
   if (!asset) return {{}, "error: " + asset.error().reason};
   if (!*asset) return {{}, "none"};
   return {std::move(**asset)};
+}
+
+// What is read of a file of that name with these bytes.
+inline model::Result<std::optional<MovieFile>> readFile(const std::string& name,
+                                                        const Bytes& bytes) {
+  const support::TemporaryFolder folder;
+  const auto source = io::FileSource::open(folder.write(name, bytes));
+  return copyAssetOfFile(name, **source);
 }
 
 // A movie of one track of ten samples.

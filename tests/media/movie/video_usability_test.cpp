@@ -10,7 +10,7 @@ namespace media::movie {
 namespace {
 
 // What the usability information below says.
-const VideoUsability everything = {true, ColourCodes{9, 16, 9}, 2, 3};
+const VideoUsability everything = {true, ColourCodes{9, 16, 9}, 2, 3, 4, 3};
 
 // An extended aspect ratio, overscan, full range, colours 9 16 9, chroma locations 2 and 3.
 void writeUsability(BitWriter& writer) {
@@ -80,6 +80,12 @@ Bytes avcConfiguration(const AvcOptions& options) {
       .u8(0);
 }
 
+// The parameter set that begins there in a configuration, behind another unit and its mark.
+Bytes bareStream(const Bytes& configuration, std::size_t begin) {
+  const auto place = configuration.begin() + static_cast<std::ptrdiff_t>(begin);
+  return Writer().u32(1).u8(9).u8(0xF0).u32(1).bytes(Bytes(place, configuration.end()));
+}
+
 TEST(VideoUsability, IsFoundBehindEveryShapeOfAnAvcParameterSet) {
   const AvcOptions cases[] = {
       {},
@@ -92,6 +98,8 @@ TEST(VideoUsability, IsFoundBehindEveryShapeOfAnAvcParameterSet) {
   for (std::size_t index = 0; index < std::size(cases); ++index) {
     const Bytes configuration = avcConfiguration(cases[index]);
     EXPECT_EQ(usabilityOfAvcConfiguration(io::ByteView(configuration)), everything) << index;
+    const Bytes stream = bareStream(configuration, 8);
+    EXPECT_EQ(usabilityOfAvcStream(io::ByteView(stream)), everything) << index;
   }
 }
 
@@ -176,6 +184,8 @@ TEST(VideoUsability, IsFoundBehindEveryShapeOfAnHevcParameterSet) {
   for (std::size_t index = 0; index < std::size(cases); ++index) {
     const Bytes configuration = hevcConfiguration(cases[index]);
     EXPECT_EQ(usabilityOfHevcConfiguration(io::ByteView(configuration)), everything) << index;
+    const Bytes stream = bareStream(configuration, 36);
+    EXPECT_EQ(usabilityOfHevcStream(io::ByteView(stream)), everything) << index;
   }
 }
 

@@ -21,7 +21,7 @@ std::function<std::optional<FileItem>()> numbers(int count) {
 }
 
 std::string resultOf(const FileOutcome& outcome) {
-  return outcome.result ? *outcome.result : "error " + outcome.result.error().reason;
+  return outcome.result ? outcome.result->text : "error " + outcome.result.error().reason;
 }
 
 constexpr unsigned threadCounts[] = {1, 2, 3, 8};
@@ -31,10 +31,10 @@ TEST(FileRunner, KeepsTheOrderWhateverTakesHowLong) {
     for (const int count : {0, 1, 7, 8, 9, 16, 500}) {
       std::vector<std::string> results;
       runFiles({.next = numbers(count),
-                .work = [](const std::string& path) -> model::Result<std::string> {
+                .work = [](const std::string& path) -> model::Result<FileText> {
                   const int number = std::stoi(path);
                   std::this_thread::sleep_for(std::chrono::microseconds(number % 5 == 0 ? 300 : 1));
-                  return path + "!";
+                  return FileText{path + "!"};
                 },
                 .emit =
                     [&](const FileOutcome& outcome) {
@@ -61,9 +61,9 @@ TEST(FileRunner, ErrorsAndExceptionsStandInTheirPlace) {
                 if (next % 3 == 0) return FileItem{"x", model::Error{"no file"}};
                 return FileItem{next % 3 == 1 ? "good" : "throws", std::nullopt};
               },
-              .work = [](const std::string& path) -> model::Result<std::string> {
+              .work = [](const std::string& path) -> model::Result<FileText> {
                 if (path == "throws") throw std::runtime_error("thrown");
-                return path;
+                return FileText{path};
               },
               .emit =
                   [&](const FileOutcome& outcome) {
@@ -85,9 +85,9 @@ TEST(FileRunner, StopsWhenNobodyWantsMore) {
     int emitted = 0;
     std::atomic<int> worked = 0;
     runFiles({.next = numbers(1'000'000),
-              .work = [&](const std::string& path) -> model::Result<std::string> {
+              .work = [&](const std::string& path) -> model::Result<FileText> {
                 ++worked;
-                return path;
+                return FileText{path};
               },
               .emit = [&](const FileOutcome&) { return ++emitted < 20; },
               .threads = threads});
@@ -101,9 +101,9 @@ TEST(FileRunner, RunsOnlyAFewFilesAhead) {
   int emitted = 0;
   int furthest = 0;
   runFiles({.next = numbers(5000),
-            .work = [&](const std::string& path) -> model::Result<std::string> {
+            .work = [&](const std::string& path) -> model::Result<FileText> {
               ++worked;
-              return path;
+              return FileText{path};
             },
             .emit =
                 [&](const FileOutcome&) {
@@ -117,19 +117,20 @@ TEST(FileRunner, RunsOnlyAFewFilesAhead) {
 TEST(FileRunner, OneThreadEmitsEachFileBeforeItAsksForTheNext) {
   int asked = 0;
   int emitted = 0;
-  runFiles({.next = [&]() -> std::optional<FileItem> {
-              EXPECT_EQ(asked, emitted);
-              if (asked == 20) return std::nullopt;
-              ++asked;
-              return FileItem{"x", std::nullopt};
-            },
-            .work = [](const std::string& path) -> model::Result<std::string> { return path; },
-            .emit =
-                [&](const FileOutcome&) {
-                  ++emitted;
-                  return true;
-                },
-            .threads = 1});
+  runFiles(
+      {.next = [&]() -> std::optional<FileItem> {
+         EXPECT_EQ(asked, emitted);
+         if (asked == 20) return std::nullopt;
+         ++asked;
+         return FileItem{"x", std::nullopt};
+       },
+       .work = [](const std::string& path) -> model::Result<FileText> { return FileText{path}; },
+       .emit =
+           [&](const FileOutcome&) {
+             ++emitted;
+             return true;
+           },
+       .threads = 1});
   EXPECT_EQ(emitted, 20);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "media/movie/other_containers.h"
+#include "media/movie/other/other_containers.h"
 
 #include <algorithm>
 #include <array>

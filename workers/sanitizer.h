@@ -4,7 +4,7 @@
 // that no limit on a process's addresses can be set.
 #pragma once
 
-namespace desktop::pictures {
+namespace workers {
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 inline constexpr bool needsAllAddresses = true;
@@ -18,4 +18,4 @@ inline constexpr bool needsAllAddresses = false;
 inline constexpr bool needsAllAddresses = false;
 #endif
 
-}  // namespace desktop::pictures
+}  // namespace workers
