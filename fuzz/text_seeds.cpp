@@ -68,7 +68,7 @@ std::vector<std::pair<std::string, std::string>> textSeeds() {
   std::vector<std::pair<std::string, std::string>> seeds{
       {"script", script}, {"image.json", imageLine}, {"video.json", videoLine}};
   const std::pair<std::string, model::Value> lists[] = {{"settings", settings()},
-                                                       {"page", settingsPage()}};
+                                                        {"page", settingsPage()}};
   for (const auto& [name, list] : lists)
     for (const auto& [form, format] : {std::pair(".xml.plist", PropertyListFormat::xml),
                                        std::pair(".binary.plist", PropertyListFormat::binary)})

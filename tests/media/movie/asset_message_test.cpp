@@ -15,7 +15,11 @@ namespace {
 using Kind = ContainerAnswer::Kind;
 
 model::Track videoTrack() {
-  model::Track track{.trackID = 1, .mediaType = "vide", .naturalSize = {640, 480}, .duration = 2.5};
+  model::Track track;
+  track.trackID = 1;
+  track.mediaType = "vide";
+  track.naturalSize = {640, 480};
+  track.duration = 2.5;
   track.estimatedDataRate = 1000;
   track.nominalFrameRate = 25;
   track.minFrameDuration = 0.04;
@@ -31,7 +35,10 @@ model::Track videoTrack() {
 }
 
 model::Track soundTrack() {
-  model::Track track{.trackID = 2, .mediaType = "soun", .duration = 2.5};
+  model::Track track;
+  track.trackID = 2;
+  track.mediaType = "soun";
+  track.duration = 2.5;
   model::FormatDescription& description = track.formatDescriptions.emplace_back();
   description.audio = model::AudioStreamDescription{.sampleRate = 8000, .channelsPerFrame = 2};
   return track;
