@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/media/movie/crowded_containers.h"
+#include "tests/support/crowded_containers.h"
 
 #include <algorithm>
 
