@@ -30,7 +30,7 @@ TEST_P(BombsTest, TakeNoMoreOfTheToolThanOtherFiles) {
     expectWithin(end, toolKilobytes);
     seconds += end.processorSeconds;
   }
-  EXPECT_LE(seconds, toolSeconds * static_cast<double>(names.size()));
+  expectToolSeconds(seconds, names.size());
 }
 
 TEST_P(BombsTest, AreRefusedByDecodersOrShown) {

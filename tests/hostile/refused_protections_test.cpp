@@ -14,8 +14,6 @@ namespace hostile {
 
 namespace {
 
-using testing::EndsWith;
-
 // Makes the system one without landlock.
 void refuseLandlock() {
   ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);

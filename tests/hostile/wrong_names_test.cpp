@@ -15,8 +15,6 @@ namespace hostile {
 namespace {
 
 using Json = nlohmann::json;
-using testing::HasSubstr;
-using testing::Not;
 
 std::string contentOf(const std::string& name) {
   return name.substr(0, name.find(" as "));
@@ -54,7 +52,7 @@ TEST(WrongNames, AreNamedWithAReasonWhereTheyHoldNoPicture) {
     EXPECT_THAT(line, testing::EndsWith(": " + reason));
   }
   expectWithin(end, toolKilobytes);
-  EXPECT_LE(end.processorSeconds, toolSeconds * static_cast<double>(names));
+  expectToolSeconds(end.processorSeconds, names);
 }
 
 // How many items the photo application sees in a folder.
