@@ -16,12 +16,12 @@ inline constexpr double toolSeconds = 0.1;          // of the processor a file, 
 
 // Sanitizers take memory and time of their own.
 inline void expectWithin(const RunEnd& end, long kilobytes) {
-  if (workers::needsAllAddresses) return;
+  if (workers::isSanitized) return;
   EXPECT_LE(end.peakKilobytes, kilobytes);
 }
 
 inline void expectToolSeconds(double seconds, std::size_t files) {
-  if (workers::needsAllAddresses) return;
+  if (workers::isSanitized) return;
   EXPECT_LE(seconds, toolSeconds * static_cast<double>(files));
 }
 

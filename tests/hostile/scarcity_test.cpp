@@ -42,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(Of, EnoughTest, testing::Values("-n 16", "-s 256"));
 
 // With less than that every file that needs a reader is named, and all others are reported.
 TEST(Scarcity, OfMemoryOrDescriptorsCostsOtherContainersOnly) {
-  if (workers::needsAllAddresses) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
+  if (workers::isSanitized) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
   for (const char* limit : {"ulimit -v 60000; ", "ulimit -n 6; "}) {
     const RunEnd end =
         runLine(limit + std::string("cd $FILES/pairs; exec $TOOL caption --jobs 2 'avi as avi.avi' "
@@ -57,7 +57,7 @@ TEST(Scarcity, OfMemoryOrDescriptorsCostsOtherContainersOnly) {
 }
 
 TEST(Scarcity, OfWhatWorkersMayHaveIsNoRefusal) {
-  if (workers::needsAllAddresses) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
+  if (workers::isSanitized) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
   for (const char* limit : {"ulimit -n 12; ", "ulimit -f 0; ", "ulimit -v 500000; "}) {
     const RunEnd end = runLine("(" + std::string(limit) +
                                "$TOOL caption $FILES/pairs/avi\\ as\\ avi.avi) 2>&1 | cat");
