@@ -11,7 +11,7 @@ namespace workers {
 namespace {
 
 // Another one with every change of what either side says.
-constexpr std::uint32_t language = 0x4C57'0001;
+constexpr std::uint32_t language = 0x4C57'0002;
 
 struct Refused {
   std::mutex mutex;

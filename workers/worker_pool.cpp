@@ -31,7 +31,7 @@ class WorkerPool::Lease {
  public:
   explicit Lease(WorkerPool& pool) : _pool(pool) {
     std::unique_lock lock(pool._mutex);
-    pool._isIdle.wait(lock, [&] { return !pool._idle.empty() || pool._made < limit(); });
+    pool._isIdle.wait(lock, [&] { return !pool._idle.empty() || pool._made < pool._most; });
     if (pool._idle.empty()) {
       ++pool._made;
       _worker.emplace_back();
@@ -50,24 +50,39 @@ class WorkerPool::Lease {
   Lease& operator=(const Lease&) = delete;
 
   WorkerProcess& worker() { return _worker.front(); }
+  void forget() { _worker.clear(); }
 
  private:
-  std::size_t limit() const { return _pool._settings.workers; }
-
   WorkerPool& _pool;
   std::list<WorkerProcess> _worker;  // one
 };
 
 std::optional<model::Error> WorkerPool::ask(std::span<const std::uint8_t> order, int descriptor,
                                             const Accept& accept) {
+  std::optional<End> end;
+  while (!end) end = askAny(order, descriptor, accept);
+  if (end == End::answered) return std::nullopt;
+  return model::Error{reasonOf(static_cast<int>(*end))};
+}
+
+std::optional<WorkerPool::End> WorkerPool::askAny(std::span<const std::uint8_t> order,
+                                                  int descriptor, const Accept& accept) {
   Lease lease(*this);
   WorkerProcess& worker = lease.worker();
   const bool wasRunning = worker.isRunning();
   End end = askOnce(worker, order, descriptor, accept);
   // What killed it may have been the file before, or somebody from outside.
   if (end == End::died && wasRunning) end = askOnce(worker, order, descriptor, accept);
-  if (end == End::answered) return std::nullopt;
-  return model::Error{reasonOf(static_cast<int>(end))};
+  if (end == End::notStarted && mayDoWithout(lease)) return std::nullopt;
+  return end;
+}
+
+bool WorkerPool::mayDoWithout(Lease& lease) {
+  const std::lock_guard lock(_mutex);
+  if (_made == 1) return false;
+  _most = --_made;
+  lease.forget();
+  return true;
 }
 
 WorkerPool::End WorkerPool::askOnce(WorkerProcess& worker, std::span<const std::uint8_t> order,

@@ -33,16 +33,18 @@ class WorkerPool {
   // where this one is used up.
   using Accept = std::function<bool(std::span<const std::uint8_t> answer)>;
 
-  explicit WorkerPool(Settings settings) : _settings(std::move(settings)) {}
+  explicit WorkerPool(Settings settings)
+      : _settings(std::move(settings)), _most(_settings.workers) {}
   // REQUIRES: nobody asks.
   ~WorkerPool() = default;
   WorkerPool(const WorkerPool&) = delete;
   WorkerPool& operator=(const WorkerPool&) = delete;
 
   // Hands a worker the order, which is not empty, with the descriptor, and its answer to `accept`.
-  // A worker that dies, says what it must not, takes too much or falls asleep is killed, and the
-  // next order has a fresh one; an order whose worker died at it, but had done others before, is
-  // given to a fresh one once more. None on success. From any thread.
+  // A worker that does not start, as the system has no descriptor or memory left, is done without
+  // where there are others. One that dies, says what it must not, takes too much or falls asleep is
+  // killed, and the next order has a fresh one; an order whose worker died at it, but had done
+  // others before, is given to a fresh one once more. None on success. From any thread.
   //
   // Errors: what the system says of starting one; "does not start"; "crashed"; "took too long";
   // "fell asleep": all can stand behind "its reader ".
@@ -54,6 +56,11 @@ class WorkerPool {
   enum class End { answered, notStarted, died, spent, asleep };
   class Lease;
 
+  // None where the worker did not start, and another one is to be asked.
+  std::optional<End> askAny(std::span<const std::uint8_t> order, int descriptor,
+                            const Accept& accept);
+  // Whether there are other workers; then no more than those are started from now on.
+  bool mayDoWithout(Lease& lease);
   End askOnce(WorkerProcess& worker, std::span<const std::uint8_t> order, int descriptor,
               const Accept& accept) const;
   // Waits for a message that `accept` takes.
@@ -65,6 +72,7 @@ class WorkerPool {
   std::condition_variable _isIdle;
   std::list<WorkerProcess> _idle;  // started or not
   std::size_t _made = 0;
+  std::size_t _most;  // that may be made
 };
 
 }  // namespace workers

@@ -31,6 +31,7 @@
 #include "desktop/uikit/base/screen.h"
 #include "foundation/notification_core.h"
 #include "io/on_demand_module.h"
+#include "workers/greeting.h"
 
 namespace photohost {
 namespace {
@@ -41,7 +42,8 @@ using uikit::outside;
 using uikit::platformLog;
 using uikit::screen;
 
-constexpr std::chrono::seconds longestWait{10};  // for pictures, in scripts
+// For pictures, in scripts. Each ends by what it takes of the processor, not by the clock.
+constexpr std::chrono::hours longestWait{24};
 
 foundation::DeviceRoot rootOf(const Options& options) {
   return options.root.empty() ? foundation::DeviceRoot::ofUser()
@@ -111,15 +113,17 @@ void PhotoApplication::showWindow() {
   window->makeKeyAndVisible();
 }
 
-void PhotoApplication::tellModuleProblems() {
+void PhotoApplication::tellProblems() {
   for (const std::string& problem : io::takeModuleProblems()) complain(problem);
+  if (const auto refused = workers::takeRefusedProtections())
+    complain("decoders and readers of other containers: this system refuses them: " + *refused);
 }
 
 void PhotoApplication::deliver() {
   if (_library) _library->deliverChanges();
   _pictures.deliverFinished();
   runtime::deliverDarwinNotifications();
-  tellModuleProblems();
+  tellProblems();
 }
 
 void PhotoApplication::deliverAll() {
@@ -128,7 +132,7 @@ void PhotoApplication::deliverAll() {
   application().prepareFrame();
   _pictures.waitUntilIdle(longestWait);
   application().prepareFrame();
-  tellModuleProblems();
+  tellProblems();
 }
 
 int PhotoApplication::run() {

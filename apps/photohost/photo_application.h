@@ -30,7 +30,8 @@ class PhotoApplication {
   void openLibrary();
   void loadExtensions();
   void showWindow();
-  static void tellModuleProblems();
+  // What modules and workers lack, each once.
+  static void tellProblems();
   // What waits outside the views: changes of the library, pictures, notifications.
   void deliver();
   // The same, and waits for what is under way: for scripts, which see nothing half done.

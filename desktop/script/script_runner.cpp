@@ -55,6 +55,7 @@ ScriptRunner::Outcome ScriptRunner::runFile(const std::string& path) {
   }
   std::ifstream file(path);
   if (!file || !(text << file.rdbuf())) return model::Error{path + ": cannot be read"};
+  file.close();
   return runText(text.str(), path);
 }
 

@@ -16,8 +16,9 @@ using uikit::application;
 using uikit::platformLog;
 
 // JSON has no infinities, and a file's bytes may be no text: both become something that it has.
+// In ASCII, so that no name commands a terminal.
 std::string textOf(const Json& json) {
-  return json.dump(1, ' ', false, Json::error_handler_t::replace);
+  return json.dump(1, ' ', true, Json::error_handler_t::replace);
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ model::Result<std::optional<MovieFile>> copyAssetOfFile(const std::string& path,
   const auto isOther = isOtherContainer(file);
   if (!isOther) return isOther.error();
   if (!*isOther) return std::optional<MovieFile>();
-  if (waiting == Waiting::allowed) return readOtherContainer(path, file);
+  if (waiting == Waiting::allowed) return readOtherContainer(file);
   return ContainerShelf::ofProcess().find(path, file).value_or(model::Error{beingRead});
 }
 

@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -200,6 +201,28 @@ TEST_F(WorkerPoolTest, StartsNoMoreWorkersThanItMay) {
       });
   }
   EXPECT_EQ(well, 160);
+}
+
+TEST_F(WorkerPoolTest, DoesWithoutWorkersThatDoNotStart) {
+  WorkerPool three(settingsFor(workerArgument, 3));
+  ASSERT_TRUE(isWell(three));
+  rlimit before{};
+  getrlimit(RLIMIT_NOFILE, &before);
+  // Two files, and one descriptor too few for what a worker is given.
+  const int next = io::Descriptor(dup(STDIN_FILENO)).number();
+  const rlimit few{static_cast<rlim_t>(next) + 4, before.rlim_max};
+  setrlimit(RLIMIT_NOFILE, &few);
+  std::atomic<int> well = 0;
+  {
+    std::vector<std::jthread> threads;
+    for (int number = 0; number < 2; ++number)
+      threads.emplace_back([&] {
+        for (int round = 0; round < 20; ++round) well += isWell(three);
+      });
+  }
+  setrlimit(RLIMIT_NOFILE, &before);
+  EXPECT_EQ(well, 40);
+  EXPECT_EQ(children().size(), 1U);
 }
 
 TEST_F(WorkerPoolTest, SaysThatAWorkerDoesNotStart) {

@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "workers/sanitizer.h"
@@ -14,8 +15,11 @@ namespace {
 
 constexpr std::size_t mostDescriptors = 16;  // the given ones, and a few files
 
-bool setLimit(__rlimit_resource resource, std::size_t amount) {
-  const rlimit limit{amount, amount};
+// Where the process was given less already, that holds.
+bool setLimit(__rlimit_resource resource, rlim_t amount) {
+  rlimit limit{};
+  if (getrlimit(resource, &limit) != 0) return false;
+  limit.rlim_cur = limit.rlim_max = std::min(amount, limit.rlim_max);
   return setrlimit(resource, &limit) == 0;
 }
 

@@ -6,6 +6,7 @@
 #include "apps/lumifact/command_line/option_store.h"
 #include "apps/lumifact/commands/commands.h"
 #include "apps/lumifact/files/chosen_files.h"
+#include "apps/lumifact/files/file_runner.h"
 #include "apps/lumifact/terminal/console.h"
 #include "apps/lumifact/texts/asset_texts.h"
 #include "foundation/terminal_text.h"
@@ -39,12 +40,13 @@ void printLink(const std::string& link, Console& console) {
   console.write((isForTerminal ? terminalSafe(link, foundation::Keep::nothing) : link) + "\n");
 }
 
-model::Result<std::string> linkOfFile(const std::string& path, const Environment& environment) {
+model::Result<FileText> linkOfFile(const std::string& path, const Environment& environment) {
   auto facts = media::facts::readAssetFacts(path, environment.root);
   if (!facts) return facts.error();
+  std::string shortfall = facts->shortfall;
   const AssetReport report = reportOf(*std::move(facts), environment);
   if (!report.mapLink) return model::Error{"no location"};
-  return *report.mapLink;
+  return FileText{*report.mapLink, std::move(shortfall)};
 }
 
 std::optional<model::Error> check(const Options& options) {
@@ -62,7 +64,8 @@ void run(const Options& options, Console& console) {
   const std::string& path = options.words.front();
   const auto link = linkOfFile(path, environment);
   if (!link) return console.fail(path, link.error().reason);
-  printLink(*link, console);
+  printLink(link->text, console);
+  if (!link->shortfall.empty()) console.note(path, link->shortfall);
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ model::Result<Picture> withQt(const File& file) {
 }
 
 model::Result<Picture> asVideo(const File& file) {
-  return decodeVideoFrame(file.name, file.source, file.request);
+  return decodeVideoFrame(file.source, file.request);
 }
 
 struct Kind {

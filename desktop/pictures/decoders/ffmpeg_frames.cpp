@@ -19,13 +19,12 @@ void loadVideoDecoders() {
   static_cast<void>(frameDecoder());
 }
 
-model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
-                                        const Request& request) {
+model::Result<Picture> decodeVideoFrame(io::ByteSource& source, const Request& request) {
   const DecodeFrameWithFfmpeg decode = frameDecoder();
   if (decode == nullptr)
     return model::Error{std::string("no reader for videos is installed: ") + ffmpegFramesModule};
   Picture picture;
-  if (decode(name.c_str(), &source, &request, &picture) != 0)
+  if (decode(&source, &request, &picture) != 0)
     return model::Error{"no frame of the video can be decoded"};
   return picture;
 }

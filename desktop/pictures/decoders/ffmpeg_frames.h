@@ -4,8 +4,6 @@
 // the first video is met.
 #pragma once
 
-#include <string>
-
 #include "desktop/pictures/pixels/picture.h"
 #include "io/byte_source.h"
 #include "model/result.h"
@@ -13,11 +11,9 @@
 namespace desktop::pictures {
 
 // The first frame of a video that can be decoded, turned as its track says and with square pixels.
-// `name` is a hint to the kind of the file; it is not opened. Fails where FFmpeg knows nothing of
-// the file, takes too long, or, like the module, is not installed. REQUIRES: the request is not
-// empty.
-model::Result<Picture> decodeVideoFrame(const std::string& name, io::ByteSource& source,
-                                        const Request& request);
+// Fails where FFmpeg knows nothing of the file, or, like the module, is not installed. REQUIRES:
+// the request is not empty.
+model::Result<Picture> decodeVideoFrame(io::ByteSource& source, const Request& request);
 
 // Loads the module, where it is installed.
 void loadVideoDecoders();
@@ -25,8 +21,8 @@ void loadVideoDecoders();
 // The module's function, under its C name. Fills the picture and returns 0, or returns another
 // number and leaves it as it is.
 extern "C" {
-using DecodeFrameWithFfmpeg = int (*)(const char* name, io::ByteSource* source,
-                                      const Request* request, Picture* picture);
+using DecodeFrameWithFfmpeg = int (*)(io::ByteSource* source, const Request* request,
+                                      Picture* picture);
 }
 inline constexpr char ffmpegFramesModule[] = "desktop_ffmpeg_frames.so";
 inline constexpr char ffmpegFramesFunction[] = "desktopDecodeFrameWithFfmpeg";

@@ -12,14 +12,13 @@ namespace desktop::pictures {
 
 namespace {
 
-bool decode(const char* name, io::ByteSource& source, const Request& request, Picture& picture) {
+bool decode(io::ByteSource& source, const Request& request, Picture& picture) {
   const auto demuxer = media::movie::Demuxer::open(
-      name, source,
-      {.containers = "mov,matroska,webm,avi,mpeg,mpegts,mpegvideo,flv,asf,ogg,rm,mxf,nut",
-       .bytes = limits.videoBytes,
-       .packets = limits.videoPackets,
-       .streams = limits.videoStreams,
-       .largestAllocation = limits.videoAllocation});
+      source, {.containers = "mov,matroska,webm,avi,mpeg,mpegts,mpegvideo,flv,asf,ogg,rm,mxf,nut",
+               .bytes = limits.videoBytes,
+               .packets = limits.videoPackets,
+               .streams = limits.videoStreams,
+               .largestAllocation = limits.videoAllocation});
   if (!demuxer) return false;
   AVFormatContext& context = demuxer->context();
   const int index = av_find_best_stream(&context, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
@@ -37,10 +36,10 @@ bool decode(const char* name, io::ByteSource& source, const Request& request, Pi
 }  // namespace desktop::pictures
 
 extern "C" __attribute__((visibility("default"))) int desktopDecodeFrameWithFfmpeg(
-    const char* name, io::ByteSource* source, const desktop::pictures::Request* request,
+    io::ByteSource* source, const desktop::pictures::Request* request,
     desktop::pictures::Picture* picture) {
   try {
-    return desktop::pictures::decode(name, *source, *request, *picture) ? 0 : 1;
+    return desktop::pictures::decode(*source, *request, *picture) ? 0 : 1;
   } catch (const std::exception&) {
     return 1;
   }

@@ -38,13 +38,13 @@ class Options {
 
 }  // namespace
 
-std::unique_ptr<Demuxer> Demuxer::open(const char* name, io::ByteSource& source,
-                                       const DemuxerLimits& limits, Refusal* refusal) {
+std::unique_ptr<Demuxer> Demuxer::open(io::ByteSource& source, const DemuxerLimits& limits,
+                                       Refusal* refusal) {
   av_log_set_level(AV_LOG_QUIET);
   av_max_alloc(limits.largestAllocation);
   std::unique_ptr<Demuxer> demuxer(new Demuxer(source, limits));
   Refusal reason{};
-  if (demuxer->openInput(name, reason)) return demuxer;
+  if (demuxer->openInput(reason)) return demuxer;
   if (refusal != nullptr) *refusal = reason;
   return nullptr;
 }
@@ -55,7 +55,7 @@ Demuxer::~Demuxer() {
   avio_context_free(&_io);
 }
 
-bool Demuxer::openInput(const char* name, Refusal& refusal) {
+bool Demuxer::openInput(Refusal& refusal) {
   refusal = Refusal::tooMuch;
   auto* buffer = static_cast<std::uint8_t*>(av_malloc(bufferSize));
   if (buffer == nullptr) return false;
@@ -68,8 +68,9 @@ bool Demuxer::openInput(const char* name, Refusal& refusal) {
   // Packets that were looked at are dropped; who wants them reads them again.
   if (_limits.codecs != nullptr) _context->flags |= AVFMT_FLAG_NOBUFFER;
   Options options(_limits);
-  // A failed opening frees the context itself.
-  int result = avformat_open_input(&_context, name, nullptr, options.get());
+  // Without a name, which would count for more than what is in the file. A failed opening frees
+  // the context itself.
+  int result = avformat_open_input(&_context, nullptr, nullptr, options.get());
   if (result == 0) result = avformat_find_stream_info(_context, nullptr);
   // FFmpeg says so of too many streams too.
   if (result != AVERROR(ENOMEM)) refusal = Refusal::unknown;

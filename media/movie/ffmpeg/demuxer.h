@@ -31,10 +31,10 @@ class Demuxer {
   enum class Refusal { unknown, tooMuch };
 
   // Opens the source and looks at its streams. Null where FFmpeg knows nothing of it, or where
-  // there are too many streams or too little memory: `refusal` says which. `name` is a hint to the
-  // kind of the file. REQUIRES: the source outlives the demuxer.
-  static std::unique_ptr<Demuxer> open(const char* name, io::ByteSource& source,
-                                       const DemuxerLimits& limits, Refusal* refusal = nullptr);
+  // there are too many streams or too little memory: `refusal` says which. REQUIRES: the source
+  // outlives the demuxer.
+  static std::unique_ptr<Demuxer> open(io::ByteSource& source, const DemuxerLimits& limits,
+                                       Refusal* refusal = nullptr);
   ~Demuxer();
   Demuxer(const Demuxer&) = delete;
   Demuxer& operator=(const Demuxer&) = delete;
@@ -50,7 +50,7 @@ class Demuxer {
 
  private:
   Demuxer(io::ByteSource& source, const DemuxerLimits& limits) : _source(source), _limits(limits) {}
-  bool openInput(const char* name, Refusal& refusal);
+  bool openInput(Refusal& refusal);
 
   static int read(void* opaque, std::uint8_t* bytes, int length);
   static std::int64_t seek(void* opaque, std::int64_t offset, int whence);

@@ -16,7 +16,6 @@
 #include "media/movie/other/asset_message.h"
 #include "media/movie/other/container_limits.h"
 #include "workers/confinement/confinement.h"
-#include "workers/fields.h"
 #include "workers/greeting.h"
 #include "workers/message.h"
 #include "workers/worker_process.h"
@@ -51,9 +50,9 @@ model::MediaAsset assetOf(const AVFormatContext& context) {
   return asset;
 }
 
-ContainerAnswer read(const std::string& name, io::ByteSource& source) {
+ContainerAnswer read(io::ByteSource& source) {
   Demuxer::Refusal refusal{};
-  const auto demuxer = Demuxer::open(name.c_str(), source, limits, &refusal);
+  const auto demuxer = Demuxer::open(source, limits, &refusal);
   if (!demuxer) {
     const bool isTooMuch = refusal == Demuxer::Refusal::tooMuch;
     return {.kind = isTooMuch ? Kind::tooMuch : Kind::none};
@@ -69,10 +68,8 @@ ContainerAnswer read(const std::string& name, io::ByteSource& source) {
 
 std::vector<std::uint8_t> answerTo(workers::Message order) {
   try {
-    workers::FieldReader fields(order.bytes);
-    const std::string name = fields.text(containerLimits.nameBytes);
     io::FileSource source(std::move(order.descriptor));
-    return bytesOfAnswer(read(name, source));
+    return bytesOfAnswer(read(source));
   } catch (const std::bad_alloc&) {
     return bytesOfAnswer({.kind = Kind::tooMuch});
   }
@@ -83,8 +80,7 @@ void serve() {
   const std::string refused = workers::confine({.memory = containerLimits.memory});
   bool isConnected = workers::sendMessage(socket, workers::greetingOf(refused));
   while (isConnected) {
-    auto order = workers::receiveMessage(socket, containerLimits.nameBytes + sizeof(std::uint32_t),
-                                         workers::Guests::taken);
+    auto order = workers::receiveMessage(socket, readOrder.size(), workers::Guests::taken);
     isConnected = order && workers::sendMessage(socket, answerTo(*std::move(order)));
   }
 }

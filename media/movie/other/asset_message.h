@@ -4,6 +4,7 @@
 // receiving side believes no number and no text.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -13,6 +14,10 @@
 #include "model/media_asset.h"
 
 namespace media::movie {
+
+// The one order that there is: to read the file that comes with it. Its name would be no help: what
+// a file holds counts, whatever it is called.
+inline constexpr std::array<std::uint8_t, 4> readOrder = {'r', 'e', 'a', 'd'};
 
 // What a limit cut, in the order in which it is told.
 enum class Cut : std::uint8_t { bytes, packets, tracks, text, configuration };

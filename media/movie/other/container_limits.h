@@ -19,7 +19,6 @@ struct ContainerLimits {
   std::size_t items;               // of metadata, of the asset and of each track
   std::size_t textBytes;           // of a text; a longer one is cut
   std::size_t configurationBytes;  // of a coder's configuration record; a longer one is left out
-  std::size_t nameBytes;           // of a file's name, a hint to its kind
   std::size_t answerBytes;         // of all that is said of a file
   std::size_t largestAllocation;   // bytes, of one piece of memory
   std::size_t memory;              // bytes, of a reader beside its libraries
@@ -35,7 +34,6 @@ inline constexpr ContainerLimits containerLimits = {
     .items = 16,
     .textBytes = 4096,
     .configurationBytes = 8192,
-    .nameBytes = 256,
     .answerBytes = 128u << 10,
     .largestAllocation = 16u << 20,
     .memory = 40u << 20,

@@ -4,7 +4,6 @@
 #include "io/on_demand_module.h"
 #include "media/movie/other/asset_message.h"
 #include "media/movie/other/container_limits.h"
-#include "workers/fields.h"
 #include "workers/worker_pool.h"
 
 namespace media::movie {
@@ -24,19 +23,13 @@ workers::WorkerPool* readers() {
   return program.empty() ? nullptr : &pool;
 }
 
-std::vector<std::uint8_t> orderFor(const std::string& path) {
-  const std::string name = path.substr(path.rfind('/') + 1);
-  return workers::FieldWriter().text(name.substr(0, containerLimits.nameBytes)).take();
-}
-
 }  // namespace
 
-model::Result<std::optional<MovieFile>> readOtherContainer(const std::string& name,
-                                                           const io::FileSource& file) {
+model::Result<std::optional<MovieFile>> readOtherContainer(const io::FileSource& file) {
   workers::WorkerPool* const pool = readers();
   if (pool == nullptr) return std::optional<MovieFile>();
   std::optional<ContainerAnswer> answer;
-  const auto failure = pool->ask(orderFor(name), file.descriptor(), [&](const auto& bytes) {
+  const auto failure = pool->ask(readOrder, file.descriptor(), [&](const auto& bytes) {
     answer = answerOfBytes(bytes);
     return answer && answer->kind != ContainerAnswer::Kind::tooMuch;
   });

@@ -21,12 +21,10 @@ struct MovieFile {
 };
 
 // What FFmpeg makes of a file. None where it knows nothing of it, or where the reader is not
-// installed. `name` is a hint to the kind of the file; it is not opened. Waits for the worker; from
-// any thread.
+// installed. Waits for the worker; from any thread.
 //
 // Errors: "too much for a reader", where there are too many streams or they take too much memory;
 // that its reader crashed, took too long or does not start.
-model::Result<std::optional<MovieFile>> readOtherContainer(const std::string& name,
-                                                           const io::FileSource& file);
+model::Result<std::optional<MovieFile>> readOtherContainer(const io::FileSource& file);
 
 }  // namespace media::movie

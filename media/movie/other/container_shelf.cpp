@@ -13,7 +13,7 @@ constexpr std::size_t mostBooks = 256;  // some kilobytes each
 ContainerShelf::Answer readFile(const std::string& path) {
   const auto file = io::FileSource::open(path);
   if (!file) return file.error();
-  return readOtherContainer(path, **file);
+  return readOtherContainer(**file);
 }
 
 }  // namespace

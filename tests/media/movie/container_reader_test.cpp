@@ -12,9 +12,9 @@
 #include "media/movie/other/container_limits.h"
 #include "media/movie/other/container_shelf.h"
 #include "tests/media/movie/asset_text.h"
-#include "tests/media/movie/avi_builder.h"
-#include "tests/media/movie/crowded_containers.h"
 #include "tests/media/movie/reading.h"
+#include "tests/support/avi_builder.h"
+#include "tests/support/crowded_containers.h"
 #include "workers/sanitizer.h"
 
 namespace media::movie {

@@ -6,8 +6,8 @@
 
 #include <random>
 
-#include "tests/media/movie/avi_builder.h"
 #include "tests/media/movie/reading.h"
+#include "tests/support/avi_builder.h"
 
 namespace media::movie {
 namespace {

@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "tests/media/movie/asset_text.h"
-#include "tests/media/movie/avi_builder.h"
 #include "tests/media/movie/reading.h"
+#include "tests/support/avi_builder.h"
 
 namespace media::movie {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/media/movie/avi_builder.h"
+#include "tests/support/avi_builder.h"
 
 namespace media::movie {
 

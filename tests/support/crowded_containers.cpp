@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/media/movie/crowded_containers.h"
+#include "tests/support/crowded_containers.h"
 
 #include <algorithm>
 
@@ -120,8 +120,12 @@ Bytes crowdedMatroska(int tracks) {
   const Bytes information = element(0x1549A966, element(0x2AD7B1, Writer().u32(1'000'000)));
   const Bytes block = element(0xA3, Writer().u8(0x81).u16(0).u8(0x80).bytes(Bytes(64, 0x65)));
   const Bytes cluster = element(0x1F43B675, joined({element(0xE7, {0}), block}));
-  return joined(
-      {head, element(0x18538067, joined({information, element(0x1654AE6B, entries), cluster}))});
+  const Bytes name = element(0x45A3, Writer().text("LOCATION"));
+  const Bytes place = element(0x4487, Writer().text("+51.4169-000.0806/"));
+  const Bytes tag =
+      element(0x7373, joined({element(0x63C0, {}), element(0x67C8, joined({name, place}))}));
+  return joined({head, element(0x18538067, joined({information, element(0x1654AE6B, entries),
+                                                   element(0x1254C367, tag), cluster}))});
 }
 
 Bytes crowdedAvi(int streams) {

@@ -12,7 +12,7 @@ namespace media::movie {
 // each.
 Bytes crowdedTransportStream(int streams);
 
-// Matroska, with tracks of H.264 of the largest size that its fields can say.
+// Matroska, with tracks of H.264 of the largest size that its fields can say, and a place.
 Bytes crowdedMatroska(int tracks);
 
 // AVI, with streams whose coder's configuration claims a gigabyte.
