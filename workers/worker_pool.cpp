@@ -98,9 +98,13 @@ WorkerPool::End WorkerPool::askOnce(WorkerProcess& worker, std::span<const std::
 }
 
 WorkerPool::End WorkerPool::start(WorkerProcess& worker) const {
-  if (worker.start(_settings.command, Frame::none)) return End::notStarted;
-  return hear(worker, longestGreeting, acceptGreeting) == End::answered ? End::answered
-                                                                        : End::notStarted;
+  // Somebody from outside may have killed the first before it greeted.
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    if (worker.start(_settings.command, Frame::none)) return End::notStarted;
+    if (hear(worker, longestGreeting, acceptGreeting) == End::answered) return End::answered;
+    worker.stop();
+  }
+  return End::notStarted;
 }
 
 WorkerPool::End WorkerPool::hear(const WorkerProcess& worker, std::size_t longest,

@@ -15,6 +15,7 @@
 #include <thread>
 
 #include "io/descriptor.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/workers/misdeeds.h"
 #include "workers/message.h"
 #include "workers/sanitizer.h"
@@ -223,6 +224,18 @@ TEST_F(WorkerPoolTest, DoesWithoutWorkersThatDoNotStart) {
   setrlimit(RLIMIT_NOFILE, &before);
   EXPECT_EQ(well, 40);
   EXPECT_EQ(children().size(), 1U);
+}
+
+TEST_F(WorkerPoolTest, StartsAnotherWhereOneWasKilledBeforeItGreeted) {
+  const support::TemporaryFolder folder;
+  const std::string self = std::filesystem::read_symlink("/proc/self/exe");
+  const std::string dieOnce =
+      "mkdir '" + folder.file("died") + "' && kill -9 $$; exec '" + self + "' " + workerArgument;
+  WorkerPool::Settings settings = settingsFor(workerArgument);
+  settings.command = {"/bin/sh", "-c", dieOnce};
+  WorkerPool other(settings);
+  EXPECT_TRUE(isWell(other));
+  EXPECT_TRUE(std::filesystem::exists(folder.file("died")));
 }
 
 TEST_F(WorkerPoolTest, SaysThatAWorkerDoesNotStart) {
