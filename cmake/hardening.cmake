@@ -24,7 +24,10 @@ if(ROOM_IS_HARDENED)
   unset(CMAKE_REQUIRED_FLAGS)
   target_compile_options(room_hardening INTERFACE
     -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=$<IF:$<BOOL:${HAS_FORTIFY_SOURCE_3}>,3,2>
-    -D_GLIBCXX_ASSERTIONS -fstack-protector-strong)
+    -D_GLIBCXX_ASSERTIONS)
+  # Guards frames with buffers, but for the 16 bytes that every std::string has in itself, which its
+  # own code alone writes: to guard all who have one doubles what hardening costs.
+  target_compile_options(room_hardening INTERFACE -fstack-protector --param=ssp-buffer-size=17)
   # The last two are the same thing on different processors.
   foreach(flag -fstack-clash-protection -fcf-protection=full -mbranch-protection=standard)
     string(MAKE_C_IDENTIFIER "HAS${flag}" has)
