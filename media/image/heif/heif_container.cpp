@@ -43,6 +43,7 @@ class HeifReader {
     if (!size) return false;
     _properties.insert_or_assign("PixelWidth", size->width);
     _properties.insert_or_assign("PixelHeight", size->height);
+    _properties.insert_or_assign("PrimaryImage", true);
     readBlocks();
     readColor();
     readTileSize();

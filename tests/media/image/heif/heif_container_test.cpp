@@ -65,6 +65,7 @@ TEST(HeifContainer, readsThePrimaryImageAndItsBlocks) {
                                             {"Orientation", 6},
                                             {"PixelHeight", 3024},
                                             {"PixelWidth", 4032},
+                                            {"PrimaryImage", true},
                                             {"ProfileName", "Display P3"},
                                             {"{IPTC}", model::Dictionary{{"City", "Kingston"}}},
                                             {"{TIFF}", model::Dictionary{{"Make", "Maker"},
