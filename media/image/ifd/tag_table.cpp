@@ -26,6 +26,14 @@ std::optional<model::Value> realAt(const TiffField& field, std::size_t index) {
   return value ? std::optional<model::Value>(*value) : std::nullopt;
 }
 
+// 0/0 among several fractions stands for what is not known, such as the apertures of a lens. It is
+// shown as 0, so that the others keep their places.
+std::optional<model::Value> realAmongSeveral(const TiffField& field, std::size_t index) {
+  const auto ratio = field.fraction(index);
+  if (ratio && ratio->numerator == 0 && ratio->denominator == 0) return model::Value(0.0);
+  return realAt(field, index);
+}
+
 // All values of the field; none where there is none, or one that cannot be shown.
 std::optional<model::Value> arrayOf(const TiffField& field, ValueAt valueAt) {
   if (field.count == 0 || field.count > limits.valuesPerField) return std::nullopt;
@@ -39,8 +47,8 @@ std::optional<model::Value> arrayOf(const TiffField& field, ValueAt valueAt) {
   return model::Value(std::move(values));
 }
 
-std::optional<model::Value> oneOrArrayOf(const TiffField& field, ValueAt valueAt) {
-  return field.count == 1 ? valueAt(field, 0) : arrayOf(field, valueAt);
+std::optional<model::Value> oneOrSeveralReals(const TiffField& field) {
+  return field.count == 1 ? realAt(field, 0) : arrayOf(field, realAmongSeveral);
 }
 
 const TagRow* rowOf(std::span<const TagRow> rows, std::uint16_t tag) {
@@ -69,7 +77,8 @@ void readTags(TiffStructure& structure, const Ifd& ifd, std::span<const TagRow> 
 }
 
 std::optional<model::Value> integerValue(const TiffField& field) {
-  return oneOrArrayOf(field, isInteger(field.type) ? integerAt : realAt);
+  if (!isInteger(field.type)) return oneOrSeveralReals(field);
+  return field.count == 1 ? integerAt(field, 0) : arrayOf(field, integerAt);
 }
 
 std::optional<model::Value> integerArray(const TiffField& field) {
@@ -81,7 +90,7 @@ std::optional<model::Value> firstInteger(const TiffField& field) {
 }
 
 std::optional<model::Value> realValue(const TiffField& field) {
-  return oneOrArrayOf(field, realAt);
+  return oneOrSeveralReals(field);
 }
 
 std::optional<model::Value> textValue(const TiffField& field) {

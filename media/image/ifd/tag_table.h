@@ -47,7 +47,8 @@ std::optional<model::Value> integerValue(const TiffField& field);
 std::optional<model::Value> integerArray(const TiffField& field);
 // The first whole number alone: one-byte codes that some cameras pad.
 std::optional<model::Value> firstInteger(const TiffField& field);
-// A real, or an array where there are several; none where one of them divides by 0.
+// A real, or an array where there are several, in which 0/0 is 0; none where another one divides
+// by 0.
 std::optional<model::Value> realValue(const TiffField& field);
 // The bytes up to the first NUL; trailing blanks stay.
 std::optional<model::Value> textValue(const TiffField& field);

@@ -54,6 +54,11 @@ std::optional<std::int64_t> integerOf(std::string_view text) {
   return static_cast<std::int64_t>(*number);
 }
 
+// As in EXIF's own fields, 0/0 among several numbers is 0.
+std::optional<double> realAmongSeveral(std::string_view text) {
+  return text == "0/0" ? 0 : xmpReal(text);
+}
+
 template <typename Number>
 std::optional<model::Value> arrayOf(const std::vector<std::string_view>& texts,
                                     std::optional<Number> (*numberOf)(std::string_view)) {
@@ -137,7 +142,7 @@ std::optional<model::Value> xmpRealValue(const XmpValue& value) {
 }
 
 std::optional<model::Value> xmpRealArray(const XmpValue& value) {
-  return arrayOf(value.items.empty() ? split(value.text, ' ') : value.texts(), xmpReal);
+  return arrayOf(value.items.empty() ? split(value.text, ' ') : value.texts(), realAmongSeveral);
 }
 
 std::optional<model::Value> xmpVersion(const XmpValue& value) {

@@ -76,6 +76,7 @@ TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
       {"xmpRights:UsageTerms", language, "{IPTC}", "UsageTerms", "Title"},
       {"aux:Lens", "EF 50mm", "{ExifAux}", "LensModel", "EF 50mm"},
       {"aux:LensInfo", "24/1 120/1 4/1 4/1", "{ExifAux}", "LensInfo", Array{24.0, 120.0, 4.0, 4.0}},
+      {"aux:LensInfo", "18/1 55/1 0/0 0/0", "{ExifAux}", "LensInfo", Array{18.0, 55.0, 0.0, 0.0}},
       {"aux:LensID", "170", "{ExifAux}", "LensID", 170},
       {"aux:SerialNumber", "6001440", "{ExifAux}", "SerialNumber", "6001440"},
       {"aux:ImageNumber", "8458", "{ExifAux}", "ImageNumber", 8458},
@@ -124,6 +125,8 @@ TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
 TEST(XmpPacket, valuesThatDoNotReadAreLeftOut) {
   const std::string elements[] = {
       element("exif:FNumber", "28/0"),
+      element("exif:FNumber", "0/0"),
+      element("exifEX:LensSpecification", list("Seq", {"24/1", "70/1", "28/0", "0/0"})),
       element("exif:FNumber", "fast"),
       element("exif:FNumber", "nan"),
       element("exif:ExifVersion", "2.2"),
