@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
 #include "tests/media/image/container_builder.h"
@@ -71,6 +73,15 @@ TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
        "{IPTC}", "CreatorContactInfo", Dictionary{{"CiAdrCity", "Kingston"}}},
       {"Iptc4xmpExt:LocationShown", "<rdf:Bag><rdf:li Iptc4xmpExt:City='Kingston'/></rdf:Bag>",
        "{IPTC}", "LocationShown", Array{Dictionary{{"City", "Kingston"}}}},
+      {"Iptc4xmpExt:Event", language, "{IPTC}", "Event", "Title"},
+      {"Iptc4xmpExt:PersonInImage", "Ada", "{IPTC}", "PersonInImage", Array{"Ada"}},
+      {"Iptc4xmpExt:MaxAvailWidth", "4032", "{IPTC}", "MaxAvailWidth", "4032"},
+      {"Iptc4xmpExt:ArtworkOrObject",
+       "<rdf:Bag><rdf:li rdf:parseType='Resource'><Iptc4xmpExt:AOContentDescription>" + language +
+           "</Iptc4xmpExt:AOContentDescription><Iptc4xmpExt:AOCreator>" +
+           list("Seq", {"Ada", "Bob"}) + "</Iptc4xmpExt:AOCreator></rdf:li></rdf:Bag>",
+       "{IPTC}", "ArtworkOrObject",
+       Array{Dictionary{{"AOContentDescription", "Title"}, {"AOCreator", Array{"Ada", "Bob"}}}}},
       {"xmp:Rating", "4", "{IPTC}", "StarRating", 4},
       {"xmp:Rating", "-1", "{IPTC}", "StarRating", -1},
       {"xmpRights:UsageTerms", language, "{IPTC}", "UsageTerms", "Title"},
@@ -141,6 +152,13 @@ TEST(XmpPacket, valuesThatDoNotReadAreLeftOut) {
       element("photoshop:City", ""),
       element("dc:subject", list("Bag", {})),
       element("photoshop:Other", "x"),
+      element("photoshop:DateCreated", "2012"),
+      element("xmp:ModifyDate", "2012-08-08"),
+      element("Iptc4xmpExt:", "x"),
+      element("Iptc4xmpExt:Ev\xFF", "x"),
+      element("Iptc4xmpExt:Event", ""),
+      element("Iptc4xmpExt:LocationShown", list("Bag", {"", ""})),
+      element("Iptc4xmpExt:ArtworkOrObject", list("Bag", {"<Iptc4xmpExt:AOTitle/>"})),
       element("unknown:City", "x"),
       element("City", "x"),
       element("mwg-rs:Regions", ""),
@@ -209,6 +227,54 @@ TEST(XmpPacket, faceRegionsAreShown) {
                              {"RegionList", Array{first, second}}}));
 }
 
+TEST(XmpPacket, propertiesStandInForTagsOfExif) {
+  struct Case {
+    const char* property;
+    std::string content;
+    const char* section;
+    const char* key;
+    Value expected;
+    std::string ownProperty;  // goes before, wherever it stands
+    Value ownValue;
+  };
+  const Case cases[] = {
+      {"dc:creator", list("Seq", {"Ada", "Bob"}), "{TIFF}", "Artist", "Ada; Bob",
+       element("tiff:Artist", "Eve"), "Eve"},
+      {"dc:description", list("Alt", {"Boats"}), "{TIFF}", "ImageDescription", "Boats",
+       element("tiff:ImageDescription", "Ships"), "Ships"},
+      {"dc:rights", "Ada", "{TIFF}", "Copyright", "Ada", element("tiff:Copyright", "Eve"), "Eve"},
+      {"photoshop:DateCreated", "2012-08-08T11:52:11+02:00", "{Exif}", "DateTimeOriginal",
+       "2012:08:08 11:52:11", element("exif:DateTimeOriginal", "2011-01-01T00:00:00"),
+       "2011:01:01 00:00:00"},
+      {"xmp:CreateDate", "2012-08-08T11:52", "{Exif}", "DateTimeDigitized", "2012:08:08 11:52:00",
+       element("exif:DateTimeDigitized", "2011-01-01T00:00:00"), "2011:01:01 00:00:00"},
+      {"xmp:CreatorTool", "12.4", "{TIFF}", "Software", "12.4", element("tiff:Software", "Editor"),
+       "Editor"},
+      {"xmp:ModifyDate", "2012-08-08T11:52:11Z", "{TIFF}", "DateTime", "2012:08:08 11:52:11",
+       element("tiff:DateTime", "2011-01-01T00:00:00"), "2011:01:01 00:00:00"},
+  };
+  for (const Case& each : cases) {
+    const std::string property = element(each.property, each.content);
+    const auto shown = [&](const Dictionary& properties) -> Value {
+      const Value* value = entry(properties, each.section, each.key);
+      return value ? *value : Value();
+    };
+    EXPECT_EQ(shown(readElements(property)), each.expected) << each.property;
+    EXPECT_EQ(shown(readElements(property + each.ownProperty)), each.ownValue) << each.property;
+    Dictionary properties = {{each.section, Dictionary{{each.key, "of the block"}}}};
+    readXmpPacket(viewOf(xmpPacket(property)), properties);
+    EXPECT_EQ(shown(properties), "of the block") << each.property;
+  }
+}
+
+TEST(XmpPacket, theOffsetFromUtcIsThatOfTheTimeTaken) {
+  const std::string taken = element("photoshop:DateCreated", "2012-08-08T11:52:11+02:00");
+  EXPECT_EQ(*entry(readElements(taken), "{Exif}", "OffsetTimeOriginal"), "+0200");
+  Dictionary properties = {{"{Exif}", Dictionary{{"DateTimeOriginal", "2011:01:01 00:00:00"}}}};
+  readXmpPacket(viewOf(xmpPacket(taken)), properties);
+  EXPECT_FALSE(entry(properties, "{Exif}", "OffsetTimeOriginal"));
+}
+
 TEST(XmpPacket, whatIsThereStays) {
   Dictionary properties = {{"Orientation", 1}, {"{TIFF}", Dictionary{{"Make", "there"}}}};
   const std::string packet =
@@ -275,6 +341,29 @@ TEST(XmpPacket, nestingThousandsDeepIsCutOff) {
   std::string lists;
   for (int depth = 0; depth < 20'000; ++depth) lists += "<rdf:Bag><rdf:li>";
   EXPECT_TRUE(readElements("<dc:subject>" + lists).empty());
+}
+
+// How many dictionaries are inside each other, the value's own included.
+std::size_t depthOf(const Value& value) {
+  std::size_t deepest = 0;
+  if (const Dictionary* fields = value.asDictionary()) {
+    for (const auto& [key, field] : *fields) deepest = std::max(deepest, 1 + depthOf(field));
+  }
+  return deepest;
+}
+
+TEST(XmpPacket, extensionsNestedAThousandDeepAreCutOff) {
+  std::string opening;
+  std::string closing;
+  for (int depth = 0; depth < 1000; ++depth) {
+    opening += "<Iptc4xmpExt:Inner><Iptc4xmpExt:Name>x</Iptc4xmpExt:Name>";
+    closing += "</Iptc4xmpExt:Inner>";
+  }
+  const Dictionary properties = readElements(opening + closing);
+  const Value* inner = entry(properties, "{IPTC}", "Inner");
+  ASSERT_TRUE(inner);
+  EXPECT_LE(depthOf(*inner), limits.xmpDepth);
+  EXPECT_EQ(inner->asDictionary()->at("Name"), "x");
 }
 
 TEST(XmpPacket, packetsOfTooManyElementsAreLeftOut) {
