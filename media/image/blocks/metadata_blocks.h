@@ -25,8 +25,11 @@ void readExifBlock(io::ByteView block, model::Dictionary& properties);
 // "{TIFF}" and "{GPS}"; values already present stay. ISO 16684-1.
 void readXmpPacket(io::ByteView packet, model::Dictionary& properties);
 
-// IPTC-IIM datasets. Fills "{IPTC}". IPTC-IIM 4.2.
+// IPTC-IIM datasets. Fills "{IPTC}". Of several blocks the first counts, except for datasets that
+// are empty there. IPTC-IIM 4.2.
 void readIptcBlock(io::ByteView datasets, model::Dictionary& properties);
+// Whether a further block could fill what the ones before have left empty.
+bool hasEmptyDatasets(const model::Dictionary& properties);
 
 // Photoshop image resources ("8BIM"): their IPTC datasets are read as above.
 void readPhotoshopResources(io::ByteView resources, model::Dictionary& properties);

@@ -40,7 +40,7 @@ void readIptc(TiffStructure& structure, const Ifd& first, model::Dictionary& pro
   if (const auto datasets = structure.block(first.find(iptcDatasets))) {
     readIptcBlock(*datasets, properties);
   }
-  if (properties.contains("{IPTC}")) return;
+  if (properties.contains("{IPTC}") && !hasEmptyDatasets(properties)) return;
   if (const auto resources = structure.block(first.find(photoshopResources))) {
     readPhotoshopResources(*resources, properties);
   }
