@@ -43,6 +43,7 @@ void describeStill(AssetFacts& facts, image::ImageFacts image) {
                            .value_or(facts.fileModificationDate);
   facts.location = locationOfProperties(properties);
   facts.localizedGeoDescription = placeOfProperties(properties);
+  facts.shortfall = std::move(image.shortfall);
   facts.properties = std::move(image.properties);
 }
 

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "media/image/blocks/shortfall.h"
 #include "media/image/heif/heif_container.h"
 #include "media/image/jpeg/jpeg_container.h"
 #include "media/image/other/bmp_container.h"
@@ -59,7 +60,9 @@ model::Result<std::optional<ImageFacts>> readImageFacts(io::ByteSource& source) 
   if (!properties) return properties.error();
   if (!*properties) return std::optional<ImageFacts>();
   auto offset = takeTimeOffsets(**properties);
-  return std::optional(ImageFacts{std::move(**properties), std::move(offset)});
+  std::string shortfall = takeShortfall(**properties);
+  return std::optional(
+      ImageFacts{std::move(**properties), std::move(offset), std::move(shortfall)});
 }
 
 model::Result<std::optional<model::Dictionary>> copyProperties(io::ByteSource& source) {

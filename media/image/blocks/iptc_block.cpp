@@ -8,6 +8,7 @@
 
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
 #include "media/image/blocks/windows_latin.h"
 #include "model/utf8.h"
 
@@ -186,7 +187,9 @@ void readIptcBlock(io::ByteView datasets, model::Dictionary& properties) {
       isUtf8 = dataset->bytes.startsWith(utf8Announcement);
     }
     const DatasetRow* row = dataset->record == 2 ? rowOf(dataset->number) : nullptr;
-    if (row) store(*row, textOf(dataset->bytes, isUtf8), read);
+    if (!row) continue;
+    store(*row, textOf(dataset->bytes, isUtf8), read);
+    if (dataset->bytes.size() > limits.textBytes) noteShortfall(properties, cutText);
   }
   if (read.empty()) return;
   model::Dictionary& iptc = section(properties, "{IPTC}");

@@ -6,6 +6,7 @@
 
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
 
 namespace media::image {
 
@@ -39,6 +40,16 @@ std::optional<Resource> resourceAt(const BlockReader& resources, std::uint64_t o
   return resource;
 }
 
+void readIptc(const BlockReader& resources, const Resource& resource,
+              model::Dictionary& properties) {
+  if (resource.size > limits.embeddedBytes) {
+    const bool isThere = resources(resource.offset + resource.size - 1, 1).has_value();
+    if (isThere) noteShortfall(properties, droppedMetadata);
+  } else if (const auto bytes = resources(resource.offset, resource.size)) {
+    readIptcBlock(*bytes, properties);
+  }
+}
+
 }  // namespace
 
 void readPhotoshopResources(const BlockReader& resources, model::Dictionary& properties) {
@@ -46,11 +57,7 @@ void readPhotoshopResources(const BlockReader& resources, model::Dictionary& pro
   for (std::size_t count = 0; count < limits.photoshopResources; ++count) {
     const auto resource = resourceAt(resources, offset);
     if (!resource) return;
-    if (resource->number == iptcResource && resource->size <= limits.embeddedBytes) {
-      if (const auto bytes = resources(resource->offset, resource->size)) {
-        readIptcBlock(*bytes, properties);
-      }
-    }
+    if (resource->number == iptcResource) readIptc(resources, *resource, properties);
     offset = resource->end();
   }
 }

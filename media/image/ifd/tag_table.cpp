@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "media/image/blocks/shortfall.h"
 #include "model/utf8.h"
 
 namespace media::image {
@@ -66,7 +67,9 @@ void readTags(TiffStructure& structure, const Ifd& ifd, std::span<const TagRow> 
     if (!row || read.contains(row->key)) continue;
     const auto field = structure.field(entry);
     auto value = field ? row->valueOf(*field) : std::nullopt;
-    if (value) read.emplace(row->key, *std::move(value));
+    if (!value) continue;
+    read.emplace(row->key, *std::move(value));
+    if (field->count < entry.count) noteShortfall(properties, cutText);
   }
   if (read.empty()) return;
   auto [entry, isNew] = properties.try_emplace(std::string(sectionName));
@@ -96,6 +99,14 @@ std::optional<model::Value> realValue(const TiffField& field) {
 std::optional<model::Value> textValue(const TiffField& field) {
   if (!isTextLike(field.type) || field.count == 0) return std::nullopt;
   return model::Value(model::utf8OrLatin1(field.text()));
+}
+
+std::optional<model::Value> trimmedText(const TiffField& field) {
+  if (!isTextLike(field.type)) return std::nullopt;
+  const std::string_view text = field.text();
+  const std::size_t end = text.find_last_not_of(' ') + 1;
+  if (end == 0) return std::nullopt;
+  return model::Value(model::utf8OrLatin1(text.substr(0, end)));
 }
 
 }  // namespace media::image

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "media/image/blocks/density.h"
+#include "media/image/tiff/dng_section.h"
 #include "media/image/tiff/tiff_sections.h"
 
 namespace media::image {
@@ -187,6 +188,7 @@ std::optional<model::Error> readTiffFile(io::SourceReader& file, model::Dictiona
   properties.insert_or_assign("PixelWidth", size.width);
   properties.insert_or_assign("PixelHeight", size.height);
   setPixelFacts(*structure, image, properties);
+  readDngSection(*structure, *first, image, properties);
   setDensityFromTiff(properties);
   return std::nullopt;
 }

@@ -9,6 +9,7 @@
 
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
 #include "media/image/xmp/xmp_properties.h"
 #include "media/image/xmp/xmp_value.h"
 
@@ -74,6 +75,7 @@ class PacketReader {
     const auto substitute = xmpSubstituteRow(name);
     if (!row && !substitute) return;
     XmpValue value = readValue();
+    if (value.isCut) noteShortfall(_properties, cutText);
     if (row) row->store(value, *row, _properties);
     if (substitute) _substitutes.push_back({*substitute, std::move(value)});
   }
@@ -86,7 +88,7 @@ class PacketReader {
 
 void readXmpPacket(io::ByteView packet, model::Dictionary& properties) {
   const std::string_view text = packet.text();
-  if (!isWithinLimits(text)) return;
+  if (!isWithinLimits(text)) return noteShortfall(properties, droppedMetadata);
   pugi::xml_document document;
   // A packet that breaks off is read as far as it goes.
   document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_auto);

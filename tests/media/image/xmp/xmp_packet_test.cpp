@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
 #include "tests/media/image/container_builder.h"
+#include "tests/media/image/xmp/xmp_elements.h"
 
 namespace media::image {
 namespace {
@@ -14,26 +14,6 @@ using namespace std::string_literals;
 using model::Array;
 using model::Dictionary;
 using model::Value;
-
-Dictionary read(std::string_view packet) {
-  Dictionary properties;
-  readXmpPacket(viewOf(packet), properties);
-  return properties;
-}
-
-Dictionary readElements(std::string_view elements) {
-  return read(xmpPacket(elements));
-}
-
-std::string list(std::string_view kind, const std::vector<std::string>& items) {
-  std::string text = "<rdf:" + std::string(kind) + ">";
-  for (const std::string& item : items) text += "<rdf:li>" + item + "</rdf:li>";
-  return text + "</rdf:" + std::string(kind) + ">";
-}
-
-std::string element(std::string_view name, std::string_view content) {
-  return "<" + std::string(name) + ">" + std::string(content) + "</" + std::string(name) + ">";
-}
 
 TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
   struct Case {
@@ -167,10 +147,11 @@ TEST(XmpPacket, valuesThatDoNotReadAreLeftOut) {
 }
 
 TEST(XmpPacket, attributesAndElementsMeanTheSame) {
-  EXPECT_EQ(read("<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+  EXPECT_EQ(
+      readPacket("<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
                  "<rdf:Description xmlns:p='http://ns.adobe.com/photoshop/1.0/' p:City='Kingston'/>"
                  "</rdf:RDF>"),
-            readElements(element("photoshop:City", "Kingston")));
+      readElements(element("photoshop:City", "Kingston")));
 }
 
 TEST(XmpPacket, namespacesCountAndPrefixesDoNot) {
@@ -181,9 +162,9 @@ TEST(XmpPacket, namespacesCountAndPrefixesDoNot) {
            "'>Kingston</exif:City>"
            "</r:Description></r:RDF>";
   };
-  EXPECT_EQ(*entry(read(packet("http://ns.adobe.com/photoshop/1.0/")), "{IPTC}", "City"),
+  EXPECT_EQ(*entry(readPacket(packet("http://ns.adobe.com/photoshop/1.0/")), "{IPTC}", "City"),
             "Kingston");
-  EXPECT_TRUE(read(packet("http://example.com/")).empty());
+  EXPECT_TRUE(readPacket(packet("http://example.com/")).empty());
 }
 
 TEST(XmpPacket, aValueMayHaveQualifiers) {
@@ -227,54 +208,6 @@ TEST(XmpPacket, faceRegionsAreShown) {
                              {"RegionList", Array{first, second}}}));
 }
 
-TEST(XmpPacket, propertiesStandInForTagsOfExif) {
-  struct Case {
-    const char* property;
-    std::string content;
-    const char* section;
-    const char* key;
-    Value expected;
-    std::string ownProperty;  // goes before, wherever it stands
-    Value ownValue;
-  };
-  const Case cases[] = {
-      {"dc:creator", list("Seq", {"Ada", "Bob"}), "{TIFF}", "Artist", "Ada; Bob",
-       element("tiff:Artist", "Eve"), "Eve"},
-      {"dc:description", list("Alt", {"Boats"}), "{TIFF}", "ImageDescription", "Boats",
-       element("tiff:ImageDescription", "Ships"), "Ships"},
-      {"dc:rights", "Ada", "{TIFF}", "Copyright", "Ada", element("tiff:Copyright", "Eve"), "Eve"},
-      {"photoshop:DateCreated", "2012-08-08T11:52:11+02:00", "{Exif}", "DateTimeOriginal",
-       "2012:08:08 11:52:11", element("exif:DateTimeOriginal", "2011-01-01T00:00:00"),
-       "2011:01:01 00:00:00"},
-      {"xmp:CreateDate", "2012-08-08T11:52", "{Exif}", "DateTimeDigitized", "2012:08:08 11:52:00",
-       element("exif:DateTimeDigitized", "2011-01-01T00:00:00"), "2011:01:01 00:00:00"},
-      {"xmp:CreatorTool", "12.4", "{TIFF}", "Software", "12.4", element("tiff:Software", "Editor"),
-       "Editor"},
-      {"xmp:ModifyDate", "2012-08-08T11:52:11Z", "{TIFF}", "DateTime", "2012:08:08 11:52:11",
-       element("tiff:DateTime", "2011-01-01T00:00:00"), "2011:01:01 00:00:00"},
-  };
-  for (const Case& each : cases) {
-    const std::string property = element(each.property, each.content);
-    const auto shown = [&](const Dictionary& properties) -> Value {
-      const Value* value = entry(properties, each.section, each.key);
-      return value ? *value : Value();
-    };
-    EXPECT_EQ(shown(readElements(property)), each.expected) << each.property;
-    EXPECT_EQ(shown(readElements(property + each.ownProperty)), each.ownValue) << each.property;
-    Dictionary properties = {{each.section, Dictionary{{each.key, "of the block"}}}};
-    readXmpPacket(viewOf(xmpPacket(property)), properties);
-    EXPECT_EQ(shown(properties), "of the block") << each.property;
-  }
-}
-
-TEST(XmpPacket, theOffsetFromUtcIsThatOfTheTimeTaken) {
-  const std::string taken = element("photoshop:DateCreated", "2012-08-08T11:52:11+02:00");
-  EXPECT_EQ(*entry(readElements(taken), "{Exif}", "OffsetTimeOriginal"), "+0200");
-  Dictionary properties = {{"{Exif}", Dictionary{{"DateTimeOriginal", "2011:01:01 00:00:00"}}}};
-  readXmpPacket(viewOf(xmpPacket(taken)), properties);
-  EXPECT_FALSE(entry(properties, "{Exif}", "OffsetTimeOriginal"));
-}
-
 TEST(XmpPacket, whatIsThereStays) {
   Dictionary properties = {{"Orientation", 1}, {"{TIFF}", Dictionary{{"Make", "there"}}}};
   const std::string packet =
@@ -298,7 +231,7 @@ TEST(XmpPacket, anyUnicodeEncodingIsRead) {
         wide(true, ""), wide(false, ""), packet + std::string(100, '\0'),
         "<?xpacket begin='\xEF\xBB\xBF' id='W5M0MpCehiHzreSzNTczkc9d'?>" + packet +
             std::string(2000, ' ') + "<?xpacket end='w'?>"}) {
-    const Dictionary properties = read(encoded);
+    const Dictionary properties = readPacket(encoded);
     ASSERT_TRUE(entry(properties, "{IPTC}", "City"));
     EXPECT_EQ(*entry(properties, "{IPTC}", "City"), "Kingston");
   }
@@ -313,10 +246,10 @@ TEST(XmpPacket, aPacketCutAnywhereIsReadAsFarAsItGoes) {
   const std::string packet =
       xmpPacket(element("photoshop:City", "Kingston") + element("photoshop:State", "Ontario"));
   for (std::size_t length = 0; length <= packet.size(); ++length) {
-    const Dictionary properties = read(packet.substr(0, length));
+    const Dictionary properties = readPacket(packet.substr(0, length));
     EXPECT_LE(properties.size(), 1U) << length;
   }
-  const Dictionary cut = read(packet.substr(0, packet.find("<photoshop:State>")));
+  const Dictionary cut = readPacket(packet.substr(0, packet.find("<photoshop:State>")));
   EXPECT_EQ(*entry(cut, "{IPTC}", "City"), "Kingston");
 }
 
@@ -324,7 +257,7 @@ TEST(XmpPacket, entitiesAreNotExpanded) {
   const std::string packet =
       "<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;'>]>" +
       xmpPacket(element("photoshop:City", "&b;&amp;"));
-  const Dictionary properties = read(packet);
+  const Dictionary properties = readPacket(packet);
   ASSERT_TRUE(entry(properties, "{IPTC}", "City"));
   EXPECT_EQ(*entry(properties, "{IPTC}", "City"), "&b;&");
 }
@@ -337,39 +270,18 @@ TEST(XmpPacket, nestingThousandsDeepIsCutOff) {
     closing += "</photoshop:City>";
   }
   EXPECT_TRUE(readElements(opening + "x" + closing).empty());
-  EXPECT_TRUE(read(opening).empty());
+  EXPECT_TRUE(readPacket(opening).empty());
   std::string lists;
   for (int depth = 0; depth < 20'000; ++depth) lists += "<rdf:Bag><rdf:li>";
   EXPECT_TRUE(readElements("<dc:subject>" + lists).empty());
 }
 
-// How many dictionaries are inside each other, the value's own included.
-std::size_t depthOf(const Value& value) {
-  std::size_t deepest = 0;
-  if (const Dictionary* fields = value.asDictionary()) {
-    for (const auto& [key, field] : *fields) deepest = std::max(deepest, 1 + depthOf(field));
-  }
-  return deepest;
-}
-
-TEST(XmpPacket, extensionsNestedAThousandDeepAreCutOff) {
-  std::string opening;
-  std::string closing;
-  for (int depth = 0; depth < 1000; ++depth) {
-    opening += "<Iptc4xmpExt:Inner><Iptc4xmpExt:Name>x</Iptc4xmpExt:Name>";
-    closing += "</Iptc4xmpExt:Inner>";
-  }
-  const Dictionary properties = readElements(opening + closing);
-  const Value* inner = entry(properties, "{IPTC}", "Inner");
-  ASSERT_TRUE(inner);
-  EXPECT_LE(depthOf(*inner), limits.xmpDepth);
-  EXPECT_EQ(inner->asDictionary()->at("Name"), "x");
-}
-
 TEST(XmpPacket, packetsOfTooManyElementsAreLeftOut) {
   std::string many;
   for (std::size_t index = 0; index <= limits.xmpElements; ++index) many += "<a/>";
-  EXPECT_TRUE(readElements(element("photoshop:City", "Kingston") + many).empty());
+  Dictionary properties = readElements(element("photoshop:City", "Kingston") + many);
+  EXPECT_EQ(takeShortfall(properties), droppedMetadata);
+  EXPECT_TRUE(properties.empty());
   std::string fewer;
   for (std::size_t index = 0; index < limits.xmpElements / 2; ++index) fewer += "<a/>";
   EXPECT_FALSE(readElements(element("photoshop:City", "Kingston") + fewer).empty());
@@ -392,7 +304,7 @@ TEST(XmpPacket, manyNamespacesAndAttributesCostLittle) {
   }
   const std::string packet = "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'" +
                              declarations + "><rdf:Description" + attributes + "/></rdf:RDF>";
-  EXPECT_TRUE(read(packet).empty());
+  EXPECT_TRUE(readPacket(packet).empty());
 }
 
 }  // namespace
