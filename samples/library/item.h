@@ -26,6 +26,7 @@ struct Camera {
   int makerNoteVersion = 0;  // of the phone's maker note; 0 for a camera that is no phone
   const char* bodySerial = nullptr;
   const char* lensSerial = nullptr;
+  int lensId = 0;  // in the numbering of the maker; 0 for a maker whose notes are not written
 };
 
 struct Place {
