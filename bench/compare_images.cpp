@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
+//
+// A row a key: which of exiftool's tags say the same, in the order in which they count, and in
+// which form. Both sides become texts, "none" where there is nothing; numbers, and lists of
+// numbers, may differ by what exiftool rounds off.
 #include <array>
 #include <cmath>
+#include <sstream>
 #include <string_view>
 
 #include "bench/compare.h"
@@ -15,29 +20,43 @@ namespace bench {
 namespace {
 
 // How a value of ours becomes the one exiftool prints.
-enum class Form { plain, firstElement, apexTime, apexAperture, timeOfDay };
+enum class Form {
+  plain,
+  firstElement,
+  list,        // all elements
+  known,       // the same, compared only where they know it: we make one of other tags, too
+  identifier,  // some numbers stand for none
+  time,        // without fraction and zone
+  apexTime,
+  apexAperture,
+  timeOfDay
+};
 
 struct Row {
   std::string_view section;
   std::string_view key;
-  const char* theirs;
+  std::string_view
+      theirs;  // names with blanks between them, of which the first that is there counts
   Form form = Form::plain;
 };
 
 constexpr std::array rows = {
-    Row{"{TIFF}", "Make", "IFD0:Make"},
-    Row{"{TIFF}", "Model", "IFD0:Model"},
-    Row{"{TIFF}", "Software", "IFD0:Software"},
-    Row{"{TIFF}", "DateTime", "IFD0:ModifyDate"},
-    Row{"{TIFF}", "Orientation", "IFD0:Orientation"},
-    Row{"{TIFF}", "XResolution", "IFD0:XResolution"},
-    Row{"{TIFF}", "ResolutionUnit", "IFD0:ResolutionUnit"},
-    Row{"{Exif}", "ExposureTime", "ExifIFD:ExposureTime"},
-    Row{"{Exif}", "FNumber", "ExifIFD:FNumber"},
-    Row{"{Exif}", "ExposureProgram", "ExifIFD:ExposureProgram"},
-    Row{"{Exif}", "ISOSpeedRatings", "ExifIFD:ISO", Form::firstElement},
-    Row{"{Exif}", "DateTimeOriginal", "ExifIFD:DateTimeOriginal"},
-    Row{"{Exif}", "DateTimeDigitized", "ExifIFD:CreateDate"},
+    Row{"{TIFF}", "Make", "IFD0:Make XMP-tiff:Make"},
+    Row{"{TIFF}", "Model", "IFD0:Model XMP-tiff:Model"},
+    Row{"{TIFF}", "Software", "IFD0:Software XMP-tiff:Software XMP-xmp:CreatorTool"},
+    Row{"{TIFF}", "DateTime", "IFD0:ModifyDate XMP-tiff:DateTime XMP-xmp:ModifyDate", Form::time},
+    Row{"{TIFF}", "Artist", "IFD0:Artist XMP-tiff:Artist XMP-dc:Creator"},
+    Row{"{TIFF}", "Orientation", "IFD0:Orientation XMP-tiff:Orientation"},
+    Row{"{TIFF}", "XResolution", "IFD0:XResolution XMP-tiff:XResolution"},
+    Row{"{TIFF}", "ResolutionUnit", "IFD0:ResolutionUnit XMP-tiff:ResolutionUnit"},
+    Row{"{Exif}", "ExposureTime", "ExifIFD:ExposureTime XMP-exif:ExposureTime"},
+    Row{"{Exif}", "FNumber", "ExifIFD:FNumber XMP-exif:FNumber"},
+    Row{"{Exif}", "ExposureProgram", "ExifIFD:ExposureProgram XMP-exif:ExposureProgram"},
+    Row{"{Exif}", "ISOSpeedRatings", "ExifIFD:ISO XMP-exif:ISO", Form::firstElement},
+    Row{"{Exif}", "DateTimeOriginal",
+        "ExifIFD:DateTimeOriginal XMP-exif:DateTimeOriginal XMP-photoshop:DateCreated", Form::time},
+    Row{"{Exif}", "DateTimeDigitized",
+        "ExifIFD:CreateDate XMP-exif:DateTimeDigitized XMP-xmp:CreateDate", Form::time},
     Row{"{Exif}", "SubsecTimeOriginal", "ExifIFD:SubSecTimeOriginal"},
     Row{"{Exif}", "ShutterSpeedValue", "ExifIFD:ShutterSpeedValue", Form::apexTime},
     Row{"{Exif}", "ApertureValue", "ExifIFD:ApertureValue", Form::apexAperture},
@@ -54,6 +73,31 @@ constexpr std::array rows = {
     Row{"{Exif}", "PixelXDimension", "ExifIFD:ExifImageWidth"},
     Row{"{Exif}", "LensMake", "ExifIFD:LensMake"},
     Row{"{Exif}", "LensModel", "ExifIFD:LensModel"},
+    Row{"{Exif}", "LensSpecification", "ExifIFD:LensInfo XMP-exifEX:LensInfo", Form::list},
+    Row{"{ExifAux}", "Firmware", "Canon:CanonFirmwareVersion XMP-aux:Firmware", Form::known},
+    Row{"{ExifAux}", "FlashCompensation",
+        "Canon:FlashExposureComp Nikon:FlashExposureComp XMP-aux:FlashCompensation"},
+    Row{"{ExifAux}", "ImageNumber", "Nikon:ShutterCount XMP-aux:ImageNumber", Form::identifier},
+    Row{"{ExifAux}", "LensID", "Canon:LensType Nikon:LensIDNumber XMP-aux:LensID",
+        Form::identifier},
+    Row{"{ExifAux}", "LensInfo", "Nikon:Lens XMP-aux:LensInfo", Form::known},
+    Row{"{ExifAux}", "LensModel", "Canon:LensModel XMP-aux:Lens", Form::known},
+    Row{"{ExifAux}", "OwnerName", "Canon:OwnerName XMP-aux:OwnerName"},
+    Row{"{ExifAux}", "SerialNumber", "Canon:SerialNumber Nikon:SerialNumber XMP-aux:SerialNumber",
+        Form::identifier},
+    Row{"{DNG}", "UniqueCameraModel", "IFD0:UniqueCameraModel", Form::known},
+    Row{"{DNG}", "AsShotNeutral", "IFD0:AsShotNeutral", Form::list},
+    Row{"{DNG}", "ColorMatrix1", "IFD0:ColorMatrix1", Form::list},
+    Row{"{DNG}", "BaselineExposure", "IFD0:BaselineExposure"},
+    Row{"{IPTC}", "Byline", "IPTC:By-line XMP-dc:Creator", Form::list},
+    Row{"{IPTC}", "Caption/Abstract", "IPTC:Caption-Abstract XMP-dc:Description"},
+    Row{"{IPTC}", "City", "IPTC:City XMP-photoshop:City"},
+    Row{"{IPTC}", "CopyrightNotice", "IPTC:CopyrightNotice XMP-dc:Rights"},
+    Row{"{IPTC}", "Headline", "IPTC:Headline XMP-photoshop:Headline"},
+    Row{"{IPTC}", "Keywords", "IPTC:Keywords XMP-dc:Subject", Form::list},
+    Row{"{IPTC}", "ObjectName", "IPTC:ObjectName XMP-dc:Title"},
+    Row{"{IPTC}", "Event", "XMP-iptcExt:Event"},
+    Row{"{IPTC}", "PersonInImage", "XMP-iptcExt:PersonInImage", Form::list},
     Row{"{GPS}", "Latitude", "GPS:GPSLatitude"},
     Row{"{GPS}", "LatitudeRef", "GPS:GPSLatitudeRef"},
     Row{"{GPS}", "Longitude", "GPS:GPSLongitude"},
@@ -85,6 +129,24 @@ std::string withoutTrailingZeros(std::string time) {
   return time;
 }
 
+// The elements of an array, with blanks between them; undefined fractions among them are 0 here.
+std::string listText(const model::Value& value) {
+  const auto* array = value.asArray();
+  if (array == nullptr) {
+    std::string text = model::valueText(value);
+    constexpr std::string_view undefined = "undef";
+    for (std::size_t at = text.find(undefined); at != std::string::npos; at = text.find(undefined))
+      text.replace(at, undefined.size(), "0");
+    return text;
+  }
+  std::string text;
+  for (const model::Value& element : *array) {
+    if (!text.empty()) text += ' ';
+    text += model::valueText(element);
+  }
+  return text;
+}
+
 std::string oursAsTheirs(const model::Value& value, Form form) {
   if (form == Form::apexTime || form == Form::apexAperture) {
     const double apex = model::parseRealPrefix(model::valueText(value));
@@ -95,7 +157,46 @@ std::string oursAsTheirs(const model::Value& value, Form form) {
   if (form == Form::firstElement && array != nullptr && !array->empty()) {
     return model::valueText(array->front());
   }
-  return model::valueText(value);
+  return listText(value);
+}
+
+// What stands for nothing on one side is left out on the other.
+std::string compared(const std::string& text, Form form) {
+  const std::string value = trimmed(form == Form::time ? text.substr(0, 19) : text);
+  const bool isNone =
+      form == Form::identifier && (value == "0" || value == "65535" || value == "4294965247");
+  return value.empty() || isNone ? "none" : value;
+}
+
+std::string ourText(const model::Value* value, Form form) {
+  return value == nullptr ? "none" : compared(oursAsTheirs(*value, form), form);
+}
+
+std::string theirText(const model::Value* value, Form form) {
+  return value == nullptr ? "none" : compared(listText(*value), form);
+}
+
+const model::Value* theirValue(const model::Dictionary& theirs, std::string_view names) {
+  std::istringstream each{std::string(names)};
+  for (std::string name; each >> name;) {
+    if (const auto* value = model::find(theirs, name)) return value;
+  }
+  return nullptr;
+}
+
+// Lists of as many numbers are equal where each is.
+bool sameNumbers(const std::string& ours, const std::string& theirs) {
+  std::istringstream left(ours);
+  std::istringstream right(theirs);
+  std::string first;
+  std::string second;
+  while (left >> first) {
+    if (!(right >> second) || !isNumber(first) || !isNumber(second)) return false;
+    const double number = model::parseRealPrefix(first);
+    const double difference = std::abs(number - model::parseRealPrefix(second));
+    if (difference > tolerance * std::abs(number)) return false;
+  }
+  return !(right >> second);
 }
 
 const model::Value* ourValue(const model::Dictionary& properties, const Row& row) {
@@ -107,18 +208,19 @@ const model::Value* ourValue(const model::Dictionary& properties, const Row& row
 void compareFile(const std::string& file, const model::Dictionary& ours,
                  const model::Dictionary& theirs, Tally& tally) {
   for (const Row& row : rows) {
-    const auto* our = ourValue(ours, row);
-    const auto* their = model::find(theirs, row.theirs);
-    if (our == nullptr && their == nullptr) continue;
-    const std::string ourText = our == nullptr ? "none" : trimmed(oursAsTheirs(*our, row.form));
-    const std::string theirText = their == nullptr ? "none" : trimmed(model::valueText(*their));
-    if (isNumber(ourText) && isNumber(theirText)) {
+    const auto* their = theirValue(theirs, row.theirs);
+    if (their == nullptr && row.form == Form::known) continue;
+    const std::string our = ourText(ourValue(ours, row), row.form);
+    const std::string other = theirText(their, row.form);
+    if (our == "none" && other == "none") continue;
+    const std::string name(row.theirs.substr(0, row.theirs.find(' ')));
+    if (isNumber(our) && isNumber(other)) {
       // The brief APEX conversion of theirs goes through a rounded power.
       const bool apex = row.form == Form::apexTime || row.form == Form::apexAperture;
-      tally.compareNumbers(file, row.theirs, model::parseRealPrefix(ourText),
-                           model::parseRealPrefix(theirText), apex ? 1e-6 : tolerance);
+      tally.compareNumbers(file, name, model::parseRealPrefix(our), model::parseRealPrefix(other),
+                           apex ? 1e-6 : tolerance);
     } else {
-      tally.compare(file, row.theirs, ourText, theirText);
+      tally.compare(file, name, sameNumbers(our, other) ? other : our, other);
     }
   }
 }
