@@ -36,17 +36,15 @@ std::uint64_t word(std::string_view text, std::size_t offset) {
 }  // namespace
 
 CodePoint codePointAt(std::string_view text, std::size_t offset) {
-  const auto byte = [&](std::size_t index) {
-    return static_cast<unsigned char>(text[offset + index]);
-  };
-  const unsigned char first = byte(0);
+  const auto first = static_cast<unsigned char>(text[offset]);
   if (first < 0x80) return {first, 1, true};
   const std::uint8_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
   if (first < 0xC2 || first > 0xF4 || text.size() - offset < length) return invalidByte;
   char32_t value = first & (0xFF >> (length + 1));
-  for (std::size_t index = 1; index < length; ++index) {
-    if (!isContinuation(byte(index))) return invalidByte;
-    value = (value << 6) | (byte(index) & 0x3F);
+  for (const char next : text.substr(offset + 1, length - 1)) {
+    const auto byte = static_cast<unsigned char>(next);
+    if (!isContinuation(byte)) return invalidByte;
+    value = (value << 6) | (byte & 0x3F);
   }
   constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
   if (value < smallest[length] || value > 0x10FFFF || isSurrogate(value)) return invalidByte;
@@ -130,12 +128,15 @@ bool isAscii(std::string_view text) {
 }
 
 std::size_t commonPrefix(std::string_view left, std::string_view right) {
-  const std::size_t length = std::min(left.size(), right.size());
-  std::size_t offset = 0;
-  while (offset + sizeof(std::uint64_t) <= length && word(left, offset) == word(right, offset))
-    offset += sizeof(std::uint64_t);
-  while (offset < length && left[offset] == right[offset]) ++offset;
-  return offset;
+  constexpr std::size_t step = 8;  // bytes, compared at once
+  const char* const begin = left.data();
+  const char* const end = begin + std::min(left.size(), right.size());
+  const char* at = begin;
+  const char* other = right.data();
+  for (; end - at >= std::ptrdiff_t{step} && std::memcmp(at, other, step) == 0; at += step)
+    other += step;
+  while (at != end && *at == *other) ++at, ++other;
+  return static_cast<std::size_t>(at - begin);
 }
 
 bool LiteralLess::operator()(std::string_view left, std::string_view right) const {
