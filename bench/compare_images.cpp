@@ -64,6 +64,14 @@ constexpr std::array rows = {
     Row{"{GPS}", "DateStamp", "GPS:GPSDateStamp"},
     Row{"{GPS}", "ImgDirection", "GPS:GPSImgDirection"},
     Row{"{GPS}", "Speed", "GPS:GPSSpeed"},
+    Row{"{CIFF}", "Description", "CanonRaw:CanonFileDescription"},
+    Row{"{CIFF}", "Firmware", "CanonRaw:CanonFirmwareVersion"},
+    Row{"{CIFF}", "OwnerName", "CanonRaw:OwnerName"},
+    Row{"{CIFF}", "ImageFileName", "CanonRaw:OriginalFileName"},
+    Row{"{CIFF}", "RecordID", "CanonRaw:RecordID"},
+    Row{"{CIFF}", "CameraSerialNumber", "CanonRaw:SerialNumber"},
+    Row{"{CIFF}", "ImageSerialNumber", "CanonRaw:FileNumber"},
+    Row{"{CIFF}", "MeasuredEV", "CanonRaw:MeasuredEV"},
 };
 
 // exiftool rounds quotients to ten digits and drops a text's trailing blanks.
@@ -104,11 +112,21 @@ const model::Value* ourValue(const model::Dictionary& properties, const Row& row
   return section == nullptr ? nullptr : model::find(*section, row.key);
 }
 
+// Raw files without TIFF directories have the same facts in groups of their own.
+const model::Value* theirValue(const model::Dictionary& theirs, std::string_view name) {
+  if (const auto* found = model::find(theirs, name)) return found;
+  const std::string_view fact = name.substr(name.find(':'));
+  for (const char* group : {"CanonRaw", "SigmaRaw"}) {
+    if (const auto* found = model::find(theirs, group + std::string(fact))) return found;
+  }
+  return nullptr;
+}
+
 void compareFile(const std::string& file, const model::Dictionary& ours,
                  const model::Dictionary& theirs, Tally& tally) {
   for (const Row& row : rows) {
     const auto* our = ourValue(ours, row);
-    const auto* their = model::find(theirs, row.theirs);
+    const auto* their = theirValue(theirs, row.theirs);
     if (our == nullptr && their == nullptr) continue;
     const std::string ourText = our == nullptr ? "none" : trimmed(oursAsTheirs(*our, row.form));
     const std::string theirText = their == nullptr ? "none" : trimmed(model::valueText(*their));

@@ -54,17 +54,20 @@ void readProfile(TiffStructure& structure, const Ifd& first, model::Dictionary& 
 
 }  // namespace
 
-std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties) {
-  auto first = structure.readIfd(structure.firstIfd());
-  if (!first) return std::nullopt;
-  readTiffSection(structure, *first, properties);
-  readGps(structure, first->find(gpsPointer), properties);
-  readExif(structure, first->find(exifPointer), properties);
-  readIptc(structure, *first, properties);
-  if (const auto packet = structure.block(first->find(xmpPacket))) {
+void readTiffSections(TiffStructure& structure, const Ifd& first, model::Dictionary& properties) {
+  readTiffSection(structure, first, properties);
+  readGps(structure, first.find(gpsPointer), properties);
+  readExif(structure, first.find(exifPointer), properties);
+  readIptc(structure, first, properties);
+  if (const auto packet = structure.block(first.find(xmpPacket))) {
     readXmpPacket(*packet, properties);
   }
-  readProfile(structure, *first, properties);
+  readProfile(structure, first, properties);
+}
+
+std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties) {
+  auto first = structure.readIfd(structure.firstIfd());
+  if (first) readTiffSections(structure, *first, properties);
   return first;
 }
 
