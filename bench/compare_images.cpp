@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// A table says which key of ours is which tag of exiftool's, and in what form its value stands
+// there; the values of every file are compared row by row.
 #include <array>
 #include <cmath>
 #include <string_view>

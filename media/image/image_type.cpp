@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Most kinds are told by their first bytes, boxes by their brands. A TIFF structure may be one of
+// many raw files without a mark, so there the extension is believed, and everywhere else only where
+// the content says nothing.
 #include "media/image/image_type.h"
 
 #include <algorithm>

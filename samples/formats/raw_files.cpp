@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Each function writes one kind from its first byte to its last, with as little as its readers need:
-// where the picture's size stands, how deep its samples are, and a block with the camera's name.
+// Each function writes one kind from its first byte to its last, with as little as its readers
+// need: where the picture's size stands, how deep its samples are, and a block with the camera's
+// name.
 #include "samples/formats/raw_files.h"
 
 #include "samples/formats/box_writer.h"

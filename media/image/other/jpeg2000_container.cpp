@@ -20,7 +20,6 @@ namespace media::image {
 
 namespace {
 
-using model::fourCharCode;
 using BoxUuid = std::array<std::uint8_t, 16>;
 
 constexpr std::string_view signatureBox("\0\0\0\x0CjP  \r\n\x87\n", 12);
