@@ -6,9 +6,11 @@ include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
 include(CheckPIESupported)
 
+option(LUMIFACT_HARDENED "Harden optimised builds, beyond what the compiler's flags say" ON)
+
 # Optimised builds have it. The sanitizers find more, and get in the way of some of it.
 set(ROOM_IS_HARDENED OFF)
-if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$"
+if(LUMIFACT_HARDENED AND CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$"
    AND NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize" AND NOT LUMIFACT_DEVICE)
   set(ROOM_IS_HARDENED ON)
 endif()

@@ -41,15 +41,39 @@ model::Value settings() {
                     {"list", Array{1, "\u00fc", Array{}, Dictionary{{"key", -1}}}}};
 }
 
+// A page of settings with a row of every type.
+model::Value settingsPage() {
+  const auto row = [](const char* cell, Dictionary more) {
+    more["cell"] = cell;
+    more["label"] = "A row";
+    more["key"] = "key";
+    more["defaults"] = "org.example.page";
+    return model::Value(std::move(more));
+  };
+  const Dictionary choices{{"validTitles", Array{"One", "Two"}}, {"validValues", Array{1, 2}}};
+  return Dictionary{
+      {"entry", Dictionary{{"cell", "PSLinkCell"}, {"label", "Page"}}},
+      {"title", "A page"},
+      {"items",
+       Array{row("PSGroupCell", {{"footerText", "What it is for."}}),
+             row("PSSwitchCell", {{"default", true}, {"PostNotification", "org.example.changed"}}),
+             row("PSSegmentCell", choices), row("PSLinkListCell", choices),
+             row("PSSliderCell", {{"min", 1}, {"max", 20.5}, {"default", 2}, {"showValue", true}}),
+             row("PSTitleValueCell", {{"default", "12"}}), row("PSStaticTextCell", {})}}};
+}
+
 }  // namespace
 
 std::vector<std::pair<std::string, std::string>> textSeeds() {
   std::vector<std::pair<std::string, std::string>> seeds{
       {"script", script}, {"image.json", imageLine}, {"video.json", videoLine}};
-  for (const auto& [name, format] : {std::pair("xml.plist", PropertyListFormat::xml),
-                                     std::pair("binary.plist", PropertyListFormat::binary)})
-    if (const auto bytes = serializePropertyList(settings(), format))
-      seeds.emplace_back(name, *bytes);
+  const std::pair<std::string, model::Value> lists[] = {{"settings", settings()},
+                                                        {"page", settingsPage()}};
+  for (const auto& [name, list] : lists)
+    for (const auto& [form, format] : {std::pair(".xml.plist", PropertyListFormat::xml),
+                                       std::pair(".binary.plist", PropertyListFormat::binary)})
+      if (const auto bytes = serializePropertyList(list, format))
+        seeds.emplace_back(name + form, *bytes);
   return seeds;
 }
 

@@ -149,4 +149,13 @@ std::optional<model::Error> replaceFile(const fs::path& path, std::string_view b
   return isReplaced ? std::nullopt : std::optional(whyNot());
 }
 
+std::optional<model::Error> writeOutput(const fs::path& path, std::string_view bytes) {
+  std::error_code error;
+  const fs::file_type type = fs::status(path, error).type();
+  if (type != fs::file_type::fifo && type != fs::file_type::character)
+    return replaceFile(path, bytes);
+  const Descriptor output(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
+  return output && writeAll(output.number(), bytes) ? std::nullopt : std::optional(whyNot());
+}
+
 }  // namespace io

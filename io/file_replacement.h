@@ -20,6 +20,10 @@ namespace io {
 // Errors: "Is a directory" and "not a regular file", which are not replaced; what the system says.
 std::optional<model::Error> replaceFile(const std::filesystem::path& path, std::string_view bytes);
 
+// The same for what somebody asked a program to write somewhere: a pipe or a terminal gets the
+// bytes as they are.
+std::optional<model::Error> writeOutput(const std::filesystem::path& path, std::string_view bytes);
+
 // Where the links of a path lead, whether or not a file is there.
 std::filesystem::path targetOfLinks(std::filesystem::path path);
 

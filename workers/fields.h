@@ -24,15 +24,11 @@ class FieldWriter {
  public:
   template <Number T>
   FieldWriter& number(T value) {
-    const auto* begin = reinterpret_cast<const std::uint8_t*>(&value);
-    _bytes.insert(_bytes.end(), begin, begin + sizeof value);
-    return *this;
+    return append(&value, sizeof value);
   }
   FieldWriter& flag(bool value) { return number(std::uint8_t{value}); }
   FieldWriter& bytes(std::span<const std::uint8_t> run) {
-    number(static_cast<std::uint32_t>(run.size()));
-    _bytes.insert(_bytes.end(), run.begin(), run.end());
-    return *this;
+    return number(static_cast<std::uint32_t>(run.size())).append(run.data(), run.size());
   }
   FieldWriter& text(std::string_view text) {
     return bytes({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
@@ -42,6 +38,13 @@ class FieldWriter {
   std::vector<std::uint8_t> take() { return std::move(_bytes); }
 
  private:
+  FieldWriter& append(const void* run, std::size_t size) {
+    const std::size_t end = _bytes.size();
+    _bytes.resize(end + size);
+    if (size != 0) std::memcpy(_bytes.data() + end, run, size);
+    return *this;
+  }
+
   std::vector<std::uint8_t> _bytes;
 };
 

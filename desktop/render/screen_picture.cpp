@@ -73,7 +73,7 @@ std::optional<model::Error> writeScreenshot(const std::string& path, double scal
   QImageWriter writer(&bytes, "png");
   if (!writer.write(image.convertToFormat(QImage::Format_RGB32)))
     return model::Error{writer.errorString().toStdString()};
-  return io::replaceFile(path, bytes.data().toStdString());
+  return io::writeOutput(path, bytes.data().toStdString());
 }
 
 }  // namespace desktop::render

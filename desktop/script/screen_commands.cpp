@@ -31,7 +31,7 @@ Outcome dump(Arguments words) {
     if (std::cout << text << std::flush) return std::nullopt;
     return model::Error{"standard output: cannot be written"};
   }
-  return named(words[0].text, io::replaceFile(words[0].text, text));
+  return named(words[0].text, io::writeOutput(words[0].text, text));
 }
 
 Outcome screenshot(Arguments words) {

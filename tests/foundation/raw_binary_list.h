@@ -10,10 +10,12 @@
 #include <vector>
 
 #include "foundation/property_lists/property_list.h"
+#include "tests/support/kept_seed.h"
 
 namespace foundation {
 
 inline io::ByteView viewOf(std::string_view bytes) {
+  support::keepSeed(bytes);
   return io::ByteView({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
 }
 

@@ -97,6 +97,20 @@ TEST_F(FileReplacementTest, OnlyFilesAreReplaced) {
   EXPECT_THAT(names(), testing::UnorderedElementsAre("list", "link", "loop"));
 }
 
+TEST_F(FileReplacementTest, OutputGoesIntoAPipeAndIntoAFileAsAWhole) {
+  EXPECT_FALSE(writeOutput(path, "file"));
+  EXPECT_EQ(support::contentsOf(path), "file");
+  ASSERT_EQ(::mkfifo(folder.file("pipe").c_str(), 0600), 0);
+  const Descriptor reader(::open(folder.file("pipe").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  EXPECT_FALSE(writeOutput(folder.file("pipe"), "piped"));
+  char bytes[8] = {};
+  EXPECT_EQ(::read(reader.number(), bytes, sizeof(bytes)), 5);
+  EXPECT_STREQ(bytes, "piped");
+  EXPECT_EQ(writeOutput("/dev/full", "x")->reason, "No space left on device");
+  EXPECT_EQ(writeOutput(folder.path(), "x")->reason, "Is a directory");
+  EXPECT_THAT(names(), testing::UnorderedElementsAre("list", "pipe"));
+}
+
 TEST_F(FileReplacementTest, LinksStayAndWhatTheyLeadToIsReplaced) {
   std::filesystem::create_symlink("list", folder.file("link"));
   EXPECT_FALSE(replaceFile(folder.file("link"), "new"));

@@ -32,7 +32,7 @@ TEST(Fields, AreNotWholeWhileSomethingIsLeft) {
 TEST(Fields, AreNothingFromTheFirstThatIsNotThere) {
   const auto bytes = sample();
   for (std::size_t length = 0; length < bytes.size(); ++length) {
-    FieldReader fields(std::span(bytes).first(length));
+    FieldReader fields(std::span<const std::uint8_t>(bytes).first(length));
     fields.number<int>();
     fields.number<double>();
     fields.flag();

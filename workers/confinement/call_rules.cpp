@@ -9,6 +9,8 @@
 
 #include <cerrno>
 
+#include "workers/sanitizer.h"
+
 namespace workers {
 
 namespace {
@@ -19,6 +21,10 @@ constexpr Argument wakesOthers{1, static_cast<unsigned>(FUTEX_CMD_MASK), FUTEX_W
 constexpr Argument ownSignals{0, ~std::uint64_t{1}, 32};  // 32 and 33, which no program has
 constexpr Argument nameOfThread{0, ~std::uint64_t{0}, PR_SET_NAME};
 constexpr Worker threads = Worker::withThreads;
+// Sanitizers write what they want to look at into a pipe, which says whether it is memory at all.
+constexpr int unlessSanitized(int error) {
+  return isSanitized ? 0 : error;
+}
 
 constexpr CallRule rules[] = {
     // What reading a file and answering takes.
@@ -53,7 +59,10 @@ constexpr CallRule rules[] = {
     {SCMP_SYS(rseq), "a new thread's processor", {}, threads},
     {SCMP_SYS(rt_sigaction), "the C library's signals between threads", ownSignals, threads},
     {SCMP_SYS(rt_sigprocmask), "a thread begins and ends undisturbed", {}, threads},
-    {SCMP_SYS(sigaltstack), "a thread's stack for signals", {}, threads},
+    {SCMP_SYS(sigaltstack),
+     "a thread's stack for signals",
+     {},
+     isSanitized ? Worker::any : threads},
     {SCMP_SYS(sched_getaffinity), "how many threads are of use", {}, threads},
     {SCMP_SYS(sched_yield), "lets another thread go first", {}, threads},
     {SCMP_SYS(exit), "a thread ends", {}, threads},
@@ -76,7 +85,8 @@ constexpr CallRule rules[] = {
     {SCMP_SYS(readlink), "looks for a file", {}, Worker::any, EACCES},
     {SCMP_SYS(readlinkat), "looks for a file", {}, Worker::any, EACCES},
     {SCMP_SYS(ioctl), "asks whether a stream is a terminal", {}, Worker::any, ENOTTY},
-    {SCMP_SYS(write), "messages, which nobody reads", {}, Worker::any, EBADF},
+    {SCMP_SYS(write), "messages, which nobody reads", {}, Worker::any, unlessSanitized(EBADF)},
+    {SCMP_SYS(pipe2), "a pipe to oneself", {}, Worker::any, unlessSanitized(EPERM)},
     {SCMP_SYS(writev), "messages, which nobody reads", {}, Worker::any, EBADF},
     {SCMP_SYS(fcntl), "a descriptor's flags", {}, Worker::any, EACCES},
     {SCMP_SYS(prlimit64), "how large a stack may be", {}, Worker::any, EPERM},

@@ -30,7 +30,7 @@ std::size_t addressesInUse() {
 
 bool limitResources(const Confinement& confinement) {
   const bool isMemoryLimited =
-      needsAllAddresses || setLimit(RLIMIT_AS, addressesInUse() + confinement.memory);
+      isSanitized || setLimit(RLIMIT_AS, addressesInUse() + confinement.memory);
   const bool isLimited = setLimit(RLIMIT_CORE, 0) && setLimit(RLIMIT_NOFILE, mostDescriptors) &&
                          setLimit(RLIMIT_FSIZE, confinement.frameBytes);
   // Threads count as processes here.

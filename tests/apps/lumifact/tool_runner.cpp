@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "tests/support/kept_seed.h"
 #include "tests/support/temporary_folder.h"
 
 namespace lumifact::tool {
@@ -59,6 +60,7 @@ int statusOf(pid_t process) {
 }
 
 ToolResult runCommand(const std::vector<std::string>& command, const ToolRun& run) {
+  support::keepSeed(run.input);
   const TemporaryFolder folder;
   const Descriptors descriptors{
       .input = ::open(folder.write("input", run.input).c_str(), O_RDONLY | O_CLOEXEC),

@@ -13,7 +13,7 @@ namespace desktop::pictures {
 
 namespace {
 
-using Kind = DecodeAnswer::Kind;
+using AnswerKind = DecodeAnswer::Kind;
 
 io::Descriptor emptyFrame() {
   return io::Descriptor(memfd_create("frame", MFD_CLOEXEC));
@@ -41,7 +41,7 @@ TEST(DecoderMessages, CarryPictures) {
   const Picture picture{2, 3, {1, 2, 3, 4, 5, 6}};
   ASSERT_FALSE(writePixels(picture, frame.number()));
   const auto answer =
-      answerOfBytes(bytesOfAnswer({.kind = Kind::decoded, .width = 2, .height = 3}));
+      answerOfBytes(bytesOfAnswer({.kind = AnswerKind::decoded, .width = 2, .height = 3}));
   ASSERT_TRUE(answer);
   const auto received = readPixels(*answer, frame.number());
   ASSERT_TRUE(received);
@@ -65,18 +65,19 @@ TEST(DecoderMessages, EndWithTheOtherEnd) {
 
 // A worker that was taken over may send what it likes.
 TEST(DecoderMessages, AreRefusedWhereTheyAreCut) {
-  const auto whole = bytesOfAnswer({.kind = Kind::failed, .reason = "cut"});
-  EXPECT_TRUE(answerOfBytes(whole));
-  for (std::size_t length = 0; length < whole.size(); ++length)
-    EXPECT_FALSE(answerOfBytes(std::span(whole).first(length))) << length;
-  auto longer = whole;
+  const auto message = bytesOfAnswer({.kind = AnswerKind::failed, .reason = "cut"});
+  EXPECT_TRUE(answerOfBytes(message));
+  for (std::size_t length = 0; length < message.size(); ++length)
+    EXPECT_FALSE(answerOfBytes(std::span(message).first(length))) << length;
+  auto longer = message;
   longer.push_back(0);
   EXPECT_FALSE(answerOfBytes(longer));
 }
 
 TEST(DecoderMessages, DistrustSizes) {
   const auto isAccepted = [](int width, int height) {
-    return answerOfBytes(bytesOfAnswer({.kind = Kind::decoded, .width = width, .height = height}))
+    return answerOfBytes(
+               bytesOfAnswer({.kind = AnswerKind::decoded, .width = width, .height = height}))
         .has_value();
   };
   EXPECT_TRUE(isAccepted(1, 2));
@@ -87,13 +88,13 @@ TEST(DecoderMessages, DistrustSizes) {
 }
 
 TEST(DecoderMessages, AcceptNoByteBeyondItsRange) {
-  const auto whole = bytesOfAnswer({.kind = Kind::decoded, .width = 20, .height = 30});
-  for (std::size_t place = 0; place < whole.size(); ++place) {
+  const auto message = bytesOfAnswer({.kind = AnswerKind::decoded, .width = 20, .height = 30});
+  for (std::size_t place = 0; place < message.size(); ++place) {
     for (int value = 0; value < 256; ++value) {
-      auto bytes = whole;
+      auto bytes = message;
       bytes[place] = static_cast<std::uint8_t>(value);
       const auto answer = answerOfBytes(bytes);
-      if (!answer || answer->kind != Kind::decoded) continue;
+      if (!answer || answer->kind != AnswerKind::decoded) continue;
       EXPECT_GT(answer->width, 0);
       EXPECT_GT(answer->height, 0);
       EXPECT_LE(std::uint64_t{4} * static_cast<unsigned>(answer->width) *
@@ -107,8 +108,8 @@ TEST(DecoderMessages, DistrustFrames) {
   const io::Descriptor frame = emptyFrame();
   ASSERT_FALSE(writePixels({1, 2, {1, 2}}, frame.number()));
   const auto readAs = [&](int width, int height) {
-    return static_cast<bool>(
-        readPixels({.kind = Kind::decoded, .width = width, .height = height}, frame.number()));
+    return static_cast<bool>(readPixels(
+        {.kind = AnswerKind::decoded, .width = width, .height = height}, frame.number()));
   };
   EXPECT_TRUE(readAs(1, 2));
   EXPECT_FALSE(readAs(2, 2)) << "fewer pixels than that";

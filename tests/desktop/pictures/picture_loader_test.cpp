@@ -259,7 +259,7 @@ TEST_F(PictureLoaderTest, ReplacesADecoderThatDiedWhileIdle) {
 }
 
 TEST_F(PictureLoaderTest, StopsADecoderThatTakesTooMuchMemory) {
-  if (workers::needsAllAddresses) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
+  if (workers::isSanitized) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
   PictureLoader loader(settings());
   ask(loader, "memory");
   ask(loader, "good");

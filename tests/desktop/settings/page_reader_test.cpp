@@ -8,6 +8,7 @@
 
 #include "desktop/settings/page_limits.h"
 #include "tests/desktop/settings/sample_page.h"
+#include "tests/support/kept_seed.h"
 #include "tests/support/temporary_folder.h"
 
 namespace desktop::settings {
@@ -17,6 +18,7 @@ using testing::SizeIs;
 
 // The only row of a page of one cell.
 Row rowOf(const model::Dictionary& cell) {
+  support::keepSeed(xmlOf(pageOf("Sample", {cell})));
   const auto page = parsePage(pageOf("Sample", {cell}));
   EXPECT_TRUE(page) << (page ? "" : page.error().reason);
   return page ? page->groups.at(0).rows.at(0) : Row();

@@ -5,6 +5,7 @@
 #include <zlib.h>
 
 #include "media/image/image_source.h"
+#include "tests/support/kept_seed.h"
 #include "tests/support/tiff_builder.h"
 
 namespace media::image {
@@ -38,6 +39,7 @@ std::vector<std::uint8_t> bytesOf(std::string_view text) {
 }
 
 io::ByteView viewOf(std::string_view text) {
+  support::keepSeed(text);
   return io::ByteView({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
@@ -166,6 +168,7 @@ std::string webpFile(std::string_view chunks) {
 }
 
 model::Dictionary propertiesOf(std::string_view file) {
+  support::keepSeed(file);
   io::MemorySource source(bytesOf(file));
   const auto properties = copyProperties(source);
   if (!properties) {
@@ -180,6 +183,7 @@ model::Dictionary propertiesOf(std::string_view file) {
 }
 
 std::string errorOf(std::string_view file) {
+  support::keepSeed(file);
   io::MemorySource source(bytesOf(file));
   const auto properties = copyProperties(source);
   if (!properties) return properties.error().reason;

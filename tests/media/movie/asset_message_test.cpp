@@ -8,6 +8,7 @@
 
 #include "media/movie/other/container_limits.h"
 #include "model/utf8.h"
+#include "tests/support/kept_seed.h"
 
 namespace media::movie {
 namespace {
@@ -15,7 +16,11 @@ namespace {
 using Kind = ContainerAnswer::Kind;
 
 model::Track videoTrack() {
-  model::Track track{.trackID = 1, .mediaType = "vide", .naturalSize = {640, 480}, .duration = 2.5};
+  model::Track track;
+  track.trackID = 1;
+  track.mediaType = "vide";
+  track.naturalSize = {640, 480};
+  track.duration = 2.5;
   track.estimatedDataRate = 1000;
   track.nominalFrameRate = 25;
   track.minFrameDuration = 0.04;
@@ -31,7 +36,10 @@ model::Track videoTrack() {
 }
 
 model::Track soundTrack() {
-  model::Track track{.trackID = 2, .mediaType = "soun", .duration = 2.5};
+  model::Track track;
+  track.trackID = 2;
+  track.mediaType = "soun";
+  track.duration = 2.5;
   model::FormatDescription& description = track.formatDescriptions.emplace_back();
   description.audio = model::AudioStreamDescription{.sampleRate = 8000, .channelsPerFrame = 2};
   return track;
@@ -48,7 +56,9 @@ ContainerAnswer sample() {
 }
 
 TEST(AssetMessage, SaysAllOfAnAsset) {
-  const auto answer = answerOfBytes(bytesOfAnswer(sample()));
+  const auto bytes = bytesOfAnswer(sample());
+  support::keepSeed(bytes);
+  const auto answer = answerOfBytes(bytes);
   ASSERT_TRUE(answer);
   EXPECT_EQ(answer->kind, Kind::asset);
   EXPECT_EQ(answer->asset, sample().asset);

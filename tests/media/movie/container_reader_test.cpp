@@ -74,7 +74,7 @@ TEST_F(ContainerReaderTest, TellsWhatALimitCut) {
 }
 
 TEST_F(ContainerReaderTest, StaysWithinItsMemoryWhateverItReads) {
-  if (workers::needsAllAddresses) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
+  if (workers::isSanitized) GTEST_SKIP() << "memory cannot be limited under a sanitizer";
   constexpr long most = 64 << 10;  // kilobytes, libraries included
   for (const int streams : {1, 10, 100, 250, 1000, 5000}) {
     for (const Bytes& bytes :

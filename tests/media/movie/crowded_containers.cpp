@@ -65,7 +65,7 @@ Bytes little(std::uint32_t value) {
       .u8(static_cast<std::uint8_t>(value >> 24));
 }
 
-Bytes chunk(std::string_view type, const Bytes& content) {
+Bytes aviChunk(std::string_view type, const Bytes& content) {
   return Writer()
       .text(type)
       .bytes(little(static_cast<std::uint32_t>(content.size())))
@@ -126,17 +126,18 @@ Bytes crowdedMatroska(int tracks) {
 
 Bytes crowdedAvi(int streams) {
   Writer lists;
-  lists.text("hdrl").bytes(chunk("avih", Bytes(56, 1)));
+  lists.text("hdrl").bytes(aviChunk("avih", Bytes(56, 1)));
   for (int index = 0; index < streams; ++index) {
     const Bytes header = Writer().text("vidsH264").bytes(Bytes(48, 1));
     // The size that the format states of itself is far beyond the chunk.
     const Bytes format = joined({little(0x40000000), Bytes(36, 0x7F)});
     const Bytes stream =
-        joined({Writer().text("strl"), chunk("strh", header), chunk("strf", format)});
-    lists.bytes(chunk("LIST", stream));
+        joined({Writer().text("strl"), aviChunk("strh", header), aviChunk("strf", format)});
+    lists.bytes(aviChunk("LIST", stream));
   }
-  const Bytes movie = chunk("LIST", Writer().text("movi").bytes(chunk("00dc", Bytes(64, 0x65))));
-  return chunk("RIFF", joined({Writer().text("AVI "), chunk("LIST", lists), movie}));
+  const Bytes movie =
+      aviChunk("LIST", Writer().text("movi").bytes(aviChunk("00dc", Bytes(64, 0x65))));
+  return aviChunk("RIFF", joined({Writer().text("AVI "), aviChunk("LIST", lists), movie}));
 }
 
 }  // namespace media::movie

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "media/movie/media_source.h"
+#include "tests/support/kept_seed.h"
 #include "tests/support/movie_builder.h"
 #include "tests/support/temporary_folder.h"
 
@@ -18,6 +19,7 @@ struct Reading {
 };
 
 inline Reading readBytes(const Bytes& bytes) {
+  support::keepSeed(bytes);
   io::MemorySource source(bytes);
   auto asset = copyAsset(source);
   if (!asset) return {{}, "error: " + asset.error().reason};
@@ -28,6 +30,7 @@ inline Reading readBytes(const Bytes& bytes) {
 // What is read of a file of that name with these bytes.
 inline model::Result<std::optional<MovieFile>> readFile(const std::string& name,
                                                         const Bytes& bytes) {
+  support::keepSeed(bytes);
   const support::TemporaryFolder folder;
   const auto source = io::FileSource::open(folder.write(name, bytes));
   return copyAssetOfFile(name, **source);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "model/description.h"
+#include "tests/support/kept_seed.h"
 #include "tests/support/tiff_builder.h"
 
 namespace media::image {
@@ -15,6 +16,7 @@ using Fields = std::vector<FieldToWrite>;
 
 // The properties of a file, and the error where there is one as their "error".
 Dictionary readFile(const Bytes& bytes) {
+  support::keepSeed(bytes);
   io::MemorySource source(bytes);
   io::SourceReader reader(source);
   Dictionary properties;
