@@ -108,6 +108,14 @@ constexpr std::array rows = {
     Row{"{GPS}", "DateStamp", "GPS:GPSDateStamp"},
     Row{"{GPS}", "ImgDirection", "GPS:GPSImgDirection"},
     Row{"{GPS}", "Speed", "GPS:GPSSpeed"},
+    Row{"{CIFF}", "Description", "CanonRaw:CanonFileDescription"},
+    Row{"{CIFF}", "Firmware", "CanonRaw:CanonFirmwareVersion"},
+    Row{"{CIFF}", "OwnerName", "CanonRaw:OwnerName"},
+    Row{"{CIFF}", "ImageFileName", "CanonRaw:OriginalFileName"},
+    Row{"{CIFF}", "RecordID", "CanonRaw:RecordID"},
+    Row{"{CIFF}", "CameraSerialNumber", "CanonRaw:SerialNumber"},
+    Row{"{CIFF}", "ImageSerialNumber", "CanonRaw:FileNumber"},
+    Row{"{CIFF}", "MeasuredEV", "CanonRaw:MeasuredEV"},
 };
 
 // exiftool rounds quotients to ten digits and drops a text's trailing blanks.

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "media/image/image_source.h"
+#include "samples/formats/raw_files.h"
 #include "samples/library/items.h"
 #include "samples/metadata/camera_notes.h"
 #include "samples/metadata/date_text.h"
@@ -205,6 +206,26 @@ TEST(PhotoReadBack, FindsTransparencyAndTextsOfTheScreenshot) {
   const Dictionary properties = propertiesOf("100APPLE/IMG_0006.PNG");
   EXPECT_EQ(valueOf(properties, "HasAlpha"), Value(true));
   EXPECT_EQ(valueOf(sectionOf(properties, "{PNG}"), "Title"), Value("Weather this week"));
+}
+
+TEST(PhotoReadBack, FindsSizeDepthAndCameraOfEveryRawFile) {
+  for (const RawFile& file : rawFiles()) {
+    SCOPED_TRACE(file.name);
+    io::MemorySource source(file.bytes);
+    const auto found = media::image::copyProperties(source);
+    ASSERT_TRUE(found && *found);
+    const Dictionary& properties = **found;
+    EXPECT_EQ(valueOf(properties, "PixelWidth"), Value(640));
+    EXPECT_EQ(valueOf(properties, "PixelHeight"), Value(480));
+    const std::string kind = file.name.substr(file.name.find('.') + 1);
+    const bool hasDepth = kind != "crw" && kind != "x3f";
+    const bool isEvenDepth = kind == "psd" || kind == "exr";
+    EXPECT_EQ(valueOf(properties, "Depth"), hasDepth ? Value(isEvenDepth ? 16 : 14) : Value());
+    if (kind == "exr") continue;
+    EXPECT_EQ(valueOf(sectionOf(properties, "{TIFF}"), "Make"), Value("Sample"));
+    EXPECT_EQ(valueOf(sectionOf(properties, "{Exif}"), "DateTimeOriginal"),
+              Value("2019:05:04 12:30:00"));
+  }
 }
 
 TEST(PhotoReadBack, FindsTheDelayOfTheAnimation) {

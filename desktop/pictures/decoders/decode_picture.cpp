@@ -72,6 +72,12 @@ constexpr Kind kinds[] = {
     {"com.nikon.raw-image", with<decodeRaw>},
     {"com.canon.cr2-raw-image", with<decodeRaw>},
     {"com.sony.arw-raw-image", with<decodeRaw>},
+    {"com.olympus.raw-image", with<decodeRaw>},
+    {"com.pentax.raw-image", with<decodeRaw>},
+    {"com.samsung.raw-image", with<decodeRaw>},
+    {"com.panasonic.rw2-raw-image", with<decodeRaw>},
+    {"com.leica.rwl-raw-image", with<decodeRaw>},
+    {"com.fuji.raw-image", with<decodeRaf>},
     {"com.apple.quicktime-movie", asVideo},
     {"public.mpeg-4", asVideo},
     {"com.apple.m4v-video", asVideo},
@@ -90,6 +96,7 @@ model::Result<Picture> decodeFile(const File& file) {
   const auto type = media::image::uniformTypeIdentifier(bytes, file.name);
   const auto* kind = std::ranges::find(kinds, type, &Kind::type);
   if (kind != std::end(kinds)) return kind->decode(file);
+  if (!type.empty()) return model::Error{"pictures of this kind cannot be shown"};
   const auto isVideo = media::movie::isOtherContainer(file.source);
   if (isVideo && *isVideo) return asVideo(file);
   return model::Error{"not a picture or video"};

@@ -63,17 +63,20 @@ void readProfile(TiffStructure& structure, const Ifd& first, model::Dictionary& 
 
 }  // namespace
 
-std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties) {
-  auto first = structure.readIfd(structure.firstIfd());
-  if (!first) return std::nullopt;
-  readTiffSection(structure, *first, properties);
-  readGps(structure, first->find(gpsPointer), properties);
-  readExif(structure, first->find(exifPointer), properties);
-  readIptc(structure, *first, properties);
-  if (const auto packet = shownBlock(structure, first->find(xmpPacket), properties)) {
+void readTiffSections(TiffStructure& structure, const Ifd& first, model::Dictionary& properties) {
+  readTiffSection(structure, first, properties);
+  readGps(structure, first.find(gpsPointer), properties);
+  readExif(structure, first.find(exifPointer), properties);
+  readIptc(structure, first, properties);
+  if (const auto packet = shownBlock(structure, first.find(xmpPacket), properties)) {
     readXmpPacket(*packet, properties);
   }
-  readProfile(structure, *first, properties);
+  readProfile(structure, first, properties);
+}
+
+std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties) {
+  auto first = structure.readIfd(structure.firstIfd());
+  if (first) readTiffSections(structure, *first, properties);
   return first;
 }
 

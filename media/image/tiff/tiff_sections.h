@@ -13,4 +13,7 @@ namespace media::image {
 // and the name of the colour profile. Returns the first IFD, none where there is none.
 std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties);
 
+// The same for a first IFD that was read before.
+void readTiffSections(TiffStructure& structure, const Ifd& first, model::Dictionary& properties);
+
 }  // namespace media::image
