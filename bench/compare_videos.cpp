@@ -93,7 +93,7 @@ void compareVideos(const std::vector<std::string>& files, Tally& tally) {
     const auto* fields = media == nullptr ? nullptr : media->asDictionary();
     const auto* tracks = fields == nullptr ? nullptr : model::find(*fields, "track");
     if (tracks != nullptr && tracks->asArray() != nullptr) {
-      compareFile(file, **ours, *tracks->asArray(), tally);
+      compareFile(file, (*ours)->asset, *tracks->asArray(), tally);
     }
   }
 }
