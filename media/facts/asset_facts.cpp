@@ -46,16 +46,17 @@ void describeStill(AssetFacts& facts, image::ImageFacts image) {
   facts.properties = std::move(image.properties);
 }
 
-const model::Track* firstVideoTrack(const model::MediaAsset& asset) {
+// Of a video, or of a sequence of images.
+const model::Track* firstPictureTrack(const model::MediaAsset& asset) {
   for (const model::Track& track : asset.tracks) {
-    if (track.mediaType == "vide") return &track;
+    if (track.mediaType == "vide" || track.mediaType == "pict") return &track;
   }
   return nullptr;
 }
 
 void describeVideo(AssetFacts& facts, model::MediaAsset asset) {
   facts.isVideo = true;
-  if (const model::Track* track = firstVideoTrack(asset)) {
+  if (const model::Track* track = firstPictureTrack(asset)) {
     const auto& [width, height] = track->naturalSize;
     const model::AffineTransform& matrix = track->preferredTransform;
     facts.pixelWidth = pixels(width * matrix.a + height * matrix.c);
@@ -88,18 +89,19 @@ model::Result<AssetFacts> readAssetFacts(const std::string& path,
   const auto source = io::FileSource::open(onDisk == absolute ? path : onDisk);
   if (!source) return source.error();
   if ((*source)->size() == 0) return model::Error{"empty file"};
+  const std::string resolved = foundation::resolvedPath(onDisk);
   AssetFacts facts;
-  facts.path = root.onDevice(absolute);
+  facts.path = root.onDevice(resolved);
   facts.fileSize = (*source)->size();
   facts.fileModificationDate = {(*source)->modificationTime()};
-  facts.uniformTypeIdentifier = typeOf(**source, path);
+  facts.uniformTypeIdentifier = typeOf(**source, resolved);
   auto image = image::readImageFacts(**source);
   if (!image) return image.error();
   if (*image) {
     describeStill(facts, **std::move(image));
     return facts;
   }
-  auto asset = movie::copyAssetOfFile(onDisk, **source, waiting);
+  auto asset = movie::copyAssetOfFile(resolved, **source, waiting);
   if (!asset) return asset.error();
   if (!*asset) return model::Error{"not a photo or video"};
   facts.shortfall = std::move((*asset)->shortfall);
