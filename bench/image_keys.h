@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+//
+// Which of exiftool's tags says the same as a key of ours.
+#pragma once
+
+#include <array>
+#include <span>
+#include <string_view>
+
+namespace bench {
+
+// How a value of ours becomes the one that exiftool prints.
+enum class Form {
+  plain,
+  firstElement,
+  apexTime,
+  apexAperture,
+  timeOfDay,
+  version,
+  date,    // of a date with a time, without colons
+  time,    // likewise
+  width,   // of a size
+  height,  // likewise
+};
+
+struct ImageKey {
+  std::string_view section;  // empty for the top level
+  std::string_view key;
+  // The first that a file has counts; empty ones are none.
+  std::array<std::string_view, 3> theirs;
+  Form form = Form::plain;
+};
+
+std::span<const ImageKey> imageKeys();
+
+}  // namespace bench
