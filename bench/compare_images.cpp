@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Each row of the table is looked up on both sides. Our value is put into the form in which the
+// other reader prints it; texts are then compared as they are, numbers one by one within their
+// rounding. What neither side has is not counted.
 #include <algorithm>
 #include <cmath>
 #include <iterator>

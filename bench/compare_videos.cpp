@@ -138,7 +138,8 @@ void compareFiles(const std::vector<std::string>& files, Tally& tally,
     if (!ours || !*ours) continue;
     const TheirFile theirs = ask(file);
     compareTimes(tally, {file, "time", "duration"}, (*ours)->asset.duration, theirs.duration);
-    for (const model::Track& our : (*ours)->asset.tracks) {
+    const model::MediaAsset& asset = (*ours)->asset;
+    for (const model::Track& our : asset.tracks) {
       for (const TheirTrack& their : theirs.tracks)
         if (their.id == our.trackID) compareTrack(file, our, their, tally);
     }

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// The keys by section, in the order of the readers' own tables. Where the platform fills a key from
+// several places, the tags stand in the order in which these count: a block's own before XMP's,
+// XMP's before those of a maker's note.
 #include "bench/image_keys.h"
 
 namespace bench {
