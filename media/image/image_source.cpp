@@ -85,6 +85,8 @@ model::Result<std::optional<model::Dictionary>> readProperties(io::ByteSource& s
   // A read that failed explains best why a file looks damaged.
   if (file.failure()) return *file.failure();
   if (error) return *error;
+  // A file of images may hold moving ones only.
+  if (properties && properties->empty()) properties.reset();
   return properties;
 }
 

@@ -26,7 +26,7 @@ MediaAsset assetOf(const Movie& movie, std::uint64_t* bytesRead = nullptr) {
   }
   const auto asset = media::movie::copyAsset(**source);
   if (bytesRead != nullptr) *bytesRead = (*source)->bytesRead();
-  if (asset && *asset) return **asset;
+  if (asset && *asset) return (*asset)->asset;
   ADD_FAILURE() << (asset ? "no movie" : asset.error().reason);
   return {};
 }

@@ -197,8 +197,8 @@ void PUOneUpPhotoView::tellShortfall() {
 }
 
 void PUOneUpPhotoView::showFailure(const std::string& reason) {
-  if (host().library) host().library->noteProblem(_item->path, reason);
-  showWords("cannot be shown: " + reason);
+  const auto& library = host().library;
+  showWords("cannot be shown: " + (library ? library->noteFailure(*_item, reason) : reason));
 }
 
 void PUOneUpPhotoView::showWords(const std::string& words) {

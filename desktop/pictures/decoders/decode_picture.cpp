@@ -15,6 +15,7 @@
 #include "desktop/pictures/decoders/tile_decoder.h"
 #include "io/byte_source.h"
 #include "media/image/image_type.h"
+#include "media/movie/boxes/movie_layout.h"
 #include "media/movie/other/other_containers.h"
 
 namespace desktop::pictures {
@@ -47,6 +48,12 @@ model::Result<Picture> asVideo(const File& file) {
   return decodeVideoFrame(file.name, file.source, file.request);
 }
 
+// Images without a still among them are a video.
+model::Result<Picture> asHeif(const File& file) {
+  const auto sequence = media::movie::readMovieLayout(file.source);
+  return sequence && *sequence ? asVideo(file) : decodeHeif(file.source, file.request);
+}
+
 struct Kind {
   std::string_view type;  // uniform type identifier
   Decode decode;
@@ -60,9 +67,9 @@ constexpr const char* webp = "webp";
 
 constexpr Kind kinds[] = {
     {"public.jpeg", asJpeg},
-    {"public.heic", with<decodeHeif>},
-    {"public.heif", with<decodeHeif>},
-    {"public.avif", with<decodeHeif>},
+    {"public.heic", asHeif},
+    {"public.heif", asHeif},
+    {"public.avif", asHeif},
     {"public.png", withQt<png>},
     {"com.compuserve.gif", withQt<gif>},
     {"com.microsoft.bmp", withQt<bmp>},

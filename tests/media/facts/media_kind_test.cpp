@@ -86,5 +86,18 @@ TEST(MediaKindTest, whatIsNoFileIsRefused) {
   EXPECT_EQ(mediaKindOfContent(folder.path()).error().reason, "Is a directory");
 }
 
+TEST(MediaKindTest, imagesWithoutAStillAreAVideo) {
+  const support::TemporaryFolder folder;
+  const std::string_view type =
+      "\0\0\0\x14"
+      "ftyphevc\0\0\0\0msf1"sv;
+  const std::string_view movie = "\0\0\0\x08moov"sv;
+  const std::string_view items = "\0\0\0\x0Cmeta\0\0\0\0"sv;
+  const std::string sequence = folder.write("a", std::string(type).append(movie));
+  const std::string both = folder.write("b", std::string(type).append(items).append(movie));
+  EXPECT_EQ(*mediaKindOfContent(sequence), MediaKind::video);
+  EXPECT_EQ(*mediaKindOfContent(both), MediaKind::image);
+}
+
 }  // namespace
 }  // namespace media::facts
