@@ -127,6 +127,11 @@ std::optional<std::uint64_t> countedOffset(const MakerNote& note, const Ifd& ifd
 
 }  // namespace
 
+void readCanonDirectory(TiffStructure& structure, const Ifd& ifd, model::Dictionary& properties) {
+  readTags(structure, ifd, rows, "{ExifAux}", properties);
+  readTags(structure, ifd, focalLengthRow, "{ExifAux}", properties);
+}
+
 void readCanonMakerNote(const MakerNote& note, model::Dictionary& properties) {
   const io::ByteOrder order = orderOf(note);
   if (!isDirectoryIn(note.bytes, order)) return;
@@ -134,8 +139,7 @@ void readCanonMakerNote(const MakerNote& note, model::Dictionary& properties) {
   const auto offset = ifd ? countedOffset(note, *ifd, order) : std::nullopt;
   if (!offset) return;
   TiffStructure structure(note.bytes, order, *offset);
-  readTags(structure, *ifd, rows, "{ExifAux}", properties);
-  readTags(structure, *ifd, focalLengthRow, "{ExifAux}", properties);
+  readCanonDirectory(structure, *ifd, properties);
 }
 
 }  // namespace media::image

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The movie box holds a box of Canon's with TIFF structures, one a directory (CMT1 the first, CMT2
-// Exif, CMT4 GPS), and a track for each of the pictures; the largest one's is the sensor's. The XMP
-// packet has a box of its own.
+// Exif, CMT3 the maker's, CMT4 GPS), and a track for each of the pictures; the largest one's is the
+// sensor's. The XMP packet has a box of its own.
 #include "media/image/raw/cr3_container.h"
 
 #include <algorithm>
@@ -12,6 +12,7 @@
 #include "media/image/blocks/density.h"
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/maker/maker_canon.h"
 #include "media/image/raw/raw_facts.h"
 #include "media/image/tiff/exif_section.h"
 #include "media/image/tiff/gps_section.h"
@@ -42,6 +43,7 @@ void readFirst(TiffStructure& structure, const Ifd& ifd, model::Dictionary& prop
 
 constexpr DirectoryBox directoryBoxes[] = {{fourCharCode("CMT1"), readFirst},
                                            {fourCharCode("CMT2"), readExifSection},
+                                           {fourCharCode("CMT3"), readCanonDirectory},
                                            {fourCharCode("CMT4"), readGpsSection}};
 
 void readDirectory(io::SourceReader& file, const io::IsoBox& box, model::Dictionary& properties) {

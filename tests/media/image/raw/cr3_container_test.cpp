@@ -18,6 +18,7 @@ Cr3ToWrite sample() {
                            shorts(0x0102, {8, 8, 8}), ascii(0x010F, "Canon"), shorts(0x0112, {8}),
                            rationals(0x011A, {{72, 1}}), rationals(0x011B, {{72, 1}})}),
           .exif = tiffOf({shorts(0x8827, {12800}), ascii(0xA434, "EF-M15-45mm")}),
+          .maker = tiffOf({ascii(0x0007, "Firmware Version 1.0.0"), longs(0x000C, {3012345678})}),
           .gps = tiffOf({ascii(1, "N")}),
           .xmp = xmpPacket("<photoshop:City>Kingston</photoshop:City>"),
           .tracks = {{1624, 8}, {6288, 14}, {160, 10}}};
@@ -34,6 +35,8 @@ TEST(Cr3Container, readsItsDirectoriesAndTheLargestTrack) {
   EXPECT_EQ(*entry(properties, "{TIFF}", "Make"), "Canon");
   EXPECT_EQ(*entry(properties, "{Exif}", "ISOSpeedRatings"), (model::Array{12800}));
   EXPECT_EQ(*entry(properties, "{Exif}", "LensModel"), "EF-M15-45mm");
+  EXPECT_EQ(*entry(properties, "{ExifAux}", "Firmware"), "Firmware Version 1.0.0");
+  EXPECT_EQ(*entry(properties, "{ExifAux}", "SerialNumber"), "3012345678");
   EXPECT_EQ(*entry(properties, "{GPS}", "LatitudeRef"), "N");
   EXPECT_EQ(*entry(properties, "{IPTC}", "City"), "Kingston");
 }

@@ -90,7 +90,8 @@ std::string cr3File(const Cr3ToWrite& cr3) {
   const std::string canon = "\x85\xC0\xB6\x87\x82\x0F\x11\xE0\x81\x11\xF4\xCE\x46\x2B\x6A\x48";
   const std::string xmp = "\xBE\x7A\xCF\xCB\x97\xA9\x42\xE8\x9C\x71\x99\x94\x91\xE3\xAF\xAC";
   std::string movie = uuidBox(canon, isoBox("CNCV", cr3.version) + boxIfAny("CMT1", cr3.first) +
-                                         boxIfAny("CMT2", cr3.exif) + boxIfAny("CMT4", cr3.gps));
+                                         boxIfAny("CMT2", cr3.exif) + boxIfAny("CMT3", cr3.maker) +
+                                         boxIfAny("CMT4", cr3.gps));
   for (const auto& [width, bits] : cr3.tracks) {
     const std::string coder =
         isoBox("CMP1", std::string(8, '\0') + bigEndian(static_cast<std::uint64_t>(width), 4) +

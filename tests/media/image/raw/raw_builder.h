@@ -33,7 +33,8 @@ std::string cr2File(const std::vector<FieldToWrite>& first, const std::vector<Fi
 struct Cr3ToWrite {
   std::string first;  // TIFF structures
   std::string exif;
-  std::string gps;
+  std::string maker = {};
+  std::string gps = {};
   std::string xmp = {};
   std::vector<std::pair<int, int>> tracks = {};  // width and bits a sample
   std::string version = "CanonCR3_001/00.09.00/00.00.00";
