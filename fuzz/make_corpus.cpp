@@ -16,6 +16,7 @@
 #include "fuzz/structure.h"
 #include "fuzz/text_seeds.h"
 #include "samples/formats/raw_files.h"
+#include "samples/movies/small_movies.h"
 
 namespace {
 
@@ -127,6 +128,7 @@ int main(int count, char** arguments) {
     if (!bytes.empty()) corpus.addFile(bytes, entry.path().filename().string());
   }
   for (const auto& [name, bytes] : samples::rawFiles()) corpus.addFile(bytes, name);
+  for (const auto& [name, bytes] : samples::smallMovies()) corpus.addFile(bytes, name);
   for (const auto& [name, text] : fuzz::textSeeds()) corpus.addText(text, name);
   std::printf("%zu seeds\n", corpus.written());
   return corpus.written() < std::strtoul(arguments[3], nullptr, 10) ? 1 : 0;

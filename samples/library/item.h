@@ -99,6 +99,7 @@ enum class MovieBrand {
   quickTime,  // the phone's camera: "moov" after "mdat", keys under moov/meta
   android,    // another maker's phone: MP4, position in user data
   exported,   // an editing program: MP4, "moov" before "mdat", iTunes-style tags
+  sequence,   // images in a row, in the manner of HEIC
 };
 
 enum class VideoCodec { h264, hevc };
