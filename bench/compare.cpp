@@ -1,16 +1,46 @@
 // SPDX-License-Identifier: MIT
 //
-// compare FOLDER...: the share of values that agree with exiftool and mediainfo, every difference
-// listed. Exit status 1 where the goal is missed.
+// compare FOLDER...: the share of values that agree with exiftool, mediainfo and ffprobe, by key,
+// and every difference. Exit status 1 where a goal is missed.
 #include "bench/compare.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <span>
+#include <string_view>
+
+#include "bench/peer.h"
 
 namespace {
 
-constexpr double goalPercent = 99.5;
+using Names = std::span<const std::string_view>;
+
+constexpr std::string_view exifSections[] = {"{TIFF}", "{Exif}", "{GPS}"};
+constexpr std::string_view iptcSection[] = {"{IPTC}"};
+constexpr std::string_view topLevel[] = {""};
+constexpr std::string_view shapes[] = {"size", "codec"};
+constexpr std::string_view times[] = {"time", "rate", "sound"};
+
+constexpr bench::Goal imageGoals[] = {{"{TIFF}, {Exif}, {GPS}", Names(exifSections), 99.9},
+                                      {"{IPTC}", Names(iptcSection), 99},
+                                      {"sizes and orientations", Names(topLevel), 100}};
+constexpr bench::Goal videoGoals[] = {{"sizes, rotations and codecs", Names(shapes), 100},
+                                      {"times, rates and sound", Names(times), 99}};
+
+// A reader that is asked about all files, where it is installed.
+struct Peer {
+  const char* program;
+  const char* what;
+  void (*compare)(const std::vector<std::string>& files, bench::Tally& tally);
+  std::span<const bench::Goal> goals;
+};
+
+constexpr Peer peers[] = {
+    {"exiftool", "images beside exiftool -n", bench::compareImages, imageGoals},
+    {"mediainfo", "videos beside mediainfo", bench::compareWithMediainfo, videoGoals},
+    {"ffprobe", "videos beside ffprobe", bench::compareWithFfprobe, videoGoals},
+};
 
 std::vector<std::string> filesBelow(const char* path) {
   namespace fs = std::filesystem;
@@ -30,20 +60,15 @@ int main(int count, char** arguments) {
   for (int index = 1; index < count; ++index) {
     std::ranges::move(filesBelow(arguments[index]), std::back_inserter(files));
   }
-  bool met = true;
-  if (bench::isInstalled("exiftool")) {
-    bench::Tally images;
-    bench::compareImages(files, images);
-    met = images.report("images against exiftool -n", goalPercent) && met;
-  } else {
-    std::puts("exiftool is not installed: images are not compared");
+  bool isMet = true;
+  for (const Peer& peer : peers) {
+    if (!bench::isInstalled(peer.program)) {
+      std::printf("%s is not installed\n", peer.program);
+      continue;
+    }
+    bench::Tally tally;
+    peer.compare(files, tally);
+    isMet = tally.report(peer.what, peer.goals) && isMet;
   }
-  if (bench::isInstalled("mediainfo")) {
-    bench::Tally videos;
-    bench::compareVideos(files, videos);
-    met = videos.report("videos against mediainfo", goalPercent) && met;
-  } else {
-    std::puts("mediainfo is not installed: videos are not compared");
-  }
-  return met ? 0 : 1;
+  return isMet ? 0 : 1;
 }

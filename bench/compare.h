@@ -6,14 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "bench/peer.h"
+#include "bench/tally.h"
 
 namespace bench {
 
-// Compares the named {TIFF}, {Exif} and {GPS} values of every image with exiftool's.
+// Compares every key of the table with exiftool's tags, of every image.
 void compareImages(const std::vector<std::string>& files, Tally& tally);
 
-// Compares durations, rates, sizes, rotation and codecs of every video with mediainfo's.
-void compareVideos(const std::vector<std::string>& files, Tally& tally);
+// Compares sizes, rotations, codecs, times and rates of every track of every video.
+void compareWithMediainfo(const std::vector<std::string>& files, Tally& tally);
+void compareWithFfprobe(const std::vector<std::string>& files, Tally& tally);
 
 }  // namespace bench

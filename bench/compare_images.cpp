@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include <array>
+//
+// Each row of the table is looked up on both sides. Our value is put into the form in which the
+// other reader prints it; texts are then compared as they are, numbers one by one within their
+// rounding. What neither side has is not counted.
+#include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <sstream>
 #include <string_view>
 
 #include "bench/compare.h"
+#include "bench/image_keys.h"
+#include "bench/peer.h"
 #include "io/byte_source.h"
 #include "media/image/image_source.h"
 #include "model/conversions.h"
@@ -13,58 +21,6 @@
 namespace bench {
 
 namespace {
-
-// How a value of ours becomes the one exiftool prints.
-enum class Form { plain, firstElement, apexTime, apexAperture, timeOfDay };
-
-struct Row {
-  std::string_view section;
-  std::string_view key;
-  const char* theirs;
-  Form form = Form::plain;
-};
-
-constexpr std::array rows = {
-    Row{"{TIFF}", "Make", "IFD0:Make"},
-    Row{"{TIFF}", "Model", "IFD0:Model"},
-    Row{"{TIFF}", "Software", "IFD0:Software"},
-    Row{"{TIFF}", "DateTime", "IFD0:ModifyDate"},
-    Row{"{TIFF}", "Orientation", "IFD0:Orientation"},
-    Row{"{TIFF}", "XResolution", "IFD0:XResolution"},
-    Row{"{TIFF}", "ResolutionUnit", "IFD0:ResolutionUnit"},
-    Row{"{Exif}", "ExposureTime", "ExifIFD:ExposureTime"},
-    Row{"{Exif}", "FNumber", "ExifIFD:FNumber"},
-    Row{"{Exif}", "ExposureProgram", "ExifIFD:ExposureProgram"},
-    Row{"{Exif}", "ISOSpeedRatings", "ExifIFD:ISO", Form::firstElement},
-    Row{"{Exif}", "DateTimeOriginal", "ExifIFD:DateTimeOriginal"},
-    Row{"{Exif}", "DateTimeDigitized", "ExifIFD:CreateDate"},
-    Row{"{Exif}", "SubsecTimeOriginal", "ExifIFD:SubSecTimeOriginal"},
-    Row{"{Exif}", "ShutterSpeedValue", "ExifIFD:ShutterSpeedValue", Form::apexTime},
-    Row{"{Exif}", "ApertureValue", "ExifIFD:ApertureValue", Form::apexAperture},
-    Row{"{Exif}", "BrightnessValue", "ExifIFD:BrightnessValue"},
-    Row{"{Exif}", "ExposureBiasValue", "ExifIFD:ExposureCompensation"},
-    Row{"{Exif}", "MeteringMode", "ExifIFD:MeteringMode"},
-    Row{"{Exif}", "Flash", "ExifIFD:Flash"},
-    Row{"{Exif}", "FocalLength", "ExifIFD:FocalLength"},
-    Row{"{Exif}", "FocalLenIn35mmFilm", "ExifIFD:FocalLengthIn35mmFormat"},
-    Row{"{Exif}", "ColorSpace", "ExifIFD:ColorSpace"},
-    Row{"{Exif}", "WhiteBalance", "ExifIFD:WhiteBalance"},
-    Row{"{Exif}", "ExposureMode", "ExifIFD:ExposureMode"},
-    Row{"{Exif}", "SceneCaptureType", "ExifIFD:SceneCaptureType"},
-    Row{"{Exif}", "PixelXDimension", "ExifIFD:ExifImageWidth"},
-    Row{"{Exif}", "LensMake", "ExifIFD:LensMake"},
-    Row{"{Exif}", "LensModel", "ExifIFD:LensModel"},
-    Row{"{GPS}", "Latitude", "GPS:GPSLatitude"},
-    Row{"{GPS}", "LatitudeRef", "GPS:GPSLatitudeRef"},
-    Row{"{GPS}", "Longitude", "GPS:GPSLongitude"},
-    Row{"{GPS}", "LongitudeRef", "GPS:GPSLongitudeRef"},
-    Row{"{GPS}", "Altitude", "GPS:GPSAltitude"},
-    Row{"{GPS}", "AltitudeRef", "GPS:GPSAltitudeRef"},
-    Row{"{GPS}", "TimeStamp", "GPS:GPSTimeStamp", Form::timeOfDay},
-    Row{"{GPS}", "DateStamp", "GPS:GPSDateStamp"},
-    Row{"{GPS}", "ImgDirection", "GPS:GPSImgDirection"},
-    Row{"{GPS}", "Speed", "GPS:GPSSpeed"},
-};
 
 // exiftool rounds quotients to ten digits and drops a text's trailing blanks.
 constexpr double tolerance = 1e-8;
@@ -85,41 +41,137 @@ std::string withoutTrailingZeros(std::string time) {
   return time;
 }
 
-std::string oursAsTheirs(const model::Value& value, Form form) {
-  if (form == Form::apexTime || form == Form::apexAperture) {
-    const double apex = model::parseRealPrefix(model::valueText(value));
-    return model::realText(form == Form::apexTime ? std::exp2(-apex) : std::exp2(apex / 2));
-  }
-  if (form == Form::timeOfDay) return withoutTrailingZeros(model::valueText(value));
-  const auto* array = value.asArray();
-  if (form == Form::firstElement && array != nullptr && !array->empty()) {
-    return model::valueText(array->front());
-  }
-  return model::valueText(value);
+// Numbers of a version stand there as they are in the file: "0231" for 2, 3, 1.
+std::string versionText(const model::Array& numbers) {
+  std::string text = "0";
+  for (std::size_t index = 0; index < 3; ++index)
+    text += index < numbers.size() ? model::valueText(numbers[index]) : "0";
+  return text;
 }
 
-const model::Value* ourValue(const model::Dictionary& properties, const Row& row) {
+// What is beyond any exposure is none.
+double secondsOfApex(double apex) {
+  constexpr double largest = 100;
+  return std::abs(apex) < largest ? std::exp2(-apex) : 0;
+}
+
+std::string withoutColons(std::string text) {
+  std::erase(text, ':');
+  return text;
+}
+
+// A list as its elements in a row.
+std::string plainText(const model::Value& value) {
+  const auto* array = value.asArray();
+  if (array == nullptr) return model::valueText(value);
+  std::string text;
+  for (const model::Value& element : *array) {
+    if (!text.empty()) text += ' ';
+    text += trimmed(model::valueText(element));
+  }
+  return text;
+}
+
+std::string oursAsTheirs(const model::Value& value, Form form) {
+  const auto* array = value.asArray();
+  switch (form) {
+    case Form::apexTime:
+      return model::realText(secondsOfApex(model::parseRealPrefix(model::valueText(value))));
+    case Form::apexAperture:
+      return model::realText(std::exp2(model::parseRealPrefix(model::valueText(value)) / 2));
+    case Form::timeOfDay:
+      return withoutTrailingZeros(model::valueText(value));
+    case Form::version:
+      return array == nullptr ? model::valueText(value) : versionText(*array);
+    case Form::firstElement:
+      return array == nullptr || array->empty() ? "" : model::valueText(array->front());
+    default:
+      return plainText(value);
+  }
+}
+
+// A quotient of two zeros is "undef" there.
+std::string theirText(const model::Value& value, Form form) {
+  std::string text = plainText(value);
+  for (std::size_t at = text.find("undef"); at != std::string::npos; at = text.find("undef"))
+    text.replace(at, 5, "0");
+  const std::size_t blank = text.find(' ');
+  const std::size_t second = blank == std::string::npos ? 0 : blank + 1;
+  switch (form) {
+    case Form::date:
+      return withoutColons(text.substr(0, blank));
+    case Form::time:
+      return withoutColons(text.substr(second));
+    case Form::width:
+      return text.substr(0, blank);
+    case Form::height:
+      return text.substr(second);
+    default:
+      return trimmed(text);
+  }
+}
+
+const model::Value* ourValue(const model::Dictionary& properties, const ImageKey& row) {
+  if (row.section.empty()) return model::find(properties, row.key);
   const auto* found = model::find(properties, row.section);
   const auto* section = found == nullptr ? nullptr : found->asDictionary();
   return section == nullptr ? nullptr : model::find(*section, row.key);
 }
 
+// Raw files without TIFF directories have the same facts in groups of their own.
+const model::Value* inRawGroup(const model::Dictionary& tags, std::string_view name) {
+  const std::string_view fact = name.substr(name.find(':'));
+  for (const char* group : {"CanonRaw", "SigmaRaw"}) {
+    if (const auto* value = model::find(tags, group + std::string(fact))) return value;
+  }
+  return nullptr;
+}
+
+const model::Value* theirValue(const model::Dictionary& tags, const ImageKey& row) {
+  for (const std::string_view name : row.theirs) {
+    const auto* value = name.empty() ? nullptr : model::find(tags, name);
+    if (value != nullptr) return value;
+  }
+  return inRawGroup(tags, row.theirs.front());
+}
+
+// What stands for nothing on one side is left out on the other.
+std::string compared(const std::string& text, Form form) {
+  constexpr std::size_t dateTimeSize = 19;
+  const std::string value = trimmed(form == Form::dateTime ? text.substr(0, dateTimeSize) : text);
+  const bool isNone =
+      form == Form::identifier && (value == "0" || value == "65535" || value == "4294965247");
+  return value.empty() || isNone ? "none" : value;
+}
+
+std::vector<std::string> wordsOf(const std::string& text) {
+  std::istringstream stream(text);
+  return {std::istream_iterator<std::string>(stream), {}};
+}
+
+// Whether two texts are lists of the same numbers, within their rounding.
+bool areSameNumbers(const std::string& ours, const std::string& theirs, double tolerance) {
+  const auto our = wordsOf(ours);
+  const auto their = wordsOf(theirs);
+  return std::ranges::equal(our, their, [tolerance](const auto& left, const auto& right) {
+    return isNumber(left) && isNumber(right) &&
+           areNear(model::parseRealPrefix(left), model::parseRealPrefix(right), tolerance);
+  });
+}
+
 void compareFile(const std::string& file, const model::Dictionary& ours,
                  const model::Dictionary& theirs, Tally& tally) {
-  for (const Row& row : rows) {
+  for (const ImageKey& row : imageKeys()) {
     const auto* our = ourValue(ours, row);
-    const auto* their = model::find(theirs, row.theirs);
-    if (our == nullptr && their == nullptr) continue;
-    const std::string ourText = our == nullptr ? "none" : trimmed(oursAsTheirs(*our, row.form));
-    const std::string theirText = their == nullptr ? "none" : trimmed(model::valueText(*their));
-    if (isNumber(ourText) && isNumber(theirText)) {
-      // The brief APEX conversion of theirs goes through a rounded power.
-      const bool apex = row.form == Form::apexTime || row.form == Form::apexAperture;
-      tally.compareNumbers(file, row.theirs, model::parseRealPrefix(ourText),
-                           model::parseRealPrefix(theirText), apex ? 1e-6 : tolerance);
-    } else {
-      tally.compare(file, row.theirs, ourText, theirText);
-    }
+    const auto* their = theirValue(theirs, row);
+    if (their == nullptr && row.form == Form::known) continue;
+    const std::string ourText = our ? compared(oursAsTheirs(*our, row.form), row.form) : "none";
+    const std::string text = their ? compared(theirText(*their, row.form), row.form) : "none";
+    if (ourText == "none" && text == "none") continue;
+    // The brief APEX conversion of theirs goes through a rounded power.
+    const bool isApex = row.form == Form::apexTime || row.form == Form::apexAperture;
+    const bool isSame = ourText == text || areSameNumbers(ourText, text, isApex ? 1e-6 : tolerance);
+    tally.count(isSame, {file, std::string(row.section), std::string(row.key)}, ourText, text);
   }
 }
 

@@ -6,16 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <sstream>
-
-#include "model/number_text.h"
 
 extern char** environ;
 
@@ -92,38 +87,6 @@ std::optional<std::string> outputOf(const std::vector<std::string>& arguments) {
 model::Value parseJson(const std::string& text) {
   const auto json = nlohmann::json::parse(text, nullptr, /*allow_exceptions=*/false);
   return json.is_discarded() ? model::Value() : valueOf(json);
-}
-
-void Tally::compare(const std::string& file, const std::string& name, const std::string& ours,
-                    const std::string& theirs) {
-  count(ours == theirs, file, name, ours, theirs);
-}
-
-void Tally::compareNumbers(const std::string& file, const std::string& name, double ours,
-                           double theirs, double tolerance) {
-  const double scale = std::max(std::abs(ours), std::abs(theirs));
-  const bool equal = std::abs(ours - theirs) <= tolerance * scale;
-  count(equal, file, name, model::realText(ours), model::realText(theirs));
-}
-
-void Tally::count(bool equal, const std::string& file, const std::string& name,
-                  const std::string& ours, const std::string& theirs) {
-  ++_compared;
-  if (equal) {
-    ++_equal;
-  } else {
-    std::printf("  %s: %s: \"%s\", theirs \"%s\"\n", file.c_str(), name.c_str(), ours.c_str(),
-                theirs.c_str());
-  }
-}
-
-bool Tally::report(const char* what, double goalPercent) const {
-  const double share =
-      _compared == 0 ? 0 : 100.0 * static_cast<double>(_equal) / static_cast<double>(_compared);
-  const bool met = _compared > 0 && share >= goalPercent;
-  std::printf("%s: %zu of %zu values equal, %.2f %% (goal %.1f %%): %s\n", what, _equal, _compared,
-              share, goalPercent, met ? "met" : "MISSED");
-  return met;
 }
 
 }  // namespace bench

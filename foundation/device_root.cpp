@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "foundation/paths.h"
+
 namespace foundation {
 
 namespace {
@@ -51,7 +53,7 @@ std::string homeFolder() {
 }  // namespace
 
 DeviceRoot::DeviceRoot(const std::string& folder)
-    : _folder(withoutTrailingSlashes(absolute(folder))) {}
+    : _folder(resolvedPath(withoutTrailingSlashes(absolute(folder)))) {}
 
 DeviceRoot DeviceRoot::ofUser() {
   const std::string dataFolder = pathFromEnvironment("XDG_DATA_HOME");

@@ -8,7 +8,8 @@
 
 namespace foundation {
 
-// A device root. Paths are absolute, without a trailing slash.
+// A device root. Paths are absolute, without a trailing slash; links on the way to the root are
+// followed, as they are on the way to a file.
 class DeviceRoot {
  public:
   explicit DeviceRoot(const std::string& folder);

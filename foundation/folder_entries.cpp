@@ -29,14 +29,17 @@ bool isLink(const std::string& path) {
 }
 
 // None for what is left out.
-std::optional<FolderEntryKind> kindOf(const dirent& entry, std::string_view folder) {
+std::optional<FolderEntry> entryOf(const dirent& entry, std::string_view folder) {
+  FolderEntry known{entry.d_name, FolderEntryKind::file, entry.d_ino};
   if (entry.d_name[0] == '.') return std::nullopt;  // ".", ".." and hidden ones
-  if (entry.d_type == DT_DIR) return FolderEntryKind::folder;
-  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return FolderEntryKind::file;
+  if (entry.d_type == DT_DIR) known.kind = FolderEntryKind::folder;
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return known;
   const std::string path = pathInFolder(folder, entry.d_name);
-  if (!isFolder(path)) return FolderEntryKind::file;
-  if (isLink(path)) return std::nullopt;
-  return FolderEntryKind::folder;
+  known.isLink = entry.d_type == DT_LNK || isLink(path);
+  if (!isFolder(path)) return known;
+  if (known.isLink) return std::nullopt;
+  known.kind = FolderEntryKind::folder;
+  return known;
 }
 
 }  // namespace
@@ -53,9 +56,7 @@ model::Result<std::vector<FolderEntry>> readFolder(const std::string& path) {
   std::vector<FolderEntry> entries;
   errno = 0;
   while (const dirent* entry = ::readdir(directory.get())) {
-    if (const auto kind = kindOf(*entry, path)) {
-      entries.push_back({entry->d_name, *kind, entry->d_ino});
-    }
+    if (auto known = entryOf(*entry, path)) entries.push_back(*std::move(known));
     errno = 0;
   }
   if (errno != 0) return lastError();

@@ -18,6 +18,7 @@ struct FolderEntry {
   std::string name;  // bytes as on disk
   FolderEntryKind kind;
   std::uint64_t inode;  // as the folder tells it; another one behind a name is another thing
+  bool isLink = false;
 };
 
 // The entries sorted by name (by bytes), files and folders alike. Hidden ones are left out, and so

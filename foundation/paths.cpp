@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/paths.h"
 
+#include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 namespace foundation {
@@ -35,6 +37,12 @@ std::string absolutePath(std::string_view path) {
   }
   appendComponents(absolute, path);
   return absolute.empty() ? "/" : absolute;
+}
+
+std::string resolvedPath(const std::string& absolutePath) {
+  const std::unique_ptr<char, void (*)(void*)> resolved(::realpath(absolutePath.c_str(), nullptr),
+                                                        &std::free);
+  return resolved ? resolved.get() : absolutePath;
 }
 
 std::string fileUrlText(std::string_view absolutePath) {

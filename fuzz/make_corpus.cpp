@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // Makes the seed corpus: make_corpus FOLDER SAMPLES writes every sample cut at each structural
-// boundary, with each count set to 0, 1 and the largest, and each offset pointing to itself; and
-// what the readers of texts are given. Prints how many files it wrote; fails below the number given
-// as a third argument.
+// boundary, with each count set to 0, 1 and the largest, and each offset pointing to itself; the
+// structures of raw files likewise; and what the readers of texts are given. Prints how many files
+// it wrote; fails below the number given as a third argument.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -15,6 +15,8 @@
 
 #include "fuzz/structure.h"
 #include "fuzz/text_seeds.h"
+#include "samples/formats/raw_files.h"
+#include "samples/movies/small_movies.h"
 
 namespace {
 
@@ -125,6 +127,8 @@ int main(int count, char** arguments) {
     const Bytes bytes = readSample(entry.path());
     if (!bytes.empty()) corpus.addFile(bytes, entry.path().filename().string());
   }
+  for (const auto& [name, bytes] : samples::rawFiles()) corpus.addFile(bytes, name);
+  for (const auto& [name, bytes] : samples::smallMovies()) corpus.addFile(bytes, name);
   for (const auto& [name, text] : fuzz::textSeeds()) corpus.addText(text, name);
   std::printf("%zu seeds\n", corpus.written());
   return corpus.written() < std::strtoul(arguments[3], nullptr, 10) ? 1 : 0;

@@ -11,6 +11,7 @@ namespace {
 bool isTiff(ByteView file, std::size_t start) {
   const auto block = file.from(start);
   return block.startsWith(std::string_view("II*\0", 4)) ||
+         block.startsWith(std::string_view("IIU\0", 4)) ||
          block.startsWith(std::string_view("MM\0*", 4));
 }
 
@@ -59,7 +60,7 @@ Structure structureOf(ByteView file) {
     addChunkStructure(file, structure);
   } else if (isTiff(file, 0)) {
     addTiffStructure(file, 0, structure);
-  } else if (file.from(4).startsWith("ftyp")) {
+  } else if (file.from(4).startsWith("ftyp") || file.from(4).startsWith("jP  ")) {
     addBoxStructure(file, 0, file.size(), structure);
   } else {
     addHeaderStructure(file, structure);

@@ -8,7 +8,8 @@ namespace fuzz {
 namespace {
 
 constexpr std::uint16_t makerNoteTag = 0x927C;
-constexpr std::size_t makerNoteHeader = 14;  // bytes before its directory
+constexpr std::size_t appleHeader = 14;  // bytes before the directory of a note
+constexpr std::size_t nikonHeader = 10;  // bytes before the structure in a note
 
 bool pointsToDirectory(std::uint16_t tag) {
   return tag == 0x8769 || tag == 0x8825 || tag == 0xA005 || tag == 0x014A;
@@ -40,9 +41,17 @@ struct TiffWalk {
     structure.fields.push_back(
         {.kind = Field::Kind::offset, .at = at + 8, .order = order, .base = base});
     if (pointsToDirectory(tag)) addDirectory(base + value);
-    const std::size_t note = base + value;
-    if (tag == makerNoteTag && file.from(note).startsWith("Apple iOS")) {
-      TiffWalk{file, note, ByteOrder::big, structure}.addDirectory(note + makerNoteHeader);
+    if (tag == makerNoteTag) addMakerNote(base + value);
+  }
+
+  // Canon's has no name before its directory.
+  void addMakerNote(std::size_t note) {
+    if (file.from(note).startsWith("Apple iOS")) {
+      TiffWalk{file, note, ByteOrder::big, structure}.addDirectory(note + appleHeader);
+    } else if (file.from(note).startsWith("Nikon")) {
+      addTiffStructure(file, note + nikonHeader, structure);
+    } else {
+      TiffWalk{file, note, order, structure}.addDirectory(note);
     }
   }
 };

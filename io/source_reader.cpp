@@ -22,10 +22,13 @@ void SourceReader::Window::reserve(std::size_t wanted) {
 }
 
 void SourceReader::read(Window& window, std::size_t end) {
-  const std::size_t wanted = end - window.size;
+  const std::uint64_t allowed = _mostBytes > _bytesRead ? _mostBytes - _bytesRead : 0;
+  const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(end - window.size, allowed));
+  if (wanted == 0) return;
   const auto count =
       _source.readAt(window.offset + window.size, {window.memory.get() + window.size, wanted});
   window.size += count ? *count : 0;
+  _bytesRead += count ? *count : 0;
   if (_failure) return;
   if (!count) {
     _failure = count.error();

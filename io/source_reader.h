@@ -46,6 +46,10 @@ class SourceReader {
   // As view(), copied, to be kept.
   std::optional<std::vector<std::uint8_t>> copy(std::uint64_t offset, std::uint64_t length);
 
+  // No more bytes than these are read, those read so far included; what would take more cannot be
+  // viewed.
+  void limitReads(std::uint64_t mostBytes) { _mostBytes = mostBytes; }
+
   // What the system said of the first read that failed, or "truncated while it was read" where the
   // source came back shorter than its size.
   const std::optional<model::Error>& failure() const { return _failure; }
@@ -71,6 +75,8 @@ class SourceReader {
 
   ByteSource& _source;
   Window _head;
+  std::uint64_t _mostBytes = ~std::uint64_t{0};
+  std::uint64_t _bytesRead = 0;
   std::size_t _headAsked = 0;  // how far the head was read, or could not be; not tried again
   Window _window;
   std::optional<model::Error> _failure;

@@ -5,7 +5,8 @@
 // Reading says how far down it goes: a changed folder alone with what is new in it, or everything.
 // A folder that is gone takes all below it along, item by item, so the observer never has to know
 // the tree. Files of one name but for the extension are told together, since two of them may be the
-// halves of a Live Photo, of which the observer hears as one item.
+// halves of a Live Photo, of which the observer hears as one item. A link to a file that is met on
+// the way is that file, and no item.
 #include "desktop/library/folder_tree.h"
 
 #include <sys/stat.h>
@@ -15,6 +16,8 @@
 #include <cerrno>
 #include <system_error>
 #include <utility>
+
+#include "foundation/paths.h"
 
 namespace desktop::library {
 
@@ -51,7 +54,7 @@ Verdict judge(const std::string& path, const std::string& name, const FileStatus
           status.exists() ? "not a regular file" : std::generic_category().message(status.error)};
 }
 
-ItemPointer makeItem(const std::string& path, media::facts::MediaKind kind,
+ItemPointer makeItem(const std::string& path, std::string target, media::facts::MediaKind kind,
                      const struct stat& status) {
   const double modified = static_cast<double>(status.st_mtim.tv_sec) +
                           static_cast<double>(status.st_mtim.tv_nsec) / 1e9;
@@ -60,7 +63,8 @@ ItemPointer makeItem(const std::string& path, media::facts::MediaKind kind,
                   .uuid = itemUuid(path),
                   .kind = kind,
                   .fileSize = static_cast<std::uint64_t>(status.st_size),
-                  .modificationDate = {modified}});
+                  .modificationDate = {modified},
+                  .target = std::move(target)});
 }
 
 // The item with another film, or without one.
@@ -135,7 +139,7 @@ void FolderTree::updateFiles(const std::string& path, Folder& folder,
     for (; old != known.end() && old->name < entry.name; ++old) forgetFile(path, *old);
     const bool isKnown = old != known.end() && old->name == entry.name;
     folder.files.push_back(
-        examine(foundation::pathInFolder(path, entry.name), entry.name, isKnown ? &*old : nullptr));
+        examine(foundation::pathInFolder(path, entry.name), entry, isKnown ? &*old : nullptr));
     if (isKnown) ++old;
   }
   tellNew();
@@ -205,20 +209,30 @@ bool FolderTree::hasProblem(const std::string& folder) const {
   return entry != _folders.end() && entry->second.hasProblem;
 }
 
-FolderTree::File FolderTree::examine(const std::string& path, const std::string& name,
+// Whether reading the folders comes to the file by itself.
+bool FolderTree::isMetOnTheWay(const std::string& path) const {
+  const std::string_view root = _root == "/" ? "" : std::string_view(_root);
+  if (!path.starts_with(root) || path.size() <= root.size() || path[root.size()] != '/')
+    return false;
+  return path.find("/.", root.size()) == std::string::npos;  // hidden ones are not met
+}
+
+FolderTree::File FolderTree::examine(const std::string& path, const foundation::FolderEntry& entry,
                                      const File* known) {
   const FileStatus status = statusOf(path);
   const Identity identity{.inode = status.data.st_ino,
                           .size = static_cast<std::uint64_t>(status.data.st_size),
                           .seconds = status.data.st_mtim.tv_sec,
                           .nanoseconds = status.data.st_mtim.tv_nsec};
-  File file = known != nullptr ? *known : File{.name = name, .identity = {}, .item = {}};
+  File file = known != nullptr ? *known : File{.name = entry.name, .identity = {}, .item = {}};
   if (known != nullptr && status.exists() && identity == known->identity) return file;
   file.identity = identity;
   file.liveIdentifier.reset();
-  const Verdict verdict = judge(path, name, status);
+  const Verdict verdict = judge(path, entry.name, status);
   setProblem(path, file.hasProblem, verdict.problem);
-  file.item = verdict.kind ? makeItem(path, *verdict.kind, status.data) : nullptr;
+  std::string target = entry.isLink ? foundation::resolvedPath(path) : std::string();
+  const bool isItem = verdict.kind && !isMetOnTheWay(target);
+  file.item = isItem ? makeItem(path, std::move(target), *verdict.kind, status.data) : nullptr;
   return file;
 }
 

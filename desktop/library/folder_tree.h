@@ -43,8 +43,8 @@ class FolderTree {
   // What tells the halves of a Live Photo: a file's identifier, empty where it has none.
   using ReadIdentifier = std::function<std::string(const std::string& path)>;
 
-  // The root's path is absolute and without a slash at its end ("/" stays). The observer outlives
-  // the tree.
+  // The root's path is absolute, links resolved, and without a slash at its end ("/" stays). The
+  // observer outlives the tree.
   FolderTree(std::string root, FolderObserver& observer,
              ReadIdentifier readIdentifier = liveIdentifier);
 
@@ -91,7 +91,8 @@ class FolderTree {
   std::vector<std::string> updateSubfolders(const std::string& path, Folder& folder,
                                             const std::vector<foundation::FolderEntry>& entries,
                                             Depth depth);
-  File examine(const std::string& path, const std::string& name, const File* known);
+  File examine(const std::string& path, const foundation::FolderEntry& entry, const File* known);
+  bool isMetOnTheWay(const std::string& path) const;
   void tell(std::span<File> namesakes);
   std::pair<File*, File*> livePhotoAmong(std::span<File> namesakes) const;
   bool hasProblem(const std::string& folder) const;

@@ -15,16 +15,19 @@ namespace desktop::library {
 
 // Never changes: a file that does becomes another item with the same path and uuid.
 struct LibraryItem {
-  std::string path = {};  // absolute, on disk, links not resolved; bytes as on disk
+  std::string path = {};  // absolute, on disk, where the library has it; bytes as on disk
   std::string uuid = {};  // itemUuid(path)
   media::facts::MediaKind kind = media::facts::MediaKind::image;
   std::uint64_t fileSize = 0;  // bytes
   model::Date modificationDate = {};
+  std::string target = {};  // of a link: the file that it leads to, links resolved; else empty
   // Of a Live Photo: its film, which is an item as any other but in no list. Null for all others.
   std::shared_ptr<const LibraryItem> film = {};
 
   bool isLivePhoto() const { return film != nullptr; }
   bool isVideo() const { return kind == media::facts::MediaKind::video; }
+  // The file itself, links resolved.
+  const std::string& file() const { return target.empty() ? path : target; }
   // The last component of the path, as bytes and as valid UTF-8 to show.
   std::string_view name() const;
   std::string shownName() const;

@@ -35,7 +35,7 @@ bool isAny(const LibraryChange& change) {
 model::Result<std::unique_ptr<PhotoLibrary>> PhotoLibrary::open(const std::string& folder,
                                                                 const foundation::DeviceRoot& root,
                                                                 const WatchLimits& limits) {
-  std::string onDisk = root.onDisk(foundation::absolutePath(folder));
+  std::string onDisk = foundation::resolvedPath(root.onDisk(foundation::absolutePath(folder)));
   const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(onDisk.c_str()), &::closedir);
   if (!directory) return model::Error{std::generic_category().message(errno)};
   return std::unique_ptr<PhotoLibrary>(new PhotoLibrary(std::move(onDisk), root, limits));
@@ -94,6 +94,14 @@ const FactsCache::Facts& PhotoLibrary::facts(const LibraryItem& item) {
     noteProblem(item.path, (*facts)->shortfall);
   }
   return facts;
+}
+
+std::string PhotoLibrary::noteFailure(const LibraryItem& item, const std::string& reason) {
+  const FactsCache::Facts& known = facts(item);
+  std::string words = known || isBeingRead(known) ? reason : known.error().reason;
+  if (known && !(*known)->shortfall.empty()) words += ", " + (*known)->shortfall;
+  noteProblem(item.path, words);
+  return words;
 }
 
 void PhotoLibrary::noteProblem(const std::string& path, const std::string& reason) {

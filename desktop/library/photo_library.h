@@ -62,7 +62,7 @@ class PhotoLibrary {
   // For objects that may outlive the library.
   std::weak_ptr<PhotoLibrary> reference() const { return _self; }
 
-  // Absolute, on disk.
+  // Absolute, on disk, links resolved.
   const std::string& folder() const { return _folder; }
   const foundation::DeviceRoot& root() const { return _root; }
   LoadingState state() const { return _state; }
@@ -96,8 +96,11 @@ class PhotoLibrary {
   // Why files and folders could not be shown, by path; bytes as on disk. An item that changes or
   // goes takes its problem with it.
   const std::map<std::string, std::string>& problems() const { return _problems; }
-  // For who finds out later, as by decoding; told by the next deliverChanges.
+  // For who finds out later; told by the next deliverChanges.
   void noteProblem(const std::string& path, const std::string& reason);
+  // The same for an item that cannot be decoded. Answers the words for it: where the facts of the
+  // item say why there is nothing to show, it is their words that count.
+  std::string noteFailure(const LibraryItem& item, const std::string& reason);
 
   // Readable when there are changes to deliver; to be waited for only.
   int wakeDescriptor() const { return _box.descriptor(); }

@@ -61,7 +61,7 @@ model::Result<std::vector<std::string>> namesIn(const std::string& folder) {
   if (!std::filesystem::exists(folder, error)) return names;
   const auto entries = foundation::readFolder(folder);
   if (!entries) return entries.error();
-  for (const auto& [name, kind, inode] : *entries)
+  for (const auto& [name, kind, inode, isLink] : *entries)
     if (kind == foundation::FolderEntryKind::file && name.ends_with(extension))
       names.push_back(name.substr(0, name.size() - extension.size()));
   return names;

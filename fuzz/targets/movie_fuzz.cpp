@@ -8,10 +8,10 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   io::MemorySource source({data, data + size});
-  const auto asset = media::movie::copyAsset(source);
-  if (!asset || !*asset) return 0;
+  const auto movie = media::movie::copyAsset(source);
+  if (!movie || !*movie) return 0;
   model::Dictionary unused;
   std::optional<std::string> coordinates;
-  static_cast<void>(lumifact::DataParser::parseAVURLAsset(&**asset, unused, coordinates));
+  static_cast<void>(lumifact::DataParser::parseAVURLAsset(&(*movie)->asset, unused, coordinates));
   return 0;
 }

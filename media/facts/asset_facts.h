@@ -19,7 +19,7 @@ namespace media::facts {
 
 // What is known of one photo or video.
 struct AssetFacts {
-  std::string path;  // absolute, links not resolved, as the device knows it; bytes as on disk
+  std::string path;  // absolute, links resolved, as the device knows it; bytes as on disk
   std::string uniformTypeIdentifier;  // "public.jpeg", ...: by content, then by name; may be empty
   bool isVideo = false;
   // The size as displayed, after orientation or rotation, in pixels.

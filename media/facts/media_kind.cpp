@@ -6,7 +6,9 @@
 
 #include "io/byte_source.h"
 #include "io/byte_view.h"
+#include "media/image/heif/heif_container.h"
 #include "media/image/image_type.h"
+#include "media/movie/boxes/movie_layout.h"
 
 namespace media::facts {
 
@@ -58,6 +60,13 @@ bool isIsoMovie(std::string_view type) {
   return type == "com.apple.quicktime-movie" || type == "public.mpeg-4";
 }
 
+// HEIF images without a still among them are a movie.
+bool isSequence(io::ByteView head, io::ByteSource& source) {
+  if (!image::isHeifFile(head)) return false;
+  const auto layout = movie::readMovieLayout(source);
+  return layout && layout->has_value();
+}
+
 constexpr std::size_t headSize = 512;  // bytes that tell what a file is
 
 }  // namespace
@@ -81,6 +90,7 @@ model::Result<std::optional<MediaKind>> mediaKindOfContent(const std::string& pa
   if (isIsoMovie(type) && (isSound(head) || !isWholeBox(head, (*source)->size()))) {
     return std::optional<MediaKind>();
   }
+  if (isSequence(head, **source)) return std::optional(MediaKind::video);
   return kindOfType(type);
 }
 

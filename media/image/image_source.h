@@ -28,6 +28,8 @@ struct ImageFacts {
   // The offset of "DateTimeOriginal" from UTC as it is written ("+02:00"): the phone's framework
   // does not show it, but when the photo was taken depends on it.
   std::optional<std::string> offsetTimeOriginal;
+  // What a limit cut, to be told beside it: can stand behind "FILE: "; empty where nothing.
+  std::string shortfall = {};
 };
 
 // As copyProperties(), with those facts.

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// Most kinds are told by their first bytes, boxes by their brands. A TIFF structure may be one of
+// many raw files without a mark, so there the extension is believed, and everywhere else only where
+// the content says nothing.
 #include "media/image/image_type.h"
 
 #include <algorithm>
@@ -7,9 +11,21 @@
 #include "media/image/heif/heif_container.h"
 #include "media/image/jpeg/jpeg_container.h"
 #include "media/image/other/bmp_container.h"
+#include "media/image/other/exr_container.h"
 #include "media/image/other/gif_container.h"
+#include "media/image/other/ico_container.h"
+#include "media/image/other/jpeg2000_container.h"
+#include "media/image/other/psd_container.h"
+#include "media/image/other/tga_container.h"
 #include "media/image/other/webp_container.h"
 #include "media/image/png/png_container.h"
+#include "media/image/raw/cr2_container.h"
+#include "media/image/raw/cr3_container.h"
+#include "media/image/raw/crw_container.h"
+#include "media/image/raw/mrw_container.h"
+#include "media/image/raw/raf_container.h"
+#include "media/image/raw/rw2_container.h"
+#include "media/image/raw/x3f_container.h"
 #include "media/image/tiff/tiff_container.h"
 
 namespace media::image {
@@ -26,6 +42,18 @@ struct TypeRow {
 constexpr std::string_view movie = "com.apple.quicktime-movie";
 constexpr std::string_view mpeg4 = "public.mpeg-4";
 constexpr std::string_view matroska = "org.matroska.mkv";
+constexpr std::string_view canon2 = "com.canon.cr2-raw-image";
+constexpr std::string_view canon3 = "com.canon.cr3-raw-image";
+constexpr std::string_view canonHeap = "com.canon.crw-raw-image";
+constexpr std::string_view fuji = "com.fuji.raw-image";
+constexpr std::string_view minolta = "com.konicaminolta.raw-image";
+constexpr std::string_view panasonic = "com.panasonic.rw2-raw-image";
+constexpr std::string_view sigma = "com.sigma.raw-image";
+constexpr std::string_view jpeg2000 = "public.jpeg-2000";
+constexpr std::string_view photoshop = "com.adobe.photoshop-image";
+constexpr std::string_view openExr = "com.ilm.openexr-image";
+constexpr std::string_view icon = "com.microsoft.ico";
+constexpr std::string_view targa = "com.truevision.tga-image";
 
 constexpr TypeRow byExtension[] = {
     {"jpg", "public.jpeg"},
@@ -44,8 +72,29 @@ constexpr TypeRow byExtension[] = {
     {"avif", "public.avif"},
     {"dng", "com.adobe.raw-image"},
     {"nef", "com.nikon.raw-image"},
-    {"cr2", "com.canon.cr2-raw-image"},
+    {"cr2", canon2},
+    {"cr3", canon3},
+    {"crw", canonHeap},
     {"arw", "com.sony.arw-raw-image"},
+    {"mrw", minolta},
+    {"orf", "com.olympus.raw-image"},
+    {"pef", "com.pentax.raw-image"},
+    {"raf", fuji},
+    {"rw2", panasonic},
+    {"rwl", "com.leica.rwl-raw-image"},
+    {"srw", "com.samsung.raw-image"},
+    {"x3f", sigma},
+    {"jp2", jpeg2000},
+    {"jpf", jpeg2000},
+    {"jpx", jpeg2000},
+    {"j2k", jpeg2000},
+    {"j2c", jpeg2000},
+    {"jpc", jpeg2000},
+    {"psd", photoshop},
+    {"psb", photoshop},
+    {"exr", openExr},
+    {"ico", icon},
+    {"tga", targa},
     {"mov", movie},
     {"qt", movie},
     {"mp4", mpeg4},
@@ -117,17 +166,40 @@ std::string_view typeOfRiff(io::ByteView head) {
 }
 
 // A TIFF structure may be the raw file that its extension promises.
-std::string_view typeOfTiff(std::string_view fileName) {
+std::string_view typeOfTiff(io::ByteView head, std::string_view fileName) {
   const std::string_view type = typeOfExtension(fileName);
-  return type.find("raw-image") != std::string_view::npos ? type : "public.tiff";
+  if (type.find("raw-image") != std::string_view::npos) return type;
+  if (isCr2File(head)) return canon2;
+  return isRw2File(head) ? panasonic : "public.tiff";
 }
 
+struct ContentRow {
+  bool (*isOne)(io::ByteView head);
+  std::string_view type;
+};
+
+constexpr ContentRow byContent[] = {
+    {isJpegFile, "public.jpeg"},
+    {isPngFile, "public.png"},
+    {isGifFile, "com.compuserve.gif"},
+    {isBmpFile, "com.microsoft.bmp"},
+    {isCr3File, canon3},
+    {isCrwFile, canonHeap},
+    {isMrwFile, minolta},
+    {isRafFile, fuji},
+    {isX3fFile, sigma},
+    {isJpeg2000File, jpeg2000},
+    {isPsdFile, photoshop},
+    {isExrFile, openExr},
+    {isIcoFile, icon},
+    {isTgaFile, targa},
+};
+
 std::string_view typeOfContent(io::ByteView head, std::string_view fileName) {
-  if (isJpegFile(head)) return "public.jpeg";
-  if (isPngFile(head)) return "public.png";
-  if (isGifFile(head)) return "com.compuserve.gif";
-  if (isTiffFile(head)) return typeOfTiff(fileName);
-  if (isBmpFile(head)) return "com.microsoft.bmp";
+  for (const ContentRow& row : byContent) {
+    if (row.isOne(head)) return row.type;
+  }
+  if (isTiffFile(head)) return typeOfTiff(head, fileName);
   if (head.from(4).startsWith("ftyp")) return typeOfBrands(head);
   if (isBareMovie(head)) return movie;
   if (head.startsWith("\x1A\x45\xDF\xA3")) {

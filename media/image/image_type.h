@@ -11,7 +11,7 @@ namespace media::image {
 
 // "public.jpeg", "com.apple.quicktime-movie", ... by the first bytes of the file (512 are enough);
 // where they say nothing, by the name's extension; empty where that says nothing either. Raw files
-// of cameras are TIFF structures and are told apart by their extension.
+// that are TIFF structures without a mark of their own are told apart by their extension.
 std::string_view uniformTypeIdentifier(io::ByteView head, std::string_view fileName);
 
 }  // namespace media::image

@@ -14,26 +14,25 @@ constexpr char beingRead[] = "being read";
 
 }  // namespace
 
-using MaybeAsset = std::optional<model::MediaAsset>;
+using MaybeMovie = std::optional<MovieFile>;
 
-model::Result<MaybeAsset> copyAsset(io::ByteSource& source) {
+model::Result<MaybeMovie> copyAsset(io::ByteSource& source) {
   if (source.size() == 0) return model::Error{"empty file"};
   const auto layout = readMovieLayout(source);
   if (!layout) return layout.error();
-  if (!*layout) return MaybeAsset();
-  auto asset = readMovie(source, **layout);
-  if (!asset) return asset.error();
-  return MaybeAsset(std::move(*asset));
+  if (!*layout) return MaybeMovie();
+  auto movie = readMovie(source, **layout);
+  if (!movie) return movie.error();
+  return MaybeMovie(std::move(*movie));
 }
 
-model::Result<std::optional<MovieFile>> copyAssetOfFile(const std::string& path,
-                                                        io::FileSource& file, Waiting waiting) {
-  auto asset = copyAsset(file);
-  if (!asset) return asset.error();
-  if (*asset) return std::optional(MovieFile{**std::move(asset)});
+model::Result<MaybeMovie> copyAssetOfFile(const std::string& path, io::FileSource& file,
+                                          Waiting waiting) {
+  auto movie = copyAsset(file);
+  if (!movie || *movie) return movie;
   const auto isOther = isOtherContainer(file);
   if (!isOther) return isOther.error();
-  if (!*isOther) return std::optional<MovieFile>();
+  if (!*isOther) return MaybeMovie();
   if (waiting == Waiting::allowed) return readOtherContainer(file);
   return ContainerShelf::ofProcess().find(path, file).value_or(model::Error{beingRead});
 }

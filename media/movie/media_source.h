@@ -8,19 +8,19 @@
 #include <string>
 
 #include "io/byte_source.h"
-#include "media/movie/other/container_reader.h"
-#include "model/media_asset.h"
+#include "media/movie/other/movie_file.h"
 #include "model/result.h"
 
 namespace media::movie {
 
-// The asset of an ISO base media or QuickTime file (MOV, MP4, M4V, 3GP); none where the bytes are
-// of another kind. Never reads coded samples ("mdat").
+// An ISO base media or QuickTime file (MOV, MP4, M4V, 3GP), or a sequence of HEIF images without a
+// still; none where the bytes are of another kind. Never reads coded samples ("mdat").
 //
-// Errors: a read that fails; an empty source ("empty file"); a movie that is cut off before the end
-// of its "moov" box ("truncated movie") or has none; a compressed "moov" that cannot be inflated.
-// Damaged tracks and metadata are left out; a movie that is only cut off in its samples is whole.
-model::Result<std::optional<model::MediaAsset>> copyAsset(io::ByteSource& source);
+// Errors: a read that fails; an empty source ("empty file"); a movie that is cut off before its
+// "moov" box says anything ("truncated movie") or has none; a compressed "moov" that cannot be
+// inflated. Damaged tracks and metadata are left out. A "moov" that is cut off says what it says up
+// to there, and so that it is cut; a movie that is only cut off in its samples is whole.
+model::Result<std::optional<MovieFile>> copyAsset(io::ByteSource& source);
 
 // Whether a thread may wait for a worker process to read a file. One that may not has the file read
 // in the background (see ContainerShelf), is told so by an error, and asks again after the news.

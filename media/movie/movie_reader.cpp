@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+//
+// One walk notes where the boxes of the header lie; then they are read in the order in which they
+// need each other: times, fragments, tracks, metadata. A compressed header is unpacked first and
+// read the same way. What the end of the file or a limit cut is told beside the asset.
 #include "media/movie/movie_reader.h"
 
 #include <cmath>
@@ -12,12 +16,15 @@
 #include "media/movie/metadata/iso_date.h"
 #include "media/movie/tracks/fragments.h"
 #include "media/movie/tracks/track_reader.h"
+#include "model/number_text.h"
 
 namespace media::movie {
 
 namespace {
 
 using model::MediaAsset;
+
+constexpr char truncatedMovie[] = "truncated movie";
 
 // The boxes of a movie header that are read; the first of a kind counts.
 struct MovieBoxes {
@@ -27,6 +34,7 @@ struct MovieBoxes {
   std::optional<io::IsoBox> userData;
   std::optional<io::IsoBox> compressed;
   std::vector<io::IsoBox> tracks;
+  std::int64_t tracksLeftOut = 0;  // beyond the limit
 };
 
 void takeFirst(std::optional<io::IsoBox>& place, const io::IsoBox& box) {
@@ -41,8 +49,11 @@ MovieBoxes collect(MovieWalk& walk) {
     if (box.is("meta")) takeFirst(boxes.metadata, box);
     if (box.is("udta")) takeFirst(boxes.userData, box);
     if (box.is("cmov")) takeFirst(boxes.compressed, box);
-    if (box.is("trak") && boxes.tracks.size() < static_cast<std::size_t>(limits.tracks))
+    if (!box.is("trak")) return;
+    if (boxes.tracks.size() < static_cast<std::size_t>(limits.tracks))
       boxes.tracks.push_back(box);
+    else
+      ++boxes.tracksLeftOut;
   });
   return boxes;
 }
@@ -76,9 +87,16 @@ std::optional<model::Date> creationDate(const MediaAsset& asset, const TimeHeade
   return dateOfCreationTime(header.creationTime);
 }
 
+std::string shortfallOf(const MovieBoxes& boxes, const MovieLayout& layout) {
+  std::string text = layout.isMovieCut ? truncatedMovie : "";
+  if (boxes.tracksLeftOut == 0) return text;
+  if (!text.empty()) text += ", ";
+  return text + "tracks left out: " + model::integerText(boxes.tracksLeftOut);
+}
+
 // Reads one movie header; `source` is the whole file, where its fragments lie.
-MediaAsset readAsset(MovieWalk& walk, const MovieBoxes& boxes, io::ByteSource& source,
-                     const MovieLayout& layout) {
+MovieFile readAsset(MovieWalk& walk, const MovieBoxes& boxes, io::ByteSource& source,
+                    const MovieLayout& layout) {
   const TimeHeader header = readHeader(walk, boxes);
   MovieFacts facts{layout.format, header.timeScale, boxes.fragments.has_value()};
   FragmentHeader fragmentHeader;
@@ -99,12 +117,12 @@ MediaAsset readAsset(MovieWalk& walk, const MovieBoxes& boxes, io::ByteSource& s
   asset.creationDate = creationDate(asset, header);
   const std::uint64_t ticks = header.duration != 0 ? header.duration : fragmentHeader.duration;
   asset.duration = secondsOf(ticks, header.timeScale).value_or(longestTrack(asset));
-  return asset;
+  return {std::move(asset), shortfallOf(boxes, layout)};
 }
 
 // A movie whose header was compressed: the box that came out, with its own header.
-model::Result<MediaAsset> readInflated(std::vector<std::uint8_t> movie, io::ByteSource& source,
-                                       const MovieLayout& layout) {
+model::Result<MovieFile> readInflated(std::vector<std::uint8_t> movie, io::ByteSource& source,
+                                      const MovieLayout& layout) {
   io::MemorySource memory(std::move(movie));
   io::SourceReader whole(memory);
   const auto box = io::findBox(whole, {0, memory.size()}, model::fourCharCode("moov"));
@@ -118,7 +136,7 @@ model::Result<MediaAsset> readInflated(std::vector<std::uint8_t> movie, io::Byte
 
 }  // namespace
 
-model::Result<MediaAsset> readMovie(io::ByteSource& source, const MovieLayout& layout) {
+model::Result<MovieFile> readMovie(io::ByteSource& source, const MovieLayout& layout) {
   RangeSource bytes(source, layout.movie);
   io::SourceReader reader(bytes);
   Budget budget;
@@ -127,12 +145,13 @@ model::Result<MediaAsset> readMovie(io::ByteSource& source, const MovieLayout& l
   if (boxes.compressed && boxes.tracks.empty()) {
     auto movie = inflateMovie(walk, *boxes.compressed);
     if (reader.failure()) return *reader.failure();
-    if (!movie) return movie.error();
+    if (!movie) return layout.isMovieCut ? model::Error{truncatedMovie} : movie.error();
     return readInflated(std::move(*movie), source, layout);
   }
-  MediaAsset asset = readAsset(walk, boxes, source, layout);
+  MovieFile movie = readAsset(walk, boxes, source, layout);
   if (reader.failure()) return *reader.failure();
-  return asset;
+  if (layout.isMovieCut && movie.asset == MediaAsset()) return model::Error{truncatedMovie};
+  return movie;
 }
 
 }  // namespace media::movie

@@ -4,13 +4,14 @@
 #pragma once
 
 #include "media/movie/boxes/movie_layout.h"
-#include "model/media_asset.h"
+#include "media/movie/other/movie_file.h"
 #include "model/result.h"
 
 namespace media::movie {
 
-// The asset of a movie whose outermost boxes are known. Tracks are in the order of the file; what
-// is damaged is left out. Errors: a read that fails; a compressed header that cannot be inflated.
-model::Result<model::MediaAsset> readMovie(io::ByteSource& source, const MovieLayout& layout);
+// The movie whose outermost boxes are known. Tracks are in the order of the file; what is damaged
+// is left out. Errors: a read that fails; a compressed header that cannot be inflated; a header
+// that is cut off before it says anything ("truncated movie").
+model::Result<MovieFile> readMovie(io::ByteSource& source, const MovieLayout& layout);
 
 }  // namespace media::movie

@@ -71,7 +71,8 @@ inline constexpr Camera canon6d{.make = "Canon",
                                 .fNumber = 8,
                                 .lensRange = {24, 105, 4, 4},
                                 .bodySerial = "043021004512",
-                                .lensSerial = "0000c1a7f2"};
+                                .lensSerial = "0000c1a7f2",
+                                .lensId = 237};
 
 inline constexpr Camera nikonD750{.make = "NIKON CORPORATION",
                                   .model = "NIKON D750",
@@ -81,7 +82,8 @@ inline constexpr Camera nikonD750{.make = "NIKON CORPORATION",
                                   .focalLength35 = 35,
                                   .fNumber = 5.6,
                                   .lensRange = {35, 35, 1.8, 1.8},
-                                  .bodySerial = "6098123"};
+                                  .bodySerial = "6098123",
+                                  .lensId = 165};
 
 inline constexpr Camera fujiXt20{.make = "FUJIFILM",
                                  .model = "X-T20",

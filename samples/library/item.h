@@ -26,6 +26,7 @@ struct Camera {
   int makerNoteVersion = 0;  // of the phone's maker note; 0 for a camera that is no phone
   const char* bodySerial = nullptr;
   const char* lensSerial = nullptr;
+  int lensId = 0;  // in the numbering of the maker; 0 for a maker whose notes are not written
 };
 
 struct Place {
@@ -98,6 +99,7 @@ enum class MovieBrand {
   quickTime,  // the phone's camera: "moov" after "mdat", keys under moov/meta
   android,    // another maker's phone: MP4, position in user data
   exported,   // an editing program: MP4, "moov" before "mdat", iTunes-style tags
+  sequence,   // images in a row, in the manner of HEIC
 };
 
 enum class VideoCodec { h264, hevc };

@@ -7,7 +7,9 @@
 
 #include <cmath>
 #include <string>
+#include <string_view>
 
+#include "samples/metadata/camera_notes.h"
 #include "samples/metadata/date_text.h"
 
 namespace samples {
@@ -83,9 +85,15 @@ void addPhoneTags(Directory& exif, const Photo& photo, int width, int height,
   exif.addShort(0xA001, {photo.format == PhotoFormat::png ? 1 : 65535});
 }
 
+Bytes cameraNote(const Photo& photo) {
+  const bool isCanon = std::string_view(photo.camera->make) == "Canon";
+  return isCanon ? canonMakerNote(photo) : nikonMakerNote(photo);
+}
+
 // What cameras with a system of lenses add.
 void addCameraTags(Directory& exif, const Photo& photo) {
   exif.addUndefined(0x9000, "0231");
+  if (photo.camera->lensId != 0) exif.addUndefined(0x927C, cameraNote(photo));
   exif.addShort(0x8830, {2});
   exif.addLong(0x8832, {photo.exposure.iso});
   exif.addRational(0x9205,

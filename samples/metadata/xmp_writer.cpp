@@ -2,6 +2,7 @@
 #include "samples/metadata/xmp_writer.h"
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "samples/metadata/date_text.h"
@@ -52,6 +53,30 @@ std::vector<std::string_view> oneOrNone(const char* text) {
   return {text};
 }
 
+// A structure with the fields that have a text, as the only item of a list.
+void addStructure(std::string& packet, std::string_view name,
+                  const std::vector<std::pair<std::string_view, const char*>>& fields) {
+  packet.append("   <").append(name).append("><rdf:Bag><rdf:li rdf:parseType=\"Resource\">\n");
+  for (const auto& [field, text] : fields) {
+    if (text == nullptr) continue;
+    packet.append("    <").append(field).append(">").append(escaped(text));
+    packet.append("</").append(field).append(">\n");
+  }
+  packet.append("   </rdf:li></rdf:Bag></").append(name).append(">\n");
+}
+
+// Where it was taken, in the words of the IPTC's extension schema.
+void addLocation(std::string& packet, const Photo& photo) {
+  if (!photo.namesPlace || photo.place == nullptr) return;
+  const Place& place = *photo.place;
+  addStructure(packet, "Iptc4xmpExt:LocationCreated",
+               {{"Iptc4xmpExt:Sublocation", place.spot},
+                {"Iptc4xmpExt:City", place.city},
+                {"Iptc4xmpExt:ProvinceState", place.province},
+                {"Iptc4xmpExt:CountryName", place.country},
+                {"Iptc4xmpExt:CountryCode", place.countryCode}});
+}
+
 void addAttributes(std::string& packet, const Photo& photo) {
   const int zone = photo.place != nullptr ? photo.place->utcOffset : 0;
   addAttribute(packet, "xmp:CreateDate", isoTime(photo.taken, zone, ":"));
@@ -83,13 +108,15 @@ std::string xmpPacket(const Photo& photo) {
       "   xmlns:dc=\"http://purl.org/dc/elements/1.1/\"\n"
       "   xmlns:aux=\"http://ns.adobe.com/exif/1.0/aux/\"\n"
       "   xmlns:photoshop=\"http://ns.adobe.com/photoshop/1.0/\"\n"
-      "   xmlns:Iptc4xmpCore=\"http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/\"";
+      "   xmlns:Iptc4xmpCore=\"http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/\"\n"
+      "   xmlns:Iptc4xmpExt=\"http://iptc.org/std/Iptc4xmpExt/2008-02-29/\"";
   addAttributes(packet, photo);
   packet.append(">\n");
   addList(packet, "dc:title", "Alt", oneOrNone(photo.title));
   addList(packet, "dc:description", "Alt", oneOrNone(photo.caption));
   addList(packet, "dc:creator", "Seq", oneOrNone(photo.author));
   addList(packet, "dc:subject", "Bag", words(photo.keywords));
+  addLocation(packet, photo);
   return packet.append("  </rdf:Description>\n </rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"w\"?>");
 }
 

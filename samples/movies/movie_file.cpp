@@ -48,6 +48,11 @@ void writeFileType(BoxWriter& out, const Movie& movie) {
       out.u32(0x200);
       out.text("isomiso2avc1mp41");
       break;
+    case MovieBrand::sequence:
+      out.text("msf1");
+      out.u32(0);
+      out.text("msf1hevc");
+      break;
   }
   out.end();
 }

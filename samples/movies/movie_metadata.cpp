@@ -143,6 +143,8 @@ Bytes movieMetadata(const Movie& movie) {
     case MovieBrand::exported:
       writeExportedFacts(out, movie);
       break;
+    case MovieBrand::sequence:
+      break;
   }
   return out.take();
 }

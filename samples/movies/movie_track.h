@@ -19,7 +19,7 @@ struct TrackSample {
   std::uint32_t units = 1;  // equal samples in it, each of `duration`; more than one for PCM only
 };
 
-enum class TrackKind { video, sound, metadata };
+enum class TrackKind { video, sound, metadata, images };
 
 struct MovieTrack {
   TrackKind kind = TrackKind::video;

@@ -171,6 +171,25 @@ Bytes linearPcmDescription() {
   return out.take();
 }
 
+Bytes amrDescription() {
+  BoxWriter out;
+  beginEntry(out, "samr");
+  out.zeros(8);  // version, revision, vendor
+  out.u16(2);    // channels
+  out.u16(16);   // bits, were it not compressed
+  out.u32(0);
+  out.u32(std::uint32_t{8000} << 16);
+  out.begin("damr");
+  out.text("SMPL");
+  out.u8(0);        // version of the encoder
+  out.u16(0x81FF);  // all modes
+  out.u8(0);
+  out.u8(1);  // frames of a sample
+  out.end();
+  out.end();
+  return out.take();
+}
+
 Bytes timedMetadataDescription(std::string_view key, std::uint32_t dataType) {
   BoxWriter out;
   beginEntry(out, "mebx");

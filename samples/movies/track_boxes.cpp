@@ -21,7 +21,8 @@ struct KindNames {
 const KindNames& namesOf(TrackKind kind) {
   static constexpr KindNames names[] = {{"vide", "Core Media Video", "VideoHandler"},
                                         {"soun", "Core Media Audio", "SoundHandler"},
-                                        {"meta", "Core Media Metadata", "MetaHandler"}};
+                                        {"meta", "Core Media Metadata", "MetaHandler"},
+                                        {"pict", "Core Media Picture", "PictureHandler"}};
   return names[static_cast<std::size_t>(kind)];
 }
 
@@ -122,6 +123,7 @@ void writeGraphics(ByteWriter& out, bool quickTime) {
 void writeMediaKind(BoxWriter& out, const MovieTrack& track, bool quickTime) {
   switch (track.kind) {
     case TrackKind::video:
+    case TrackKind::images:
       out.begin("vmhd", 1);
       writeGraphics(out, quickTime);
       out.end();

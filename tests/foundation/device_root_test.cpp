@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "tests/foundation/environment.h"
+#include "tests/support/temporary_folder.h"
 
 namespace foundation {
 namespace {
@@ -40,6 +41,14 @@ TEST(DeviceRootTest, theFolderIsAbsoluteAndEndsInNoSlash) {
   EXPECT_EQ(DeviceRoot("/data/phone//").folder(), "/data/phone");
   EXPECT_EQ(DeviceRoot("phone/./x/..").folder(),
             (std::filesystem::current_path() / "phone").string());
+}
+
+TEST(DeviceRootTest, linksToTheRootAreFollowed) {
+  const support::TemporaryFolder folder;
+  std::filesystem::create_directory(folder.file("phone"));
+  std::filesystem::create_directory_symlink("phone", folder.file("link"));
+  EXPECT_EQ(DeviceRoot(folder.file("link")).folder(),
+            std::filesystem::canonical(folder.file("phone")).native());
 }
 
 TEST(DeviceRootTest, theRootOfTheDiskChangesNothing) {

@@ -43,6 +43,7 @@ TEST(FolderEntriesTest, linksAreFilesUnlessTheyLeadToFolders) {
   const auto entries = readFolder(folder.path());
   ASSERT_TRUE(entries) << entries.error().reason;
   EXPECT_THAT(namesOf(*entries), ElementsAre("inCircles", "real/", "toFile", "toNothing"));
+  for (const FolderEntry& entry : *entries) EXPECT_EQ(entry.isLink, entry.name != "real");
 }
 
 TEST(FolderEntriesTest, whatCannotBeOpenedIsRefused) {

@@ -5,6 +5,8 @@
 
 #include <filesystem>
 
+#include "tests/support/temporary_folder.h"
+
 namespace foundation {
 namespace {
 
@@ -23,6 +25,20 @@ TEST(Paths, MakesPathsAbsoluteWithoutResolvingLinksOrParents) {
       {"-x.jpg", here + "/-x.jpg"},
   };
   for (const auto& [path, absolute] : cases) EXPECT_EQ(absolutePath(path), absolute) << path;
+}
+
+TEST(Paths, FollowsLinksAndParentsToWhereTheFileIs) {
+  namespace fs = std::filesystem;
+  const support::TemporaryFolder made;
+  const std::string folder = fs::canonical(made.path());
+  made.write("a/b.jpg", "x");
+  fs::create_directory_symlink("a", made.file("c"));
+  fs::create_symlink("c/b.jpg", made.file("d.jpg"));
+  fs::create_symlink("nothing", made.file("e.jpg"));
+  EXPECT_EQ(resolvedPath(folder + "/d.jpg"), folder + "/a/b.jpg");
+  EXPECT_EQ(resolvedPath(folder + "/c/../c/b.jpg"), folder + "/a/b.jpg");
+  for (const std::string& path : {folder + "/a/b.jpg", folder + "/e.jpg", folder + "/none/../x"})
+    EXPECT_EQ(resolvedPath(path), path);
 }
 
 TEST(Paths, EscapesFileUrlsAsThePlatformDoes) {

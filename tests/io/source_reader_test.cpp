@@ -50,6 +50,20 @@ TEST(SourceReaderTest, AViewAcrossTheEndOfTheHeadReadsOnlyTheRest) {
   EXPECT_EQ(source.bytesRead(), 70'010U);
 }
 
+TEST(SourceReaderTest, ReadsNoMoreThanItMay) {
+  MemorySource source(bytesOf(1'000'000));
+  SourceReader reader(source);
+  ASSERT_TRUE(reader.view(0, 1));
+  reader.limitReads(SourceReader::headSize + 5000);
+  ASSERT_TRUE(reader.view(60'000, 100));
+  EXPECT_TRUE(reader.view(200'000, 8));
+  EXPECT_TRUE(reader.view(300'000, 8));
+  EXPECT_FALSE(reader.view(400'000, 1000));
+  EXPECT_EQ(source.bytesRead(), SourceReader::headSize + 5000U);
+  EXPECT_TRUE(reader.view(60'000, 100));
+  EXPECT_FALSE(reader.failure());
+}
+
 TEST(SourceReaderTest, ReadsAheadOnlyWhereAsked) {
   MemorySource source(bytesOf(200'000));
   SourceReader reader(source);

@@ -8,7 +8,9 @@
 #include <string>
 
 #include "media/image/image_source.h"
+#include "samples/formats/raw_files.h"
 #include "samples/library/items.h"
+#include "samples/metadata/camera_notes.h"
 #include "samples/metadata/date_text.h"
 #include "tests/samples/sample_files.h"
 
@@ -134,6 +136,39 @@ TEST(PhotoReadBack, FindsTheMakerNoteOfPhonesOnly) {
   }
 }
 
+TEST(PhotoReadBack, FindsLensAndBodyInTheNotesOfCameras) {
+  for (const Photo& photo : allPhotos()) {
+    if (photo.camera == nullptr || photo.camera->lensId == 0) continue;
+    SCOPED_TRACE(photo.path);
+    const Camera& camera = *photo.camera;
+    const bool isNikon = std::string_view(camera.make) != "Canon";
+    const Dictionary aux = sectionOf(propertiesOf(photo.path), "{ExifAux}");
+    EXPECT_EQ(valueOf(aux, "LensID"), Value(camera.lensId));
+    EXPECT_EQ(valueOf(aux, "LensModel"), Value(camera.lensModel));
+    const std::string canonSerial = std::to_string(canonSerialNumber(camera));
+    EXPECT_EQ(valueOf(aux, "SerialNumber"),
+              Value(isNikon ? std::string(camera.bodySerial) : canonSerial));
+    EXPECT_EQ(valueOf(aux, "ImageNumber"), isNikon ? Value(shutterCount(photo)) : Value());
+    EXPECT_DOUBLE_EQ(realOf(aux, "FlashCompensation"), 0);
+    const Value info = valueOf(aux, "LensInfo");
+    ASSERT_NE(info.asArray(), nullptr);
+    EXPECT_EQ(info.asArray()->front(), Value(camera.lensRange[0]));
+  }
+}
+
+TEST(PhotoReadBack, FindsWhereItWasTakenAmongTheExtensions) {
+  for (const Photo& photo : allPhotos()) {
+    if (!photo.namesPlace) continue;
+    SCOPED_TRACE(photo.path);
+    const Dictionary iptc = sectionOf(propertiesOf(photo.path), "{IPTC}");
+    const Value created = valueOf(iptc, "LocationCreated");
+    ASSERT_NE(created.asArray(), nullptr);
+    ASSERT_NE(created.asArray()->front().asDictionary(), nullptr);
+    EXPECT_EQ(valueOf(*created.asArray()->front().asDictionary(), "City"),
+              Value(photo.place->city));
+  }
+}
+
 TEST(PhotoReadBack, FindsPlaceNamesWhereTheyAreGiven) {
   for (const Photo& photo : allPhotos()) {
     if (!photo.namesPlace) continue;
@@ -162,6 +197,7 @@ TEST(PhotoReadBack, FindsTheTilesAndTheProfileOfAPhonesHeic) {
     SCOPED_TRACE(photo.path);
     const Dictionary properties = propertiesOf(photo.path);
     EXPECT_EQ(valueOf(properties, "ProfileName"), Value("Display P3"));
+    EXPECT_EQ(valueOf(properties, "PrimaryImage"), Value(true));
     EXPECT_EQ(valueOf(sectionOf(properties, "{TIFF}"), "TileWidth"), Value(512));
   }
 }
@@ -170,6 +206,26 @@ TEST(PhotoReadBack, FindsTransparencyAndTextsOfTheScreenshot) {
   const Dictionary properties = propertiesOf("100APPLE/IMG_0006.PNG");
   EXPECT_EQ(valueOf(properties, "HasAlpha"), Value(true));
   EXPECT_EQ(valueOf(sectionOf(properties, "{PNG}"), "Title"), Value("Weather this week"));
+}
+
+TEST(PhotoReadBack, FindsSizeDepthAndCameraOfEveryRawFile) {
+  for (const RawFile& file : rawFiles()) {
+    SCOPED_TRACE(file.name);
+    io::MemorySource source(file.bytes);
+    const auto found = media::image::copyProperties(source);
+    ASSERT_TRUE(found && *found);
+    const Dictionary& properties = **found;
+    EXPECT_EQ(valueOf(properties, "PixelWidth"), Value(640));
+    EXPECT_EQ(valueOf(properties, "PixelHeight"), Value(480));
+    const std::string kind = file.name.substr(file.name.find('.') + 1);
+    const bool hasDepth = kind != "crw" && kind != "x3f";
+    const bool isEvenDepth = kind == "psd" || kind == "exr";
+    EXPECT_EQ(valueOf(properties, "Depth"), hasDepth ? Value(isEvenDepth ? 16 : 14) : Value());
+    if (kind == "exr") continue;
+    EXPECT_EQ(valueOf(sectionOf(properties, "{TIFF}"), "Make"), Value("Sample"));
+    EXPECT_EQ(valueOf(sectionOf(properties, "{Exif}"), "DateTimeOriginal"),
+              Value("2019:05:04 12:30:00"));
+  }
 }
 
 TEST(PhotoReadBack, FindsTheDelayOfTheAnimation) {

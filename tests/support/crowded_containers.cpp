@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "tests/support/webm_builder.h"
+
 namespace media::movie {
 
 namespace {
@@ -44,17 +46,6 @@ Bytes section(std::uint8_t table, std::uint32_t number, const Bytes& content) {
   writer.u8(table).u16(0xB000 | (content.size() + 9)).u16(number).u8(0xC1).u8(0).u8(0);
   const Bytes bytes = writer.bytes(content);
   return Writer().u8(0).bytes(bytes).u32(checksum(bytes));
-}
-
-// An EBML element; its size takes eight bytes.
-Bytes element(std::uint32_t id, const Bytes& content) {
-  Writer writer;
-  for (int shift = 24; shift >= 0; shift -= 8)
-    if ((id >> shift) != 0) writer.u8(static_cast<std::uint8_t>(id >> shift));
-  return writer.u8(1)
-      .u24(static_cast<std::uint32_t>(content.size() >> 32))
-      .u32(content.size())
-      .bytes(content);
 }
 
 Bytes little(std::uint32_t value) {
@@ -110,22 +101,24 @@ Bytes crowdedMatroska(int tracks) {
   for (int index = 1; index <= tracks; ++index) {
     const Bytes number = Writer().u16(static_cast<std::uint32_t>(index));
     const Bytes size = Writer().u32(0x7FFFFFFF);
-    entries.bytes(element(
+    entries.bytes(ebmlElement(
         0xAE,
-        joined({element(0xD7, number), element(0x73C5, number), element(0x83, {1}),
-                element(0x86, Writer().text("V_MPEG4/ISO/AVC")), element(0x63A2, Bytes(64, 1)),
-                element(0xE0, joined({element(0xB0, size), element(0xBA, size)}))})));
+        joined({ebmlElement(0xD7, number), ebmlElement(0x73C5, number), ebmlElement(0x83, {1}),
+                ebmlElement(0x86, Writer().text("V_MPEG4/ISO/AVC")),
+                ebmlElement(0x63A2, Bytes(64, 1)),
+                ebmlElement(0xE0, joined({ebmlElement(0xB0, size), ebmlElement(0xBA, size)}))})));
   }
-  const Bytes head = element(0x1A45DFA3, element(0x4282, Writer().text("matroska")));
-  const Bytes information = element(0x1549A966, element(0x2AD7B1, Writer().u32(1'000'000)));
-  const Bytes block = element(0xA3, Writer().u8(0x81).u16(0).u8(0x80).bytes(Bytes(64, 0x65)));
-  const Bytes cluster = element(0x1F43B675, joined({element(0xE7, {0}), block}));
-  const Bytes name = element(0x45A3, Writer().text("LOCATION"));
-  const Bytes place = element(0x4487, Writer().text("+51.4169-000.0806/"));
-  const Bytes tag =
-      element(0x7373, joined({element(0x63C0, {}), element(0x67C8, joined({name, place}))}));
-  return joined({head, element(0x18538067, joined({information, element(0x1654AE6B, entries),
-                                                   element(0x1254C367, tag), cluster}))});
+  const Bytes head = ebmlElement(0x1A45DFA3, ebmlElement(0x4282, Writer().text("matroska")));
+  const Bytes information = ebmlElement(0x1549A966, ebmlElement(0x2AD7B1, Writer().u32(1'000'000)));
+  const Bytes block = ebmlElement(0xA3, Writer().u8(0x81).u16(0).u8(0x80).bytes(Bytes(64, 0x65)));
+  const Bytes cluster = ebmlElement(0x1F43B675, joined({ebmlElement(0xE7, {0}), block}));
+  const Bytes name = ebmlElement(0x45A3, Writer().text("LOCATION"));
+  const Bytes place = ebmlElement(0x4487, Writer().text("+51.4169-000.0806/"));
+  const Bytes tag = ebmlElement(
+      0x7373, joined({ebmlElement(0x63C0, {}), ebmlElement(0x67C8, joined({name, place}))}));
+  return joined(
+      {head, ebmlElement(0x18538067, joined({information, ebmlElement(0x1654AE6B, entries),
+                                             ebmlElement(0x1254C367, tag), cluster}))});
 }
 
 Bytes crowdedAvi(int streams) {

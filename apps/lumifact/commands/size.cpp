@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A selection is a set: a file that is named twice is one item. Its assets are fresh, so their
-// sizes are read in full, never from a cache that would keep 32 bits of them.
+// A selection is a set: a file that is named twice, or by a link too, is one item. Its assets are
+// fresh, so their sizes are read in full, never from a cache that would keep 32 bits of them.
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -58,9 +58,10 @@ void run(const Options& options, Console& console) {
   std::unordered_set<Item, ItemHash> selected;
   std::vector<std::optional<std::int64_t>> sizes;
   while (const auto item = files.next()) {
-    const std::string path = foundation::absolutePath(item->path);
+    const std::string path =
+        foundation::resolvedPath(environment.root.onDisk(foundation::absolutePath(item->path)));
     Item known{.nameHash = std::hash<std::string>()(path)};
-    auto size = fileSize(environment.root.onDisk(path), known);
+    auto size = fileSize(path, known);
     if (!selected.insert(known).second) continue;
     if (item->error) size = *item->error;
     if (!size) console.fail(item->path, size.error().reason);

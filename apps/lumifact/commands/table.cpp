@@ -23,10 +23,11 @@ void run(const Options& options, Console& console) {
     if (!facts->properties) return model::Error{"a video has no table (report shows its text)"};
     if (isForTerminal) facts->path = terminalSafe(facts->path, foundation::Keep::nothing);
     const model::Dictionary record = summaryRecordOf(*facts, environment);
+    std::string shortfall = std::move(facts->shortfall);
     const AssetReport report = reportOf(*std::move(facts), environment);
     std::string text = tableText(record, *report.table, environment.keyOrder, environment.dates);
     if (isForTerminal) text = terminalSafe(text, foundation::Keep::lineBreaks);
-    return FileText{std::move(text)};
+    return FileText{std::move(text), std::move(shortfall)};
   };
   scanFiles(options, console, {.work = work});
 }

@@ -65,7 +65,7 @@ PHAsset PHAssetState::make(const library::PhotoLibrary& library, library::ItemPo
   if (!made) return {};
   PHAssetState& asset = of(made->get());
   asset._library = library.reference();
-  asset._devicePath = library.root().onDevice(item->path);
+  asset._devicePath = library.root().onDevice(item->file());
   asset._item = std::move(item);
   return made.autorelease();
 }

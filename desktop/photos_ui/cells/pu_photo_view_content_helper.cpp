@@ -115,7 +115,7 @@ void PUPhotoViewContentHelperState::load() {
 
 void PUPhotoViewContentHelperState::fail(const std::string& reason) {
   setState(State::failed);
-  if (host().library) host().library->noteProblem(_item->path, reason);
+  if (host().library) host().library->noteFailure(*_item, reason);
 }
 
 void PUPhotoViewContentHelperState::setState(State state) {

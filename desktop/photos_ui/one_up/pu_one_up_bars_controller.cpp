@@ -91,7 +91,7 @@ void PUOneUpBarsController::updateBars() {
 void PUOneUpBarsController::shareTouched(NSObject sender) {
   const library::ItemPointer item = _items->current();
   if (!item) return;
-  const auto sheet = UIActivityViewController::withItems(NSArray::of(NSString::make(item->path)));
+  const auto sheet = UIActivityViewController::withItems(NSArray::of(NSString::make(item->file())));
   sheet->popoverPresentationController().setBarButtonItem(UIBarButtonItem(sender.get()));
   _oneUp.present(sheet, UIViewController::animated, {});
 }

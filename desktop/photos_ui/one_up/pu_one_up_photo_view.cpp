@@ -189,16 +189,17 @@ void PUOneUpPhotoView::show(const pictures::Outcome& outcome) {
   if (_laidOut.width > 0) loadForRoom();
 }
 
-// What a limit cut of the file's facts is told below the picture's middle, as failures are.
+// What a limit cut of a video is told below the picture's middle, as failures are. Of a still it
+// cuts texts alone, never the picture.
 void PUOneUpPhotoView::tellShortfall() {
   if (!host().library) return;
   const auto& facts = host().library->facts(*_item);
-  if (facts && !(*facts)->shortfall.empty()) showWords((*facts)->shortfall);
+  if (facts && (*facts)->isVideo && !(*facts)->shortfall.empty()) showWords((*facts)->shortfall);
 }
 
 void PUOneUpPhotoView::showFailure(const std::string& reason) {
-  if (host().library) host().library->noteProblem(_item->path, reason);
-  showWords("cannot be shown: " + reason);
+  const auto& library = host().library;
+  showWords("cannot be shown: " + (library ? library->noteFailure(*_item, reason) : reason));
 }
 
 void PUOneUpPhotoView::showWords(const std::string& words) {

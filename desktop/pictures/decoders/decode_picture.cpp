@@ -15,6 +15,7 @@
 #include "desktop/pictures/decoders/tile_decoder.h"
 #include "io/byte_source.h"
 #include "media/image/image_type.h"
+#include "media/movie/boxes/movie_layout.h"
 #include "media/movie/other/other_containers.h"
 
 namespace desktop::pictures {
@@ -47,6 +48,12 @@ model::Result<Picture> asVideo(const File& file) {
   return decodeVideoFrame(file.source, file.request);
 }
 
+// Images without a still among them are a video.
+model::Result<Picture> asHeif(const File& file) {
+  const auto sequence = media::movie::readMovieLayout(file.source);
+  return sequence && *sequence ? asVideo(file) : decodeHeif(file.source, file.request);
+}
+
 struct Kind {
   std::string_view type;  // uniform type identifier
   Decode decode;
@@ -60,9 +67,9 @@ constexpr const char* webp = "webp";
 
 constexpr Kind kinds[] = {
     {"public.jpeg", asJpeg},
-    {"public.heic", with<decodeHeif>},
-    {"public.heif", with<decodeHeif>},
-    {"public.avif", with<decodeHeif>},
+    {"public.heic", asHeif},
+    {"public.heif", asHeif},
+    {"public.avif", asHeif},
     {"public.png", withQt<png>},
     {"com.compuserve.gif", withQt<gif>},
     {"com.microsoft.bmp", withQt<bmp>},
@@ -72,6 +79,12 @@ constexpr Kind kinds[] = {
     {"com.nikon.raw-image", with<decodeRaw>},
     {"com.canon.cr2-raw-image", with<decodeRaw>},
     {"com.sony.arw-raw-image", with<decodeRaw>},
+    {"com.olympus.raw-image", with<decodeRaw>},
+    {"com.pentax.raw-image", with<decodeRaw>},
+    {"com.samsung.raw-image", with<decodeRaw>},
+    {"com.panasonic.rw2-raw-image", with<decodeRaw>},
+    {"com.leica.rwl-raw-image", with<decodeRaw>},
+    {"com.fuji.raw-image", with<decodeRaf>},
     {"com.apple.quicktime-movie", asVideo},
     {"public.mpeg-4", asVideo},
     {"com.apple.m4v-video", asVideo},
@@ -90,6 +103,7 @@ model::Result<Picture> decodeFile(const File& file) {
   const auto type = media::image::uniformTypeIdentifier(bytes, file.name);
   const auto* kind = std::ranges::find(kinds, type, &Kind::type);
   if (kind != std::end(kinds)) return kind->decode(file);
+  if (!type.empty()) return model::Error{"pictures of this kind cannot be shown"};
   const auto isVideo = media::movie::isOtherContainer(file.source);
   if (isVideo && *isVideo) return asVideo(file);
   return model::Error{"not a picture or video"};

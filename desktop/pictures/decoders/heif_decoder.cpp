@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// libheif applies the container's own rotation and mirroring; the orientation in a HEIF file's Exif
-// block repeats it and is not applied again (ISO/IEC 23008-12, annex A).
+// libheif applies the image's own turns and mirrorings. The orientation in a HEIF file's Exif block
+// repeats them and counts only where there are none, here as in the metadata.
 #include "desktop/pictures/decoders/heif_decoder.h"
 
 #include <libheif/heif.h>
@@ -16,7 +16,10 @@
 #include "desktop/pictures/decoders/heif_tiles.h"
 #include "desktop/pictures/pixels/colours.h"
 #include "desktop/pictures/pixels/limits.h"
+#include "desktop/pictures/pixels/orientation.h"
 #include "desktop/pictures/pixels/row_scaler.h"
+#include "media/image/heif/heif_orientation.h"
+#include "media/image/image_source.h"
 
 namespace desktop::pictures {
 
@@ -165,6 +168,22 @@ void convertColours(const Handle& primary, Picture& picture) {
   if (coded) convertPrimariesToSrgb(coded->color_primaries, picture);
 }
 
+bool isTurnedByItself(io::ByteSource& source) {
+  io::SourceReader file(source);
+  auto meta = media::image::HeifMeta::read(file);
+  const auto primary = meta ? meta->primaryItem() : std::nullopt;
+  return primary && media::image::heifOrientation(*meta, file, *primary);
+}
+
+// What is left to turn after libheif.
+Orientation exifOrientation(io::ByteSource& source) {
+  if (isTurnedByItself(source)) return {};
+  const auto properties = media::image::copyProperties(source);
+  const model::Value* value =
+      properties && *properties ? model::find(**properties, "Orientation") : nullptr;
+  return value != nullptr && value->asInteger() ? Orientation(*value->asInteger()) : Orientation();
+}
+
 }  // namespace
 
 void loadHeifDecoders() {
@@ -182,12 +201,14 @@ model::Result<Picture> decodeHeif(io::ByteSource& source, const Request& request
   const Handle primary(found);
   if (!primary) return errorOf(error);
   if (sizeOf(primary).isEmpty()) return model::Error{"damaged HEIF"};
-  const PixelSize target = targetSize(sizeOf(primary), request);
+  const Orientation turn = exifOrientation(source);
+  const PixelSize target = turn.turned(targetSize(turn.turned(sizeOf(primary)), request));
   const Handle thumbnail = coveringThumbnail(primary, target);
   auto picture = thumbnail ? decode(thumbnail, target) : model::Error{};
   if (!picture) picture = decodeWhole(source, primary, target);
-  if (picture) convertColours(primary, *picture);
-  return picture;
+  if (!picture) return picture;
+  convertColours(primary, *picture);
+  return turn.upright(*std::move(picture));
 }
 
 }  // namespace desktop::pictures

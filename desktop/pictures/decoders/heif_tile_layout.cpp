@@ -5,14 +5,13 @@
 #include <string_view>
 
 #include "desktop/pictures/pixels/limits.h"
-#include "media/image/heif/heif_transform.h"
+#include "media/image/heif/heif_orientation.h"
 
 namespace desktop::pictures {
 
 namespace {
 
 using media::image::HeifMeta;
-using media::image::HeifTransform;
 using model::fourCharCode;
 
 // Properties that leave the pixels where and as they are.
@@ -24,26 +23,18 @@ bool isHarmless(const io::IsoBox& property) {
   return std::ranges::find(types, property.type) != std::end(types);
 }
 
+bool isTurn(const io::IsoBox& property) {
+  return property.is("irot") || property.is("imir");
+}
+
+// None where the item has properties that change it in other ways.
 std::optional<Orientation> orientationOf(HeifMeta& meta, io::SourceReader& file,
                                          std::uint32_t item) {
-  HeifTransform transform;
-  for (const io::IsoBox& property : meta.propertiesOf(item)) {
-    const bool isTurn = property.is("irot");
-    if (!isTurn && !property.is("imir")) {
-      if (!isHarmless(property)) return std::nullopt;
-      continue;
-    }
-    const auto bytes = io::boxBytes(file, property, 16);
-    const auto code = bytes ? bytes->u8(0) : std::nullopt;
-    if (!code) return std::nullopt;
-    if (isTurn) {
-      transform.rotate(*code & 3);
-    } else {
-      transform.mirror(*code & 1 ? HeifTransform::Mirroring::leftToRight
-                                 : HeifTransform::Mirroring::topToBottom);
-    }
-  }
-  return Orientation(transform.orientation());
+  const auto properties = meta.propertiesOf(item);
+  const bool isTurnedOnly = std::ranges::all_of(
+      properties, [](const auto& each) { return isTurn(each) || isHarmless(each); });
+  if (!isTurnedOnly) return std::nullopt;
+  return Orientation(media::image::heifOrientation(meta, file, item).value_or(1));
 }
 
 int sideOf(std::optional<std::uint32_t> length) {

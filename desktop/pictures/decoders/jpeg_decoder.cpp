@@ -22,7 +22,7 @@ ExifBlock exifOf(io::ByteSource& source) {
   constexpr std::uint8_t app1 = 0xE1;
   constexpr auto signature = "Exif\0"sv;  // a padding byte follows
   io::SourceReader file(source);
-  media::image::JpegSegmentWalk walk(file);
+  media::image::JpegSegmentWalk walk(file, {0, file.size()});
   while (const auto segment = walk.next()) {
     if (segment->marker != app1 || segment->payload.size() > limits.exifBytes) continue;
     const auto bytes = file.view(segment->payload.begin, segment->payload.size());

@@ -9,6 +9,7 @@
 #include "desktop/pictures/decoders/qt_decoder.h"
 #include "desktop/pictures/pixels/orientation.h"
 #include "media/image/ifd/tiff_ifd.h"
+#include "media/image/raw/raf_container.h"
 #include "media/movie/boxes/range_source.h"
 
 namespace desktop::pictures {
@@ -25,6 +26,7 @@ constexpr std::uint16_t stripByteCounts = 0x0117;
 constexpr std::uint16_t subIfds = 0x014A;
 constexpr std::uint16_t jpegOffset = 0x0201;
 constexpr std::uint16_t jpegLength = 0x0202;
+constexpr std::uint16_t innerJpegOfRw2 = 0x002E;
 
 struct Preview {
   io::ByteRange range;  // of a JPEG file inside the file
@@ -63,6 +65,8 @@ void takePreviews(io::ByteSource& file, TiffStructure& structure, const Ifd& ifd
     if (offsets.size() == 1 && lengths.size() == 1)
       takePreview(file, offsets[0], lengths[0], previews);
   }
+  const media::image::IfdEntry* inner = ifd.find(innerJpegOfRw2);
+  if (inner != nullptr) takePreview(file, inner->offset, inner->count, previews);
 }
 
 // Those of the first IFD and of the ones below it.
@@ -95,6 +99,14 @@ model::Result<Picture> decodeRaw(io::ByteSource& source, const Request& request)
   });
   media::movie::RangeSource jpeg(source, best->range);
   return decodeJpeg(jpeg, request, orientation);
+}
+
+model::Result<Picture> decodeRaf(io::ByteSource& source, const Request& request) {
+  io::SourceReader reader(source);
+  const io::ByteRange range = media::image::innerJpegOfRaf(reader);
+  if (range.begin > range.end || range.end > source.size()) return model::Error{"truncated RAF"};
+  media::movie::RangeSource jpeg(source, range);
+  return decodeJpeg(jpeg, request);
 }
 
 }  // namespace desktop::pictures

@@ -21,6 +21,11 @@ struct EmbeddedBlocks {
 void readEmbeddedBlocks(io::SourceReader& file, EmbeddedBlocks& blocks,
                         model::Dictionary& properties);
 
+// All bytes of a block; none, which is noted, where they are more than the limit. Borrowed as those
+// of SplicedRanges::view().
+std::optional<io::ByteView> wholeBlock(io::SourceReader& file, SplicedRanges& block,
+                                       model::Dictionary& properties);
+
 // The TIFF structure in an Exif block that may have "Exif\0\0" before it.
 io::ByteView withoutExifPrefix(io::ByteView block);
 

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
 // IPTC-IIM datasets: a marker byte, record and dataset number, a length, the text. The coded
-// character set of record 1 holds for all of record 2. IPTC-IIM 4.2, chapters 1, 5 and 6.
+// character set of record 1 holds for all of record 2. Without one the text is what the program's
+// system had, most often Windows. IPTC-IIM 4.2, chapters 1, 5 and 6.
 #include <algorithm>
 #include <string>
 
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
+#include "media/image/blocks/windows_latin.h"
 #include "model/utf8.h"
 
 namespace media::image {
@@ -137,14 +140,28 @@ constexpr std::string_view utf8Announcement = "\x1B%G";
 std::string textOf(io::ByteView bytes, bool isUtf8) {
   std::string_view text = bytes.text().substr(0, limits.textBytes);
   text = text.substr(0, text.find('\0'));
-  return isUtf8 ? model::replacingInvalidUtf8(text) : model::utf8OrLatin1(text);
+  return isUtf8 ? model::replacingInvalidUtf8(text) : utf8OrWindowsLatin(text);
+}
+
+// A text without characters, or an array of nothing else.
+bool isEmpty(const model::Value& value) {
+  if (const model::Array* elements = value.asArray())
+    return std::ranges::all_of(*elements, isEmpty);
+  return value.asString() && value.asString()->empty();
+}
+
+// What is there stays, but an empty dataset never hides a filled one.
+void setUnlessFilled(model::Dictionary& iptc, std::string_view key, model::Value value) {
+  const auto known = iptc.find(key);
+  if (known == iptc.end()) {
+    iptc.emplace(key, std::move(value));
+  } else if (isEmpty(known->second)) {
+    known->second = std::move(value);
+  }
 }
 
 void store(const DatasetRow& row, std::string text, model::Dictionary& iptc) {
-  if (row.repeats == Repeats::no) {
-    setIfAbsent(iptc, row.key, std::move(text));
-    return;
-  }
+  if (row.repeats == Repeats::no) return setUnlessFilled(iptc, row.key, std::move(text));
   model::Value& value = iptc.try_emplace(std::string(row.key), model::Array()).first->second;
   model::Array* elements = value.asArray();
   if (elements && elements->size() < limits.valuesPerField) {
@@ -153,6 +170,13 @@ void store(const DatasetRow& row, std::string text, model::Dictionary& iptc) {
 }
 
 }  // namespace
+
+bool hasEmptyDatasets(const model::Dictionary& properties) {
+  const model::Value* iptc = model::find(properties, "{IPTC}");
+  return iptc && iptc->asDictionary() &&
+         std::ranges::any_of(*iptc->asDictionary(),
+                             [](const auto& entry) { return isEmpty(entry.second); });
+}
 
 void readIptcBlock(io::ByteView datasets, model::Dictionary& properties) {
   DatasetWalk walk(datasets);
@@ -163,11 +187,13 @@ void readIptcBlock(io::ByteView datasets, model::Dictionary& properties) {
       isUtf8 = dataset->bytes.startsWith(utf8Announcement);
     }
     const DatasetRow* row = dataset->record == 2 ? rowOf(dataset->number) : nullptr;
-    if (row) store(*row, textOf(dataset->bytes, isUtf8), read);
+    if (!row) continue;
+    store(*row, textOf(dataset->bytes, isUtf8), read);
+    if (dataset->bytes.size() > limits.textBytes) noteShortfall(properties, cutText);
   }
   if (read.empty()) return;
   model::Dictionary& iptc = section(properties, "{IPTC}");
-  for (auto& [key, value] : read) setIfAbsent(iptc, key, std::move(value));
+  for (auto& [key, value] : read) setUnlessFilled(iptc, key, std::move(value));
 }
 
 }  // namespace media::image

@@ -39,6 +39,13 @@ struct Limits {
   std::size_t heifProperties;    // properties of all items
   std::size_t heifExtents;       // pieces that one item lies in
   std::size_t heifTableBytes;    // bytes of one table of items
+  std::size_t jp2Boxes;          // boxes walked at one level
+  std::size_t exrAttributes;     // attributes walked
+  // Raw files and the rarer kinds
+  std::uint64_t rareKindBytes;   // bytes read of one file, whatever is left out for it
+  std::uint64_t rawSensorBytes;  // bytes looked at in front of a sensor's data
+  std::size_t rawRecords;        // records looked at in one directory
+  std::size_t ciffHeaps;         // heaps inside each other or side by side
 };
 
 inline constexpr Limits limits = {
@@ -67,6 +74,12 @@ inline constexpr Limits limits = {
     .heifProperties = 16'384,
     .heifExtents = 256,
     .heifTableBytes = 1 << 20,
+    .jp2Boxes = 1024,
+    .exrAttributes = 1024,
+    .rareKindBytes = 128 << 10,
+    .rawSensorBytes = 4096,
+    .rawRecords = 512,
+    .ciffHeaps = 32,
 };
 
 }  // namespace media::image

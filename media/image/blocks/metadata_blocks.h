@@ -21,12 +21,14 @@ namespace media::image {
 void readExifBlock(io::ByteView block, model::Dictionary& properties);
 
 // An XMP packet (UTF-8 XML). Fills "{IPTC}", "{ExifAux}" and, where EXIF has said nothing,
-// "{Exif}",
-// "{TIFF}" and "{GPS}"; values already present stay. ISO 16684-1.
+// "{Exif}", "{TIFF}" and "{GPS}"; values already present stay. ISO 16684-1.
 void readXmpPacket(io::ByteView packet, model::Dictionary& properties);
 
-// IPTC-IIM datasets. Fills "{IPTC}". IPTC-IIM 4.2.
+// IPTC-IIM datasets. Fills "{IPTC}". Of several blocks the first counts, except for datasets that
+// are empty there. IPTC-IIM 4.2.
 void readIptcBlock(io::ByteView datasets, model::Dictionary& properties);
+// Whether a further block could fill what the ones before have left empty.
+bool hasEmptyDatasets(const model::Dictionary& properties);
 
 // Photoshop image resources ("8BIM"): their IPTC datasets are read as above.
 void readPhotoshopResources(io::ByteView resources, model::Dictionary& properties);
@@ -39,6 +41,10 @@ inline constexpr std::string_view srgbProfileName = "sRGB IEC61966-2.1";
 
 // The section of that name (braces included), made where it is missing.
 model::Dictionary& section(model::Dictionary& properties, std::string_view name);
+
+// The text under a key of a section; empty where there is none. Borrowed.
+std::string_view sectionText(const model::Dictionary& properties, std::string_view name,
+                             std::string_view key);
 
 // Stores the value under the key unless the dictionary has one.
 void setIfAbsent(model::Dictionary& dictionary, std::string_view key, model::Value value);

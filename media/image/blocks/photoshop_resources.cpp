@@ -6,6 +6,7 @@
 
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
 
 namespace media::image {
 
@@ -13,22 +14,15 @@ namespace {
 
 constexpr std::uint16_t iptcResource = 0x0404;
 
-struct Resource {
-  std::uint16_t number = 0;
-  std::uint64_t offset = 0;  // of its bytes
-  std::uint64_t size = 0;
-  std::uint64_t end() const { return offset + size + size % 2; }
-};
-
 // "8BIM" (or a signature of other Adobe programs), number, a name with its length in front that is
 // padded to an even size, the size, the bytes.
-std::optional<Resource> resourceAt(const BlockReader& resources, std::uint64_t offset) {
+std::optional<PhotoshopResource> resourceAt(const BlockReader& resources, std::uint64_t offset) {
   const auto start = resources(offset, 7);
   if (!start) return std::nullopt;
   constexpr std::string_view signatures[] = {"8BIM", "PHUT", "DCSR", "AgHg", "MeSa"};
   const auto isStart = [&](std::string_view signature) { return start->startsWith(signature); };
   if (std::ranges::none_of(signatures, isStart)) return std::nullopt;
-  Resource resource;
+  PhotoshopResource resource;
   resource.number = start->u16(4, io::ByteOrder::big).value_or(0);
   const std::uint64_t nameLength = start->u8(6).value_or(0);
   const std::uint64_t nameSize = (nameLength + 2) / 2 * 2;  // with its length byte and padding
@@ -39,20 +33,33 @@ std::optional<Resource> resourceAt(const BlockReader& resources, std::uint64_t o
   return resource;
 }
 
+void readIptc(const BlockReader& resources, const PhotoshopResource& resource,
+              model::Dictionary& properties) {
+  if (resource.size > limits.embeddedBytes) {
+    const bool isThere = resources(resource.offset + resource.size - 1, 1).has_value();
+    if (isThere) noteShortfall(properties, droppedMetadata);
+  } else if (const auto bytes = resources(resource.offset, resource.size)) {
+    readIptcBlock(*bytes, properties);
+  }
+}
+
 }  // namespace
 
-void readPhotoshopResources(const BlockReader& resources, model::Dictionary& properties) {
+void forEachPhotoshopResource(const BlockReader& resources,
+                              const std::function<void(const PhotoshopResource&)>& take) {
   std::uint64_t offset = 0;
   for (std::size_t count = 0; count < limits.photoshopResources; ++count) {
     const auto resource = resourceAt(resources, offset);
     if (!resource) return;
-    if (resource->number == iptcResource && resource->size <= limits.embeddedBytes) {
-      if (const auto bytes = resources(resource->offset, resource->size)) {
-        readIptcBlock(*bytes, properties);
-      }
-    }
+    take(*resource);
     offset = resource->end();
   }
+}
+
+void readPhotoshopResources(const BlockReader& resources, model::Dictionary& properties) {
+  forEachPhotoshopResource(resources, [&](const PhotoshopResource& resource) {
+    if (resource.number == iptcResource) readIptc(resources, resource, properties);
+  });
 }
 
 void readPhotoshopResources(io::ByteView resources, model::Dictionary& properties) {

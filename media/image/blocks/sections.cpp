@@ -14,6 +14,14 @@ model::Dictionary& section(model::Dictionary& properties, std::string_view name)
   return *entry->second.asDictionary();
 }
 
+std::string_view sectionText(const model::Dictionary& properties, std::string_view name,
+                             std::string_view key) {
+  const model::Value* found = model::find(properties, name);
+  const model::Value* value =
+      found && found->asDictionary() ? model::find(*found->asDictionary(), key) : nullptr;
+  return value && value->asString() ? std::string_view(*value->asString()) : std::string_view();
+}
+
 void setIfAbsent(model::Dictionary& dictionary, std::string_view key, model::Value value) {
   const auto entry = dictionary.lower_bound(key);
   if (entry != dictionary.end() && entry->first == key) return;

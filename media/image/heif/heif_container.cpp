@@ -12,7 +12,7 @@
 #include "media/image/blocks/metadata_blocks.h"
 #include "media/image/heif/heif_color.h"
 #include "media/image/heif/heif_meta.h"
-#include "media/image/heif/heif_transform.h"
+#include "media/image/heif/heif_orientation.h"
 
 namespace media::image {
 
@@ -43,6 +43,7 @@ class HeifReader {
     if (!size) return false;
     _properties.insert_or_assign("PixelWidth", size->width);
     _properties.insert_or_assign("PixelHeight", size->height);
+    _properties.insert_or_assign("PrimaryImage", true);
     readBlocks();
     readColor();
     readTileSize();
@@ -163,26 +164,12 @@ class HeifReader {
     tiff.insert_or_assign("TileLength", size->height);
   }
 
-  // What Exif says, else what the image's own turns and mirrorings come to.
+  // The image's own turns and mirrorings go before what Exif says: they are what is shown.
   void readOrientation() {
-    if (_properties.contains("Orientation")) return;
-    HeifTransform transform;
-    bool isTransformed = false;
-    for (const io::IsoBox& box : _meta.propertiesOf(_primary)) {
-      const bool isTurn = box.is("irot");
-      if (!isTurn && !box.is("imir")) continue;
-      const std::uint8_t code = startOf(box).u8(0).value_or(0);
-      isTransformed = true;
-      if (isTurn) {
-        transform.rotate(code & 3);
-      } else {
-        transform.mirror(code & 1 ? HeifTransform::Mirroring::leftToRight
-                                  : HeifTransform::Mirroring::topToBottom);
-      }
-    }
-    if (!isTransformed) return;
-    _properties.insert_or_assign("Orientation", transform.orientation());
-    section(_properties, "{TIFF}").insert_or_assign("Orientation", transform.orientation());
+    const auto orientation = heifOrientation(_meta, _file, _primary);
+    if (!orientation) return;
+    _properties.insert_or_assign("Orientation", *orientation);
+    section(_properties, "{TIFF}").insert_or_assign("Orientation", *orientation);
   }
 
   // Whether another item is the primary image's alpha plane. ISO/IEC 23008-12, 6.5.8.
@@ -221,6 +208,13 @@ bool isCutOff(io::SourceReader& file) {
   return end < file.size();
 }
 
+// Frames without a still among them are a movie.
+bool isSequence(io::SourceReader& file) {
+  return io::findBox(file, {0, file.size()}, fourCharCode("moov"),
+                     io::SourceReader::ReadAhead::none)
+      .has_value();
+}
+
 }  // namespace
 
 bool isHeifFile(io::ByteView head) {
@@ -246,6 +240,7 @@ bool isHeifFile(io::ByteView head) {
 std::optional<model::Error> readHeifFile(io::SourceReader& file, model::Dictionary& properties) {
   auto meta = HeifMeta::read(file);
   if (meta && HeifReader(file, *meta, properties).read()) return std::nullopt;
+  if (!meta && isSequence(file)) return std::nullopt;
   return model::Error{isCutOff(file) ? "truncated HEIF" : "damaged HEIF"};
 }
 

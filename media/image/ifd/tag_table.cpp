@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "media/image/blocks/shortfall.h"
 #include "model/utf8.h"
 
 namespace media::image {
@@ -26,6 +27,14 @@ std::optional<model::Value> realAt(const TiffField& field, std::size_t index) {
   return value ? std::optional<model::Value>(*value) : std::nullopt;
 }
 
+// 0/0 among several fractions stands for what is not known, such as the apertures of a lens. It is
+// shown as 0, so that the others keep their places.
+std::optional<model::Value> realAmongSeveral(const TiffField& field, std::size_t index) {
+  const auto ratio = field.fraction(index);
+  if (ratio && ratio->numerator == 0 && ratio->denominator == 0) return model::Value(0.0);
+  return realAt(field, index);
+}
+
 // All values of the field; none where there is none, or one that cannot be shown.
 std::optional<model::Value> arrayOf(const TiffField& field, ValueAt valueAt) {
   if (field.count == 0 || field.count > limits.valuesPerField) return std::nullopt;
@@ -39,8 +48,8 @@ std::optional<model::Value> arrayOf(const TiffField& field, ValueAt valueAt) {
   return model::Value(std::move(values));
 }
 
-std::optional<model::Value> oneOrArrayOf(const TiffField& field, ValueAt valueAt) {
-  return field.count == 1 ? valueAt(field, 0) : arrayOf(field, valueAt);
+std::optional<model::Value> oneOrSeveralReals(const TiffField& field) {
+  return field.count == 1 ? realAt(field, 0) : arrayOf(field, realAmongSeveral);
 }
 
 const TagRow* rowOf(std::span<const TagRow> rows, std::uint16_t tag) {
@@ -58,7 +67,9 @@ void readTags(TiffStructure& structure, const Ifd& ifd, std::span<const TagRow> 
     if (!row || read.contains(row->key)) continue;
     const auto field = structure.field(entry);
     auto value = field ? row->valueOf(*field) : std::nullopt;
-    if (value) read.emplace(row->key, *std::move(value));
+    if (!value) continue;
+    read.emplace(row->key, *std::move(value));
+    if (field->count < entry.count) noteShortfall(properties, cutText);
   }
   if (read.empty()) return;
   auto [entry, isNew] = properties.try_emplace(std::string(sectionName));
@@ -69,7 +80,8 @@ void readTags(TiffStructure& structure, const Ifd& ifd, std::span<const TagRow> 
 }
 
 std::optional<model::Value> integerValue(const TiffField& field) {
-  return oneOrArrayOf(field, isInteger(field.type) ? integerAt : realAt);
+  if (!isInteger(field.type)) return oneOrSeveralReals(field);
+  return field.count == 1 ? integerAt(field, 0) : arrayOf(field, integerAt);
 }
 
 std::optional<model::Value> integerArray(const TiffField& field) {
@@ -81,12 +93,20 @@ std::optional<model::Value> firstInteger(const TiffField& field) {
 }
 
 std::optional<model::Value> realValue(const TiffField& field) {
-  return oneOrArrayOf(field, realAt);
+  return oneOrSeveralReals(field);
 }
 
 std::optional<model::Value> textValue(const TiffField& field) {
   if (!isTextLike(field.type) || field.count == 0) return std::nullopt;
   return model::Value(model::utf8OrLatin1(field.text()));
+}
+
+std::optional<model::Value> trimmedText(const TiffField& field) {
+  if (!isTextLike(field.type)) return std::nullopt;
+  const std::string_view text = field.text();
+  const std::size_t end = text.find_last_not_of(' ') + 1;
+  if (end == 0) return std::nullopt;
+  return model::Value(model::utf8OrLatin1(text.substr(0, end)));
 }
 
 }  // namespace media::image

@@ -33,7 +33,8 @@ constexpr bool tagsAscend(const TagRow (&rows)[count]) {
 
 // Puts the IFD's fields that have a row into the section of that name, over what it has already,
 // since Exif fields go before what other blocks say. Of fields with the same tag the first counts.
-// The section is made only where there is something to put into it.
+// The section is made only where there is something to put into it. Texts that the limits cut are
+// noted (shortfall.h).
 void readTags(TiffStructure& structure, const Ifd& ifd, std::span<const TagRow> rows,
               std::string_view sectionName, model::Dictionary& properties);
 
@@ -47,9 +48,12 @@ std::optional<model::Value> integerValue(const TiffField& field);
 std::optional<model::Value> integerArray(const TiffField& field);
 // The first whole number alone: one-byte codes that some cameras pad.
 std::optional<model::Value> firstInteger(const TiffField& field);
-// A real, or an array where there are several; none where one of them divides by 0.
+// A real, or an array where there are several, in which 0/0 is 0; none where another one divides
+// by 0.
 std::optional<model::Value> realValue(const TiffField& field);
 // The bytes up to the first NUL; trailing blanks stay.
 std::optional<model::Value> textValue(const TiffField& field);
+// The same without trailing blanks, which fill fields of a fixed width; none where nothing is left.
+std::optional<model::Value> trimmedText(const TiffField& field);
 
 }  // namespace media::image

@@ -61,7 +61,8 @@ bool TiffStructure::readHeader() {
 }
 
 std::optional<io::ByteView> TiffStructure::view(std::uint64_t offset, std::uint64_t length) {
-  return _file ? _file->view(offset, length) : _block.sub(offset, length);
+  // Before the block the difference wraps, and so lies behind it.
+  return _file ? _file->view(offset, length) : _block.sub(offset - _bytesBefore, length);
 }
 
 bool TiffStructure::enter(std::uint64_t offset) {
@@ -77,7 +78,7 @@ std::optional<Ifd> TiffStructure::readIfd(std::uint64_t offset) {
   const auto head = view(offset, _layout.countSize);
   if (!head) return std::nullopt;
   const std::uint64_t start = offset + _layout.countSize;
-  const std::uint64_t end = _file ? _file->size() : _block.size();
+  const std::uint64_t end = _file ? _file->size() : _bytesBefore + _block.size();
   // Where the structure ends among the entries, those before its end still count.
   const std::uint64_t count =
       std::min({unsignedAt(*head, 0, _layout.countSize, _order).value_or(0),

@@ -41,8 +41,10 @@ class TiffStructure {
   static std::optional<TiffStructure> open(io::ByteView block);
   static std::optional<TiffStructure> open(io::SourceReader& file);
 
-  // A structure without a header, such as a maker note; offsets count from the block's start.
-  TiffStructure(io::ByteView block, io::ByteOrder order) : _block(block), _order(order) {}
+  // A structure without a header, such as a maker note; its offsets count from as many bytes before
+  // the block.
+  TiffStructure(io::ByteView block, io::ByteOrder order, std::uint64_t bytesBefore = 0)
+      : _block(block), _bytesBefore(bytesBefore), _order(order) {}
 
   io::ByteOrder order() const { return _order; }
   std::uint64_t firstIfd() const { return _firstIfd; }
@@ -80,6 +82,7 @@ class TiffStructure {
 
   io::SourceReader* _file = nullptr;  // null: the structure lies in _block
   io::ByteView _block;
+  std::uint64_t _bytesBefore = 0;
   io::ByteOrder _order = io::ByteOrder::big;
   Layout _layout = classic;
   std::uint64_t _firstIfd = 0;

@@ -34,11 +34,6 @@ constexpr std::string_view xmpSignature = "http://ns.adobe.com/xap/1.0/\0"sv;
 constexpr std::string_view profileSignature = "ICC_PROFILE\0"sv;
 constexpr std::string_view photoshopSignature = "Photoshop 3.0\0"sv;
 
-// SOF0 to SOF15; three codes among them are other segments: DHT, JPG, DAC.
-bool isFrameHeader(std::uint8_t marker) {
-  return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-}
-
 // SOF2, SOF6, SOF10, SOF14.
 bool isProgressive(std::uint8_t marker) {
   return (marker & 3) == 2;
@@ -52,11 +47,11 @@ std::string_view colorModel(std::uint8_t components) {
 // What the segments up to the first scan say.
 class JpegReader {
  public:
-  JpegReader(io::SourceReader& file, model::Dictionary& properties)
-      : _file(file), _properties(properties) {}
+  JpegReader(io::SourceReader& file, io::ByteRange jpeg, model::Dictionary& properties)
+      : _file(file), _jpeg(jpeg), _properties(properties) {}
 
   std::optional<model::Error> read() {
-    JpegSegmentWalk walk(_file);
+    JpegSegmentWalk walk(_file, _jpeg);
     while (const auto segment = walk.next()) take(*segment);
     if (!_properties.contains("PixelWidth")) {
       const bool isTruncated = walk.end() == JpegSegmentWalk::End::truncated;
@@ -179,6 +174,7 @@ class JpegReader {
   static constexpr auto noReadAhead = io::SourceReader::ReadAhead::none;
 
   io::SourceReader& _file;
+  io::ByteRange _jpeg;
   model::Dictionary& _properties;
   EmbeddedBlocks _blocks;
   ExtendedXmp _extendedXmp;
@@ -194,8 +190,18 @@ bool isJpegFile(io::ByteView head) {
   return head.startsWith("\xFF\xD8\xFF");
 }
 
+// Three codes among them are other segments: DHT, JPG, DAC.
+bool isFrameHeader(std::uint8_t marker) {
+  return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+}
+
+std::optional<model::Error> readJpeg(io::SourceReader& file, io::ByteRange jpeg,
+                                     model::Dictionary& properties) {
+  return JpegReader(file, jpeg, properties).read();
+}
+
 std::optional<model::Error> readJpegFile(io::SourceReader& file, model::Dictionary& properties) {
-  return JpegReader(file, properties).read();
+  return readJpeg(file, {0, file.size()}, properties);
 }
 
 }  // namespace media::image

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "io/byte_view.h"
+#include "io/iso_box.h"
 #include "io/source_reader.h"
 #include "model/result.h"
 #include "model/value.h"
@@ -19,5 +20,14 @@ bool isJpegFile(io::ByteView head);
 // Errors: "truncated JPEG" where the file ends before the frame header; "damaged JPEG" where a
 // scan, or no marker at all, comes before it.
 std::optional<model::Error> readJpegFile(io::SourceReader& file, model::Dictionary& properties);
+
+// The same for a JPEG in a range of a file. REQUIRES: the range lies in the file and starts as
+// JPEG files do.
+std::optional<model::Error> readJpeg(io::SourceReader& file, io::ByteRange jpeg,
+                                     model::Dictionary& properties);
+
+// Whether segments with the marker are frame headers: SOF0 to SOF15. Of such a segment the first
+// byte is the depth.
+bool isFrameHeader(std::uint8_t marker);
 
 }  // namespace media::image

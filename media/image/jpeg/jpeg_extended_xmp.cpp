@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "media/image/blocks/limits.h"
+#include "media/image/blocks/embedded_blocks.h"
 #include "media/image/blocks/metadata_blocks.h"
 
 namespace media::image {
@@ -53,7 +53,7 @@ void ExtendedXmp::read(io::SourceReader& file, SplicedRanges& mainPacket,
     if (piece.offset == packet.size()) packet.append(piece.bytes);
   }
   if (_pieces.empty() || packet.size() != _pieces.front().fullLength) return;
-  if (const auto bytes = packet.all(file)) readXmpPacket(*bytes, properties);
+  if (const auto bytes = wholeBlock(file, packet, properties)) readXmpPacket(*bytes, properties);
 }
 
 }  // namespace media::image

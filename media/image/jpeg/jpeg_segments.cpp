@@ -29,7 +29,7 @@ std::optional<JpegSegment> JpegSegmentWalk::ends(End end) {
 
 // The next byte behind 0xFF that is neither fill (0xFF) nor stuffing (0).
 std::optional<std::uint8_t> JpegSegmentWalk::nextMarker() {
-  const std::uint64_t last = std::min(_file.size(), _offset + limits.jpegStrayBytes);
+  const std::uint64_t last = std::min(_jpegEnd, _offset + limits.jpegStrayBytes);
   while (_offset + 1 < last) {
     const io::ByteView bytes = _file.upTo(_offset, stride, io::SourceReader::ReadAhead::none);
     if (bytes.size() < 2) return std::nullopt;
@@ -47,17 +47,19 @@ std::optional<std::uint8_t> JpegSegmentWalk::nextMarker() {
 std::optional<JpegSegment> JpegSegmentWalk::next() {
   for (; _count < limits.jpegSegments; ++_count) {
     const auto marker = nextMarker();
-    if (!marker) return ends(_offset + 1 < _file.size() ? End::damaged : End::truncated);
+    if (!marker) return ends(_offset + 1 < _jpegEnd ? End::damaged : End::truncated);
     if (*marker == startOfScan) return ends(End::scan);
     if (*marker == endOfImage) return ends(End::endOfImage);
     if (hasNoPayload(*marker)) continue;
-    const auto bytes = _file.view(_offset, 2, io::SourceReader::ReadAhead::none);
+    const auto bytes = _offset + 2 <= _jpegEnd
+                           ? _file.view(_offset, 2, io::SourceReader::ReadAhead::none)
+                           : std::nullopt;
     if (!bytes) return ends(End::truncated);
     const std::uint64_t length = bytes->u16(0, io::ByteOrder::big).value_or(0);
     if (length < 2) continue;  // no segment has such a length: look for the next marker
     JpegSegment segment{*marker, {_offset + 2, _offset + length}};
-    segment.isCut = segment.payload.end > _file.size();
-    segment.payload.end = std::min(segment.payload.end, _file.size());
+    segment.isCut = segment.payload.end > _jpegEnd;
+    segment.payload.end = std::min(segment.payload.end, _jpegEnd);
     _offset = segment.payload.end;
     ++_count;
     return segment;

@@ -15,6 +15,7 @@
 #include "media/image/blocks/inflate.h"
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
 #include "media/image/png/png_facts.h"
 #include "media/image/png/png_text.h"
 #include "model/utf8.h"
@@ -85,7 +86,7 @@ class PngReader {
 
   void take(const Chunk& chunk) {
     const std::uint64_t size = chunk.payload.size();
-    if (size > _budget) return;
+    if (size > _budget) return noteShortfall(_properties, droppedMetadata);
     const auto payload = _file.view(chunk.payload.begin, size);
     if (!payload) return;
     _budget -= static_cast<std::size_t>(size);
@@ -111,8 +112,10 @@ class PngReader {
 
   void takeText(io::ByteView payload, std::string_view chunkType) {
     const auto text = readPngText(payload, chunkType, _budget);
+    if (!text && _budget == 0) noteShortfall(_properties, droppedMetadata);
     if (!text || takeBlockIn(*text)) return;
     if (std::ranges::find(shownKeywords, text->keyword) == std::end(shownKeywords)) return;
+    if (text->text.size() > limits.textBytes) noteShortfall(_properties, cutText);
     const std::string_view value = std::string_view(text->text).substr(0, limits.textBytes);
     setIfAbsent(
         section(_properties, "{PNG}"), text->keyword,

@@ -3,13 +3,16 @@
 // The first IFD of a TIFF file describes its image. In raw files it often describes a preview and
 // points to further IFDs, one of which is the picture. NewSubfileType tells reduced images from
 // full ones. Sensors have border pixels, so the picture is a little smaller than what is stored:
-// DNG says how large it is, others say so in the Exif IFD or not at all.
+// DNG says how large it is, others say so in the Exif IFD or not at all. Some say so there alone,
+// and nothing of their samples.
 #include "media/image/tiff/tiff_container.h"
 
 #include <algorithm>
 #include <vector>
 
 #include "media/image/blocks/density.h"
+#include "media/image/tiff/dng_section.h"
+#include "media/image/tiff/pixel_size.h"
 #include "media/image/tiff/tiff_sections.h"
 
 namespace media::image {
@@ -18,8 +21,6 @@ namespace {
 
 // Tags: TIFF 6.0, TIFF/EP, DNG 1.4.
 constexpr std::uint16_t newSubfileType = 0x00FE;
-constexpr std::uint16_t imageWidth = 0x0100;
-constexpr std::uint16_t imageLength = 0x0101;
 constexpr std::uint16_t bitsPerSample = 0x0102;
 constexpr std::uint16_t photometricInterpretation = 0x0106;
 constexpr std::uint16_t samplesPerPixel = 0x0115;
@@ -28,55 +29,9 @@ constexpr std::uint16_t extraSamples = 0x0152;
 constexpr std::uint16_t sampleFormat = 0x0153;
 constexpr std::uint16_t defaultCropSize = 0xC620;
 
-// The first IFD of RW2 has tags of its own for the sensor's borders.
-constexpr std::uint16_t sensorTop = 4;
-constexpr std::uint16_t sensorLeft = 5;
-constexpr std::uint16_t sensorBottom = 6;
-constexpr std::uint16_t sensorRight = 7;
-
-struct PixelSize {
-  std::int64_t width = 0;
-  std::int64_t height = 0;
-
-  bool isEmpty() const { return width <= 0 || height <= 0; }
-  double area() const {
-    return isEmpty() ? 0 : static_cast<double>(width) * static_cast<double>(height);
-  }
-};
-
-std::optional<std::int64_t> integerOf(TiffStructure& structure, const Ifd& ifd, std::uint16_t tag,
-                                      std::size_t index = 0) {
-  const IfdEntry* entry = ifd.find(tag);
-  const auto field = entry ? structure.field(*entry) : std::nullopt;
-  const auto number = field ? field->real(index) : std::nullopt;
-  if (!number || !(*number >= 0 && *number <= 0xFFFFFFFF)) return std::nullopt;
-  return static_cast<std::int64_t>(*number);
-}
-
-PixelSize storedSize(TiffStructure& structure, const Ifd& ifd) {
-  return {integerOf(structure, ifd, imageWidth).value_or(0),
-          integerOf(structure, ifd, imageLength).value_or(0)};
-}
-
 PixelSize croppedSize(TiffStructure& structure, const Ifd& ifd) {
   return {integerOf(structure, ifd, defaultCropSize, 0).value_or(0),
           integerOf(structure, ifd, defaultCropSize, 1).value_or(0)};
-}
-
-PixelSize sensorSize(TiffStructure& structure, const Ifd& ifd) {
-  const auto border = [&](std::uint16_t tag) { return integerOf(structure, ifd, tag).value_or(0); };
-  return {border(sensorRight) - border(sensorLeft), border(sensorBottom) - border(sensorTop)};
-}
-
-// The size that the Exif IFD gives, as it was read into the properties.
-PixelSize exifSize(const model::Dictionary& properties) {
-  const model::Value* section = model::find(properties, "{Exif}");
-  if (!section || !section->asDictionary()) return {};
-  const auto number = [&](std::string_view key) {
-    const model::Value* value = model::find(*section->asDictionary(), key);
-    return value && value->asInteger() ? *value->asInteger() : 0;
-  };
-  return {number("PixelXDimension"), number("PixelYDimension")};
 }
 
 std::vector<Ifd> readSubIfds(TiffStructure& structure, const Ifd& first) {
@@ -122,22 +77,20 @@ bool isPictureOf(PixelSize picture, PixelSize stored) {
   return fits(picture.width, stored.width) && fits(picture.height, stored.height);
 }
 
-// CR2 keeps a preview in its first IFD, in some cameras a small one, and no size with the picture.
-bool isCanonRaw(io::SourceReader& file) {
-  return file.upTo(8, 2).startsWith("CR");
-}
-
-PixelSize imageSize(io::SourceReader& file, TiffStructure& structure, const Ifd& first,
-                    const Ifd& image, const model::Dictionary& properties) {
+PixelSize imageSize(TiffStructure& structure, const Ifd& first, const Ifd& image,
+                    const model::Dictionary& properties) {
   if (const PixelSize cropped = croppedSize(structure, image); !cropped.isEmpty()) return cropped;
   const PixelSize stored = storedSize(structure, image);
   const PixelSize exif = exifSize(properties);
-  if (stored.isEmpty()) {
-    const PixelSize sensor = sensorSize(structure, first);
-    return sensor.isEmpty() ? exif : sensor;
-  }
-  if (isCanonRaw(file)) return exif.area() > stored.area() ? exif : stored;
+  if (stored.isEmpty()) return exif;
   return &image != &first && isPictureOf(exif, stored) ? exif : stored;
+}
+
+// ORF calls its sensor's samples black and white.
+bool isOlympusRaw(io::SourceReader& file) {
+  constexpr std::string_view marks[] = {"IIRO", "IIRS", "MMOR"};
+  const io::ByteView mark = file.upTo(0, 4);
+  return std::ranges::any_of(marks, [&](std::string_view text) { return mark.startsWith(text); });
 }
 
 std::string_view colorModel(TiffStructure& structure, const Ifd& ifd) {
@@ -159,8 +112,11 @@ std::string_view colorModel(TiffStructure& structure, const Ifd& ifd) {
   }
 }
 
-void setPixelFacts(TiffStructure& structure, const Ifd& image, model::Dictionary& properties) {
-  properties.insert_or_assign("ColorModel", colorModel(structure, image));
+void setPixelFacts(io::SourceReader& file, TiffStructure& structure, const Ifd& image,
+                   model::Dictionary& properties) {
+  const bool isSensor = isOlympusRaw(file) || storedSize(structure, image).isEmpty();
+  properties.insert_or_assign("ColorModel", isSensor ? "RGB" : colorModel(structure, image));
+  if (storedSize(structure, image).isEmpty()) return;
   properties.insert_or_assign("Depth", integerOf(structure, image, bitsPerSample).value_or(1));
   const std::int64_t extra = integerOf(structure, image, extraSamples).value_or(0);
   if (extra == 1 || extra == 2) properties.insert_or_assign("HasAlpha", true);
@@ -182,11 +138,12 @@ std::optional<model::Error> readTiffFile(io::SourceReader& file, model::Dictiona
   if (!first) return model::Error{"truncated TIFF"};
   const std::vector<Ifd> below = readSubIfds(*structure, *first);
   const Ifd& image = mainIfd(*structure, *first, below);
-  const PixelSize size = imageSize(file, *structure, *first, image, properties);
+  const PixelSize size = imageSize(*structure, *first, image, properties);
   if (size.isEmpty()) return model::Error{"TIFF without an image"};
   properties.insert_or_assign("PixelWidth", size.width);
   properties.insert_or_assign("PixelHeight", size.height);
-  setPixelFacts(*structure, image, properties);
+  setPixelFacts(file, *structure, image, properties);
+  readDngSection(*structure, *first, image, properties);
   setDensityFromTiff(properties);
   return std::nullopt;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// TIFF files, and the raw files of cameras that are TIFF structures: DNG, NEF, CR2, ARW, ORF, RW2.
+// TIFF files, and the raw files of cameras that are plain TIFF structures: DNG, NEF, ARW, ORF, PEF,
+// SRW.
 #pragma once
 
 #include <optional>

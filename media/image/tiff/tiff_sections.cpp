@@ -2,7 +2,8 @@
 #include "media/image/tiff/tiff_sections.h"
 
 #include "media/image/blocks/metadata_blocks.h"
-#include "media/image/maker/maker_apple.h"
+#include "media/image/blocks/shortfall.h"
+#include "media/image/maker/maker_notes.h"
 #include "media/image/tiff/exif_section.h"
 #include "media/image/tiff/gps_section.h"
 #include "media/image/tiff/tiff_section.h"
@@ -28,19 +29,27 @@ void readExif(TiffStructure& structure, const IfdEntry* pointer, model::Dictiona
   const auto exif = structure.readIfdAt(pointer);
   if (!exif) return;
   readExifSection(structure, *exif, properties);
-  if (const auto note = structure.block(exif->find(makerNote))) {
-    readAppleMakerNote(*note, properties);
+  const IfdEntry* entry = exif->find(makerNote);
+  if (const auto note = structure.block(entry)) {
+    readMakerNote({*note, entry->offset, structure.order()}, properties);
   }
   // Some writers hang the GPS IFD here instead of at the first IFD.
   readGps(structure, exif->find(gpsPointer), properties);
 }
 
+// A block that is shown; where the limits forbid to read it, that is noted.
+std::optional<io::ByteView> shownBlock(TiffStructure& structure, const IfdEntry* entry,
+                                       model::Dictionary& properties) {
+  if (entry && entry->count > limits.embeddedBytes) noteShortfall(properties, droppedMetadata);
+  return structure.block(entry);
+}
+
 // Writers keep the same datasets in both places; one of them is enough.
 void readIptc(TiffStructure& structure, const Ifd& first, model::Dictionary& properties) {
-  if (const auto datasets = structure.block(first.find(iptcDatasets))) {
+  if (const auto datasets = shownBlock(structure, first.find(iptcDatasets), properties)) {
     readIptcBlock(*datasets, properties);
   }
-  if (properties.contains("{IPTC}")) return;
+  if (properties.contains("{IPTC}") && !hasEmptyDatasets(properties)) return;
   if (const auto resources = structure.block(first.find(photoshopResources))) {
     readPhotoshopResources(*resources, properties);
   }
@@ -54,17 +63,20 @@ void readProfile(TiffStructure& structure, const Ifd& first, model::Dictionary& 
 
 }  // namespace
 
-std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties) {
-  auto first = structure.readIfd(structure.firstIfd());
-  if (!first) return std::nullopt;
-  readTiffSection(structure, *first, properties);
-  readGps(structure, first->find(gpsPointer), properties);
-  readExif(structure, first->find(exifPointer), properties);
-  readIptc(structure, *first, properties);
-  if (const auto packet = structure.block(first->find(xmpPacket))) {
+void readTiffSections(TiffStructure& structure, const Ifd& first, model::Dictionary& properties) {
+  readTiffSection(structure, first, properties);
+  readGps(structure, first.find(gpsPointer), properties);
+  readExif(structure, first.find(exifPointer), properties);
+  readIptc(structure, first, properties);
+  if (const auto packet = shownBlock(structure, first.find(xmpPacket), properties)) {
     readXmpPacket(*packet, properties);
   }
-  readProfile(structure, *first, properties);
+  readProfile(structure, first, properties);
+}
+
+std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties) {
+  auto first = structure.readIfd(structure.firstIfd());
+  if (first) readTiffSections(structure, *first, properties);
   return first;
 }
 

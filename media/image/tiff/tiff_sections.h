@@ -9,8 +9,11 @@
 namespace media::image {
 
 // Reads the structure's first IFD and what it points to: "{TIFF}", "Orientation", "{Exif}",
-// "{GPS}", "{MakerApple}", then the embedded IPTC or Photoshop block, the XMP packet and the name
-// of the colour profile. Returns the first IFD, none where there is none.
+// "{GPS}", "{MakerApple}" or "{ExifAux}", then the embedded IPTC or Photoshop block, the XMP packet
+// and the name of the colour profile. Returns the first IFD, none where there is none.
 std::optional<Ifd> readTiffSections(TiffStructure& structure, model::Dictionary& properties);
+
+// The same for a first IFD that was read before.
+void readTiffSections(TiffStructure& structure, const Ifd& first, model::Dictionary& properties);
 
 }  // namespace media::image

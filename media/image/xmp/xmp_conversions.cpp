@@ -11,6 +11,7 @@
 
 #include "media/image/blocks/limits.h"
 #include "model/number_text.h"
+#include "model/utf8.h"
 
 namespace media::image {
 
@@ -52,6 +53,11 @@ std::optional<std::int64_t> integerOf(std::string_view text) {
   const auto number = xmpReal(text);
   if (!number || !(std::abs(*number) < 9e15)) return std::nullopt;
   return static_cast<std::int64_t>(*number);
+}
+
+// As in EXIF's own fields, 0/0 among several numbers is 0.
+std::optional<double> realAmongSeveral(std::string_view text) {
+  return text == "0/0" ? 0 : xmpReal(text);
 }
 
 template <typename Number>
@@ -113,6 +119,16 @@ std::optional<model::Value> xmpText(const XmpValue& value) {
   return model::Value(text);
 }
 
+std::optional<model::Value> xmpJoinedText(const XmpValue& value) {
+  std::string joined;
+  for (const std::string_view text : value.texts()) {
+    if (!joined.empty()) joined += "; ";
+    joined += text;
+  }
+  if (joined.empty()) return std::nullopt;
+  return model::Value(std::move(joined));
+}
+
 std::optional<model::Value> xmpTextArray(const XmpValue& value) {
   model::Array texts;
   for (const std::string_view text : value.texts()) texts.emplace_back(text);
@@ -137,7 +153,7 @@ std::optional<model::Value> xmpRealValue(const XmpValue& value) {
 }
 
 std::optional<model::Value> xmpRealArray(const XmpValue& value) {
-  return arrayOf(value.items.empty() ? split(value.text, ' ') : value.texts(), xmpReal);
+  return arrayOf(value.items.empty() ? split(value.text, ' ') : value.texts(), realAmongSeveral);
 }
 
 std::optional<model::Value> xmpVersion(const XmpValue& value) {
@@ -170,14 +186,21 @@ std::optional<model::Value> xmpTree(const XmpValue& value) {
     for (const XmpValue& item : value.items) {
       if (auto tree = xmpTree(item)) items.push_back(*std::move(tree));
     }
+    if (items.empty()) return std::nullopt;
     return model::Value(std::move(items));
   }
   if (value.fields.empty()) return xmpText(value);
   model::Dictionary fields;
   for (const auto& [name, field] : value.fields) {
-    if (auto tree = xmpTree(field)) fields.try_emplace(std::string(name.local), *std::move(tree));
+    auto tree = isXmpKey(name.local) ? xmpTree(field) : std::nullopt;
+    if (tree) fields.try_emplace(std::string(name.local), *std::move(tree));
   }
+  if (fields.empty()) return std::nullopt;
   return model::Value(std::move(fields));
+}
+
+bool isXmpKey(std::string_view name) {
+  return !name.empty() && model::isValidUtf8(name);
 }
 
 std::optional<XmpDate> xmpDate(std::string_view text) {

@@ -18,6 +18,8 @@ std::optional<double> xmpReal(std::string_view text);
 
 // Each of these gives none where the value holds nothing of its kind.
 std::optional<model::Value> xmpText(const XmpValue& value);
+// The texts of an array as one, with "; " between them.
+std::optional<model::Value> xmpJoinedText(const XmpValue& value);
 std::optional<model::Value> xmpTextArray(const XmpValue& value);
 std::optional<model::Value> xmpInteger(const XmpValue& value);
 std::optional<model::Value> xmpIntegerArray(const XmpValue& value);
@@ -30,8 +32,12 @@ std::optional<model::Value> xmpVersion(const XmpValue& value);
 std::optional<model::Value> xmpDottedVersion(const XmpValue& value);
 // An ISO 8601 date as "2018:09:30 14:03:11".
 std::optional<model::Value> xmpExifDate(const XmpValue& value);
-// Texts, arrays and structures as what they are; fields under their names without prefix.
+// Texts, arrays and structures as what they are, without empty ones; fields under their names
+// without prefix.
 std::optional<model::Value> xmpTree(const XmpValue& value);
+
+// Whether the name of a property can be a key: it is not empty, and valid UTF-8.
+bool isXmpKey(std::string_view name);
 
 // An ISO 8601 date, in parts; parts that it does not have are empty.
 struct XmpDate {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// Most properties are one value under one key. Those that are not (coordinates with their
-// hemisphere, dates with their time, flash bits, face regions) have a function of their own.
+// Most properties are one value under one key; a few stand in for a second one. Those that are not
+// (coordinates with their hemisphere, dates with their time, flash bits, face regions) have a
+// function of their own.
 #include "media/image/xmp/xmp_properties.h"
 
 #include <algorithm>
@@ -31,6 +32,15 @@ void orientation(const XmpValue& value, const XmpRow& row, model::Dictionary& pr
   if (!code || *code < 1 || *code > 8) return;
   setIfAbsent(properties, row.key, *code);
   put(model::Value(*code), row.section, row.key, properties);
+}
+
+// The time, and its offset from UTC for those who reckon with it (time_offsets.h).
+void originalTime(const XmpValue& value, const XmpRow& row, model::Dictionary& properties) {
+  auto time = xmpExifDate(value);
+  if (!time || section(properties, row.section).contains(row.key)) return;
+  put(std::move(time), row.section, row.key, properties);
+  const std::string zone = xmpDate(value.simpleText())->zone;
+  if (!zone.empty()) put(model::Value(zone), row.section, "OffsetTimeOriginal", properties);
 }
 
 // "DateCreated" gets the day as digits, "TimeCreated" the time, as IPTC writes them.
@@ -116,7 +126,7 @@ constexpr XmpRow xmpRows[] = {
     {{exif, "Contrast"}, inExif, "Contrast", as<xmpInteger>},
     {{exif, "CustomRendered"}, inExif, "CustomRendered", as<xmpInteger>},
     {{exif, "DateTimeDigitized"}, inExif, "DateTimeDigitized", as<xmpExifDate>},
-    {{exif, "DateTimeOriginal"}, inExif, "DateTimeOriginal", as<xmpExifDate>},
+    {{exif, "DateTimeOriginal"}, inExif, "DateTimeOriginal", originalTime},
     {{exif, "DigitalZoomRatio"}, inExif, "DigitalZoomRatio", as<xmpRealValue>},
     {{exif, "ExifVersion"}, inExif, "ExifVersion", as<xmpVersion>},
     {{exif, "ExposureBiasValue"}, inExif, "ExposureBiasValue", as<xmpRealValue>},
@@ -204,8 +214,6 @@ constexpr XmpRow xmpRows[] = {
     {{iptcCore, "Scene"}, inIptc, "Scene", as<xmpTextArray>},
     {{iptcCore, "SubjectCode"}, inIptc, "SubjectReference", as<xmpTextArray>},
 
-    {{iptcExt, "LocationCreated"}, inIptc, "LocationCreated", as<xmpTree>},
-    {{iptcExt, "LocationShown"}, inIptc, "LocationShown", as<xmpTree>},
     {{iptcExt, "PersonInImage"}, inIptc, "PersonInImage", as<xmpTextArray>},
 
     {{mwgRegions, "Regions"}, inAux, "Regions", as<xmpRegions>},
@@ -245,23 +253,47 @@ constexpr XmpRow xmpRows[] = {
     {{xmpRights, "UsageTerms"}, inIptc, "UsageTerms", as<xmpText>},
 };
 
+// What EXIF's own tags say too, written back the way in which the framework writes them.
+constexpr XmpRow substituteRows[] = {
+    {{dublinCore, "creator"}, inTiff, "Artist", as<xmpJoinedText>},
+    {{dublinCore, "description"}, inTiff, "ImageDescription", as<xmpText>},
+    {{dublinCore, "rights"}, inTiff, "Copyright", as<xmpText>},
+    {{photoshop, "DateCreated"}, inExif, "DateTimeOriginal", originalTime},
+    {{xmp, "CreateDate"}, inExif, "DateTimeDigitized", as<xmpExifDate>},
+    {{xmp, "CreatorTool"}, inTiff, "Software", as<xmpText>},
+    {{xmp, "ModifyDate"}, inTiff, "DateTime", as<xmpExifDate>},
+};
+
 constexpr bool isBefore(XmpName left, XmpName right) {
   return left.space != right.space ? left.space < right.space : left.local < right.local;
 }
 
-consteval bool namesAscend() {
-  for (std::size_t index = 1; index < std::size(xmpRows); ++index) {
-    if (!isBefore(xmpRows[index - 1].name, xmpRows[index].name)) return false;
+template <std::size_t count>
+consteval bool namesAscend(const XmpRow (&rows)[count]) {
+  for (std::size_t index = 1; index < count; ++index) {
+    if (!isBefore(rows[index - 1].name, rows[index].name)) return false;
   }
   return true;
 }
-static_assert(namesAscend());
+static_assert(namesAscend(xmpRows));
+static_assert(namesAscend(substituteRows));
+
+template <std::size_t count>
+std::optional<XmpRow> rowOf(const XmpRow (&rows)[count], XmpName name) {
+  const auto* row = std::ranges::lower_bound(rows, name, isBefore, &XmpRow::name);
+  return row != std::end(rows) && row->name == name ? std::optional(*row) : std::nullopt;
+}
 
 }  // namespace
 
-const XmpRow* xmpRow(XmpName name) {
-  const auto* row = std::ranges::lower_bound(xmpRows, name, isBefore, &XmpRow::name);
-  return row != std::end(xmpRows) && row->name == name ? row : nullptr;
+std::optional<XmpRow> xmpRow(XmpName name) {
+  if (auto row = rowOf(xmpRows, name)) return row;
+  const bool isExtension = name.space == iptcExt && isXmpKey(name.local);
+  return isExtension ? std::optional(XmpRow{name, inIptc, name.local, as<xmpTree>}) : std::nullopt;
+}
+
+std::optional<XmpRow> xmpSubstituteRow(XmpName name) {
+  return rowOf(substituteRows, name);
 }
 
 }  // namespace media::image

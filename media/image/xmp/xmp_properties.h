@@ -3,6 +3,7 @@
 // Which XMP property is shown under which key of which section.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "media/image/xmp/xmp_value.h"
@@ -18,7 +19,11 @@ struct XmpRow {
   void (*store)(const XmpValue& value, const XmpRow& row, model::Dictionary& properties);
 };
 
-// The row of a property, or null where it is not shown.
-const XmpRow* xmpRow(XmpName name);
+// The row of a property; none where it is not shown. Properties of the IPTC's extension schema all
+// are, under their own names, which the row then borrows.
+std::optional<XmpRow> xmpRow(XmpName name);
+
+// The row of another key that a property stands in for where nothing else has given it a value.
+std::optional<XmpRow> xmpSubstituteRow(XmpName name);
 
 }  // namespace media::image

@@ -13,10 +13,6 @@ namespace {
 
 constexpr XmpName languageName{XmpNamespace::xml, "lang"};
 
-std::string textOf(const char* bytes) {
-  return model::utf8OrLatin1(std::string_view(bytes).substr(0, limits.textBytes));
-}
-
 // Whether a name is of XML or RDF itself, and so no field of a structure.
 bool isSyntax(XmpName name) {
   return name.space == XmpNamespace::rdf || name.space == XmpNamespace::xml ||
@@ -25,6 +21,20 @@ bool isSyntax(XmpName name) {
 
 class ValueReader {
  public:
+  XmpValue readProperty(const pugi::xml_node& property, const XmpScope& around) {
+    XmpValue value = read(property, around, 0);
+    value.isCut = _isCut;
+    return value;
+  }
+
+  XmpValue readSimple(const char* text) {
+    XmpValue value;
+    value.text = textOf(text);
+    value.isCut = _isCut;
+    return value;
+  }
+
+ private:
   XmpValue read(const pugi::xml_node& property, const XmpScope& around, std::size_t depth) {
     if (depth > limits.xmpDepth) return {};
     const XmpScope scope(property, around);
@@ -37,13 +47,18 @@ class ValueReader {
     return value;
   }
 
- private:
+  std::string textOf(const char* bytes) {
+    const std::string_view text = bytes;
+    _isCut = _isCut || text.size() > limits.textBytes;
+    return model::utf8OrLatin1(text.substr(0, limits.textBytes));
+  }
+
   // Fields of a structure in its short form, and the link of a value that is one.
   void readAttributes(const pugi::xml_node& element, const XmpScope& scope, XmpValue& value) {
     for (const pugi::xml_attribute& attribute : element.attributes()) {
       const XmpName name = scope.resolve(attribute.name());
       if (name == XmpName{XmpNamespace::rdf, "resource"}) value.text = textOf(attribute.value());
-      if (!isSyntax(name)) addField(name, simpleXmpValue(attribute.value()), value);
+      if (!isSyntax(name)) addField(name, readSimple(attribute.value()), value);
     }
   }
 
@@ -89,6 +104,8 @@ class ValueReader {
       value.fields.push_back({name, std::move(field)});
     }
   }
+
+  bool _isCut = false;
 };
 
 }  // namespace
@@ -119,13 +136,11 @@ const XmpValue* XmpValue::field(XmpName name) const {
 }
 
 XmpValue simpleXmpValue(const char* text) {
-  XmpValue value;
-  value.text = textOf(text);
-  return value;
+  return ValueReader().readSimple(text);
 }
 
 XmpValue readXmpValue(const pugi::xml_node& property, const XmpScope& around) {
-  return ValueReader().read(property, around, 0);
+  return ValueReader().readProperty(property, around);
 }
 
 }  // namespace media::image

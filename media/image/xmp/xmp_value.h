@@ -25,6 +25,7 @@ struct XmpValue {
   std::vector<XmpValue> items;
   bool isAlternative = false;  // the items say the same in several languages
   std::vector<XmpField> fields;
+  bool isCut = false;  // of a whole property: a text in it is longer than the limit
 
   // The text of a simple value; of an array, its first simple item's; empty for structures.
   // Alternatives in several languages have their default in front.

@@ -29,14 +29,18 @@ constexpr FourCharCode firstBoxes[] = {
 constexpr FourCharCode movieBoxes[] = {fourCharCode("ftyp"), fourCharCode("moov"),
                                        fourCharCode("mdat")};
 
-// Major brands of stills and image sequences, which the image readers know.
+// Major brands of stills, which the image readers know.
 constexpr FourCharCode imageBrands[] = {
+    fourCharCode("jpeg"), fourCharCode("jpgs"), fourCharCode("jp2 "), fourCharCode("jpx "),
+    fourCharCode("jpm "), fourCharCode("jxl "), fourCharCode("crx "),
+};
+
+// Major brands of files that may hold stills, a sequence of images, or both. ISO/IEC 23008-12, 10.
+constexpr FourCharCode sequenceBrands[] = {
     fourCharCode("heic"), fourCharCode("heix"), fourCharCode("heim"), fourCharCode("heis"),
     fourCharCode("hevc"), fourCharCode("hevx"), fourCharCode("hevm"), fourCharCode("hevs"),
     fourCharCode("mif1"), fourCharCode("mif2"), fourCharCode("msf1"), fourCharCode("avif"),
-    fourCharCode("avis"), fourCharCode("avci"), fourCharCode("avcs"), fourCharCode("jpeg"),
-    fourCharCode("jpgs"), fourCharCode("jp2 "), fourCharCode("jpx "), fourCharCode("jpm "),
-    fourCharCode("jxl "), fourCharCode("crx "),
+    fourCharCode("avis"), fourCharCode("avci"), fourCharCode("avcs"),
 };
 
 constexpr FourCharCode quickTimeBrand = fourCharCode("qt  ");
@@ -105,6 +109,7 @@ class OuterWalk {
 struct Findings {
   MovieLayout layout;
   bool hasMovie = false;
+  bool hasStill = false;     // has the item tables of stills
   bool claimsMovie = false;  // has a box that only movies have
   bool isCut = false;
 };
@@ -115,21 +120,30 @@ void take(Findings& findings, const OuterBox& box, std::uint64_t fileSize) {
   const io::ByteRange range{std::min(box.payload, fileSize), std::min(box.end, fileSize)};
   auto& fragments = findings.layout.fragments;
   findings.claimsMovie |= std::ranges::count(movieBoxes, box.type) > 0;
-  if (box.type == fourCharCode("moov") && !findings.hasMovie && !isCut) {
+  findings.hasStill |= box.type == fourCharCode("meta");
+  if (box.type == fourCharCode("moov") && !findings.hasMovie) {
     findings.hasMovie = true;
     findings.layout.movie = range;
+    findings.layout.isMovieCut = isCut;
   } else if (box.type == fourCharCode("moof") && fragments.size() < limits.fragments && !isCut) {
     fragments.push_back(range);
   }
 }
 
-// Which rules hold, from the first box; none where the file is no movie.
-std::optional<FileFormat> formatOf(OuterWalk& walk, const OuterBox& first) {
+// What the first box says of the file.
+struct Kind {
+  FileFormat format = FileFormat::quickTime;
+  bool maybeStill = false;
+};
+
+// None where the file is no movie.
+std::optional<Kind> kindOf(OuterWalk& walk, const OuterBox& first) {
   if (!std::ranges::count(firstBoxes, first.type)) return std::nullopt;
-  if (first.type != fourCharCode("ftyp")) return FileFormat::quickTime;
+  if (first.type != fourCharCode("ftyp")) return Kind{};
   const FourCharCode brand = walk.u32(first.payload).value_or(0);
   if (std::ranges::count(imageBrands, brand)) return std::nullopt;
-  return brand == quickTimeBrand ? FileFormat::quickTime : FileFormat::isoBaseMedia;
+  if (brand == quickTimeBrand) return Kind{};
+  return Kind{FileFormat::isoBaseMedia, std::ranges::count(sequenceBrands, brand) > 0};
 }
 
 }  // namespace
@@ -137,21 +151,19 @@ std::optional<FileFormat> formatOf(OuterWalk& walk, const OuterBox& first) {
 model::Result<std::optional<MovieLayout>> readMovieLayout(io::ByteSource& source) {
   OuterWalk walk(source);
   Findings findings;
-  bool isMovie = false;
+  std::optional<Kind> kind;
   for (int count = 0; count < limits.topLevelBoxes; ++count) {
     const auto box = walk.next();
     if (!box) break;
-    if (!isMovie) {
-      const auto format = formatOf(walk, *box);
-      if (!format) break;
-      findings.layout.format = *format;
-      isMovie = true;
-    }
+    if (!kind) kind = kindOf(walk, *box);
+    if (!kind) break;
     take(findings, *box, source.size());
   }
   if (walk.failure()) return *walk.failure();
+  const bool isImage = kind && kind->maybeStill && (findings.hasStill || !findings.hasMovie);
+  if (!kind || isImage || !findings.claimsMovie) return std::optional<MovieLayout>();
+  findings.layout.format = kind->format;
   if (findings.hasMovie) return std::optional(std::move(findings.layout));
-  if (!isMovie || !findings.claimsMovie) return std::optional<MovieLayout>();
   if (findings.isCut || walk.endsInsideHeader()) return model::Error{"truncated movie"};
   return model::Error{"movie without a header (\"moov\")"};
 }

@@ -7,6 +7,7 @@ extern "C" {
 }
 
 #include <algorithm>
+#include <string_view>
 
 namespace media::movie {
 
@@ -65,16 +66,27 @@ bool Demuxer::openInput(Refusal& refusal) {
   if (_io == nullptr || _context == nullptr) return false;
   _context->pb = _io;
   _context->interrupt_callback = {countPacket, this};
-  // Packets that were looked at are dropped; who wants them reads them again.
-  if (_limits.codecs != nullptr) _context->flags |= AVFMT_FLAG_NOBUFFER;
   Options options(_limits);
   // Without a name, which would count for more than what is in the file. A failed opening frees
   // the context itself.
   int result = avformat_open_input(&_context, nullptr, nullptr, options.get());
+  // Other packets that were looked at are dropped; who wants them reads what follows.
+  if (result == 0 && _limits.codecs != nullptr && !isMatroska())
+    _context->flags |= AVFMT_FLAG_NOBUFFER;
   if (result == 0) result = avformat_find_stream_info(_context, nullptr);
   // FFmpeg says so of too many streams too.
   if (result != AVERROR(ENOMEM)) refusal = Refusal::unknown;
   return result >= 0;
+}
+
+bool Demuxer::readPacket(AVPacket& packet) {
+  const bool isThere = av_read_frame(_context, &packet) >= 0;
+  if (isThere) ++_packetsRead;
+  return isThere;
+}
+
+bool Demuxer::isMatroska() const {
+  return std::string_view(_context->iformat->name).starts_with("matroska");
 }
 
 int Demuxer::read(void* opaque, std::uint8_t* bytes, int length) {

@@ -42,7 +42,12 @@ class Demuxer {
   AVFormatContext& context() { return *_context; }
 
   // The next packet of any stream; false at the end, or where a limit is met.
-  bool readPacket(AVPacket& packet) { return av_read_frame(_context, &packet) >= 0; }
+  bool readPacket(AVPacket& packet);
+  // How many were read so.
+  int packetsRead() const { return _packetsRead; }
+
+  // Matroska or WebM: the packets that were looked at are read again from memory, and none is lost.
+  bool isMatroska() const;
 
   // Whether a limit kept FFmpeg from reading on.
   bool areBytesCut() const { return _areBytesCut; }
@@ -61,6 +66,7 @@ class Demuxer {
   std::uint64_t _offset = 0;
   std::uint64_t _bytes = 0;  // read
   int _packets = 0;
+  int _packetsRead = 0;
   bool _areBytesCut = false;
   AVIOContext* _io = nullptr;
   AVFormatContext* _context = nullptr;

@@ -11,6 +11,7 @@
 #include "media/movie/ffmpeg/coded_headers.h"
 #include "media/movie/ffmpeg/demuxer.h"
 #include "media/movie/ffmpeg/metadata.h"
+#include "media/movie/ffmpeg/stream_statistics.h"
 #include "media/movie/ffmpeg/track.h"
 #include "media/movie/metadata/iso_date.h"
 #include "media/movie/other/asset_message.h"
@@ -58,6 +59,7 @@ ContainerAnswer read(io::ByteSource& source) {
     return {.kind = isTooMuch ? Kind::tooMuch : Kind::none};
   }
   completeFromHeaders(*demuxer);
+  completeStatistics(*demuxer);
   ContainerAnswer answer{.asset = assetOf(demuxer->context())};
   if (answer.asset.tracks.empty()) return answer;
   answer.kind = Kind::asset;

@@ -5,12 +5,12 @@
 // extensions that these give.
 #include "media/movie/ffmpeg/track.h"
 
-#include <cstdlib>
 #include <limits>
 
 #include "media/movie/boxes/four_char_text.h"
 #include "media/movie/ffmpeg/codec_codes.h"
 #include "media/movie/ffmpeg/metadata.h"
+#include "media/movie/ffmpeg/stream_statistics.h"
 #include "media/movie/tracks/colour_tags.h"
 #include "media/movie/tracks/linear_sound.h"
 
@@ -43,6 +43,7 @@ bool isPositive(AVRational rational) {
 double durationOf(const AVFormatContext& context, const AVStream& stream) {
   if (stream.duration > 0 && isPositive(stream.time_base))
     return static_cast<double>(stream.duration) * av_q2d(stream.time_base);
+  if (const double seconds = statisticsOf(stream).duration; seconds > 0) return seconds;
   if (context.duration > 0) return static_cast<double>(context.duration) / AV_TIME_BASE;
   return std::numeric_limits<double>::quiet_NaN();
 }
@@ -53,8 +54,7 @@ double statedRate(const AVStream& stream) {
       std::int64_t{0x3FFFF} * 400;  // says that the rate varies
   const std::int64_t rate = stream.codecpar->bit_rate;
   if (rate > 0 && rate != variableMpegRate) return static_cast<double>(rate);
-  const AVDictionaryEntry* entry = av_dict_get(stream.metadata, "BPS", nullptr, 0);
-  return entry == nullptr ? 0 : std::strtod(entry->value, nullptr);
+  return statisticsOf(stream).dataRate;
 }
 
 // A video without a rate of its own has what the whole file has beside the other streams.
@@ -69,6 +69,8 @@ double dataRate(const AVFormatContext& context, const AVStream& stream) {
 
 float frameRate(const AVStream& stream) {
   const AVCodecParameters& codec = *stream.codecpar;
+  if (const double stated = statisticsOf(stream).frameRate; stated > 0)
+    return static_cast<float>(stated);
   if (codec.codec_type == AVMEDIA_TYPE_AUDIO) {
     const int frames = isLinearSound(codec.codec_id) ? 1 : codec.frame_size;
     return frames > 0 ? static_cast<float>(codec.sample_rate) / static_cast<float>(frames) : 0;

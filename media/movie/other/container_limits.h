@@ -14,6 +14,8 @@ namespace media::movie {
 struct ContainerLimits {
   std::uint64_t bytes;             // read of a file
   int packets;                     // looked at to tell what the streams hold
+  std::uint64_t measuredBytes;     // of packets that are added up for rates
+  int measuredPackets;             // likewise
   int streams;                     // a file of more is none that is read
   std::size_t tracks;              // of an asset
   std::size_t items;               // of metadata, of the asset and of each track
@@ -29,6 +31,8 @@ struct ContainerLimits {
 inline constexpr ContainerLimits containerLimits = {
     .bytes = 8u << 20,
     .packets = 5'000,
+    .measuredBytes = 2u << 20,
+    .measuredPackets = 2'000,
     .streams = 256,
     .tracks = 64,
     .items = 16,

@@ -8,17 +8,10 @@
 #include <string>
 
 #include "io/byte_source.h"
-#include "model/media_asset.h"
+#include "media/movie/other/movie_file.h"
 #include "model/result.h"
 
 namespace media::movie {
-
-// What was read of a video file.
-struct MovieFile {
-  model::MediaAsset asset;
-  // What a limit cut of it, as a text that can stand behind "FILE: "; empty where it is whole.
-  std::string shortfall = {};
-};
 
 // What FFmpeg makes of a file. None where it knows nothing of it, or where the reader is not
 // installed. Waits for the worker; from any thread.

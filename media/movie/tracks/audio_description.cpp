@@ -23,27 +23,28 @@ using io::ByteOrder::big;
 
 constexpr FourCharCode mpegLayer3 = fourCharCode(".mp3");
 
-// Codes of compressed sound: what the platform calls them, and the frames of a packet where the
-// codec fixes them (0 where it does not).
+// Codes of compressed sound: what the platform calls them, and the frames of a packet and the
+// channels where the codec fixes them (0 where it does not).
 struct Codec {
   FourCharCode code;
   FourCharCode formatID;
   std::uint32_t framesPerPacket;
+  std::uint32_t channels = 0;
 };
 
 constexpr Codec codecs[] = {
-    {fourCharCode("samr"), fourCharCode("samr"), 160},   // 3GPP TS 26.244: 20 ms at 8 kHz
-    {fourCharCode("sawb"), fourCharCode("sawb"), 320},   // 20 ms at 16 kHz
-    {fourCharCode(".mp3"), mpegLayer3, 1152},            //
-    {0x6D730055, mpegLayer3, 1152},                      // 'ms' and the code of WAVE files
-    {fourCharCode("ac-3"), fourCharCode("ac-3"), 1536},  // ETSI TS 102 366
-    {fourCharCode("sac3"), fourCharCode("ac-3"), 1536},  //
-    {fourCharCode("ec-3"), fourCharCode("ec-3"), 1536},  //
-    {fourCharCode("ima4"), fourCharCode("ima4"), 64},    // QuickTime File Format
-    {fourCharCode("ulaw"), fourCharCode("ulaw"), 1},     //
-    {fourCharCode("alaw"), fourCharCode("alaw"), 1},     //
-    {fourCharCode("Opus"), fourCharCode("opus"), 0},     //
-    {fourCharCode("fLaC"), fourCharCode("flac"), 0},     //
+    {fourCharCode("samr"), fourCharCode("samr"), 160, 1},  // 3GPP TS 26.244: 20 ms at 8 kHz
+    {fourCharCode("sawb"), fourCharCode("sawb"), 320, 1},  // 20 ms at 16 kHz
+    {fourCharCode(".mp3"), mpegLayer3, 1152},              //
+    {0x6D730055, mpegLayer3, 1152},                        // 'ms' and the code of WAVE files
+    {fourCharCode("ac-3"), fourCharCode("ac-3"), 1536},    // ETSI TS 102 366
+    {fourCharCode("sac3"), fourCharCode("ac-3"), 1536},    //
+    {fourCharCode("ec-3"), fourCharCode("ec-3"), 1536},    //
+    {fourCharCode("ima4"), fourCharCode("ima4"), 64},      // QuickTime File Format
+    {fourCharCode("ulaw"), fourCharCode("ulaw"), 1},       //
+    {fourCharCode("alaw"), fourCharCode("alaw"), 1},       //
+    {fourCharCode("Opus"), fourCharCode("opus"), 0},       //
+    {fourCharCode("fLaC"), fourCharCode("flac"), 0},       //
 };
 
 // MPEG-4 object types of sound (ISO/IEC 14496-1, table 5, and the registration authority).
@@ -135,6 +136,7 @@ void takeCodec(AudioStreamDescription& audio, FourCharCode code, const SoundFiel
     if (codec.code != code) continue;
     audio.formatID = codec.formatID;
     audio.framesPerPacket = codec.framesPerPacket;
+    if (codec.channels != 0) audio.channelsPerFrame = codec.channels;
   }
   if (fields.version == 2) audio.framesPerPacket = fields.framesPerPacket;
   takePackets(audio, fields);

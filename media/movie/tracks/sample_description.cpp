@@ -28,9 +28,8 @@ struct Kind {
 };
 
 constexpr Kind kinds[] = {
-    {fourCharCode("vide"), videoDescription},
-    {fourCharCode("auxv"), videoDescription},
-    {fourCharCode("soun"), audioDescription},
+    {fourCharCode("vide"), videoDescription},    {fourCharCode("auxv"), videoDescription},
+    {fourCharCode("pict"), videoDescription},    {fourCharCode("soun"), audioDescription},
     {fourCharCode("meta"), metadataDescription},
 };
 

@@ -24,6 +24,7 @@ using model::fourCharCode;
 constexpr FourCharCode videoType = fourCharCode("vide");
 constexpr FourCharCode soundType = fourCharCode("soun");
 constexpr FourCharCode metadataType = fourCharCode("meta");
+constexpr FourCharCode imagesType = fourCharCode("pict");
 
 // The boxes of a track that are read, wherever they nest.
 struct TrackBoxes {
@@ -80,6 +81,11 @@ io::ByteView headOf(MovieWalk& walk, const std::optional<io::IsoBox>& box, std::
   return box ? headOfBox(walk, *box, length) : io::ByteView();
 }
 
+// A table that goes on behind the end of the file adds up to less than there is.
+bool isWhole(const std::optional<io::IsoBox>& table) {
+  return table && !table->isCut;
+}
+
 FourCharCode readHandler(MovieWalk& walk, const TrackBoxes& boxes) {
   return headOf(walk, boxes.handler, 12).u32(8, io::ByteOrder::big).value_or(0);
 }
@@ -110,8 +116,8 @@ void correctConstantSize(TrackDraft& draft) {
 }
 
 void readSamples(MovieWalk& walk, const TrackBoxes& boxes, TrackDraft& draft) {
-  if (boxes.times) addTimeToSample(walk, *boxes.times, draft.totals);
-  if (boxes.sizes) addSampleSizes(walk, *boxes.sizes, draft.totals);
+  if (isWhole(boxes.times)) addTimeToSample(walk, *boxes.times, draft.totals);
+  if (isWhole(boxes.sizes)) addSampleSizes(walk, *boxes.sizes, draft.totals);
   correctConstantSize(draft);
 }
 
@@ -121,7 +127,8 @@ model::Size naturalSize(const model::Size& headerSize, FourCharCode mediaType,
                         const model::Track& track) {
   if (mediaType == soundType || mediaType == metadataType) return {};
   if (headerSize.width > 0 && headerSize.height > 0) return headerSize;
-  if (mediaType != videoType || track.formatDescriptions.empty()) return headerSize;
+  const bool isPicture = mediaType == videoType || mediaType == imagesType;
+  if (!isPicture || track.formatDescriptions.empty()) return headerSize;
   return presentationSize(track.formatDescriptions.front());
 }
 
@@ -131,6 +138,7 @@ double statedDuration(MovieWalk& walk, const TrackBoxes& boxes, const TrackHeade
   constexpr std::uint64_t largestEdit = 20;
   const auto nan = std::numeric_limits<double>::quiet_NaN();
   if (const auto seconds = secondsOf(header.duration, movie.timeScale)) return *seconds;
+  if (!isWhole(boxes.edits)) return nan;
   const io::ByteView edits = headOf(
       walk, boxes.edits, editHead + largestEdit * static_cast<std::uint64_t>(limits.editsPerTrack));
   return secondsOf(editListDuration(edits), movie.timeScale).value_or(nan);

@@ -95,6 +95,14 @@ std::string toolOutput(const std::string& arguments) {
   return contentsOf(folder.file("output"));
 }
 
+std::string toolMessages(const std::string& arguments) {
+  const support::TemporaryFolder folder;
+  const std::string command = plainEnvironment(folder.path()) + inQuotes(TOOL_PATH) + " " +
+                              arguments + " >output 2>messages";
+  EXPECT_NE(std::system(command.c_str()), -1) << command;
+  return contentsOf(folder.file("messages"));
+}
+
 bool toolBrowses(const std::string& folder) {
   const support::TemporaryFolder home;
   const std::string command = plainEnvironment(home.path()) +

@@ -56,6 +56,9 @@ std::string sampleLibrary();
 // What the command-line tool prints.
 std::string toolOutput(const std::string& arguments);
 
+// What it says on standard error, however it ends.
+std::string toolMessages(const std::string& arguments);
+
 // Starts the application through the tool, on a display that shows nothing, and ends it after some
 // seconds; whether it was running until then.
 bool toolBrowses(const std::string& folder);

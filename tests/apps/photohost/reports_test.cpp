@@ -89,6 +89,79 @@ TEST(WholeRoad, TheTextOnScreenIsTheToolsReport) {
   for (const std::string& folder : albums()) compareTexts(folder);
 }
 
+// A library of files that are elsewhere, empty or cut off.
+class OddFiles {
+ public:
+  OddFiles() {
+    fs::create_directories(_folder.file("library"));
+    copy("Coast/Lighthouse.jpg", "elsewhere.jpg");
+    copy("100APPLE/IMG_0016.MOV", "elsewhere.mov");
+    fs::create_symlink("../elsewhere.jpg", file("link.jpg"));
+    fs::create_symlink("../elsewhere.mov", file("link.mov"));
+    cut("Shared trip/Trail.mp4", "cut.mp4", 2500);
+    cut("Coast/Lighthouse.jpg", "cut.jpg", 100);
+    cut("100APPLE/IMG_0016.MOV", "cut.mov", 5000);
+    cut("100APPLE/IMG_0016.MOV", "empty.mov", 0);
+    cut("Coast/Lighthouse.jpg", "empty.jpg", 0);
+    // The order of a library is that of dates, then of names.
+    for (const auto& entry : fs::directory_iterator(path())) fs::last_write_time(entry.path(), {});
+  }
+
+  std::string path() const { return _folder.file("library"); }
+  std::string file(const std::string& name) const { return path() + "/" + name; }
+
+ private:
+  void copy(const std::string& sample, const std::string& name) const {
+    fs::copy_file(sampleLibrary() + "/" + sample, _folder.file(name));
+  }
+  void cut(const std::string& sample, const std::string& name, std::uintmax_t size) const {
+    copy(sample, "library/" + name);
+    fs::resize_file(file(name), size);
+  }
+
+  support::TemporaryFolder _folder;
+};
+
+// What the tool says of a file that it cannot read, or not read whole.
+std::string reasonOf(const std::string& path) {
+  const std::string message = toolMessages("report '" + path + "'");
+  const std::string start = "lumifact: " + path + ": ";
+  EXPECT_TRUE(message.starts_with(start)) << message;
+  return message.substr(start.size(), message.find('\n') - start.size());
+}
+
+TEST(WholeRoad, LinksAndFilesThatAreCutSayTheSameInBoth) {
+  const OddFiles files;
+  const std::vector<std::string> names = {"cut.jpg",   "cut.mov",  "cut.mp4", "empty.jpg",
+                                          "empty.mov", "link.jpg", "link.mov"};
+  std::string script = setting("viewType 1");
+  for (std::size_t item = 0; item < names.size(); ++item)
+    script += "open item " + std::to_string(item) + "\nwait 3\ndump " + names[item] + ".json\n" +
+              "back\nwait 1\n";
+  for (const std::string item : {"2", "5", "6"})
+    script += "open item " + item + "\nwait 1\n" + pressInfo + "dump details" + item +
+              ".json\ntap \"Dismiss\"\nwait 1\nback\nwait 1\n";
+  Host host;
+  host.library(files.path());
+  host.run(script);
+  for (const std::string name : {"cut.jpg", "cut.mov", "cut.mp4", "empty.jpg", "empty.mov"}) {
+    const auto texts = textsOf(host.dumped(name));
+    const std::string reason = reasonOf(files.file(name));
+    EXPECT_TRUE(std::ranges::any_of(texts,
+                                    [&](const std::string& text) {
+                                      return text.starts_with(name + "\ncannot be shown: ") &&
+                                             text.ends_with(reason);
+                                    }))
+        << name << ": " << reason << ", " << Json(texts).dump();
+  }
+  for (const std::string item : {"2", "5", "6"}) {
+    const std::string path = files.file(names[std::stoul(item)]);
+    const Json details = host.dumped("details" + item);
+    EXPECT_EQ(textOnScreen(details), reportOf(path)) << path;
+    EXPECT_EQ(pathOnScreen(details), fs::canonical(path)) << path;
+  }
+}
+
 // What a row shows of a value: nothing of containers.
 std::string shownValue(const Json& value) {
   if (value.is_string()) return value;

@@ -145,10 +145,25 @@ TEST_F(FolderTreeTest, linksInALoopEndNowhere) {
   fs::create_symlink("circle.jpg", _folder.file("circle.jpg"));
   fs::create_symlink("nothing.jpg", _folder.file("dangling.jpg"));
   fs::create_symlink("nothing.txt", _folder.file("dangling.txt"));
-  fs::create_symlink("a/b.jpg", _folder.file("link.jpg"));
-  EXPECT_THAT(readAll(), ElementsAre("open .", "!circle.jpg: Too many levels of symbolic links",
-                                     "!dangling.jpg: No such file or directory", "+link.jpg",
-                                     "open a", "+a/b.jpg"));
+  EXPECT_THAT(readAll(),
+              ElementsAre("open .", "!circle.jpg: Too many levels of symbolic links",
+                          "!dangling.jpg: No such file or directory", "open a", "+a/b.jpg"));
+}
+
+TEST_F(FolderTreeTest, aLinkToAFileOfTheLibraryIsThatFile) {
+  _folder.photo("a/b.jpg");
+  _folder.photo(".store/c.jpg");
+  const support::TemporaryFolder elsewhere;
+  const std::string photo = elsewhere.write("d.jpg", std::string_view("x"));
+  fs::create_symlink("a/b.jpg", _folder.file("b.jpg"));
+  fs::create_symlink("../b.jpg", _folder.file("a/twice.jpg"));
+  fs::create_symlink(".store/c.jpg", _folder.file("c.jpg"));
+  fs::create_symlink(photo, _folder.file("d.jpg"));
+  EXPECT_THAT(readAll(), ElementsAre("open .", "+c.jpg", "+d.jpg", "open a", "+a/b.jpg"));
+  EXPECT_THAT(readAll(), IsEmpty());
+  fs::remove(_folder.file("b.jpg"));
+  fs::copy_file(photo, _folder.file("b.jpg"));
+  EXPECT_THAT(readAll(), ElementsAre("+b.jpg"));
 }
 
 TEST_F(FolderTreeTest, whatIsNoFileIsAProblemIfItLooksLikeAPhoto) {

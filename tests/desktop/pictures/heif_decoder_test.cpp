@@ -84,6 +84,32 @@ TEST(HeifDecoder, TurnsAThumbnailLikeItsPicture) {
   }
 }
 
+// An Exif block that states an orientation and nothing else.
+Bytes exifOf(int orientation) {
+  samples::ByteWriter block;
+  block.text("MM");
+  block.u16(42);
+  block.u32(8);
+  block.u16(1);
+  for (const int part : {0x0112, 3}) block.u16(part);
+  block.u32(1);
+  block.u16(orientation);
+  block.zeros(6);
+  return block.take();
+}
+
+TEST(HeifDecoder, ExifTurnsWhatDoesNotTurnItself) {
+  const auto upright = quartered(768, 1024);
+  const samples::Bytes exif = exifOf(6);
+  const auto stored = samples::storedForOrientation(upright, 6);
+  const auto plain = samples::computerHeicFile(stored, {.exif = exif});
+  ASSERT_TRUE(plain) << plain.error().reason;
+  EXPECT_EQ(shown(*plain, {120, 160, Request::Fit::fit}), "red green blue white");
+  const auto turned = samples::phoneHeicFile(stored, {.orientation = 6, .exif = exifOf(3)});
+  ASSERT_TRUE(turned) << turned.error().reason;
+  EXPECT_EQ(shown(*turned, {120, 160, Request::Fit::fit}), "red green blue white");
+}
+
 TEST(HeifDecoder, ConvertsWideGamutToSrgb) {
   samples::Picture plain(64, 64);
   samples::forEachPixel(plain, [](samples::Rgb& pixel, float, float) {

@@ -112,18 +112,57 @@ TEST_F(AssetFactsTest, OfAVideo) {
   EXPECT_NE(facts.creationDate, facts.fileModificationDate);
 }
 
+// One track of images, and no still.
+movie::Bytes imageSequence() {
+  using namespace movie;
+  const Bytes images =
+      track({.header = trackHeader(1, 500, {0, 1, -1, 0, 0, 0}, 640, 480),
+             .mediaHeader = mediaHeader(1000, 500),
+             .handlerType = "pict",
+             .descriptions = sampleDescriptions({videoEntry({.code = "hvc1", .width = 640})}),
+             .times = timeToSample({{5, 100}}),
+             .sizes = constantSampleSize(100, 5)});
+  return joined({fileType("msf1"), box("moov", {movieHeader(1000, 500), images})});
+}
+
+TEST_F(AssetFactsTest, OfASequenceOfImages) {
+  const AssetFacts facts = factsOf(_folder.write("images.heic", imageSequence()));
+  EXPECT_TRUE(facts.isVideo);
+  EXPECT_EQ(facts.uniformTypeIdentifier, "public.heif");
+  EXPECT_EQ(facts.pixelWidth, 480);
+  EXPECT_EQ(facts.pixelHeight, 640);
+  EXPECT_EQ(facts.duration, 0.5);
+  ASSERT_TRUE(facts.asset);
+  ASSERT_EQ(facts.asset->tracks.size(), 1U);
+  EXPECT_EQ(facts.asset->tracks[0].mediaType, "pict");
+  EXPECT_EQ(facts.asset->tracks[0].nominalFrameRate, 10);
+}
+
+TEST_F(AssetFactsTest, AMovieCutInItsHeaderSaysSo) {
+  const movie::Bytes whole = movie::webMovie();
+  const AssetFacts facts =
+      factsOf(_folder.write("cut.mp4", movie::Bytes(whole.begin(), whole.begin() + 600)));
+  EXPECT_TRUE(facts.isVideo);
+  EXPECT_EQ(facts.shortfall, "truncated movie");
+  EXPECT_EQ(facts.duration, 10.01);
+}
+
+TEST_F(AssetFactsTest, ALinkSaysWhatItsFileSays) {
+  const std::string file = _folder.write("root/var/mobile/photo.jpg", sampleJpeg({}));
+  std::filesystem::create_directory_symlink("root/var", _folder.file("var"));
+  std::filesystem::create_symlink("var/mobile/photo.jpg", _folder.file("link.png"));
+  const AssetFacts facts = factsOf(_folder.file("link.png"));
+  EXPECT_EQ(facts.path, "/var/mobile/photo.jpg");
+  EXPECT_EQ(facts.fileSize, std::filesystem::file_size(file));
+  EXPECT_EQ(facts.fileModificationDate, factsOf(file).fileModificationDate);
+  EXPECT_EQ(facts.properties, factsOf(file).properties);
+}
+
 TEST_F(AssetFactsTest, ThePathIsTheDevicesBelowTheRoot) {
   const std::string below = "var/mobile/Media/DCIM/100APPLE/IMG_0001.JPG";
   const std::string path = _folder.write("root/" + below, sampleJpeg({}));
   EXPECT_EQ(factsOf(path).path, "/" + below);
   EXPECT_EQ(factsOf("/" + below).path, "/" + below) << "a path of the device is found on disk";
-}
-
-TEST_F(AssetFactsTest, ALinkIsReadButKeepsItsOwnPath) {
-  const std::string path = _folder.write("photo.jpg", sampleJpeg({}));
-  std::filesystem::create_symlink("photo.jpg", _folder.file("link.jpg"));
-  EXPECT_EQ(factsOf(_folder.file("link.jpg")).path, _folder.file("link.jpg"));
-  EXPECT_EQ(factsOf(_folder.file("link.jpg")).fileSize, factsOf(path).fileSize);
 }
 
 TEST_F(AssetFactsTest, ReadsNamesThatAreNoText) {

@@ -23,6 +23,9 @@ TEST(MediaKindTest, goesByTheNamesExtension) {
       {"a.png", MediaKind::image},
       {"a.webp", MediaKind::image},
       {"a.dng", MediaKind::image},
+      {"a.raf", MediaKind::image},
+      {"a.cr3", MediaKind::image},
+      {"a.psd", MediaKind::image},
       {"IMG_0002.MOV", MediaKind::video},
       {"a.mp4", MediaKind::video},
       {"a.mkv", MediaKind::video},
@@ -61,6 +64,8 @@ TEST(MediaKindTest, goesByTheFirstBytes) {
        none},
       {"\0\0\0\x08wide\0\0\0\0mdat"sv, MediaKind::video},
       {"\x1A\x45\xDF\xA3\x93\x42\x82\x84webm"sv, MediaKind::video},
+      {"FUJIFILMCCD-RAW 0201"sv, MediaKind::image},
+      {"8BPS\0\1"sv, MediaKind::image},
       {"The free software that this is"sv, none},
       {"plain text"sv, none},
       {"OggS\0\2"sv, none},
@@ -79,6 +84,19 @@ TEST(MediaKindTest, whatIsNoFileIsRefused) {
   const support::TemporaryFolder folder;
   EXPECT_EQ(mediaKindOfContent(folder.file("none")).error().reason, "No such file or directory");
   EXPECT_EQ(mediaKindOfContent(folder.path()).error().reason, "Is a directory");
+}
+
+TEST(MediaKindTest, imagesWithoutAStillAreAVideo) {
+  const support::TemporaryFolder folder;
+  const std::string_view type =
+      "\0\0\0\x14"
+      "ftyphevc\0\0\0\0msf1"sv;
+  const std::string_view movie = "\0\0\0\x08moov"sv;
+  const std::string_view items = "\0\0\0\x0Cmeta\0\0\0\0"sv;
+  const std::string sequence = folder.write("a", std::string(type).append(movie));
+  const std::string both = folder.write("b", std::string(type).append(items).append(movie));
+  EXPECT_EQ(*mediaKindOfContent(sequence), MediaKind::video);
+  EXPECT_EQ(*mediaKindOfContent(both), MediaKind::image);
 }
 
 }  // namespace

@@ -9,8 +9,10 @@
 #include <functional>
 
 #include "io/source_reader.h"
+#include "media/image/blocks/limits.h"
 #include "tests/media/image/container_builder.h"
 #include "tests/media/image/heif_builder.h"
+#include "tests/media/image/raw/raw_builder.h"
 #include "tests/support/tiff_builder.h"
 
 namespace media::image {
@@ -71,6 +73,71 @@ std::vector<Sample> samples(std::size_t padding) {
   };
 }
 
+// Small files of the kinds of which little is read, with the metadata that they can hold.
+std::vector<Sample> rareSamples() {
+  const std::string exif = exifBlock("Maker", 6);
+  const std::string xmp = xmpPacket("<photoshop:City>Kingston</photoshop:City>");
+  const std::vector<FieldToWrite> sensor = {shorts(4, {6}), shorts(5, {8}), shorts(6, {2742}),
+                                            shorts(7, {3656}), shorts(10, {12})};
+  const std::vector<FieldToWrite> preview = {longs(0x0100, {160}), longs(0x0101, {120}),
+                                             pointerTo(0x8769, 1)};
+  const auto size = littleEndian(3072, 4) + littleEndian(2048, 4) + std::string(8, '\0');
+  const std::string first(
+      asText(buildTiff(io::ByteOrder::little, {{shorts(0x0100, {6000}), shorts(0x0101, {4000})}})));
+  return {
+      {"RAF", rafFile({})},
+      {"RW2", rw2File(sensor, innerJpeg())},
+      {"CR2", cr2File(preview, {longs(0xA002, {3504}), longs(0xA003, {2336})}, innerJpeg())},
+      {"CR3",
+       cr3File({.first = first, .exif = exif, .gps = exif, .xmp = xmp, .tracks = {{8, 14}}})},
+      {"CRW", crwFile({{0x300A, ciffHeap({{0x1810, size}, {0x080A, "Canon\0EOS"s}})}})},
+      {"MRW", mrwFile(mrwSensor(3264, 2448, 12) + mrwBlock("TTW", exif))},
+      {"X3F", x3fFile(2, 2268, 1512, 90,
+                      {{"IMA2", std::string(28, '\0') + innerJpeg()},
+                       {"PROP", x3fProperties({{"ISO", "100"}, {"CAMMANUF", "SIGMA"}})}})},
+      {"JP2", isoBox("jP  ", "\r\n\x87\n") +
+                  isoBox("jp2h", isoBox("ihdr", "\0\0\0\6\0\0\0\x08\0\3\7\7\0\0"s) +
+                                     isoBox("colr", "\2\0\0"s + iccProfile("Display P3"))) +
+                  isoBox("uuid", "JpgTiffExif->JP2" + exif)},
+      {"PSD", "8BPS\0\1\0\0\0\0\0\0\0\3\0\0\0\6\0\0\0\x08\0\x08\0\3\0\0\0\0"s +
+                  bigEndian(photoshopResource(1058, exif).size(), 4) +
+                  photoshopResource(1058, exif) + std::string(20, '\0')},
+      {"ICO", "\0\0\1\0\1\0\x08\6\0\0\1\0\x20\0\x30\0\0\0\x16\0\0\0"s + pngHeader(8, 6) +
+                  std::string(40, '\0')},
+      {"TGA", "\0\0\2\0\0\0\0\0\0\0\0\0\x08\0\6\0\x18\0"s + std::string(144, 'c')},
+      {"EXR", "\x76\x2F\x31\x01\2\0\0\0dataWindow\0box2i\0\x10\0\0\0"s + std::string(8, '\0') +
+                  "\7\0\0\0\5\0\0\0"s + "\0"s},
+  };
+}
+
+std::vector<Sample> allSamples() {
+  auto all = samples(100);
+  for (Sample& sample : rareSamples()) all.push_back(std::move(sample));
+  return all;
+}
+
+// Whatever a file claims, no more than the limit is read of it.
+TEST(ImageSource, littleIsReadOfTheRarerKinds) {
+  for (Sample& sample : rareSamples()) {
+    const std::string whole = sample.bytes + std::string(400'000, 'f');
+    for (std::size_t offset = 0; offset + 4 <= sample.bytes.size(); offset += 5) {
+      std::string damaged = whole;
+      damaged.replace(offset, 4, bigEndian(300'000, 4));
+      io::MemorySource source(bytesOf(damaged));
+      const auto properties = copyProperties(source);
+      // What is no longer of its kind may be another one, which has no such limit.
+      if (properties && *properties) EXPECT_TRUE(entry(**properties, "", "PixelWidth"));
+      if (offset >= 64) EXPECT_LE(source.bytesRead(), limits.rareKindBytes) << sample.name;
+    }
+  }
+}
+
+TEST(ImageSource, theRarerKindsAreRead) {
+  for (const Sample& sample : rareSamples()) {
+    EXPECT_TRUE(entry(propertiesOf(sample.bytes), "", "PixelWidth")) << sample.name;
+  }
+}
+
 TEST(ImageSource, whatIsNoImageHasNoProperties) {
   for (const std::string& bytes :
        {"some text"s, "\0"s, isoBox("ftyp", "qt  \0\0\0\0"s) + isoBox("moov", ""),
@@ -111,7 +178,7 @@ TEST(ImageSource, aReadThatFailsAnywhereIsAnErrorOrWasNotNeeded) {
 }
 
 TEST(ImageSource, aFileCutAnywhereGivesAnErrorOrLess) {
-  for (const Sample& sample : samples(100)) {
+  for (const Sample& sample : allSamples()) {
     int read = 0;
     for (std::size_t length = 1; length < sample.bytes.size(); ++length) {
       io::MemorySource source(bytesOf(std::string_view(sample.bytes).substr(0, length)));
@@ -131,7 +198,7 @@ TEST(ImageSource, aFileCutAnywhereGivesAnErrorOrLess) {
 }
 
 TEST(ImageSource, anyByteMayHaveAnyValue) {
-  for (const Sample& sample : samples(100)) {
+  for (const Sample& sample : allSamples()) {
     int read = 0;
     for (std::size_t offset = 0; offset < sample.bytes.size(); ++offset) {
       for (const char byte : {'\0', '\1', '\x7F', '\x80', '\xFF'}) {
@@ -150,7 +217,7 @@ TEST(ImageSource, anyByteMayHaveAnyValue) {
 }
 
 TEST(ImageSource, anyFourBytesMayBeAnyNumber) {
-  for (const Sample& sample : samples(100)) {
+  for (const Sample& sample : allSamples()) {
     int read = 0;
     for (std::size_t offset = 0; offset + 4 <= sample.bytes.size(); ++offset) {
       for (const std::uint32_t number : {0xFFFFFFFFU, 0x7FFFFFFFU, 0x80000000U, 1U}) {

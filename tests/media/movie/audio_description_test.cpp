@@ -58,8 +58,8 @@ TEST(AudioDescription, NamesCompressedSound) {
     Bytes entry;
     std::string expected;
   } cases[] = {
-      {soundEntry("samr", 1, 16, 8000), "samr 8000 0 0 160 0 1 0"},
-      {soundEntry("sawb", 1, 16, 16000), "sawb 16000 0 0 320 0 1 0"},
+      {soundEntry("samr", 2, 16, 8000), "samr 8000 0 0 160 0 1 0"},
+      {soundEntry("sawb", 2, 16, 16000), "sawb 16000 0 0 320 0 1 0"},
       {soundEntry(".mp3", 2, 16, 44100), ".mp3 44100 0 0 1152 0 2 0"},
       {soundEntry(std::string_view("ms\0U", 4), 2, 16, 22050), ".mp3 22050 0 0 576 0 2 0"},
       {soundEntry("ac-3", 6, 16, 48000), "ac-3 48000 0 0 1536 0 6 0"},

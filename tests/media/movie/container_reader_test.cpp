@@ -15,6 +15,7 @@
 #include "tests/media/movie/reading.h"
 #include "tests/support/avi_builder.h"
 #include "tests/support/crowded_containers.h"
+#include "tests/support/webm_builder.h"
 #include "workers/sanitizer.h"
 
 namespace media::movie {
@@ -71,6 +72,45 @@ TEST_F(ContainerReaderTest, TellsWhatALimitCut) {
     EXPECT_EQ((*movie)->asset.tracks.size(), containerLimits.tracks);
     EXPECT_THAT((*movie)->shortfall, HasSubstr("some of its tracks are left out"));
   }
+}
+
+// Two seconds of video at 25 frames a second, and one of sound at 50 packets.
+std::vector<WebmPacket> webmPackets() {
+  std::vector<WebmPacket> packets;
+  for (std::uint16_t frame = 0; frame < 50; ++frame) {
+    const auto time = static_cast<std::uint16_t>(frame * 20);
+    packets.push_back({2, time, 100});
+    if (frame % 2 == 0) packets.push_back({1, time, 1000});
+  }
+  for (std::uint16_t frame = 25; frame < 50; ++frame)
+    packets.push_back({1, static_cast<std::uint16_t>(frame * 40), 1000});
+  return packets;
+}
+
+TEST_F(ContainerReaderTest, AddsUpThePacketsOfEachTrackOfWebm) {
+  const auto movie = readFile("recorded.webm", webmMovie(webmPackets()));
+  ASSERT_TRUE(movie && *movie && (*movie)->asset.tracks.size() == 2);
+  const model::Track& video = (*movie)->asset.tracks[0];
+  EXPECT_NEAR(video.duration, 2, 1e-6);
+  EXPECT_NEAR(video.estimatedDataRate, 8 * 1000 * 25, 1);
+  EXPECT_NEAR(video.nominalFrameRate, 25, 1e-3);
+  const model::Track& sound = (*movie)->asset.tracks[1];
+  EXPECT_NEAR(sound.duration, 1, 1e-6);
+  EXPECT_NEAR(sound.estimatedDataRate, 8 * 100 * 50, 1);
+  EXPECT_NEAR(sound.nominalFrameRate, 50, 1e-3);
+}
+
+TEST_F(ContainerReaderTest, TakesTheStatisticsThatWebmStates) {
+  const auto movie =
+      readFile("edited.webm", webmMovie(webmPackets(), {{"BPS-eng", "123456"},
+                                                        {"DURATION-eng", "00:01:04.5"},
+                                                        {"NUMBER_OF_FRAMES", "129"}}));
+  ASSERT_TRUE(movie && *movie && (*movie)->asset.tracks.size() == 2);
+  const model::Track& video = (*movie)->asset.tracks[0];
+  EXPECT_EQ(video.duration, 64.5);
+  EXPECT_EQ(video.estimatedDataRate, 123456);
+  EXPECT_EQ(video.nominalFrameRate, 2);
+  EXPECT_NEAR((*movie)->asset.tracks[1].duration, 1, 1e-6);
 }
 
 TEST_F(ContainerReaderTest, StaysWithinItsMemoryWhateverItReads) {

@@ -60,7 +60,7 @@ TEST(MediaSource, ReadsOnlyTheNeededTablesOfALongMovie) {
       joined({fileType("isom"), box("moov", {movieHeader(1000, 1000), trak}), codedSamples(10)}));
   const auto asset = copyAsset(source);
   ASSERT_TRUE(asset && *asset);
-  EXPECT_EQ((*asset)->tracks[0].estimatedDataRate, 8.0F * 9 * samples);
+  EXPECT_EQ((*asset)->asset.tracks[0].estimatedDataRate, 8.0F * 9 * samples);
   EXPECT_LE(source.bytesRead(), 128U * 1024);
 }
 

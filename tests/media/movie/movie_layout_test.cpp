@@ -43,13 +43,23 @@ TEST(MovieLayout, LeavesOtherFilesAlone) {
       Writer().text("xxxxfree as a bird"),
       Writer().text("abc"),
       joined({fileType("heic"), box("meta", Bytes(20, 0))}),
-      joined({fileType("avif"), emptyMovie()}),
+      joined({fileType("jp2 "), emptyMovie()}),
+      joined({fileType("msf1"), box("meta", Bytes(20, 0)), emptyMovie()}),
+      joined({fileType("hevc"), emptyMovie(), box("meta", Bytes(20, 0))}),
+      joined({fileType("msf1"), codedSamples(20)}),
+      joined({fileType("hevc"), Writer().u32(900).text("mdat")}),
       joined({fileType("crx "), emptyMovie()}),
       box("free", Bytes(100, 0)),
       Writer().u32(0x7FFFFFFF).text("skip").zeros(40),
   };
   for (std::size_t index = 0; index < std::size(others); ++index)
     EXPECT_EQ(outcomeOf(others[index]), "none") << index;
+}
+
+TEST(MovieLayout, TakesImagesWithoutAStillForAMovie) {
+  for (const std::string_view brand : {"msf1", "hevc", "hevx", "avis"})
+    EXPECT_EQ(outcomeOf(joined({fileType(brand), codedSamples(9), emptyMovie()})), "asset")
+        << brand;
 }
 
 TEST(MovieLayout, TellsWhatIsMissing) {

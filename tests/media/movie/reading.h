@@ -16,15 +16,16 @@ namespace media::movie {
 struct Reading {
   model::MediaAsset asset;
   std::string outcome = "asset";
+  std::string shortfall = {};
 };
 
 inline Reading readBytes(const Bytes& bytes) {
   support::keepSeed(bytes);
   io::MemorySource source(bytes);
-  auto asset = copyAsset(source);
-  if (!asset) return {{}, "error: " + asset.error().reason};
-  if (!*asset) return {{}, "none"};
-  return {std::move(**asset)};
+  auto movie = copyAsset(source);
+  if (!movie) return {{}, "error: " + movie.error().reason};
+  if (!*movie) return {{}, "none"};
+  return {std::move((*movie)->asset), "asset", std::move((*movie)->shortfall)};
 }
 
 // What is read of a file of that name with these bytes.

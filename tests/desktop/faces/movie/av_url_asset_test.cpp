@@ -36,7 +36,7 @@ TEST_F(AVURLAssetTest, tellsAllThatThePlainReaderTells) {
   io::MemorySource source(media::movie::phoneMovie());
   const auto read = media::movie::copyAsset(source);
   ASSERT_TRUE(read && *read);
-  model::MediaAsset expected = **read;
+  model::MediaAsset expected = (*read)->asset;
   ASSERT_GE(expected.tracks.size(), 2U);
   const AVURLAsset asset = open("file:///var/mobile/a.mov");
   EXPECT_EQ(CMTimeGetSeconds(send<CMTime, "duration">(asset)), expected.duration);

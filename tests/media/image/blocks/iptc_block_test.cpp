@@ -97,6 +97,28 @@ TEST(IptcBlock, theCharacterSetIsAnnounced) {
   EXPECT_EQ(iptcOf(iptcDataset(2, 90, "Zürich")).at("City"), "Zürich");
 }
 
+TEST(IptcBlock, withoutACharacterSetHighBytesAreLetters) {
+  EXPECT_EQ(iptcOf(iptcDataset(2, 120, "d\x92Orsay \x96 Paris")).at("Caption/Abstract"),
+            "d’Orsay – Paris");
+}
+
+TEST(IptcBlock, emptyDatasetsDoNotHideFilledOnes) {
+  const std::string empty = iptcDataset(2, 90, "") + iptcDataset(2, 25, "") + iptcDataset(2, 5, "");
+  const std::string filled = iptcDataset(2, 90, "Kingston") + iptcDataset(2, 25, "harbour");
+  const model::Dictionary expected = {
+      {"City", "Kingston"}, {"Keywords", Array{"harbour"}}, {"ObjectName", ""}};
+  model::Dictionary properties;
+  readIptcBlock(viewOf(empty), properties);
+  EXPECT_TRUE(hasEmptyDatasets(properties));
+  readIptcBlock(viewOf(filled), properties);
+  EXPECT_EQ(properties.at("{IPTC}"), Value(expected));
+  readIptcBlock(viewOf(empty), properties);
+  EXPECT_EQ(properties.at("{IPTC}"), Value(expected));
+  EXPECT_EQ(iptcOf(iptcDataset(2, 90, "") + filled).at("City"), "Kingston");
+  EXPECT_FALSE(hasEmptyDatasets({{"{IPTC}", model::Dictionary{{"City", "Kingston"}}}}));
+  EXPECT_FALSE(hasEmptyDatasets({}));
+}
+
 TEST(IptcBlock, extendedDatasetsHaveALengthOfTheirOwn) {
   const std::string text(40'000, 'x');
   EXPECT_EQ(

@@ -65,6 +65,7 @@ TEST(HeifContainer, readsThePrimaryImageAndItsBlocks) {
                                             {"Orientation", 6},
                                             {"PixelHeight", 3024},
                                             {"PixelWidth", 4032},
+                                            {"PrimaryImage", true},
                                             {"ProfileName", "Display P3"},
                                             {"{IPTC}", model::Dictionary{{"City", "Kingston"}}},
                                             {"{TIFF}", model::Dictionary{{"Make", "Maker"},
@@ -137,11 +138,36 @@ TEST(HeifContainer, turnsAndMirroringsBecomeAnOrientation) {
   }
 }
 
-TEST(HeifContainer, theOrientationOfExifGoesFirst) {
-  HeifToWrite heif = single();
-  heif.properties.push_back(isoBox("irot", "\2"));
-  heif.items[0].properties.push_back(4);
-  EXPECT_EQ(*entry(propertiesOf(heifFile(heif)), "", "Orientation"), 6);
+TEST(HeifContainer, turnsOfTheImageGoBeforeTheOrientationOfExif) {
+  const struct {
+    std::string property;
+    int orientation;
+  } cases[] = {{isoBox("irot", "\2"), 3},
+               {isoBox("irot", std::string(1, '\0')), 1},
+               {isoBox("imir", "\1"), 2},
+               {isoBox("clap", std::string(32, '\1')), 6}};
+  for (const auto& row : cases) {
+    HeifToWrite heif = single();
+    heif.properties.push_back(row.property);
+    heif.items[0].properties.push_back(4);
+    const auto properties = propertiesOf(heifFile(heif));
+    EXPECT_EQ(*entry(properties, "", "Orientation"), row.orientation) << row.property;
+    EXPECT_EQ(*entry(properties, "{TIFF}", "Orientation"), row.orientation) << row.property;
+  }
+}
+
+TEST(HeifContainer, aSequenceWithoutAStillIsNoImage) {
+  const auto read = [](const std::string& bytes) {
+    io::MemorySource source({bytes.begin(), bytes.end()});
+    return copyProperties(source);
+  };
+  const std::string sequence = isoBox("ftyp", "msf1" + bigEndian(0, 4) + "hevc");
+  const auto properties = read(sequence + isoBox("moov", isoBox("mvhd", std::string(100, '\0'))));
+  ASSERT_TRUE(properties);
+  EXPECT_FALSE(*properties);
+  const auto damaged = read(sequence + isoBox("mdat", "coded"));
+  ASSERT_FALSE(damaged);
+  EXPECT_EQ(damaged.error().reason, "damaged HEIF");
 }
 
 TEST(HeifContainer, depthAndColoursComeFromWhereTheyAre) {

@@ -136,7 +136,17 @@ TEST(ExifSection, aDivisionByZeroLeavesTheKeyOut) {
   const TagCase cases[] = {
       {"ExposureTime", rationals(0x829A, {{0, 0}}), std::nullopt},
       {"FNumber", rationals(0x829D, {{28, 0}}), std::nullopt},
-      {"LensSpecification", rationals(0xA432, {{24, 1}, {70, 1}, {0, 0}, {0, 0}}), std::nullopt},
+      {"LensSpecification", rationals(0xA432, {{24, 1}, {70, 1}, {28, 0}, {0, 0}}), std::nullopt},
+      {"ISOSpeedRatings", rationals(0x8827, {{0, 0}}), std::nullopt},
+  };
+  expectExif(cases);
+}
+
+TEST(ExifSection, anUnknownEntryAmongSeveralIsZero) {
+  const TagCase cases[] = {
+      {"LensSpecification", rationals(0xA432, {{18, 1}, {55, 1}, {0, 0}, {0, 0}}),
+       Array{18.0, 55.0, 0.0, 0.0}},
+      {"SubjectArea", rationals(0x9214, {{0, 0}, {3, 2}}), Array{0.0, 1.5}},
   };
   expectExif(cases);
 }

@@ -126,28 +126,29 @@ TEST(TiffFile, theMainImageOfARawFileIsItsFullOne) {
       {"an Exif directory in a file that is no raw file",
        {sized(640, 480, {pointerTo(0x8769, 1)}), {longs(0xA002, {639}), longs(0xA003, {479})}},
        640},
-      {"the borders of a sensor",
-       {{shorts(4, {8}), shorts(5, {12}), shorts(6, {2752}), shorts(7, {3660})}},
-       3648},
   };
   for (const SizeCase& one : cases) {
     EXPECT_EQ(propertyOf(one.ifds, "PixelWidth"), Value(one.width)) << one.name;
   }
 }
 
-TEST(TiffFile, canonRawFilesHaveTheSizeOfTheExifDirectory) {
-  Bytes bytes = buildTiff(io::ByteOrder::little, {sized(1536, 1024, {pointerTo(0x8769, 1)}),
-                                                  {longs(0xA002, {3504}), longs(0xA003, {2336})}});
-  // The mark stands where the first directory would, which moves behind the structure.
-  const Bytes directory(bytes.begin() + 8, bytes.end());
-  const std::uint8_t mark[] = {'C', 'R', 2, 0, 0, 0, 0, 0};
-  Bytes marked(bytes.begin(), bytes.begin() + 4);
-  const auto place = static_cast<std::uint8_t>(bytes.size());
-  marked.insert(marked.end(), {place, 0, 0, 0});
-  marked.insert(marked.end(), std::begin(mark), std::end(mark));
-  marked.insert(marked.end(), bytes.begin() + 16, bytes.end());
-  marked.insert(marked.end(), directory.begin(), directory.end());
-  EXPECT_EQ(readFile(marked).at("PixelWidth"), Value(3504));
+TEST(TiffFile, anImageThatOnlyTheExifDirectoryDescribesIsASensors) {
+  const std::vector<Fields> ifds = {{shorts(0x0103, {6}), pointerTo(0x8769, 1)},
+                                    {longs(0xA002, {3872}), longs(0xA003, {2592})}};
+  EXPECT_EQ(propertyOf(ifds, "PixelWidth"), Value(3872));
+  EXPECT_EQ(propertyOf(ifds, "ColorModel"), Value("RGB"));
+  EXPECT_EQ(propertyOf(ifds, "Depth"), Value());
+}
+
+TEST(TiffFile, aSensorInBlackAndWhiteIsInColour) {
+  Bytes orf = buildTiff(io::ByteOrder::little,
+                        {sized(4100, 3084, {shorts(0x0102, {16}), shorts(0x0106, {1})})});
+  for (const char last : {'O', 'S'}) {
+    orf[2] = 'R';
+    orf[3] = static_cast<std::uint8_t>(last);
+    EXPECT_EQ(readFile(orf).at("ColorModel"), Value("RGB"));
+    EXPECT_EQ(readFile(orf).at("Depth"), Value(16));
+  }
 }
 
 TEST(TiffFile, whatHasNoSizeIsAnError) {

@@ -5,6 +5,7 @@
 
 #include "media/image/blocks/metadata_blocks.h"
 #include "model/description.h"
+#include "tests/media/image/container_builder.h"
 #include "tests/support/tiff_builder.h"
 
 namespace media::image {
@@ -127,6 +128,14 @@ TEST(ExifBlock, sharedBytesCostLittle) {
   const Bytes block = buildTiff(io::ByteOrder::big, {fields});
   const Dictionary properties = readBlock(block);
   EXPECT_LT(model::description(model::Value(properties)).size(), 16 * block.size());
+}
+
+TEST(ExifBlock, photoshopsDatasetsFillWhatTheOthersLeaveEmpty) {
+  const std::string empty = iptcDataset(2, 90, "");
+  const std::string filled = photoshopResource(0x0404, iptcDataset(2, 90, "Kingston"));
+  const Bytes block =
+      buildTiff(io::ByteOrder::big, {{undefined(0x8649, filled), undefined(0x83BB, empty)}});
+  EXPECT_EQ(readBlock(block), (Dictionary{{"{IPTC}", Dictionary{{"City", "Kingston"}}}}));
 }
 
 TEST(ExifBlock, otherBytesAreNoBlock) {

@@ -3,7 +3,9 @@
 
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
+#include "media/image/blocks/shortfall.h"
 #include "tests/media/image/container_builder.h"
+#include "tests/media/image/xmp/xmp_elements.h"
 
 namespace media::image {
 namespace {
@@ -12,26 +14,6 @@ using namespace std::string_literals;
 using model::Array;
 using model::Dictionary;
 using model::Value;
-
-Dictionary read(std::string_view packet) {
-  Dictionary properties;
-  readXmpPacket(viewOf(packet), properties);
-  return properties;
-}
-
-Dictionary readElements(std::string_view elements) {
-  return read(xmpPacket(elements));
-}
-
-std::string list(std::string_view kind, const std::vector<std::string>& items) {
-  std::string text = "<rdf:" + std::string(kind) + ">";
-  for (const std::string& item : items) text += "<rdf:li>" + item + "</rdf:li>";
-  return text + "</rdf:" + std::string(kind) + ">";
-}
-
-std::string element(std::string_view name, std::string_view content) {
-  return "<" + std::string(name) + ">" + std::string(content) + "</" + std::string(name) + ">";
-}
 
 TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
   struct Case {
@@ -71,11 +53,21 @@ TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
        "{IPTC}", "CreatorContactInfo", Dictionary{{"CiAdrCity", "Kingston"}}},
       {"Iptc4xmpExt:LocationShown", "<rdf:Bag><rdf:li Iptc4xmpExt:City='Kingston'/></rdf:Bag>",
        "{IPTC}", "LocationShown", Array{Dictionary{{"City", "Kingston"}}}},
+      {"Iptc4xmpExt:Event", language, "{IPTC}", "Event", "Title"},
+      {"Iptc4xmpExt:PersonInImage", "Ada", "{IPTC}", "PersonInImage", Array{"Ada"}},
+      {"Iptc4xmpExt:MaxAvailWidth", "4032", "{IPTC}", "MaxAvailWidth", "4032"},
+      {"Iptc4xmpExt:ArtworkOrObject",
+       "<rdf:Bag><rdf:li rdf:parseType='Resource'><Iptc4xmpExt:AOContentDescription>" + language +
+           "</Iptc4xmpExt:AOContentDescription><Iptc4xmpExt:AOCreator>" +
+           list("Seq", {"Ada", "Bob"}) + "</Iptc4xmpExt:AOCreator></rdf:li></rdf:Bag>",
+       "{IPTC}", "ArtworkOrObject",
+       Array{Dictionary{{"AOContentDescription", "Title"}, {"AOCreator", Array{"Ada", "Bob"}}}}},
       {"xmp:Rating", "4", "{IPTC}", "StarRating", 4},
       {"xmp:Rating", "-1", "{IPTC}", "StarRating", -1},
       {"xmpRights:UsageTerms", language, "{IPTC}", "UsageTerms", "Title"},
       {"aux:Lens", "EF 50mm", "{ExifAux}", "LensModel", "EF 50mm"},
       {"aux:LensInfo", "24/1 120/1 4/1 4/1", "{ExifAux}", "LensInfo", Array{24.0, 120.0, 4.0, 4.0}},
+      {"aux:LensInfo", "18/1 55/1 0/0 0/0", "{ExifAux}", "LensInfo", Array{18.0, 55.0, 0.0, 0.0}},
       {"aux:LensID", "170", "{ExifAux}", "LensID", 170},
       {"aux:SerialNumber", "6001440", "{ExifAux}", "SerialNumber", "6001440"},
       {"aux:ImageNumber", "8458", "{ExifAux}", "ImageNumber", 8458},
@@ -124,6 +116,8 @@ TEST(XmpPacket, propertiesAreShownUnderTheirKeys) {
 TEST(XmpPacket, valuesThatDoNotReadAreLeftOut) {
   const std::string elements[] = {
       element("exif:FNumber", "28/0"),
+      element("exif:FNumber", "0/0"),
+      element("exifEX:LensSpecification", list("Seq", {"24/1", "70/1", "28/0", "0/0"})),
       element("exif:FNumber", "fast"),
       element("exif:FNumber", "nan"),
       element("exif:ExifVersion", "2.2"),
@@ -138,6 +132,13 @@ TEST(XmpPacket, valuesThatDoNotReadAreLeftOut) {
       element("photoshop:City", ""),
       element("dc:subject", list("Bag", {})),
       element("photoshop:Other", "x"),
+      element("photoshop:DateCreated", "2012"),
+      element("xmp:ModifyDate", "2012-08-08"),
+      element("Iptc4xmpExt:", "x"),
+      element("Iptc4xmpExt:Ev\xFF", "x"),
+      element("Iptc4xmpExt:Event", ""),
+      element("Iptc4xmpExt:LocationShown", list("Bag", {"", ""})),
+      element("Iptc4xmpExt:ArtworkOrObject", list("Bag", {"<Iptc4xmpExt:AOTitle/>"})),
       element("unknown:City", "x"),
       element("City", "x"),
       element("mwg-rs:Regions", ""),
@@ -146,10 +147,11 @@ TEST(XmpPacket, valuesThatDoNotReadAreLeftOut) {
 }
 
 TEST(XmpPacket, attributesAndElementsMeanTheSame) {
-  EXPECT_EQ(read("<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+  EXPECT_EQ(
+      readPacket("<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
                  "<rdf:Description xmlns:p='http://ns.adobe.com/photoshop/1.0/' p:City='Kingston'/>"
                  "</rdf:RDF>"),
-            readElements(element("photoshop:City", "Kingston")));
+      readElements(element("photoshop:City", "Kingston")));
 }
 
 TEST(XmpPacket, namespacesCountAndPrefixesDoNot) {
@@ -160,9 +162,9 @@ TEST(XmpPacket, namespacesCountAndPrefixesDoNot) {
            "'>Kingston</exif:City>"
            "</r:Description></r:RDF>";
   };
-  EXPECT_EQ(*entry(read(packet("http://ns.adobe.com/photoshop/1.0/")), "{IPTC}", "City"),
+  EXPECT_EQ(*entry(readPacket(packet("http://ns.adobe.com/photoshop/1.0/")), "{IPTC}", "City"),
             "Kingston");
-  EXPECT_TRUE(read(packet("http://example.com/")).empty());
+  EXPECT_TRUE(readPacket(packet("http://example.com/")).empty());
 }
 
 TEST(XmpPacket, aValueMayHaveQualifiers) {
@@ -229,7 +231,7 @@ TEST(XmpPacket, anyUnicodeEncodingIsRead) {
         wide(true, ""), wide(false, ""), packet + std::string(100, '\0'),
         "<?xpacket begin='\xEF\xBB\xBF' id='W5M0MpCehiHzreSzNTczkc9d'?>" + packet +
             std::string(2000, ' ') + "<?xpacket end='w'?>"}) {
-    const Dictionary properties = read(encoded);
+    const Dictionary properties = readPacket(encoded);
     ASSERT_TRUE(entry(properties, "{IPTC}", "City"));
     EXPECT_EQ(*entry(properties, "{IPTC}", "City"), "Kingston");
   }
@@ -244,10 +246,10 @@ TEST(XmpPacket, aPacketCutAnywhereIsReadAsFarAsItGoes) {
   const std::string packet =
       xmpPacket(element("photoshop:City", "Kingston") + element("photoshop:State", "Ontario"));
   for (std::size_t length = 0; length <= packet.size(); ++length) {
-    const Dictionary properties = read(packet.substr(0, length));
+    const Dictionary properties = readPacket(packet.substr(0, length));
     EXPECT_LE(properties.size(), 1U) << length;
   }
-  const Dictionary cut = read(packet.substr(0, packet.find("<photoshop:State>")));
+  const Dictionary cut = readPacket(packet.substr(0, packet.find("<photoshop:State>")));
   EXPECT_EQ(*entry(cut, "{IPTC}", "City"), "Kingston");
 }
 
@@ -255,7 +257,7 @@ TEST(XmpPacket, entitiesAreNotExpanded) {
   const std::string packet =
       "<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;'>]>" +
       xmpPacket(element("photoshop:City", "&b;&amp;"));
-  const Dictionary properties = read(packet);
+  const Dictionary properties = readPacket(packet);
   ASSERT_TRUE(entry(properties, "{IPTC}", "City"));
   EXPECT_EQ(*entry(properties, "{IPTC}", "City"), "&b;&");
 }
@@ -268,7 +270,7 @@ TEST(XmpPacket, nestingThousandsDeepIsCutOff) {
     closing += "</photoshop:City>";
   }
   EXPECT_TRUE(readElements(opening + "x" + closing).empty());
-  EXPECT_TRUE(read(opening).empty());
+  EXPECT_TRUE(readPacket(opening).empty());
   std::string lists;
   for (int depth = 0; depth < 20'000; ++depth) lists += "<rdf:Bag><rdf:li>";
   EXPECT_TRUE(readElements("<dc:subject>" + lists).empty());
@@ -277,7 +279,9 @@ TEST(XmpPacket, nestingThousandsDeepIsCutOff) {
 TEST(XmpPacket, packetsOfTooManyElementsAreLeftOut) {
   std::string many;
   for (std::size_t index = 0; index <= limits.xmpElements; ++index) many += "<a/>";
-  EXPECT_TRUE(readElements(element("photoshop:City", "Kingston") + many).empty());
+  Dictionary properties = readElements(element("photoshop:City", "Kingston") + many);
+  EXPECT_EQ(takeShortfall(properties), droppedMetadata);
+  EXPECT_TRUE(properties.empty());
   std::string fewer;
   for (std::size_t index = 0; index < limits.xmpElements / 2; ++index) fewer += "<a/>";
   EXPECT_FALSE(readElements(element("photoshop:City", "Kingston") + fewer).empty());
@@ -300,7 +304,7 @@ TEST(XmpPacket, manyNamespacesAndAttributesCostLittle) {
   }
   const std::string packet = "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'" +
                              declarations + "><rdf:Description" + attributes + "/></rdf:RDF>";
-  EXPECT_TRUE(read(packet).empty());
+  EXPECT_TRUE(readPacket(packet).empty());
 }
 
 }  // namespace
