@@ -23,7 +23,7 @@ namespace bench {
 namespace {
 
 // exiftool rounds quotients to ten digits and drops a text's trailing blanks.
-constexpr double tolerance = 1e-8;
+constexpr double mostApart = 1e-8;
 
 std::string trimmed(std::string text) {
   text.erase(text.find_last_not_of(" \t\r\n") + 1);
@@ -170,7 +170,7 @@ void compareFile(const std::string& file, const model::Dictionary& ours,
     if (ourText == "none" && text == "none") continue;
     // The brief APEX conversion of theirs goes through a rounded power.
     const bool isApex = row.form == Form::apexTime || row.form == Form::apexAperture;
-    const bool isSame = ourText == text || areSameNumbers(ourText, text, isApex ? 1e-6 : tolerance);
+    const bool isSame = ourText == text || areSameNumbers(ourText, text, isApex ? 1e-6 : mostApart);
     tally.count(isSame, {file, std::string(row.section), std::string(row.key)}, ourText, text);
   }
 }

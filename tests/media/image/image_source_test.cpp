@@ -126,8 +126,12 @@ TEST(ImageSource, littleIsReadOfTheRarerKinds) {
       io::MemorySource source(bytesOf(damaged));
       const auto properties = copyProperties(source);
       // What is no longer of its kind may be another one, which has no such limit.
-      if (properties && *properties) EXPECT_TRUE(entry(**properties, "", "PixelWidth"));
-      if (offset >= 64) EXPECT_LE(source.bytesRead(), limits.rareKindBytes) << sample.name;
+      if (properties && *properties) {
+        EXPECT_TRUE(entry(**properties, "", "PixelWidth"));
+      }
+      if (offset >= 64) {
+        EXPECT_LE(source.bytesRead(), limits.rareKindBytes) << sample.name;
+      }
     }
   }
 }

@@ -17,8 +17,8 @@ using model::Value;
 
 constexpr std::uint32_t exposures = 8458;
 
-std::string noteOf(const std::vector<FieldToWrite>& fields,
-                   io::ByteOrder order = io::ByteOrder::big) {
+std::string nikonNote(const std::vector<FieldToWrite>& fields,
+                      io::ByteOrder order = io::ByteOrder::big) {
   return "Nikon\0\2\x10\0\0"s + std::string(asText(buildTiff(order, {fields})));
 }
 
@@ -62,7 +62,7 @@ TEST(NikonMakerNote, showsWhatCameraAndLensAre) {
                                {"LensModel", "24.0-120.0 mm f/4.0"},
                                {"SerialNumber", "6001440"}};
   for (const io::ByteOrder order : {io::ByteOrder::big, io::ByteOrder::little}) {
-    const Dictionary section = readNote(noteOf(fields, order), {{"Software", "Ver.1.01 "}});
+    const Dictionary section = readNote(nikonNote(fields, order), {{"Software", "Ver.1.01 "}});
     EXPECT_EQ(section, expected) << model::description(section);
   }
 }
@@ -88,8 +88,8 @@ TEST(NikonMakerNote, everyLayoutOfLensDataIsRead) {
     for (const Serial& serial : serials) {
       std::string data = lensData(each.version, each.idOffset, '\x7F');
       if (each.isCoded) data = coded(data, serial.key);
-      const std::string note = noteOf({ascii(0x001D, serial.text), lensOf(24, 70),
-                                       undefined(0x0098, data), longs(0x00A7, {exposures})});
+      const std::string note = nikonNote({ascii(0x001D, serial.text), lensOf(24, 70),
+                                          undefined(0x0098, data), longs(0x00A7, {exposures})});
       const Dictionary section = readNote(note, {{"Model", serial.model}});
       ASSERT_TRUE(section.contains("LensID")) << each.version << " " << serial.text;
       EXPECT_EQ(section.at("LensID"), 127) << each.version << " " << serial.text;
@@ -114,7 +114,7 @@ TEST(NikonMakerNote, aLensThatCannotBeToldIsLeftOut) {
   };
   int number = 0;
   for (const auto& fields : cases) {
-    EXPECT_FALSE(readNote(noteOf(fields)).contains("LensID")) << number;
+    EXPECT_FALSE(readNote(nikonNote(fields)).contains("LensID")) << number;
     ++number;
   }
 }
@@ -131,13 +131,13 @@ TEST(NikonMakerNote, whatIsNotKnownIsLeftOut) {
   };
   int number = 0;
   for (const auto& fields : cases) {
-    const Dictionary section = readNote(noteOf(fields), {{"Software", "Editor 4.3"}});
+    const Dictionary section = readNote(nikonNote(fields), {{"Software", "Editor 4.3"}});
     EXPECT_TRUE(section.empty()) << number++ << model::description(section);
   }
 }
 
 TEST(NikonMakerNote, otherNotesAreLeftOut) {
-  const std::string note = noteOf({ascii(0x001D, "300")});
+  const std::string note = nikonNote({ascii(0x001D, "300")});
   for (const std::string& other :
        {""s, "Nikon\0\2"s, note.substr(0, 18), "Nikon\0\1\0"s + note.substr(8), note.substr(10)}) {
     EXPECT_TRUE(readNote(other, {{"Software", "Ver.1.01"}}).empty());
@@ -146,8 +146,8 @@ TEST(NikonMakerNote, otherNotesAreLeftOut) {
 
 TEST(NikonMakerNote, anyByteMayBeWrongOrMissing) {
   const std::string note =
-      noteOf({ascii(0x001D, "6001440"), lensOf(24, 120),
-              undefined(0x0098, lensData("0101", 11, '\x7F')), longs(0x00A7, {exposures})});
+      nikonNote({ascii(0x001D, "6001440"), lensOf(24, 120),
+                 undefined(0x0098, lensData("0101", 11, '\x7F')), longs(0x00A7, {exposures})});
   for (std::size_t at = 0; at < note.size(); ++at) {
     EXPECT_LE(readNote(note.substr(0, at)).size(), 5U) << at;
     for (const char wrong : {'\0', '\1', '\x7F', '\x80', '\xFF'}) {
