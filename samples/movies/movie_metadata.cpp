@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+//
+// How facts stand depends on who writes the file: keys in a box of their own and values under their
+// numbers, or atoms that are named for what they hold.
 #include "samples/movies/movie_metadata.h"
 
 #include <cmath>

@@ -103,7 +103,7 @@ constexpr LensDataRow lensDataRows[] = {
     {"0800", 13, Cipher::camera}, {"0801", 13, Cipher::camera}, {"0802", 13, Cipher::camera},
 };
 
-constexpr std::size_t lensDataSize = 16;  // bytes up to the shortest focal length
+constexpr std::size_t lensDataSize = 16;  // bytes up to the shortest focal length, at most
 using LensData = std::array<std::uint8_t, lensDataSize>;
 
 class LensReader {
@@ -114,11 +114,12 @@ class LensReader {
   // None where the camera does not tell it, or it does not fit to the lens that it names.
   std::optional<std::int64_t> id() {
     const auto field = fieldOf(lensData);
-    const auto start = field ? field->bytes.sub(0, lensDataSize) : std::nullopt;
-    if (!start) return std::nullopt;
+    if (!field) return std::nullopt;
     const auto row = std::ranges::find_if(
-        lensDataRows, [&](const LensDataRow& one) { return start->startsWith(one.version); });
+        lensDataRows, [&](const LensDataRow& one) { return field->bytes.startsWith(one.version); });
     if (row == std::end(lensDataRows)) return std::nullopt;
+    const auto start = field->bytes.sub(0, row->idOffset + std::size_t{3});
+    if (!start) return std::nullopt;
     LensData bytes{};
     std::ranges::copy(start->bytes(), bytes.begin());
     if (row->cipher == Cipher::camera && !decode(bytes)) return std::nullopt;
