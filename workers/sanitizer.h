@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Whether this build runs under a sanitizer. It takes terabytes of address space for itself, so that
-// no limit on a process's addresses can be set, and makes calls of its own.
+// Whether this build runs under a sanitizer. It takes terabytes of address space for itself, so
+// that no limit on a process's addresses can be set, and makes calls of its own.
 #pragma once
 
 namespace workers {
