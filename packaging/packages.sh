@@ -30,8 +30,8 @@ emulated_packages=(qemu-user "${device_packages[@]}")
 
 # What .ci/run needs besides: formatting, static checks, sanitizers and fuzzers, the device build and
 # its run, and the peers it compares with.
-ci_packages=(clang-19 clang-format clang-tidy libclang-rt-19-dev libimage-exiftool-perl mediainfo
-  "${emulated_packages[@]}")
+ci_packages=(clang-19 clang-format clang-tidy ffmpeg libclang-rt-19-dev libimage-exiftool-perl
+  mediainfo "${emulated_packages[@]}")
 
 # install_packages NAME...: installs those that are missing, with sudo where not root, and says so.
 # Quick when nothing is missing.
