@@ -4,6 +4,7 @@
 // meanwhile.
 #include "desktop/pictures/workers/decoder_messages.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -118,6 +119,10 @@ std::optional<model::Error> writePixels(const Picture& picture, int frame) {
 
 model::Result<Picture> readPixels(const DecodeAnswer& answer, int frame) {
   const std::uint64_t size = pixelBytes(answer.width, answer.height);
+  // Memory is taken for no more than is there.
+  struct stat status {};
+  if (::fstat(frame, &status) != 0 || static_cast<std::uint64_t>(status.st_size) < size)
+    return model::Error{"damaged answer"};
   Picture picture{answer.width, answer.height, std::vector<std::uint32_t>(size / 4)};
   auto* bytes = reinterpret_cast<char*>(picture.pixels.data());
   const bool isRead = transferAll(size, [&](std::size_t done) {
