@@ -22,8 +22,6 @@
 namespace desktop::photos_ui {
 namespace {
 
-using uikit::UIViewState;
-
 constexpr CGFloat doubleTapZoom = 2.5;
 constexpr CGFloat leastGreatestZoom = 4;
 constexpr CGFloat quickSide = 256;       // pixels, of the picture that comes first

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "media/image/blocks/shortfall.h"
 
-#include <utility>
-
 #include "media/image/blocks/limits.h"
 #include "media/image/blocks/metadata_blocks.h"
 
@@ -24,7 +22,7 @@ void noteShortfall(model::Dictionary& properties, std::string_view what) {
 std::string takeShortfall(model::Dictionary& properties) {
   const auto note = properties.find(key);
   if (note == properties.end()) return {};
-  std::string what = std::move(*note->second.asString());
+  std::string what = *note->second.asString();
   properties.erase(note);
   return what;
 }

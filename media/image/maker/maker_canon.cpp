@@ -55,7 +55,8 @@ std::optional<model::Value> flashCompensationValue(const TiffField& shot) {
   const int code = static_cast<std::int16_t>(numberAt(shot, flashCompensation));
   const int steps = std::abs(code) % 32;
   const double part = steps == 12 ? 1.0 / 3 : steps == 20 ? 2.0 / 3 : steps / 32.0;
-  const double value = std::abs(code) / 32 + part;
+  const int whole = std::abs(code) / 32;
+  const double value = whole + part;
   return model::Value(code < 0 ? -value : value);
 }
 

@@ -107,8 +107,8 @@ void readResources(io::SourceReader& file, io::ByteRange range, model::Dictionar
 }  // namespace
 
 bool isPsdFile(io::ByteView head) {
-  const auto version = head.u16(4, io::ByteOrder::big);
-  return head.startsWith("8BPS") && (version == 1 || version == 2);
+  const int version = head.u16(4, io::ByteOrder::big).value_or(0);
+  return head.startsWith("8BPS") && version >= 1 && version <= 2;
 }
 
 std::optional<model::Error> readPsdFile(io::SourceReader& file, model::Dictionary& properties) {

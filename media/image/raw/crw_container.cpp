@@ -109,20 +109,20 @@ enum class CiffForm { text, number, real };
 struct CiffRow {
   std::uint16_t heap;
   std::uint16_t code;
-  std::string_view key;
   CiffForm form;
+  std::string_view key;
 };
 
 constexpr CiffRow ciffRows[] = {
-    {0x2804, 0x0805, "Description", CiffForm::text},
-    {0, 0x080B, "Firmware", CiffForm::text},
-    {0, 0x0810, "OwnerName", CiffForm::text},
-    {0, 0x0816, "ImageFileName", CiffForm::text},
-    {0, 0x1804, "RecordID", CiffForm::number},
-    {0, 0x1806, "SelfTimingTime", CiffForm::number},
-    {0, 0x180B, "CameraSerialNumber", CiffForm::number},
-    {0, 0x1814, "MeasuredEV", CiffForm::real},
-    {0, 0x1817, "ImageSerialNumber", CiffForm::number},
+    {0x2804, 0x0805, CiffForm::text, "Description"},
+    {0, 0x080B, CiffForm::text, "Firmware"},
+    {0, 0x0810, CiffForm::text, "OwnerName"},
+    {0, 0x0816, CiffForm::text, "ImageFileName"},
+    {0, 0x1804, CiffForm::number, "RecordID"},
+    {0, 0x1806, CiffForm::number, "SelfTimingTime"},
+    {0, 0x180B, CiffForm::number, "CameraSerialNumber"},
+    {0, 0x1814, CiffForm::real, "MeasuredEV"},
+    {0, 0x1817, CiffForm::number, "ImageSerialNumber"},
 };
 
 std::optional<model::Value> ciffValue(const RecordBytes& record, CiffForm form) {
